@@ -1,0 +1,105 @@
+// The record of the running game: vocabulary of every room. The console owns the one instance.
+#pragma once
+
+#include <array>
+#include <string>
+
+namespace pawnfield {
+
+inline constexpr int kChallengeModeA = 1;
+inline constexpr int kChallengeModeB = 2;
+inline constexpr int kTriviaModeA = 3;
+inline constexpr int kTriviaModeB = 4;
+inline constexpr int kTriviaModeC = 5;
+
+// The user advances by hand; the other values of AutoContinue are seconds.
+inline constexpr int kUserAdvances = 6;
+
+// Lamp characters: the player whose turn it is, and the others.
+inline constexpr int kLampOn = '3';
+inline constexpr int kLampOff = '0';
+
+// How a player's score screen looks on companion hardware.
+struct ScreenStyle {
+  std::string FontName = "Comic Sans MS";
+  int FontSize = 100;
+  bool FontItalic = false;
+  bool FontBold = true;
+  double BackColor = 0;
+  double ForeColor = 16777215;
+};
+
+struct GameState {
+  int GameType = kTriviaModeC;
+  int Players = 3;
+  int GridSize = 5;
+  int GridCols = 5;
+  int GridRows = 5;
+  // By row and column; 0 is empty, otherwise the owner's number. Only 0..5 are used.
+  std::array<std::array<int, 7>, 7> Board{};
+
+  bool GameLoaded = false;
+  bool GameInProgress = false;
+  bool PlacementOpen = false;
+
+  int CurrentPlayer = 0;
+  int FlipPlayer = 0;
+  int Lamp1 = kLampOn, Lamp2 = kLampOff, Lamp3 = kLampOff;
+  std::string LampCode1 = "1", LampCode2 = "3", LampCode3 = "3";
+  int CurrentQuestion = 0;
+  int PiecePoints = 0;
+  std::string LastSquareKey;
+
+  // The last claim, for undo; LastPlayer 0 means none.
+  int LastPlayer = 0, LastPoints = 0, LastRow = 0, LastCol = 0;
+
+  bool DualScreen = false;
+  bool TSSupport = false;
+  std::string C2CObject;
+  double C2CColor = 0;
+  double C2CValue = 0;
+  bool C2CCorrectFlag = false;
+  bool C2CIncorrectFlag = false;
+  std::array<ScreenStyle, 3> ScreenFonts;
+
+  bool HideQuestion = true;
+  bool KeyControl = true;
+  bool Animation = false;
+  int SoundSet = 1;
+  int TimedResponse = 0;
+  int AutoContinue = 3;
+  bool GameEnds = false;
+  bool IncorrectPenalty = false;
+  int PenaltyPoints = 0;
+  bool Player1Penalty = false, Player2Penalty = false, Player3Penalty = false;
+  std::string KeyCorrect = "Y", KeyIncorrect = "N";
+  bool MicsOnWithBuzzer = false;
+  int LedEffects = 0;
+  int LedSpeed = 5;
+  int SerialComm = 99;
+  int RotateCount = 0;
+
+  std::array<int, 22> Routing{};
+  bool ShowBaseHeader = true;
+  int MODPictureTimer = 5;
+  int EventPlayerVolume = 75, KeyPressPlayerVolume = 75, SoundClipPlayerVolume = 75, BackgroundPlayerVolume = 75,
+      CorrectIncorrectVolume = 75;
+  int BackgroundMusic = 0;
+  std::string BgMusicFileName;
+  bool FullScreenGameBoard = false;
+  bool ZR650 = false;
+  int LCDResolutions = 1;
+  int LCDScreensTop = 0;
+
+  // Twips; where the audience screen goes.
+  int FSLeft = 0, FSTop = 0;
+
+  std::string SetsFolder;
+  std::string LoadedSetPath;
+  std::string SetFolder;
+};
+
+inline bool IsQuestionType(int gameType) { return gameType >= kTriviaModeA && gameType <= kTriviaModeC; }
+inline bool IsChallengeType(int gameType) { return gameType == kChallengeModeA || gameType == kChallengeModeB; }
+
+}  // namespace pawnfield

@@ -1,0 +1,58 @@
+// The show: the platform, the running game and the forms, handed to every handler. One instance lives as long as the
+// program.
+#pragma once
+
+#include <array>
+#include <string>
+
+#include "engine/game_state.h"
+#include "platform/ports.h"
+#include "presentation/fs_main_form.h"
+#include "presentation/main_form.h"
+#include "presentation/small_forms.h"
+#include "sets/trivia_set.h"
+
+namespace pawnfield {
+
+inline constexpr const char* kAppTitle = "Pawnfield";
+
+// How one of the two flipping squares moves between ticks.
+struct Flip {
+  Image* Square = nullptr;
+  double Step = 0;
+  double FullHeight = 0;
+  bool Larger = false;
+  bool AtEdge = false;
+};
+
+// Paths of media files by bank 1..3 and row 1..34; index 0 of both is unused.
+using SoundBanks = std::array<std::array<std::string, 35>, 4>;
+
+struct Show {
+  explicit Show(Platform& platformPorts) : platform(platformPorts) {}
+
+  Platform& platform;
+  GameState state;
+  TriviaSet GameSet;
+  int NumGameQuestions = 0;
+  SoundBanks soundBanks;
+  Flip flip, fsFlip;
+  bool FlashToggle = false;
+  int FlashCount = 0;
+  std::array<int, 2> AnimateCount{};
+
+  MainForm frmMain;
+  FSMainForm frmFSMain;
+  LoadingForm frmLoading;
+  AlwaysLoadedForm frmAlwaysLoaded;
+  SplashForm frmSplash;
+  GameLoadingForm frmGameLoading;
+  GameInProgressForm frmGameInProgress;
+  GameTypeHelpForm frmGameTypeHelp;
+  PlayerNamesForm frmPlayerNames;
+
+  // The path of a file of the program's folder, as in AppPath("\\Images\\scorebox.bmp").
+  std::string AppPath(const std::string& tail) const { return platform.folders.App + tail; }
+};
+
+}  // namespace pawnfield

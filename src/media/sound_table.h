@@ -1,0 +1,29 @@
+// The sound table: a media file for each game event and letter key, in three banks, and its file Sounds.dat.
+#pragma once
+
+#include <string>
+
+namespace pawnfield {
+
+struct Show;
+
+inline constexpr int kSoundBuzzer1 = 1;  // 1, 2, 3: the players' ring-in clips.
+inline constexpr int kSoundCorrect = 4;
+inline constexpr int kSoundIncorrect = 5;
+inline constexpr int kSoundCongratulations = 6;
+inline constexpr int kSoundQuestionReveal = 7;
+inline constexpr int kSoundFirstKey = 9;
+inline constexpr int kSoundRows = 34;
+inline constexpr int kSoundBankCount = 3;
+
+// The entry of the bank in use (SoundSet); empty when the effect is off or the row or bank is out of range.
+std::string SoundEntry(const Show& show, int row);
+
+// Reads Sounds.dat. False when it is missing or short; entries read so far stand, an absent file leaves the table
+// alone.
+bool LoadSoundTable(Show& show);
+void SaveSoundTable(Show& show);
+// Bank 1's files of the program's folder.
+void FillDefaultSounds(Show& show);
+
+}  // namespace pawnfield

@@ -1,0 +1,332 @@
+// Control models: the properties of a form's controls as plain values. Logic reads and writes these; a mirror (a
+// widget, a canvas or a clock) is told of each change. Setting a property to the value it has is silent.
+#pragma once
+
+#include <array>
+#include <cstddef>
+#include <cstdint>
+#include <functional>
+#include <memory>
+#include <string>
+#include <type_traits>
+#include <utility>
+#include <vector>
+
+namespace pawnfield {
+
+class Control;
+class Form;
+
+// Windows colour: 0x00BBGGRR, 255 is red.
+using Color = std::int32_t;
+inline constexpr Color kRed = 255;
+inline constexpr Color kGreen = 65280;
+inline constexpr Color kYellow = 65535;
+inline constexpr Color kWhite = 16777215;
+inline constexpr Color kBlack = 0;
+
+// Sizes are in points.
+struct Font {
+  std::string Name = "Segoe UI";
+  double Size = 8;
+  bool Bold = false;
+  bool Italic = false;
+  bool operator==(const Font&) const = default;
+};
+
+enum class PropertyId {
+  Caption,
+  Visible,
+  Enabled,
+  Left,
+  Top,
+  Width,
+  Height,
+  ForeColor,
+  BackColor,
+  BackStyle,
+  Font,
+  Picture,
+  List,
+  ListIndex,
+  Value,
+  Text,
+  ToolTipText,
+  Interval,
+  MouseIcon,
+  ZOrder,
+  Focus
+};
+
+enum class ControlKind {
+  Form,
+  Label,
+  Button,
+  Image,
+  PictureBox,
+  TextBox,
+  ComboBox,
+  CheckBox,
+  OptionButton,
+  Timer,
+  Menu,
+  Frame,
+  ProgressBar
+};
+
+// Told of every change of a control that it is attached to.
+class Mirror {
+ public:
+  virtual ~Mirror() = default;
+  virtual void Changed(Control& control, PropertyId id) = 0;
+};
+
+template <typename T>
+class Property {
+ public:
+  Property(Control& owner, PropertyId id, T initial = T{}) : owner_(owner), id_(id), value_(std::move(initial)) {}
+  Property(const Property&) = delete;
+
+  operator const T&() const { return value_; }
+  const T& Get() const { return value_; }
+  const T* operator->() const { return &value_; }
+  Property& operator=(const T& value);
+  Property& operator=(const Property& other) { return *this = other.value_; }
+  friend bool operator==(const Property& property, const T& value) requires(std::is_class_v<T>) {
+    return property.value_ == value;
+  }
+
+ private:
+  Control& owner_;
+  PropertyId id_;
+  T value_;
+};
+
+// What every control has. Coordinates are twips relative to the container (the form when there is none).
+class Control {
+ public:
+  Control(Form& form, std::string name, ControlKind kind);
+  virtual ~Control() = default;
+  Control(const Control&) = delete;
+  Control& operator=(const Control&) = delete;
+
+  const std::string& Name() const { return name_; }
+  ControlKind Kind() const { return kind_; }
+  Form& Owner() const { return form_; }
+
+  // True when the control and all its containers are visible (and, for IsReachable, enabled too).
+  bool IsShown() const;
+  bool IsReachable() const;
+  // What a user's click does: runs the click handler through the form's guard if the control can be reached.
+  virtual void Click();
+  void DblClick();
+  void BringToFront();
+  void SetFocus();
+  void MoveTo(double left, double top, double width, double height);
+
+  void SetMirror(Mirror* mirror) { mirror_ = mirror; }
+  void Notify(PropertyId id) {
+    if (mirror_ != nullptr) mirror_->Changed(*this, id);
+  }
+
+  Property<bool> Visible{*this, PropertyId::Visible, true};
+  Property<bool> Enabled{*this, PropertyId::Enabled, true};
+  Property<double> Left{*this, PropertyId::Left, 0};
+  Property<double> Top{*this, PropertyId::Top, 0};
+  Property<double> Width{*this, PropertyId::Width, 0};
+  Property<double> Height{*this, PropertyId::Height, 0};
+  Property<int> ZOrder{*this, PropertyId::ZOrder, 0};
+  Property<std::string> ToolTipText{*this, PropertyId::ToolTipText};
+  Control* Container = nullptr;
+  std::function<void()> OnClick;
+  std::function<void()> OnDblClick;
+
+ protected:
+  void Raise(const std::function<void()>& handler, const char* event);
+
+ private:
+  Form& form_;
+  std::string name_;
+  ControlKind kind_;
+  Mirror* mirror_ = nullptr;
+};
+
+template <typename T>
+Property<T>& Property<T>::operator=(const T& value) {
+  if (!(value_ == value)) {
+    value_ = value;
+    owner_.Notify(id_);
+  }
+  return *this;
+}
+
+// A form owns its controls as members; each registers itself in order of declaration.
+class Form : public Control {
+ public:
+  explicit Form(std::string name);
+
+  const std::vector<Control*>& Controls() const { return controls_; }
+  // The control of that name ("btnStart", "lblPlayer1(0)"), or null.
+  Control* Find(const std::string& name) const;
+  // Runs an event's handler inside the guard; procedure is the handler's name ("btnStart_Click").
+  void Dispatch(const std::function<void()>& handler, const std::string& procedure);
+  // Ends the form: hides it and, when it was shown modally, ends that.
+  void Unload();
+
+  Property<std::string> Caption{*this, PropertyId::Caption};
+  Property<std::string> MouseIcon{*this, PropertyId::MouseIcon};
+  Property<Color> BackColor{*this, PropertyId::BackColor, kBlack};
+  // The control that was given the focus last, null for none.
+  Control* ActiveControl = nullptr;
+  // What the window's close box asks first; returns true to let the form close. Null means always.
+  std::function<bool()> OnQueryUnload;
+  std::function<void()> OnUnload;
+  std::function<void()> OnResize;
+  // Wraps every event that enters the program's logic; unset means the handler is called plainly.
+  std::function<void(const std::function<void()>& handler, const std::string& form, const std::string& procedure)>
+      Guard;
+
+ private:
+  friend class Control;
+  std::vector<Control*> controls_;
+  int front_ = 0;
+};
+
+class Label : public Control {
+ public:
+  Label(Form& form, std::string name) : Control(form, std::move(name), ControlKind::Label) {}
+  Property<std::string> Caption{*this, PropertyId::Caption};
+  Property<Color> ForeColor{*this, PropertyId::ForeColor, kWhite};
+  Property<Color> BackColor{*this, PropertyId::BackColor, kBlack};
+  Property<int> BackStyle{*this, PropertyId::BackStyle, 0};
+  Property<pawnfield::Font> Font{*this, PropertyId::Font};
+};
+
+class Button : public Control {
+ public:
+  Button(Form& form, std::string name) : Control(form, std::move(name), ControlKind::Button) {}
+  Property<std::string> Caption{*this, PropertyId::Caption};
+};
+
+// An image: draws its picture stretched to its size. Picture is a file's path as the program spells it, empty for none.
+class Image : public Control {
+ public:
+  Image(Form& form, std::string name) : Control(form, std::move(name), ControlKind::Image) {}
+  Property<std::string> Picture{*this, PropertyId::Picture};
+};
+
+// A panel that can hold other controls and shows a picture behind them.
+class PictureBox : public Control {
+ public:
+  PictureBox(Form& form, std::string name) : Control(form, std::move(name), ControlKind::PictureBox) {}
+  Property<std::string> Picture{*this, PropertyId::Picture};
+  Property<Color> BackColor{*this, PropertyId::BackColor, kBlack};
+};
+
+class TextBox : public Control {
+ public:
+  TextBox(Form& form, std::string name) : Control(form, std::move(name), ControlKind::TextBox) {}
+  // A user's edit: sets Text and runs OnChange.
+  void Type(const std::string& text);
+  Property<std::string> Text{*this, PropertyId::Text};
+  Property<Color> ForeColor{*this, PropertyId::ForeColor, kWhite};
+  Property<Color> BackColor{*this, PropertyId::BackColor, kBlack};
+  std::function<void()> OnChange;
+};
+
+class ComboBox : public Control {
+ public:
+  ComboBox(Form& form, std::string name) : Control(form, std::move(name), ControlKind::ComboBox) {}
+  void AddItem(const std::string& text);
+  void Clear();
+  // The selected item's text, empty when nothing is selected.
+  std::string Text() const;
+  // A user opens the list, and a user picks an item; both run the handler when the box can be reached.
+  void DropDown();
+  void Select(int index);
+  Property<std::vector<std::string>> List{*this, PropertyId::List};
+  // -1 for nothing selected. Setting it from logic runs no handler.
+  Property<int> ListIndex{*this, PropertyId::ListIndex, -1};
+  std::function<void()> OnDropDown;
+};
+
+class CheckBox : public Control {
+ public:
+  CheckBox(Form& form, std::string name) : Control(form, std::move(name), ControlKind::CheckBox) {}
+  // A user's click toggles Value (0 or 1) first.
+  void Click() override;
+  Property<std::string> Caption{*this, PropertyId::Caption};
+  Property<int> Value{*this, PropertyId::Value, 0};
+};
+
+class OptionButton : public Control {
+ public:
+  OptionButton(Form& form, std::string name) : Control(form, std::move(name), ControlKind::OptionButton) {}
+  // A user's click selects this one of its Group first; a click on the selected one still runs the handler.
+  void Click() override;
+  // Selects this one and clears the others of its group, without running a handler.
+  void SelectInGroup();
+  Property<std::string> Caption{*this, PropertyId::Caption};
+  Property<bool> Value{*this, PropertyId::Value, false};
+  std::vector<OptionButton*> Group;
+};
+
+class Frame : public Control {
+ public:
+  Frame(Form& form, std::string name) : Control(form, std::move(name), ControlKind::Frame) {}
+  Property<std::string> Caption{*this, PropertyId::Caption};
+};
+
+class ProgressBar : public Control {
+ public:
+  ProgressBar(Form& form, std::string name) : Control(form, std::move(name), ControlKind::ProgressBar) {}
+};
+
+class Menu : public Control {
+ public:
+  Menu(Form& form, std::string name) : Control(form, std::move(name), ControlKind::Menu) {}
+  Property<std::string> Caption{*this, PropertyId::Caption};
+};
+
+// Fires every Interval ms while Enabled; the platform's clock is its mirror. Starts disabled.
+class Timer : public Control {
+ public:
+  Timer(Form& form, std::string name);
+  Timer(Form& form, std::string name, int interval, bool enabled = false);
+  // Called by the clock when the timer is due.
+  void Fire();
+  Property<int> Interval{*this, PropertyId::Interval, 0};
+  std::function<void()> OnTimer;
+};
+
+// A control array "name(0)".."name(N-1)".
+template <typename T, std::size_t N>
+class ControlArray {
+ public:
+  ControlArray(Form& form, const std::string& name) {
+    for (std::size_t i = 0; i < N; ++i) items_[i] = std::make_unique<T>(form, name + "(" + std::to_string(i) + ")");
+  }
+  T& operator[](std::size_t index) { return *items_.at(index); }
+  const T& operator[](std::size_t index) const { return *items_.at(index); }
+  static constexpr std::size_t Size() { return N; }
+
+ private:
+  std::array<std::unique_ptr<T>, N> items_;
+};
+
+// The squares "img00".."img55", by row and column.
+class SquareGrid {
+ public:
+  explicit SquareGrid(Form& form);
+  // Row and column 0..5, otherwise null.
+  Image* At(int row, int column);
+  template <typename F>
+  void ForEach(F&& visit) {
+    for (auto& square : squares_) visit(*square);
+  }
+
+ private:
+  std::array<std::unique_ptr<Image>, 36> squares_;
+};
+
+}  // namespace pawnfield

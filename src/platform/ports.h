@@ -1,0 +1,197 @@
+// The ports: what the program asks of the machine it runs on. Small abstract interfaces; paths are spelled as the
+// program spells them (backslashes allowed), text is Windows-1252.
+#pragma once
+
+#include <cstdint>
+#include <optional>
+#include <stdexcept>
+#include <string>
+#include <vector>
+
+#include "platform/controls.h"
+
+namespace pawnfield {
+
+// An error with the number and words that the shared error box shows.
+class RuntimeError : public std::runtime_error {
+ public:
+  RuntimeError(int number, const std::string& description) : std::runtime_error(description), number_(number) {}
+  int Number() const { return number_; }
+
+ private:
+  int number_;
+};
+
+inline constexpr int kErrorOverflow = 6;
+inline constexpr int kErrorSubscript = 9;
+inline constexpr int kErrorTypeMismatch = 13;
+inline constexpr int kErrorFileNotFound = 53;
+inline constexpr int kErrorDeviceIo = 57;
+inline constexpr int kErrorDiskFull = 61;
+inline constexpr int kErrorPathAccess = 75;
+inline constexpr int kErrorPathNotFound = 76;
+inline constexpr int kErrorInvalidPicture = 481;
+
+// Time: milliseconds of a clock that never goes back. Attach makes the clock the mirror of a form's timers, so that
+// they run while enabled; a detached form's timers stop.
+class Clock {
+ public:
+  virtual ~Clock() = default;
+  virtual std::int64_t NowMs() const = 0;
+  virtual void Attach(Form& form) = 0;
+  virtual void Detach(Form& form) = 0;
+};
+
+enum class BoxKind { Plain, Critical, YesNoCancel, YesNo };
+enum class BoxAnswer { Ok, Yes, No, Cancel };
+
+struct FileDialogRequest {
+  std::string Title;
+  // Pairs "text|pattern" joined by "|", as in "Game Sets(*.txt)|*.txt".
+  std::string Filter;
+  std::string InitialFolder;
+  bool Save = false;
+};
+
+// Modal, synchronous questions to the operator.
+class Dialogs {
+ public:
+  virtual ~Dialogs() = default;
+  virtual BoxAnswer MessageBox(const std::string& text, const std::string& title, BoxKind kind) = 0;
+  // The chosen path, empty when cancelled.
+  virtual std::string ChooseFile(const FileDialogRequest& request) = 0;
+  // Shows the form and returns when it has been unloaded.
+  virtual void ShowModal(Form& form) = 0;
+};
+
+// One independent player. Assigning a path starts it; an empty path or no such file is silence without a message.
+class MediaChannel {
+ public:
+  virtual ~MediaChannel() = default;
+  virtual void SetUrl(const std::string& path) = 0;
+  virtual void SetPosition(double seconds) = 0;
+  virtual void Stop() = 0;
+  virtual void Pause() = 0;
+  // 0..100.
+  virtual void SetVolume(int volume) = 0;
+};
+
+// A per-user store of text values. Keys are compared without regard to case.
+class SettingsStore {
+ public:
+  virtual ~SettingsStore() = default;
+  virtual std::string GetSetting(const std::string& application, const std::string& section, const std::string& key,
+                                 const std::string& fallback) const = 0;
+  virtual void SaveSetting(const std::string& application, const std::string& section, const std::string& key,
+                           const std::string& value) = 0;
+};
+
+// Files. Each failure is a RuntimeError with the number of its kind.
+class FileSystem {
+ public:
+  virtual ~FileSystem() = default;
+  virtual std::string Read(const std::string& path) const = 0;
+  // Replaces the file as a whole: after a failure the old file is there unharmed.
+  virtual void Write(const std::string& path, const std::string& bytes) = 0;
+  // True when a plain file can be opened for reading.
+  virtual bool CanOpen(const std::string& path) const = 0;
+  virtual bool FolderExists(const std::string& path) const = 0;
+  virtual void CreateFolder(const std::string& path) = 0;
+  // Names (no folder) of the files in the folder that end in the extension (".txt", any case), sorted; empty when the
+  // folder can't be read.
+  virtual std::vector<std::string> List(const std::string& folder, const std::string& extension) const = 0;
+};
+
+struct TextSize {
+  double Width = 0;
+  double Height = 0;
+};
+
+// Measures text as a label that wraps at words and sizes itself: the width is wrapWidth, or the widest word's width
+// where that is more. All in twips.
+class TextMeasurer {
+ public:
+  virtual ~TextMeasurer() = default;
+  virtual TextSize Measure(const Font& font, const std::string& text, double wrapWidth) const = 0;
+};
+
+struct PixelSize {
+  int Width = 0;
+  int Height = 0;
+};
+
+class PictureReader {
+ public:
+  virtual ~PictureReader() = default;
+  // The picture's own size. RuntimeError 53 when there is no such file, 481 when it holds no picture.
+  virtual PixelSize Size(const std::string& path) const = 0;
+};
+
+struct MonitorInfo {
+  int Left = 0, Top = 0, Right = 0, Bottom = 0;
+};
+
+class Displays {
+ public:
+  virtual ~Displays() = default;
+  // In the system's order, the console's first.
+  virtual std::vector<MonitorInfo> Enumerate() const = 0;
+  virtual void SetTopMost(Form& form, bool onTop) = 0;
+};
+
+struct ProcessInfo {
+  std::string Caption;
+  std::int64_t Handle = 0;
+};
+
+class Processes {
+ public:
+  virtual ~Processes() = default;
+  // True when this user already runs the program; otherwise marks it as running for the life of the process.
+  virtual bool ClaimSingleInstance() = 0;
+  virtual std::vector<ProcessInfo> List() const = 0;
+  virtual std::int64_t CurrentId() const = 0;
+  // Brings that process's window to the front; 0 means the other instance of this program.
+  virtual void Activate(std::int64_t id) = 0;
+  // Ends the message loop once the present event is done.
+  virtual void EndProgram() = 0;
+};
+
+class RandomSource {
+ public:
+  virtual ~RandomSource() = default;
+  virtual void Randomize() = 0;
+  // At least 0, below 1.
+  virtual double Next() = 0;
+};
+
+// Folders without a trailing backslash, but for DataRoot, which the operator's data lies below.
+struct Folders {
+  std::string App;
+  std::string DataRoot;
+};
+
+struct MediaChannels {
+  MediaChannel& EventPlayer;
+  MediaChannel& KeyPressPlayer;
+  MediaChannel& SoundClipPlayer;
+  MediaChannel& CorrectIncorrectPlayer;
+  MediaChannel& BackgroundPlayer;
+};
+
+// Everything the program is given at its start.
+struct Platform {
+  Clock& clock;
+  Dialogs& dialogs;
+  MediaChannels media;
+  SettingsStore& settings;
+  FileSystem& files;
+  TextMeasurer& text;
+  PictureReader& pictures;
+  Displays& displays;
+  Processes& processes;
+  RandomSource& random;
+  Folders folders;
+};
+
+}  // namespace pawnfield

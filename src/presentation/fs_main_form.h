@@ -1,0 +1,61 @@
+// frmFSMain, what the audience sees: views that the console writes to, in a logical screen of 15360 by 11520 twips.
+#pragma once
+
+#include "platform/controls.h"
+
+namespace pawnfield {
+
+class FSMainForm : public Form {
+ public:
+  FSMainForm();
+
+  // Gives the full-size panels the form's size and stacks them: question, cover, verdict, winner, bonus, media, sound,
+  // and standby in front of all.
+  void Form_Resize();
+  PictureBox& ScoreBox(int player);
+
+  Image imgBackground{*this, "imgBackground"};
+  Image imgHeader{*this, "imgHeader"};
+  SquareGrid img{*this};
+  Image imgA{*this, "imgA"}, imgB{*this, "imgB"}, imgC{*this, "imgC"}, imgD{*this, "imgD"}, imgE{*this, "imgE"},
+      imgF{*this, "imgF"};
+  Image img1{*this, "img1"}, img2{*this, "img2"}, img3{*this, "img3"}, img4{*this, "img4"}, img5{*this, "img5"},
+      img6{*this, "img6"};
+  Image imgDJEntry{*this, "imgDJEntry"};
+  ControlArray<PictureBox, 3> picPlayer{*this, "picPlayer"};
+  ControlArray<Label, 3> lblPlayer{*this, "lblPlayer"};
+  PictureBox picPlayer1Score{*this, "picPlayer1Score"};
+  PictureBox picPlayer2Score{*this, "picPlayer2Score"};
+  PictureBox picPlayer3Score{*this, "picPlayer3Score"};
+  // The scores.
+  ControlArray<Label, 3> Label11{*this, "Label11"};
+  TextBox txtOptionalHeading{*this, "txtOptionalHeading"};
+  Label lblDJCommand{*this, "lblDJCommand"};
+
+  PictureBox picQuestion{*this, "picQuestion"};
+  Image imgQuestionBackground{*this, "imgQuestionBackground"};
+  ControlArray<Label, 5> lblQuestion{*this, "lblQuestion"};
+  PictureBox picQuestionPicture{*this, "picQuestionPicture"};
+  ControlArray<Image, 1> picImageResize{*this, "picImageResize"};
+  PictureBox picHideQuestion{*this, "picHideQuestion"};
+  Label lblPlayerName{*this, "lblPlayerName"};
+  Label lblWhatIsAnswer{*this, "lblWhatIsAnswer"};
+  PictureBox picCorrect{*this, "picCorrect"};
+  Image imgCorrect{*this, "imgCorrect"};
+  Label lblRightWrong{*this, "lblRightWrong"};
+  PictureBox picWinner{*this, "picWinner"};
+  Label lblWinner{*this, "lblWinner"};
+  PictureBox picBonus{*this, "picBonus"};
+  Image imgBonus{*this, "imgBonus"};
+  PictureBox picMOD{*this, "picMOD"};
+  PictureBox picSound{*this, "picSound"};
+  Image imgSound{*this, "imgSound"};
+  PictureBox picStandby{*this, "picStandby"};
+  Image imgStandby{*this, "imgStandby"};
+
+  Timer tmrFSFlipPlayerPiece{*this, "tmrFSFlipPlayerPiece", 10};
+  Timer tmrRePaint{*this, "tmrRePaint", 100, true};
+  ControlArray<Timer, 1> tmrAnimate{*this, "tmrAnimate"};
+};
+
+}  // namespace pawnfield

@@ -1,0 +1,181 @@
+// frmMain, the operator's console: its controls, their design-time captions, sizes and states. Owned by the show.
+#pragma once
+
+#include "platform/controls.h"
+
+namespace pawnfield {
+
+class MainForm : public Form {
+ public:
+  MainForm();
+
+  // By player 1..3.
+  Label& Score(int player);
+  Label& ScoreCopy(int player);
+  PictureBox& ScoreBox(int player);
+  PictureBox& PlayerBox(int player);
+  Image& FaceA(int player);
+  Image& FaceB(int player);
+
+  // Menus.
+  Menu mnuFile{*this, "mnuFile"};
+  Menu fileClearAllScores{*this, "fileClearAllScores"};
+  Menu mnuFileOptions{*this, "mnuFileOptions"};
+  Menu mnuFileAddPlayerNames{*this, "mnuFileAddPlayerNames"};
+  Menu mnuFileExit{*this, "mnuFileExit"};
+  Menu mnuZR610{*this, "mnuZR610"};
+  Menu mnuMapMF{*this, "mnuMapMF"};
+  Menu mnuReconnectMF{*this, "mnuReconnectMF"};
+  Menu mTestK7Controllers{*this, "mTestK7Controllers"};
+  Menu mnuHelp{*this, "mnuHelp"};
+  Menu mnuHelpDocumentation{*this, "mnuHelpDocumentation"};
+  Menu mnuHelpProjector{*this, "mnuHelpProjector"};
+  Menu mnuHelpAbout{*this, "mnuHelpAbout"};
+
+  // What is set before the show.
+  ControlArray<OptionButton, 5> optGameType{*this, "optGameType"};
+  Button btnGameTypeHelp{*this, "btnGameTypeHelp"};
+  ControlArray<OptionButton, 2> optPlayers{*this, "optPlayers"};
+  Frame fraGridControl{*this, "fraGridControl"};
+  ControlArray<OptionButton, 3> optGridControl{*this, "optGridControl"};
+  ControlArray<OptionButton, 2> optGameEnds{*this, "optGameEnds"};
+  CheckBox chkAnimation{*this, "chkAnimation"};
+  Label lblShowAnimation{*this, "lblShowAnimation"};
+  CheckBox chkHideQuestion{*this, "chkHideQuestion"};
+  Label lblHidequestionOption{*this, "lblHidequestionOption"};
+  CheckBox chkIncorrectPenalty{*this, "chkIncorrectPenalty"};
+  Label lblLose100Points{*this, "lblLose100Points"};
+  CheckBox chkExtKeyboardCtrl{*this, "chkExtKeyboardCtrl"};
+  Label lblExtKeyboardCtrl{*this, "lblExtKeyboardCtrl"};
+  Label lblTimedResponse{*this, "lblTimedResponse"};
+  ComboBox cboTimedResponse{*this, "cboTimedResponse"};
+  Label lblAutoContinuePrompt{*this, "lblAutoContinuePrompt"};
+  ComboBox cboAutoContinue{*this, "cboAutoContinue"};
+  ControlArray<Label, 2> lblScoring{*this, "lblScoring"};
+  ControlArray<ComboBox, 2> cbxScore{*this, "cbxScore"};
+  Label lblMediaBank{*this, "lblMediaBank"};
+  ControlArray<OptionButton, 3> optSoundBank{*this, "optSoundBank"};
+
+  // The set, and what moves the show.
+  Label lblListLeftArrow{*this, "lblListLeftArrow"};
+  ComboBox cboList{*this, "cboList"};
+  Label lblListRightArrow{*this, "lblListRightArrow"};
+  Button btnSelectGame{*this, "btnSelectGame"};
+  Button btnStartGame{*this, "btnStartGame"};
+  Frame shpStart{*this, "shpStart"};
+  Button btnStart{*this, "btnStart"};
+  Button btnContinue{*this, "btnContinue"};
+  Button btnPlayMode{*this, "btnPlayMode"};
+  Button btnStandbyMode{*this, "btnStandbyMode"};
+  Button btnNextPlayer{*this, "btnNextPlayer"};
+  Button btnSkipQuestion{*this, "btnSkipQuestion"};
+  Button btnUndo{*this, "btnUndo"};
+  Button btnReset{*this, "btnReset"};
+  Button btnEndGame{*this, "btnEndGame"};
+  Label lblSelectPlayer{*this, "lblSelectPlayer"};
+  ControlArray<Button, 3> btnSelectPlayer{*this, "btnSelectPlayer"};
+  ControlArray<Button, 3> btnBuzzer{*this, "btnBuzzer"};
+  Button btnEnableAllBuzzers{*this, "btnEnableAllBuzzers"};
+  ControlArray<Button, 6> btnScore1Up{*this, "btnScore1Up"};
+  ControlArray<Button, 6> btnScore1Dn{*this, "btnScore1Dn"};
+  ControlArray<Button, 6> btnScore2Up{*this, "btnScore2Up"};
+  ControlArray<Button, 6> btnScore2Dn{*this, "btnScore2Dn"};
+  ControlArray<Button, 6> btnScore3Up{*this, "btnScore3Up"};
+  ControlArray<Button, 6> btnScore3Dn{*this, "btnScore3Dn"};
+  Button btnSounds{*this, "btnSounds"};
+  Button btnStopSounds{*this, "btnStopSounds"};
+
+  // Players: the names stand as captions of lblPlayer1, the scores as captions of lblP1Score..lblP3Score.
+  PictureBox picPlayer1{*this, "picPlayer1"};
+  PictureBox picPlayer2{*this, "picPlayer2"};
+  PictureBox picPlayer3{*this, "picPlayer3"};
+  ControlArray<Label, 3> lblPlayer1{*this, "lblPlayer1"};
+  ControlArray<TextBox, 3> txtPlayerName{*this, "txtPlayerName"};
+  PictureBox picP1Score{*this, "picP1Score"};
+  PictureBox picP2Score{*this, "picP2Score"};
+  PictureBox picP3Score{*this, "picP3Score"};
+  Label lblP1Score{*this, "lblP1Score"};
+  Label lblP2Score{*this, "lblP2Score"};
+  Label lblP3Score{*this, "lblP3Score"};
+  Label lblPlayer1Score{*this, "lblPlayer1Score"};
+  Label lblPlayer2Score{*this, "lblPlayer2Score"};
+  Label lblPlayer3Score{*this, "lblPlayer3Score"};
+
+  // The board, by Left, Top, Width and Height in twips within the board panel.
+  SquareGrid img{*this};
+  Image imgA{*this, "imgA"}, imgB{*this, "imgB"}, imgC{*this, "imgC"}, imgD{*this, "imgD"}, imgE{*this, "imgE"},
+      imgF{*this, "imgF"};
+  Image img1{*this, "img1"}, img2{*this, "img2"}, img3{*this, "img3"}, img4{*this, "img4"}, img5{*this, "img5"},
+      img6{*this, "img6"};
+  Image imgDJEntry{*this, "imgDJEntry"};
+  Image imgHeader{*this, "imgHeader"};
+  Label lblGridCoords{*this, "lblGridCoords"};
+  TextBox txtDJCommand{*this, "txtDJCommand"};
+  TextBox txtOptionalHeading{*this, "txtOptionalHeading"};
+
+  // Hidden holders of pictures.
+  Image imgBkgnd{*this, "imgBkgnd"};
+  Image imgXa{*this, "imgXa"}, imgXb{*this, "imgXb"}, imgOa{*this, "imgOa"}, imgOb{*this, "imgOb"},
+      imgTa{*this, "imgTa"}, imgTb{*this, "imgTb"};
+  ControlArray<Image, 4> imgCursor{*this, "imgCursor"};
+  Image imgStandardStandby{*this, "imgStandardStandby"};
+  Image imgStandardBonus{*this, "imgStandardBonus"};
+  Image imgStandardHeader{*this, "imgStandardHeader"};
+
+  // Panels over the board, and the answer.
+  PictureBox picEntScreen{*this, "picEntScreen"};
+  PictureBox picQuestion{*this, "picQuestion"};
+  Image imgQuestionBackground{*this, "imgQuestionBackground"};
+  ControlArray<Label, 5> lblQuestion{*this, "lblQuestion"};
+  PictureBox picQuestionPicture{*this, "picQuestionPicture"};
+  ControlArray<Image, 1> picImageResize{*this, "picImageResize"};
+  PictureBox picSound{*this, "picSound"};
+  Image imgSound{*this, "imgSound"};
+  Frame fraSoundButtons{*this, "fraSoundButtons"};
+  Button btnPlay{*this, "btnPlay"};
+  Button btnStop{*this, "btnStop"};
+  PictureBox picBonus{*this, "picBonus"};
+  Image imgBonus{*this, "imgBonus"};
+  PictureBox picMOD{*this, "picMOD"};
+  PictureBox picCorrect{*this, "picCorrect"};
+  Image imgCorrect{*this, "imgCorrect"};
+  Label lblRightWrong{*this, "lblRightWrong"};
+  PictureBox picWinner{*this, "picWinner"};
+  Label lblWinner{*this, "lblWinner"};
+  PictureBox picStandby{*this, "picStandby"};
+  Image imgStandby{*this, "imgStandby"};
+  Frame fraAnswer{*this, "fraAnswer"};
+  Label lblAnswer{*this, "lblAnswer"};
+  Button btnCorrect{*this, "btnCorrect"};
+  Button btnQuestionCorrect{*this, "btnQuestionCorrect"};
+  Button btnQuestionIncorrect{*this, "btnQuestionIncorrect"};
+  Label lblQuestionAutoResize{*this, "lblQuestionAutoResize"};
+  Label lblAnswerAutoResize{*this, "lblAnswerAutoResize"};
+  Label lblWinnerResize{*this, "lblWinnerResize"};
+  Label lblStatusBar{*this, "lblStatusBar"};
+
+  // Intervals are milliseconds.
+  Timer tmrAutoContinue{*this, "tmrAutoContinue", 3000};
+  Timer tmr5QuestionTimer{*this, "tmr5QuestionTimer", 3000};
+  Timer tmrBonus{*this, "tmrBonus", 3000};
+  Timer tmrCorrectSWF{*this, "tmrCorrectSWF", 4500};
+  Timer tmrArrowsTimer{*this, "tmrArrowsTimer", 1000};
+  Timer tmrGridEnable{*this, "tmrGridEnable", 2000, true};
+  Timer tmrRotate{*this, "tmrRotate", 25};
+  Timer tmrNonBuzzer{*this, "tmrNonBuzzer", 25};
+  Timer tmrMainTimer{*this, "tmrMainTimer", 25};
+  Timer tmrExternalCtrlFlasher{*this, "tmrExternalCtrlFlasher", 280};
+  Timer tmrAnswer{*this, "tmrAnswer", 150};
+  Timer tmrFlipPlayerPiece{*this, "tmrFlipPlayerPiece", 10};
+  Timer tmrWinner{*this, "tmrWinner", 5000};
+  Timer tmrOptionalHeaders{*this, "tmrOptionalHeaders", 5000};
+  Timer tmrBGMusic{*this, "tmrBGMusic", 1000};
+  ControlArray<Timer, 2> tmrAnimate{*this, "tmrAnimate"};
+
+ private:
+  void SetCaptions();
+  void PlaceControls();
+  void SetInitialStates();
+};
+
+}  // namespace pawnfield

@@ -1,0 +1,40 @@
+// Reads and writes set files, and keeps the console's list of sets.
+#pragma once
+
+#include <string>
+
+#include "sets/trivia_set.h"
+
+namespace pawnfield {
+
+struct Show;
+
+// Parses a file's bytes into the set; returns the count of questions. The set is reset first.
+int ParseSet(const std::string& bytes, TriviaSet& set);
+// All 101 records, 303 lines.
+std::string FormatSet(const TriviaSet& set);
+// Moves blank records one step towards the end, in a single pass.
+void CompactSet(TriviaSet& set);
+
+void ResetGameSet(Show& show);
+// Fills GameSet. False when the path is blank or the file can't be read, which is reported.
+bool LoadGameSet(Show& show, const std::string& path);
+// Adds "Select Game Set" and the names of the sets folder to cboList and selects the first item.
+void FillSetList(Show& show);
+
+// Field parsers of a trimmed format line.
+std::string ParseFontName(const std::string& line);
+int ParseFontSize(const std::string& line);
+bool ParseFontBold(const std::string& line);
+bool ParseFontItalic(const std::string& line);
+std::string ParseFontColor(const std::string& line);
+
+// Writes the set in the given path's normal form (NUL removed, trimmed, ".txt" appended), which goes back to the
+// caller. True when it was saved; a failure is told to the operator.
+bool SaveSetFile(Show& show, TriviaSet& set, std::string& path);
+
+enum class QuestionKind { Text, Picture, Sound };
+// By the last four characters of the trimmed text.
+QuestionKind KindOfQuestion(const std::string& questionText);
+
+}  // namespace pawnfield
