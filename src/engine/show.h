@@ -3,6 +3,7 @@
 #pragma once
 
 #include <array>
+#include <map>
 #include <string>
 
 #include "engine/game_state.h"
@@ -40,6 +41,8 @@ struct Show {
   bool FlashToggle = false;
   int FlashCount = 0;
   std::array<int, 2> AnimateCount{};
+  // Whether a picture of the program could be opened when it was first asked for.
+  std::map<std::string, bool> PictureFound;
 
   MainForm frmMain;
   FSMainForm frmFSMain;

@@ -1,0 +1,15 @@
+// Ring-in: the first press that finds the question open gets it and shuts the others out.
+#pragma once
+
+namespace pawnfield {
+
+struct Show;
+
+enum class RingInSource { Other = 1, Wireless = 2 };
+
+// Gives the question to the player: score boxes, ring-in clip, verdict buttons, the cover on the audience screen.
+void AcceptRingIn(Show& show, int player, RingInSource source);
+// The operator's own button for the player who rang in, by index 0..2.
+void btnSelectPlayer_Click(Show& show, int index);
+
+}  // namespace pawnfield

@@ -1,0 +1,222 @@
+#include "engine/board_play.h"
+
+#include <optional>
+
+#include "config/settings.h"
+#include "engine/lines.h"
+#include "engine/question_cycle.h"
+#include "engine/show.h"
+#include "engine/turn_order.h"
+#include "engine/win_detection.h"
+#include "media/sound_channels.h"
+#include "platform/text.h"
+#include "presentation/both_screens.h"
+
+namespace pawnfield {
+
+namespace {
+
+constexpr int kBonusThreshold = 300;
+
+struct FlipConstants {
+  double Step, FullHeight, FSStep, FSFullHeight;
+};
+
+std::optional<FlipConstants> FlipConstantsOf(int gridSize) {
+  switch (gridSize) {
+    case 3:
+      return FlipConstants{255, 1110, 401, 2009};
+    case 4:
+      return FlipConstants{210, 885, 321, 1607};
+    case 5:
+      return FlipConstants{165, 735, 268, 1339};
+    case 6:
+      return FlipConstants{8, 41, 228, 1139};
+    default:
+      return std::nullopt;
+  }
+}
+
+void StartFlip(Show& show, int r, int c) {
+  const auto constants = FlipConstantsOf(show.state.GridSize);
+  Image* square = show.frmMain.img.At(r, c);
+  if (square != nullptr) {
+    show.flip.Square = square;
+    if (show.state.DualScreen) show.fsFlip.Square = show.frmFSMain.img.At(r, c);
+  }
+  if (!constants) return;
+  show.flip.Step = constants->Step;
+  show.flip.FullHeight = constants->FullHeight;
+  show.frmMain.tmrFlipPlayerPiece.Enabled = true;
+  if (!show.state.DualScreen) return;
+  show.fsFlip.Step = constants->FSStep;
+  show.fsFlip.FullHeight = constants->FSFullHeight;
+  show.frmFSMain.tmrFSFlipPlayerPiece.Enabled = true;
+}
+
+// Adds what the lines through the square pay to PiecePoints.
+LineMade PayLines(Show& show, int r, int c) {
+  const LineClaim claim{r, c, show.state.CurrentPlayer, show.state.GridSize, GetIntSetting(show, "Bonus", 5) * 10};
+  bool hit = false;
+  for (const auto& check : {CheckRowLine, CheckColumnLine, CheckDiagonalLine, CheckAntiDiagonalLine}) {
+    const LineResult result = check(show.state.Board, claim);
+    show.state.PiecePoints += result.Points;
+    hit = hit || result.Hit;
+  }
+  return hit ? LineMade::Yes : LineMade::No;
+}
+
+void PayScore(Show& show) {
+  const int player = show.state.CurrentPlayer;
+  if (player < 1 || player > 3) return;
+  SetScore(show, player, NumberText(ScoreOf(show, player) + show.state.PiecePoints));
+}
+
+void CloseTurnOfRingIn(Show& show) {
+  show.frmMain.btnCorrect.Enabled = false;
+  LightScoreBox(show, 0);
+  show.state.CurrentPlayer = 0;
+}
+
+// The face of the turning piece at the edge. The O piece has no change of face.
+std::string EdgeFace(Show& show) {
+  switch (show.state.FlipPlayer) {
+    case 1:
+      return show.frmMain.imgXb.Picture;
+    case 2:
+      return show.frmMain.imgOa.Picture;
+    case 3:
+      return show.frmMain.imgTb.Picture;
+    default:
+      return "";
+  }
+}
+
+bool FlipPlayerHasPiece(const Show& show) { return show.state.FlipPlayer >= 1 && show.state.FlipPlayer <= 3; }
+
+// One tick of a turning square; true when it has come back to its full size.
+bool TurnSquare(Show& show, Flip& flip) {
+  Image& square = *flip.Square;
+  if (!flip.Larger && square.Height > flip.Step - 1) {
+    flip.AtEdge = true;
+    square.Height = square.Height - flip.Step;
+    square.Top = square.Top + flip.Step / 2;
+    return false;
+  }
+  if (flip.AtEdge) {
+    square.Picture = EdgeFace(show);
+    flip.AtEdge = false;
+  }
+  flip.Larger = true;
+  square.Height = square.Height + flip.Step;
+  square.Top = square.Top - flip.Step / 2;
+  if (square.Height <= flip.FullHeight) return false;
+  flip.Larger = false;
+  square.Picture = FlipPlayerHasPiece(show) ? show.frmMain.FaceA(show.state.FlipPlayer).Picture.Get() : std::string();
+  return true;
+}
+
+void FlashSquare(Show& show) {
+  if (!FlipPlayerHasPiece(show) || show.state.LastSquareKey.size() != 2) return;
+  const int player = show.state.FlipPlayer;
+  Image& face = show.FlashToggle ? show.frmMain.FaceA(player) : show.frmMain.FaceB(player);
+  show.FlashToggle = !show.FlashToggle;
+  SetSquarePicture(show, show.state.LastSquareKey[0] - '0', show.state.LastSquareKey[1] - '0', face.Picture);
+}
+
+void FinishPlainPiece(Show& show, bool over) {
+  MainForm& form = show.frmMain;
+  if (IsQuestionType(show.state.GameType)) {
+    if (over) {
+      form.btnContinue.Enabled = false;
+    } else {
+      StartAutoContinue(show);
+    }
+  }
+  form.btnUndo.Enabled = true;
+  form.btnReset.Enabled = true;
+  form.btnEndGame.Enabled = true;
+  if (IsChallengeType(show.state.GameType)) {
+    show.state.PlacementOpen = true;
+  } else if (!over) {
+    CheckQuestionsLeft(show);
+  }
+}
+
+}  // namespace
+
+bool TryClaimSquare(Show& show, int r, int c) {
+  if (r < 0 || r > 5 || c < 0 || c > 5) return false;
+  int& owner = show.state.Board[static_cast<std::size_t>(r)][static_cast<std::size_t>(c)];
+  if (owner != 0) return false;
+  owner = show.state.CurrentPlayer;
+  return true;
+}
+
+void ClaimSquare(Show& show, int r, int c, const std::string& key) {
+  GameState& state = show.state;
+  MainForm& form = show.frmMain;
+  if (!state.PlacementOpen) return;
+  form.txtDJCommand.Text = "";
+  if (!TryClaimSquare(show, r, c)) {
+    state.PlacementOpen = true;
+    return;
+  }
+  state.PlacementOpen = false;
+  state.GameInProgress = true;
+  form.txtDJCommand.Visible = state.KeyControl;
+  StartFlip(show, r, c);
+  state.LastSquareKey = key;
+  state.FlipPlayer = state.CurrentPlayer;
+  // Read anew at each claim, so that a change of the value acts at once.
+  state.PiecePoints = GetIntSetting(show, "Scoring", 5) * 10;
+  const LineMade lineMade = PayLines(show, r, c);
+  PayScore(show);
+  form.tmrAnswer.Enabled = true;
+  state.LastPlayer = state.CurrentPlayer;
+  state.LastPoints = state.PiecePoints;
+  state.LastRow = r;
+  state.LastCol = c;
+  if (state.GameType == kChallengeModeA || state.GameType == kTriviaModeA) AdvanceToNextPlayer(show);
+  PlayEvent(show, show.AppPath("\\Sound Effects\\Pawn.Wav"));
+  if (IsGameOver(show, lineMade)) GameOver(show);
+  form.picQuestion.Visible = false;
+  form.picSound.Visible = false;
+  form.picQuestionPicture.Visible = false;
+  if (state.GameType == kTriviaModeC) CloseTurnOfRingIn(show);
+}
+
+void tmrFlipPlayerPiece_Timer(Show& show) {
+  if (show.flip.Square == nullptr || !TurnSquare(show, show.flip)) return;
+  show.frmMain.tmrFlipPlayerPiece.Enabled = false;
+  SetCursorOnBoth(show, IsChallengeType(show.state.GameType) ? show.state.CurrentPlayer : 0);
+}
+
+void tmrFSFlipPlayerPiece_Timer(Show& show) {
+  if (show.fsFlip.Square != nullptr && TurnSquare(show, show.fsFlip)) {
+    show.frmFSMain.tmrFSFlipPlayerPiece.Enabled = false;
+  }
+}
+
+void tmrAnswer_Timer(Show& show) {
+  constexpr int kFlashTicks = 6;
+  FlashSquare(show);
+  if (++show.FlashCount < kFlashTicks) return;
+  show.frmMain.tmrAnswer.Enabled = false;
+  const bool over = IsGameOver(show, LineMade::No);
+  if (over) {
+    StopBackground(show);
+    show.frmMain.tmrBGMusic.Enabled = false;
+  }
+  if (show.state.PiecePoints < kBonusThreshold) {
+    FinishPlainPiece(show, over);
+  } else {
+    ShowBonus(show);
+  }
+  show.state.PiecePoints = 0;
+  show.state.FlipPlayer = 0;
+  show.FlashCount = 0;
+  if (over) GameOver(show);
+}
+
+}  // namespace pawnfield

@@ -1,0 +1,168 @@
+#include "engine/judging.h"
+
+#include <array>
+
+#include "engine/options.h"
+#include "engine/question_cycle.h"
+#include "engine/show.h"
+#include "engine/turn_order.h"
+#include "media/sound_channels.h"
+#include "media/sound_table.h"
+#include "platform/text.h"
+#include "presentation/board_layout.h"
+#include "presentation/both_screens.h"
+
+namespace pawnfield {
+
+namespace {
+
+struct Verdict {
+  int SoundRow;
+  const char* Sting;
+  const char* Words;
+  Color WordsColor;
+  const char* Picture;
+};
+
+constexpr Verdict kCorrectVerdict{kSoundCorrect, "\\Sound Effects\\Correct4swf.mp3", "Correct!", kGreen,
+                                  "\\Images\\Correct.jpg"};
+constexpr Verdict kIncorrectVerdict{kSoundIncorrect, "\\Sound Effects\\Incorrect4swf.mp3", "Incorrect", kRed,
+                                    "\\Images\\Incorrect.jpg"};
+
+void WriteVerdict(Label& words, Image& picture, const Verdict& verdict, const std::string& path) {
+  words.Caption = verdict.Words;
+  words.ForeColor = verdict.WordsColor;
+  picture.Picture = path;
+}
+
+void ShowVerdictPicture(Show& show, const Verdict& verdict) {
+  const std::string path = LoadPicture(show, verdict.Picture, "ShowVerdictPicture");
+  PlayCorrectIncorrect(show, show.AppPath(verdict.Sting));
+  WriteVerdict(show.frmMain.lblRightWrong, show.frmMain.imgCorrect, verdict, path);
+  if (show.state.DualScreen) WriteVerdict(show.frmFSMain.lblRightWrong, show.frmFSMain.imgCorrect, verdict, path);
+  ShowPanel(show, Panel::Correct);
+  show.frmMain.tmrAnimate[0].Enabled = true;
+  show.frmMain.tmrCorrectSWF.Enabled = true;
+}
+
+void AnnounceVerdict(Show& show, const Verdict& verdict) {
+  if (!show.state.Animation) {
+    PlayEvent(show, SoundEntry(show, verdict.SoundRow));
+  } else if (IsQuestionType(show.state.GameType)) {
+    ShowVerdictPicture(show, verdict);
+  }
+}
+
+void LiftCover(Show& show) {
+  if (show.state.DualScreen) show.frmFSMain.picHideQuestion.Visible = false;
+}
+
+void TakePenalty(Show& show) {
+  constexpr double kPenalty = 100;
+  const int player = show.state.CurrentPlayer;
+  if (!show.state.IncorrectPenalty || player < 1 || player > 3) return;
+  SetScore(show, player, NumberText(ScoreOf(show, player) - kPenalty));
+}
+
+// Gives the turn back after an undo in the types in which a claim passes it on.
+void GiveTurnBack(Show& show, int lastPlayer) {
+  if (show.state.GameType != kChallengeModeA && show.state.GameType != kTriviaModeA) return;
+  const int steps = show.state.Players == 2 && lastPlayer != 3 ? 1 : 2;
+  for (int i = 0; i < steps; ++i) AdvanceToNextPlayer(show);
+}
+
+void TakeBackClaim(Show& show) {
+  GameState& state = show.state;
+  const int player = state.LastPlayer;
+  if (player < 1 || player > 3) return;
+  int& owner = state.Board[static_cast<std::size_t>(state.LastRow)][static_cast<std::size_t>(state.LastCol)];
+  if (owner != player) return;
+  // The other displays of the score catch up with its next change.
+  show.frmMain.Score(player).Caption = NumberText(ScoreOf(show, player) - state.LastPoints);
+  owner = 0;
+  RemovePiece(show, state.LastRow, state.LastCol);
+  GiveTurnBack(show, player);
+}
+
+}  // namespace
+
+void HandleCorrect(Show& show) {
+  MainForm& form = show.frmMain;
+  LiftCover(show);
+  StopSoundClip(show);
+  RestartBackground(show);
+  if (show.state.GameType == kTriviaModeC) form.tmrExternalCtrlFlasher.Enabled = false;
+  form.picQuestion.Visible = false;
+  form.picSound.Visible = false;
+  ShowVerdictButtons(show, false, false);
+  AnnounceVerdict(show, kCorrectVerdict);
+  HidePanel(show, Panel::Question);
+  HidePanel(show, Panel::Sound);
+  // The picture goes too: the board under it is where the hand goes next.
+  HidePanel(show, Panel::QuestionPicture);
+  show.state.PlacementOpen = true;
+  ChangeCursor(show);
+  form.txtDJCommand.Enabled = true;
+  if (show.state.GameType == kTriviaModeC) LightScoreBox(show, 0);
+  EnableOptions(show);
+  form.txtDJCommand.SetFocus();
+}
+
+void HandleIncorrect(Show& show) {
+  MainForm& form = show.frmMain;
+  LiftCover(show);
+  form.tmrExternalCtrlFlasher.Enabled = false;
+  AnnounceVerdict(show, kIncorrectVerdict);
+  TakePenalty(show);
+  if (show.state.GameType != kTriviaModeC) {
+    AdvanceToNextPlayer(show);
+  } else {
+    form.btnCorrect.Enabled = false;
+    ShowVerdictButtons(show, false, false);
+    LightScoreBox(show, 0);
+    show.state.CurrentPlayer = 0;
+  }
+  SetBuzzerStates(show, true, true, true);
+  form.txtDJCommand.SetFocus();
+}
+
+void ChangeScore(Show& show, int player, ScoreChange change, int index) {
+  constexpr std::array<double, 6> kAmounts{100000, 10000, 1000, 100, 10, 1};
+  constexpr double kLimit = 999999;
+  const double amount = kAmounts.at(static_cast<std::size_t>(index));
+  const double score = ScoreOf(show, player) + (change == ScoreChange::Up ? amount : -amount);
+  const bool accepted = change == ScoreChange::Up ? score < kLimit + 1 : score >= -kLimit;
+  if (accepted) SetScore(show, player, NumberText(score));
+}
+
+void btnSkipQuestion_Click(Show& show) {
+  MainForm& form = show.frmMain;
+  PlayEvent(show, show.AppPath("\\Sound Effects\\Skip.Wav"));
+  if (show.state.GameType == kTriviaModeC) {
+    LightScoreBox(show, 0);
+    form.tmrExternalCtrlFlasher.Enabled = false;
+  }
+  // The cover belongs to the question; left up it would hide the next one from the room.
+  LiftCover(show);
+  HidePanel(show, Panel::Question);
+  HidePanel(show, Panel::QuestionPicture);
+  HidePanel(show, Panel::Sound);
+  ShowVerdictButtons(show, false, false);
+  if (IsQuestionType(show.state.GameType)) form.btnContinue.Enabled = true;
+  StartAutoContinue(show);
+  if (show.state.GameType != kTriviaModeA) show.state.CurrentPlayer = 0;
+  EnableOptions(show);
+}
+
+void btnUndo_Click(Show& show) {
+  GameState& state = show.state;
+  if (state.LastPoints <= 0) return;
+  state.PlacementOpen = true;
+  show.frmMain.btnUndo.Enabled = false;
+  TakeBackClaim(show);
+  state.LastPoints = 0;
+  state.LastPlayer = 0;
+  ChangeCursor(show);
+}
+
+}  // namespace pawnfield

@@ -1,0 +1,97 @@
+#include "engine/lines.h"
+
+#include <cstdlib>
+#include <initializer_list>
+#include <utility>
+
+#include "platform/text.h"
+
+namespace pawnfield {
+
+namespace {
+
+struct Direction {
+  int Row, Column;
+};
+
+// A step up is bound by the grid's far edge, a step down by 0; a coordinate that stays is not looked at.
+bool InBounds(int coordinate, int offset, int gridSize) {
+  if (offset > 0) return coordinate + offset < gridSize;
+  if (offset < 0) return coordinate + offset >= 0;
+  return true;
+}
+
+// True when all the squares at the given steps along the direction are within bounds and the player's.
+bool AllOwned(const BoardArray& board, const LineClaim& claim, Direction direction, std::initializer_list<int> steps) {
+  for (const int step : steps) {
+    const int rowOffset = direction.Row * step;
+    const int columnOffset = direction.Column * step;
+    if (!InBounds(claim.Row, rowOffset, claim.GridSize) || !InBounds(claim.Column, columnOffset, claim.GridSize)) {
+      return false;
+    }
+    const auto row = static_cast<std::size_t>(claim.Row + rowOffset);
+    const auto column = static_cast<std::size_t>(claim.Column + columnOffset);
+    if (board[row][column] != claim.Player) return false;
+  }
+  return true;
+}
+
+LineResult CheckAlong(const BoardArray& board, const LineClaim& claim, Direction direction) {
+  const bool hit = AllOwned(board, claim, direction, {1, 2, 3}) || AllOwned(board, claim, direction, {-1, -2, -3}) ||
+                   AllOwned(board, claim, direction, {1, 2}) || AllOwned(board, claim, direction, {-1, -2}) ||
+                   AllOwned(board, claim, direction, {-1, 1});
+  return {hit ? claim.BonusPoints : 0, hit};
+}
+
+}  // namespace
+
+LineResult CheckRowLine(const BoardArray& board, const LineClaim& claim) { return CheckAlong(board, claim, {0, 1}); }
+
+LineResult CheckColumnLine(const BoardArray& board, const LineClaim& claim) { return CheckAlong(board, claim, {1, 0}); }
+
+LineResult CheckDiagonalLine(const BoardArray& board, const LineClaim& claim) {
+  return CheckAlong(board, claim, {1, 1});
+}
+
+LineResult CheckAntiDiagonalLine(const BoardArray& board, const LineClaim& claim) {
+  constexpr int kFour = 100;
+  constexpr int kThree = 200;
+  const Direction downLeft{1, -1};
+  LineResult result;
+  for (const int sign : {1, -1}) {
+    if (AllOwned(board, claim, downLeft, {sign, 2 * sign, 3 * sign})) result = {result.Points + kFour, true};
+  }
+  if (result.Hit) return result;
+  const bool three = AllOwned(board, claim, downLeft, {-1, -2}) || AllOwned(board, claim, downLeft, {1, 2}) ||
+                     AllOwned(board, claim, downLeft, {-1, 1});
+  return three ? LineResult{kThree, true} : LineResult{};
+}
+
+bool IsBoardFull(const BoardArray& board, int gridSize) {
+  const auto size = static_cast<std::size_t>(gridSize);
+  for (std::size_t r = 0; r < size; ++r) {
+    for (std::size_t c = 0; c < size; ++c) {
+      if (board[r][c] == 0) return false;
+    }
+  }
+  return true;
+}
+
+std::string WinnerText(std::array<Standing, 4> standings, int players) {
+  const auto count = static_cast<std::size_t>(players);
+  for (std::size_t i = 0; i < count; ++i) {
+    for (std::size_t j = i + 1; j < 4; ++j) {
+      if (standings[i].Score < standings[j].Score) std::swap(standings[i], standings[j]);
+    }
+  }
+  std::size_t last = 0;
+  while (last < count && standings[last].Score <= standings[last + 1].Score) ++last;
+  std::string text = "Game Over!\r\n";
+  for (std::size_t i = 0; i <= last; ++i) {
+    text += Trim(standings[i].Name);
+    if (i < last) text += " and \r\n";
+  }
+  return text + "\r\n" + (last != 0 ? "Tie!" : "Wins!");
+}
+
+}  // namespace pawnfield

@@ -1,0 +1,241 @@
+#include "engine/question_cycle.h"
+
+#include <cmath>
+
+#include "engine/options.h"
+#include "engine/show.h"
+#include "engine/turn_order.h"
+#include "engine/win_detection.h"
+#include "media/question_pictures.h"
+#include "media/sound_channels.h"
+#include "media/sound_table.h"
+#include "platform/text.h"
+#include "presentation/both_screens.h"
+#include "presentation/text_fitting.h"
+#include "sets/set_file.h"
+
+namespace pawnfield {
+
+namespace {
+
+const TriviaQuestion& QuestionAt(const Show& show, int index) {
+  if (index < 0 || index >= kSetCapacity) throw RuntimeError(kErrorSubscript, "Subscript out of range");
+  return show.GameSet[static_cast<std::size_t>(index)];
+}
+
+bool IsBlank(const std::string& field) { return field.empty() || field == " "; }
+
+Font FontOf(const TriviaQuestion& question) {
+  constexpr double kDefaultSize = 28;
+  if (IsBlank(question.FontName)) return {"Courier New", kDefaultSize, true, true};
+  return {question.FontName, kDefaultSize, question.FontBold, question.FontItalic};
+}
+
+Color ColorOf(const TriviaQuestion& question) {
+  if (IsBlank(question.FontColor)) return kWhite;
+  const auto number = ParseNumber(question.FontColor);
+  if (!number) throw RuntimeError(kErrorTypeMismatch, "Type mismatch");
+  return static_cast<Color>(std::fmod(*number, 16777216.0));
+}
+
+// Offers the verdict, opens the ring-in where players ring in, and locks the options.
+void OpenQuestion(Show& show) {
+  if (IsQuestionType(show.state.GameType)) ShowVerdictButtons(show, true, true);
+  if (show.state.GameType == kTriviaModeC) SetBuzzerStates(show, true, true, true);
+  DisableOptions(show);
+}
+
+void ShowPictureQuestion(Show& show) {
+  ShowPic(show);
+  OpenQuestion(show);
+}
+
+void ShowSoundQuestion(Show& show, const std::string& path) {
+  ShowPanel(show, Panel::Sound);
+  if (show.state.BackgroundMusic != 0) PauseBackground(show);
+  PlaySoundClip(show, path);
+  OpenQuestion(show);
+}
+
+void ShowTextQuestion(Show& show) {
+  const TriviaQuestion& question = QuestionAt(show, show.state.CurrentQuestion);
+  const std::string text = Trim(question.QuestionText);
+  show.frmMain.lblQuestion[0].Font = FontOf(question);
+  if (show.state.DualScreen) show.frmFSMain.lblQuestion[0].Font = FontOf(question);
+  SetQuestion(show, text, show.frmMain.lblQuestion);
+  RandomQuestionBackground(show);
+  ShowPanel(show, Panel::Question);
+  if (show.state.DualScreen) SetQuestion(show, text, show.frmFSMain.lblQuestion);
+  OpenQuestion(show);
+  if (show.state.GameType == kTriviaModeC) show.frmMain.btnCorrect.Enabled = false;
+  // Last, so that a colour that is no number leaves a whole question behind its message. The console alone takes it.
+  show.frmMain.lblQuestion[0].ForeColor = ColorOf(question);
+}
+
+void WriteNotice(Label& label, double size) {
+  label.Font = {"Courier New", size, true, true};
+  label.ForeColor = kWhite;
+  label.Caption = "5 Questions Left!\r\n\r\n\r\n";
+}
+
+// A notice has no outline of its own; the copies behind the last question's text would show through.
+void ShowNotice(ControlArray<Label, 5>& labels, double size) {
+  WriteNotice(labels[0], size);
+  for (std::size_t i = 1; i < 5; ++i) labels[i].Visible = false;
+}
+
+void Advance(Show& show) {
+  ++show.state.CurrentQuestion;
+  const std::string text = Trim(QuestionAt(show, show.state.CurrentQuestion).QuestionText);
+  show.frmMain.lblQuestion[0].Caption = text;
+  if (show.state.DualScreen) show.frmFSMain.lblQuestion[0].Caption = text;
+  ShowQuestion(show, show.state.CurrentQuestion);
+  show.frmMain.btnContinue.Enabled = false;
+  if (show.state.GameType == kTriviaModeC) ShowVerdictButtons(show, false, false);
+}
+
+}  // namespace
+
+void ShowVerdictButtons(Show& show, bool correct, bool incorrect) {
+  show.frmMain.btnQuestionCorrect.Visible = correct;
+  show.frmMain.btnQuestionIncorrect.Visible = incorrect;
+}
+
+void ShowQuestion(Show& show, int index) {
+  const TriviaQuestion& question = QuestionAt(show, index);
+  const std::string text = Trim(question.QuestionText);
+  SetQuestion(show, text, show.frmMain.lblQuestion);
+  SetAnswer(show, Trim(question.AnswerText));
+  PlayEvent(show, SoundEntry(show, kSoundQuestionReveal));
+  switch (KindOfQuestion(text)) {
+    case QuestionKind::Picture:
+      ShowPictureQuestion(show);
+      break;
+    case QuestionKind::Sound:
+      ShowSoundQuestion(show, text);
+      break;
+    case QuestionKind::Text:
+      ShowTextQuestion(show);
+      break;
+  }
+}
+
+void CheckQuestionsLeft(Show& show) {
+  constexpr int kNoticeAt = 6;
+  if (show.NumGameQuestions - show.state.CurrentQuestion != kNoticeAt) return;
+  RandomQuestionBackground(show);
+  ShowNotice(show.frmMain.lblQuestion, 28);
+  if (show.state.DualScreen) ShowNotice(show.frmFSMain.lblQuestion, 60);
+  ShowPanel(show, Panel::Question);
+  show.frmMain.btnUndo.Enabled = false;
+  show.frmMain.btnContinue.Enabled = false;
+  show.frmMain.btnNextPlayer.Enabled = false;
+  show.frmMain.tmr5QuestionTimer.Enabled = true;
+  ShowVerdictButtons(show, false, false);
+}
+
+void ShowBonus(Show& show) {
+  PlayEvent(show, SoundEntry(show, kSoundCongratulations));
+  ShowPanel(show, Panel::Bonus);
+  show.frmMain.tmrBonus.Enabled = true;
+}
+
+void StartAutoContinue(Show& show) {
+  MainForm& form = show.frmMain;
+  if (show.state.AutoContinue == kUserAdvances) {
+    form.btnContinue.Enabled = true;
+    return;
+  }
+  form.tmrAutoContinue.Interval = show.state.AutoContinue * 1000;
+  form.tmrAutoContinue.Enabled = true;
+  form.btnContinue.Enabled = false;
+}
+
+void btnContinue_Click(Show& show) {
+  if (!IsQuestionType(show.state.GameType)) return;
+  Advance(show);
+  show.frmMain.btnUndo.Enabled = false;
+}
+
+void tmrAutoContinue_Timer(Show& show) {
+  // Stopped first: whatever the next question brings up, the pause has run once.
+  show.frmMain.tmrAutoContinue.Enabled = false;
+  Advance(show);
+}
+
+void tmr5QuestionTimer_Timer(Show& show) {
+  MainForm& form = show.frmMain;
+  HidePanel(show, Panel::Question);
+  form.btnUndo.Enabled = true;
+  form.btnContinue.Enabled = true;
+  form.btnNextPlayer.Enabled = true;
+  form.tmr5QuestionTimer.Enabled = false;
+}
+
+void tmrBonus_Timer(Show& show) {
+  MainForm& form = show.frmMain;
+  const bool trivia = IsQuestionType(show.state.GameType);
+  HidePanel(show, Panel::Bonus);
+  form.tmrBonus.Enabled = false;
+  form.btnUndo.Enabled = true;
+  if (trivia) form.btnContinue.Enabled = true;
+  form.btnNextPlayer.Enabled = true;
+  if (show.state.GameEnds) {
+    GameOver(show);
+    return;
+  }
+  if (!trivia) {
+    show.state.PlacementOpen = true;
+    return;
+  }
+  if (show.state.AutoContinue != kUserAdvances) StartAutoContinue(show);
+  CheckQuestionsLeft(show);
+}
+
+void tmrCorrectSWF_Timer(Show& show) {
+  HidePanel(show, Panel::Correct);
+  show.frmMain.tmrCorrectSWF.Enabled = false;
+}
+
+void tmrArrowsTimer_Timer(Show& show) {
+  MainForm& form = show.frmMain;
+  const bool setMissing = IsQuestionType(show.state.GameType) && !show.state.GameLoaded;
+  const bool pointers = setMissing && !form.lblListRightArrow.Visible;
+  form.lblListRightArrow.Visible = pointers;
+  form.lblListLeftArrow.Visible = pointers;
+  form.shpStart.Visible = !setMissing && !form.shpStart.Visible;
+}
+
+void tmrGridEnable_Timer(Show& show) {
+  MainForm& form = show.frmMain;
+  form.fraGridControl.Enabled = form.tmrArrowsTimer.Enabled || form.btnStart.Enabled;
+}
+
+void tmrRotate_Timer(Show& show) {
+  GameState& state = show.state;
+  const std::string a = show.frmMain.lblP1Score.Caption;
+  const std::string b = show.frmMain.lblP2Score.Caption;
+  const std::string c = show.frmMain.lblP3Score.Caption;
+  const int on = state.MicsOnWithBuzzer ? '2' : '3';
+  const int off = state.MicsOnWithBuzzer ? '0' : '1';
+  if (state.Lamp1 != on && state.Lamp2 != on && state.Lamp3 != on) state.Lamp1 = on;
+  if (++state.RotateCount <= 11 - state.LedSpeed) return;
+  const auto light = [&](int lit, const std::string& code1, const std::string& code2, const std::string& code3) {
+    state.LampCode1 = code1;
+    state.LampCode2 = code2;
+    state.LampCode3 = code3;
+    state.Lamp1 = lit == 1 ? on : off;
+    state.Lamp2 = lit == 2 ? on : off;
+    state.Lamp3 = lit == 3 ? on : off;
+  };
+  if (state.Lamp1 == on) {
+    light(2, a, b, c);
+  } else if (state.Lamp2 == on) {
+    light(3, c, a, b);
+  } else if (state.Lamp3 == on) {
+    light(1, b, c, a);
+  }
+  state.RotateCount = 1;
+}
+
+}  // namespace pawnfield

@@ -1,0 +1,96 @@
+#include "engine/win_detection.h"
+
+#include <cmath>
+
+#include "engine/lines.h"
+#include "engine/options.h"
+#include "engine/show.h"
+#include "media/sound_channels.h"
+#include "presentation/board_layout.h"
+#include "presentation/both_screens.h"
+#include "presentation/text_fitting.h"
+#include "sets/set_file.h"
+
+namespace pawnfield {
+
+namespace {
+
+std::string FinalText(Show& show) {
+  std::array<Standing, 4> standings;
+  for (int player = 1; player <= show.state.Players; ++player) {
+    const auto index = static_cast<std::size_t>(player - 1);
+    standings[index] = {std::llround(ScoreOf(show, player)), show.frmMain.lblPlayer1[index].Caption};
+  }
+  return WinnerText(standings, show.state.Players);
+}
+
+}  // namespace
+
+bool IsGameOver(const Show& show, LineMade lineMade) {
+  if (show.state.GameEnds) return lineMade == LineMade::Yes;
+  return IsBoardFull(show.state.Board, show.state.GridSize);
+}
+
+void GameOver(Show& show) {
+  MainForm& form = show.frmMain;
+  form.tmrBGMusic.Enabled = false;
+  StopBackground(show);
+  show.state.GameInProgress = false;
+  show.state.GameLoaded = false;
+  form.btnEndGame.Enabled = false;
+  form.btnReset.Enabled = false;
+  HidePanel(show, Panel::QuestionPicture);
+  HidePanel(show, Panel::Sound);
+  HidePanel(show, Panel::Question);
+  form.btnQuestionCorrect.Visible = false;
+  form.btnQuestionIncorrect.Visible = false;
+  SetCursorOnBoth(show, 0);
+  const std::string text = FinalText(show);
+  SetWinner(show, text, form.lblWinner);
+  if (show.state.DualScreen) SetWinner(show, text, show.frmFSMain.lblWinner);
+  ShowPanel(show, Panel::Winner);
+  if (show.state.Animation) form.tmrAnimate[1].Enabled = true;
+  form.btnUndo.Enabled = false;
+  form.btnContinue.Enabled = false;
+  form.btnNextPlayer.Enabled = false;
+  form.tmrWinner.Enabled = true;
+}
+
+void tmrWinner_Timer(Show& show) {
+  MainForm& form = show.frmMain;
+  ShowPanel(show, Panel::Standby);
+  form.btnStandbyMode.Enabled = false;
+  form.btnPlayMode.Enabled = true;
+  for (const Panel panel : {Panel::Question, Panel::QuestionPicture, Panel::Sound, Panel::Winner})
+    HidePanel(show, panel);
+  form.btnUndo.Enabled = false;
+  form.btnContinue.Enabled = false;
+  ResetGameBoard(show);
+  ResetGameSet(show);
+  show.state.LoadedSetPath.clear();
+  form.tmrWinner.Enabled = false;
+  // What a line win's last flash started must not reach into standby: no next question, no verdict, options free.
+  form.tmrAutoContinue.Enabled = false;
+  form.btnQuestionCorrect.Visible = false;
+  form.btnQuestionIncorrect.Visible = false;
+  EnableOptions(show);
+}
+
+void tmrAnimate_Timer(Show& show, int index) {
+  constexpr int kLastTick = 6;
+  const bool winner = index == 1;
+  Label& label = winner ? show.frmMain.lblWinner : show.frmMain.lblRightWrong;
+  int& count = show.AnimateCount[static_cast<std::size_t>(index)];
+  ++count;
+  label.Visible = !label.Visible;
+  if (count > kLastTick) {
+    count = 0;
+    show.frmMain.tmrAnimate[static_cast<std::size_t>(index)].Enabled = false;
+    label.Visible = true;
+  }
+  if (show.state.DualScreen) {
+    (winner ? show.frmFSMain.lblWinner : show.frmFSMain.lblRightWrong).Visible = label.Visible;
+  }
+}
+
+}  // namespace pawnfield

@@ -1,0 +1,39 @@
+// Changes that the audience can see, each made on the console first and then on the audience form while DualScreen is
+// True. Every room changes both screens through these.
+#pragma once
+
+#include <string>
+
+#include "platform/controls.h"
+
+namespace pawnfield {
+
+struct Show;
+
+enum class Panel { Question, QuestionPicture, Sound, Bonus, Correct, Winner, Standby };
+
+void ShowPanel(Show& show, Panel panel);
+void HidePanel(Show& show, Panel panel);
+// True when the console shows the panel.
+bool PanelVisible(const Show& show, Panel panel);
+
+// The score on every display of a player 1..3.
+void SetScore(Show& show, int player, const std::string& text);
+// The score as its label has it; 0 when it holds no number.
+double ScoreOf(Show& show, int player);
+void SetPlayerName(Show& show, int player, const std::string& name);
+void ResetPlayerNames(Show& show);
+void ResetScores(Show& show);
+
+// Lights the score box of a player 1..3 and makes the others normal; 0 makes all normal.
+void LightScoreBox(Show& show, int player);
+void SetSquarePicture(Show& show, int row, int column, const std::string& picture);
+// The cursor of a player 1..3, or the neutral one for 0.
+void SetConsoleCursor(Show& show, int player);
+void SetCursorOnBoth(Show& show, int player);
+
+// The path of a picture of the program's folder, for a control to show. A file that can't be opened is reported through
+// the shared error box the first time, and the control shows nothing.
+std::string LoadPicture(Show& show, const std::string& tail, const std::string& procedure);
+
+}  // namespace pawnfield
