@@ -1,0 +1,94 @@
+#include "platform/sim/scripted_dialogs.h"
+
+#include <cstdlib>
+#include <iostream>
+
+namespace pawnfield {
+
+ScriptedDialogs::~ScriptedDialogs() {
+  const auto faults = TakeFaults();
+  for (const std::string& fault : faults) std::cerr << "Dialogs: " << fault << "\n";
+  if (!faults.empty()) std::abort();
+}
+
+void ScriptedDialogs::ExpectMessage(const std::string& textPart, BoxAnswer answer) {
+  script_.push_back({Kind::Message, textPart, answer, {}});
+}
+
+void ScriptedDialogs::ExpectFile(const std::string& chosenPath) {
+  script_.push_back({Kind::File, chosenPath, BoxAnswer::Ok, {}});
+}
+
+void ScriptedDialogs::ExpectForm(const std::string& formName, std::function<void()> act) {
+  script_.push_back({Kind::Form, formName, BoxAnswer::Ok, std::move(act)});
+}
+
+std::string ScriptedDialogs::Describe(Kind kind, const std::string& text) {
+  switch (kind) {
+    case Kind::Message:
+      return "message \"" + text + "\"";
+    case Kind::File:
+      return "file dialog \"" + text + "\"";
+    case Kind::Form:
+      break;
+  }
+  return "form " + text;
+}
+
+bool ScriptedDialogs::Fits(const Step& step, Kind kind, const std::string& shown) {
+  if (step.kind != kind) return false;
+  switch (kind) {
+    case Kind::Message:
+      return shown.find(step.text) != std::string::npos;
+    case Kind::Form:
+      return shown == step.text;
+    case Kind::File:
+      break;
+  }
+  return true;
+}
+
+bool ScriptedDialogs::Take(Kind kind, const std::string& shown, Step& step) {
+  if (script_.empty() || !Fits(script_.front(), kind, shown)) {
+    const std::string expected = script_.empty() ? "nothing" : Describe(script_.front().kind, script_.front().text);
+    faults_.push_back("unexpected " + Describe(kind, shown) + ", expected " + expected);
+    return false;
+  }
+  step = std::move(script_.front());
+  script_.pop_front();
+  return true;
+}
+
+BoxAnswer ScriptedDialogs::MessageBox(const std::string& text, const std::string& title, BoxKind kind) {
+  boxes_.push_back({text, title, kind});
+  Step step{Kind::Message, {}, BoxAnswer::Ok, {}};
+  if (Take(Kind::Message, text, step)) return step.answer;
+  if (kind == BoxKind::YesNoCancel) return BoxAnswer::Cancel;
+  return kind == BoxKind::YesNo ? BoxAnswer::No : BoxAnswer::Ok;
+}
+
+std::string ScriptedDialogs::ChooseFile(const FileDialogRequest& request) {
+  requests_.push_back(request);
+  Step step{Kind::File, {}, BoxAnswer::Ok, {}};
+  return Take(Kind::File, request.Title, step) ? step.text : std::string();
+}
+
+void ScriptedDialogs::ShowModal(Form& form) {
+  Step step{Kind::Form, {}, BoxAnswer::Ok, {}};
+  const bool expected = Take(Kind::Form, form.Name(), step);
+  form.Visible = true;
+  if (expected && step.act) step.act();
+  if (!form.Visible) return;
+  if (expected) faults_.push_back("form " + form.Name() + " was left open");
+  form.Unload();
+}
+
+std::vector<std::string> ScriptedDialogs::TakeFaults() {
+  std::vector<std::string> faults;
+  faults.swap(faults_);
+  for (const Step& step : script_) faults.push_back("nothing asked for " + Describe(step.kind, step.text));
+  script_.clear();
+  return faults;
+}
+
+}  // namespace pawnfield

@@ -1,0 +1,62 @@
+// Modal questions answered from a script. A dialog that the script does not have next, and an answer that nothing
+// asked for, are faults.
+#pragma once
+
+#include <deque>
+#include <functional>
+#include <string>
+#include <vector>
+
+#include "platform/ports.h"
+
+namespace pawnfield {
+
+struct ShownBox {
+  std::string Text;
+  std::string Title;
+  BoxKind Kind = BoxKind::Plain;
+};
+
+class ScriptedDialogs : public Dialogs {
+ public:
+  // Ends the process when faults were left unread: a script that went wrong can't pass for one that went well.
+  ~ScriptedDialogs() override;
+
+  // The next box must contain textPart.
+  void ExpectMessage(const std::string& textPart, BoxAnswer answer = BoxAnswer::Ok);
+  void ExpectFile(const std::string& chosenPath);
+  // act runs while the form of that name is shown and must see it unloaded or hidden.
+  void ExpectForm(const std::string& formName, std::function<void()> act);
+
+  BoxAnswer MessageBox(const std::string& text, const std::string& title, BoxKind kind) override;
+  std::string ChooseFile(const FileDialogRequest& request) override;
+  void ShowModal(Form& form) override;
+
+  const std::vector<ShownBox>& Boxes() const { return boxes_; }
+  const std::vector<FileDialogRequest>& FileRequests() const { return requests_; }
+  // What went wrong so far, the answers left over included; empties both.
+  std::vector<std::string> TakeFaults();
+  // True when nothing went wrong and no answer is left over; the faults stay to be taken.
+  bool Verify() const { return faults_.empty() && script_.empty(); }
+
+ private:
+  enum class Kind { Message, File, Form };
+  struct Step {
+    Kind kind;
+    std::string text;
+    BoxAnswer answer = BoxAnswer::Ok;
+    std::function<void()> act;
+  };
+
+  // Takes the next step when it is of that kind and fits what is shown; otherwise records a fault.
+  bool Take(Kind kind, const std::string& shown, Step& step);
+  static bool Fits(const Step& step, Kind kind, const std::string& shown);
+  static std::string Describe(Kind kind, const std::string& text);
+
+  std::deque<Step> script_;
+  std::vector<std::string> faults_;
+  std::vector<ShownBox> boxes_;
+  std::vector<FileDialogRequest> requests_;
+};
+
+}  // namespace pawnfield

@@ -1,0 +1,73 @@
+// The smaller ports as simulations: text measuring, pictures, monitors, processes and chance.
+#pragma once
+
+#include <cstdint>
+#include <deque>
+#include <string>
+#include <utility>
+#include <vector>
+
+#include "platform/ports.h"
+#include "platform/sim/sim_files.h"
+
+namespace pawnfield {
+
+// Every measure grows in proportion to the font's size, so that what a fit must come to can be worked out by hand: a
+// character is a fixed share of the size wide, a line 1.2 times the size high. A point is 20 twips.
+class LinearTextMeasurer : public TextMeasurer {
+ public:
+  TextSize Measure(const Font& font, const std::string& text, double wrapWidth) const override;
+  // Width of one line of text in thousandths of the font's size.
+  static int Units(const std::string& text);
+};
+
+// A picture is a file of the simulated tree made by PictureBytes; any other file holds no picture.
+class SimPictures : public PictureReader {
+ public:
+  explicit SimPictures(const SimFiles& files) : files_(files) {}
+  PixelSize Size(const std::string& path) const override;
+  static std::string PictureBytes(int width, int height);
+
+ private:
+  const SimFiles& files_;
+};
+
+class SimDisplays : public Displays {
+ public:
+  std::vector<MonitorInfo> Enumerate() const override { return Monitors; }
+  void SetTopMost(Form& form, bool onTop) override { TopMost.emplace_back(form.Name(), onTop); }
+
+  std::vector<MonitorInfo> Monitors{{0, 0, 1280, 800}};
+  // Every call, in order.
+  std::vector<std::pair<std::string, bool>> TopMost;
+};
+
+class SimProcesses : public Processes {
+ public:
+  bool ClaimSingleInstance() override { return AlreadyRuns; }
+  std::vector<ProcessInfo> List() const override { return Others; }
+  std::int64_t CurrentId() const override { return 4711; }
+  void Activate(std::int64_t id) override { Activated.push_back(id); }
+  void EndProgram() override { Ended = true; }
+
+  bool AlreadyRuns = false;
+  std::vector<ProcessInfo> Others;
+  std::vector<std::int64_t> Activated;
+  bool Ended = false;
+};
+
+// Gives the scripted values first, then a fixed sequence.
+class SimRandom : public RandomSource {
+ public:
+  explicit SimRandom(std::uint32_t seed = 1) : state_(seed) {}
+  void Randomize() override { ++Randomized; }
+  double Next() override;
+
+  std::deque<double> Scripted;
+  int Randomized = 0;
+
+ private:
+  std::uint32_t state_;
+};
+
+}  // namespace pawnfield

@@ -1,0 +1,40 @@
+// Time that moves only when it is told to: the mirror of the timers of the forms attached to it.
+#pragma once
+
+#include <cstdint>
+#include <vector>
+
+#include "platform/ports.h"
+
+namespace pawnfield {
+
+class VirtualClock : public Clock, public Mirror {
+ public:
+  std::int64_t NowMs() const override { return now_; }
+  void Attach(Form& form) override;
+  void Detach(Form& form) override;
+  void Changed(Control& control, PropertyId id) override;
+
+  // Fires what falls due within the next ms milliseconds, in due order; equal times in the order of starting. Timers
+  // that are started on the way and fall due before the end fire too.
+  void Advance(std::int64_t ms);
+  // The timers that run now, in the order of starting.
+  std::vector<const Timer*> Running() const;
+
+ private:
+  struct Entry {
+    Timer* timer = nullptr;
+    std::int64_t due = 0;
+    std::int64_t started = 0;
+  };
+
+  void Start(Timer& timer);
+  void Stop(const Timer& timer);
+  Entry* NextDue(std::int64_t until);
+
+  std::int64_t now_ = 0;
+  std::int64_t starts_ = 0;
+  std::vector<Entry> entries_;
+};
+
+}  // namespace pawnfield
