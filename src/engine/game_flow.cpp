@@ -1,0 +1,267 @@
+#include "engine/game_flow.h"
+
+#include <array>
+
+#include "config/settings.h"
+#include "engine/options.h"
+#include "engine/question_cycle.h"
+#include "engine/set_choice.h"
+#include "engine/show.h"
+#include "engine/turn_order.h"
+#include "engine/win_detection.h"
+#include "platform/text.h"
+#include "presentation/board_layout.h"
+#include "presentation/both_screens.h"
+#include "sets/set_file.h"
+
+namespace pawnfield {
+
+namespace {
+
+// The lamps chase only where the pads' lamps are the program's to drive.
+void StartChaseLight(Show& show) {
+  if (show.state.SerialComm == 0 || show.state.SerialComm == 2) show.frmMain.tmrRotate.Enabled = true;
+}
+
+void StopPlayTimers(Show& show) {
+  show.frmMain.tmrMainTimer.Enabled = false;
+  show.frmMain.tmrNonBuzzer.Enabled = false;
+}
+
+int SelectedGameType(const MainForm& form) {
+  for (std::size_t i = 0; i < 5; ++i) {
+    if (form.optGameType[i].Value) return static_cast<int>(i) + 1;
+  }
+  return 0;
+}
+
+void StartNewGame(Show& show) {
+  show.state.GameType = SelectedGameType(show.frmMain);
+  StartChaseLight(show);
+  StopPlayTimers(show);
+  btnReset_Click(show);
+}
+
+void AskGameInProgress(Show& show) {
+  GameInProgressForm& form = show.frmGameInProgress;
+  bool startNew = false;
+  form.btnReset.OnClick = [&] {
+    startNew = true;
+    form.Unload();
+  };
+  form.btnCancel.OnClick = [&] { form.Unload(); };
+  show.platform.dialogs.ShowModal(form);
+  form.btnReset.OnClick = nullptr;
+  form.btnCancel.OnClick = nullptr;
+  if (startNew) {
+    StartNewGame(show);
+  } else {
+    show.frmMain.optGameType[static_cast<std::size_t>(show.state.GameType - 1)].SelectInGroup();
+  }
+}
+
+void SetListForType(ComboBox& list, int gameType) {
+  if (IsChallengeType(gameType)) {
+    if (list.Enabled && list.Visible) list.ListIndex = 0;
+    list.Enabled = false;
+  } else if (gameType == kTriviaModeC) {
+    if (list.ListIndex == 0) list.Enabled = true;
+    if (list.Visible) list.ListIndex = 0;
+  } else {
+    list.Enabled = true;
+    if (list.Visible) list.ListIndex = 0;
+  }
+}
+
+void StartChallenge(Show& show) {
+  GiveTurnTo(show, 1);
+  SetCursorOnBoth(show, 1);
+  show.state.GameLoaded = true;
+  show.state.PlacementOpen = true;
+}
+
+void StartTrivia(Show& show) {
+  GameState& state = show.state;
+  MainForm& form = show.frmMain;
+  if (!state.GameLoaded) {
+    state.PlacementOpen = false;
+    return;
+  }
+  state.CurrentQuestion = 0;
+  const std::string first = Trim(show.GameSet[0].QuestionText);
+  form.lblQuestion[0].Caption = first;
+  if (state.DualScreen) show.frmFSMain.lblQuestion[0].Caption = first;
+  ShowQuestion(show, 0);
+  form.btnContinue.Enabled = false;
+  form.btnSkipQuestion.Enabled = true;
+  state.PlacementOpen = true;
+  form.cboList.ListIndex = 0;
+  if (state.GameType == kTriviaModeC) {
+    form.btnCorrect.Enabled = false;
+    ShowVerdictButtons(show, false, false);
+    state.CurrentPlayer = 0;
+  } else {
+    GiveTurnTo(show, 1);
+  }
+}
+
+// The cursor that fits the moment at which the board comes back from standby.
+int CursorAfterStandby(const Show& show) {
+  const MainForm& form = show.frmMain;
+  if (IsChallengeType(show.state.GameType)) return show.state.CurrentPlayer;
+  const bool between = form.btnStart.Visible && !show.state.PlacementOpen && form.btnContinue.Enabled;
+  return between || form.btnStart.Enabled ? 0 : show.state.CurrentPlayer;
+}
+
+}  // namespace
+
+void optGameType_Click(Show& show, int index) {
+  MainForm& form = show.frmMain;
+  if (!show.state.GameInProgress) {
+    show.state.GameType = index + 1;
+    btnReset_Click(show);
+    if (IsChallengeType(show.state.GameType)) form.btnStart.Enabled = true;
+  } else if (index + 1 != show.state.GameType) {
+    AskGameInProgress(show);
+  }
+  // The answer decides which type the controls follow, not the click.
+  const int gameType = show.state.GameType;
+  SetListForType(form.cboList, gameType);
+  form.lblSelectPlayer.Visible = gameType == kTriviaModeC;
+  form.btnNextPlayer.Visible = gameType != kTriviaModeC;
+  form.tmrArrowsTimer.Enabled = true;
+}
+
+void ApplyPlayerLayout(Show& show, int players) {
+  MainForm& form = show.frmMain;
+  const bool three = players == 3;
+  form.txtPlayerName[2].Visible = three && form.txtPlayerName[0].Visible;
+  show.frmPlayerNames.chkPlayer3Penalty.Visible = three;
+  form.picPlayer3.Visible = three;
+  form.lblPlayer3Score.Visible = three;
+  form.picP3Score.Visible = three;
+  for (std::size_t i = 0; i < 6; ++i) {
+    form.btnScore3Up[i].Visible = three;
+    form.btnScore3Dn[i].Visible = three;
+  }
+  if (!show.state.DualScreen) return;
+  show.frmFSMain.picPlayer[2].Visible = three;
+  show.frmFSMain.picPlayer3Score.Visible = three;
+  show.frmFSMain.lblPlayer[2].Visible = three;
+  show.frmFSMain.Label11[2].Visible = three;
+}
+
+void optPlayers_Click(Show& show, int index) {
+  show.state.Players = index + 2;
+  ApplyPlayerLayout(show, show.state.Players);
+  const bool focusVanished = index == 0 && !show.frmMain.MouseIcon->empty() &&
+                             show.frmMain.MouseIcon == show.frmMain.imgCursor[3].Picture.Get();
+  if (focusVanished) btnNextPlayer_Click(show);
+}
+
+void optGridControl_Click(Show& show, int index) {
+  GameState& state = show.state;
+  HidePanel(show, Panel::Winner);
+  fileClearAllScores_Click(show);
+  state.GridSize = index + 3;
+  state.Lamp1 = kLampOff;
+  state.Lamp2 = kLampOff;
+  state.Lamp3 = kLampOn;
+  state.CurrentPlayer = 3;
+  AdvanceToNextPlayer(show);
+  BuildGrid(show, state.GridSize);
+  state.LastSquareKey.clear();
+  state.LastPlayer = 0;
+  state.LastPoints = 0;
+}
+
+void cboAutoContinue_Click(Show& show) {
+  const int index = show.frmMain.cboAutoContinue.ListIndex;
+  if (index >= 0 && index <= 3) show.state.AutoContinue = index + 3;
+}
+
+void cboTimedResponse_Click(Show& show) {
+  constexpr std::array<int, 5> kSeconds{0, 3, 5, 7, 10};
+  const int index = show.frmMain.cboTimedResponse.ListIndex;
+  if (index >= 0 && index <= 4) show.state.TimedResponse = kSeconds[static_cast<std::size_t>(index)];
+}
+
+void cbxScore_Click(Show& show, int index) {
+  const int listIndex = show.frmMain.cbxScore[static_cast<std::size_t>(index)].ListIndex;
+  SaveSetting(show, index == 0 ? "Scoring" : "Bonus", std::to_string(listIndex));
+}
+
+void btnStart_Click(Show& show) {
+  MainForm& form = show.frmMain;
+  const bool ringIn = show.state.GameType == kTriviaModeC;
+  form.shpStart.Visible = false;
+  form.tmrArrowsTimer.Enabled = false;
+  form.lblListLeftArrow.Visible = false;
+  form.lblListRightArrow.Visible = false;
+  form.tmrRotate.Enabled = false;
+  if (IsChallengeType(show.state.GameType)) {
+    StartChallenge(show);
+  } else {
+    StartTrivia(show);
+  }
+  if (!ringIn) {
+    form.tmrMainTimer.Enabled = false;
+  } else {
+    form.tmrNonBuzzer.Enabled = false;
+    if (show.state.SerialComm != 8) form.tmrMainTimer.Enabled = true;
+  }
+  if (PanelVisible(show, Panel::Standby)) HidePanel(show, Panel::Standby);
+  form.btnStandbyMode.Enabled = true;
+  form.btnPlayMode.Enabled = false;
+  form.btnNextPlayer.Enabled = true;
+  form.btnStart.Enabled = false;
+}
+
+void btnPlayMode_Click(Show& show) {
+  MainForm& form = show.frmMain;
+  const bool ringIn = show.state.GameType == kTriviaModeC;
+  form.tmrRotate.Enabled = false;
+  form.tmrMainTimer.Enabled = ringIn;
+  form.tmrNonBuzzer.Enabled = !ringIn;
+  HidePanel(show, Panel::Standby);
+  SetConsoleCursor(show, CursorAfterStandby(show));
+  LightScoreBox(show, show.state.CurrentPlayer);
+  form.btnStandbyMode.Enabled = true;
+  form.btnPlayMode.Enabled = false;
+}
+
+void btnStandbyMode_Click(Show& show) {
+  StopPlayTimers(show);
+  StartChaseLight(show);
+  ShowPanel(show, Panel::Standby);
+  SetConsoleCursor(show, 0);
+  LightScoreBox(show, 0);
+  show.frmMain.btnPlayMode.Enabled = true;
+  show.frmMain.btnStandbyMode.Enabled = false;
+}
+
+void btnReset_Click(Show& show) {
+  if (!show.state.GameLoaded) return;
+  ResetGameBoard(show);
+  ResetGameSet(show);
+  LightScoreBox(show, 0);
+  StopShowing(show);
+  EnableOptions(show);
+  StopPlayTimers(show);
+  StartChaseLight(show);
+}
+
+void btnEndGame_Click(Show& show) {
+  if (!PanelVisible(show, Panel::Standby)) GameOver(show);
+}
+
+void fileClearAllScores_Click(Show& show) {
+  ResetScores(show);
+  ClearBoardPictures(show);
+  ClearBoardArray(show);
+  GiveTurnTo(show, 1);
+}
+
+void PlaceAudienceScreen(Show& show) { show.frmFSMain.Left = show.state.FullScreenGameBoard ? 0 : show.state.FSLeft; }
+
+}  // namespace pawnfield

@@ -1,0 +1,16 @@
+// Gives every control of every form its handler, and every form its guard and its clock. The one place where controls
+// and rooms meet.
+#pragma once
+
+#include <vector>
+
+#include "platform/controls.h"
+
+namespace pawnfield {
+
+struct Show;
+
+void AttachHandlers(Show& show);
+std::vector<Form*> AllForms(Show& show);
+
+}  // namespace pawnfield

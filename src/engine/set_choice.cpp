@@ -1,0 +1,98 @@
+#include "engine/set_choice.h"
+
+#include "engine/game_flow.h"
+#include "engine/options.h"
+#include "engine/question_cycle.h"
+#include "engine/show.h"
+#include "engine/turn_order.h"
+#include "presentation/board_layout.h"
+#include "presentation/both_screens.h"
+#include "sets/media_paths.h"
+#include "sets/set_file.h"
+
+namespace pawnfield {
+
+namespace {
+
+constexpr const char* kFirstListItem = "Select Game Set";
+
+void ClearForNewSet(Show& show) {
+  StopShowing(show);
+  LightScoreBox(show, 0);
+  ResetGameBoard(show);
+  ResetGameSet(show);
+}
+
+void ReadySet(Show& show) {
+  MainForm& form = show.frmMain;
+  GameState& state = show.state;
+  form.tmrWinner.Enabled = false;
+  form.tmrAutoContinue.Enabled = false;
+  // With its timer goes the winner, which would cover the board of the next game.
+  HidePanel(show, Panel::Winner);
+  state.GameLoaded = true;
+  state.GameInProgress = false;
+  form.btnStart.Enabled = true;
+  form.btnCorrect.Enabled = false;
+  SetBuzzerStates(show, false, false, false);
+  form.picStandby.Visible = false;
+  LightScoreBox(show, 1);
+  SetConsoleCursor(show, 0);
+  state.CurrentQuestion = 0;
+  if (state.DualScreen) {
+    show.frmFSMain.imgStandby.Picture = form.imgStandby.Picture;
+    show.frmFSMain.picStandby.Visible = false;
+    show.frmFSMain.picSound.Visible = false;
+    PlaceAudienceScreen(show);
+  }
+  form.btnUndo.Enabled = false;
+  ExpandMediaPaths(show);
+  EnableOptions(show);
+}
+
+void ShowReadyBoard(Show& show) {
+  MainForm& form = show.frmMain;
+  form.btnPlayMode.Enabled = false;
+  form.btnStandbyMode.Enabled = true;
+  for (const Panel panel : {Panel::Question, Panel::Sound, Panel::QuestionPicture}) HidePanel(show, panel);
+  form.btnContinue.Visible = true;
+  form.btnStart.Visible = true;
+}
+
+}  // namespace
+
+void StopShowing(Show& show) {
+  MainForm& form = show.frmMain;
+  for (Timer* timer : {&form.tmrAutoContinue, &form.tmr5QuestionTimer, &form.tmrBonus}) timer->Enabled = false;
+  for (const Panel panel : {Panel::Question, Panel::QuestionPicture, Panel::Sound, Panel::Bonus})
+    HidePanel(show, panel);
+  if (show.state.DualScreen) show.frmFSMain.picHideQuestion.Visible = false;
+  ShowVerdictButtons(show, false, false);
+}
+
+void btnSelectGame_Click(Show& show) {
+  ClearForNewSet(show);
+  ApplyPlayerLayout(show, show.state.Players);
+  BuildFSGrid(show, show.state.GridSize);
+  const std::string path =
+      show.platform.dialogs.ChooseFile({"Open", "Game Sets(*.txt)|*.txt", show.state.SetsFolder, false});
+  if (!path.empty() && LoadGameSet(show, path)) ReadySet(show);
+  ShowReadyBoard(show);
+}
+
+void cboList_DropDown(Show& show) {
+  show.frmMain.cboList.Clear();
+  FillSetList(show);
+}
+
+void cboList_Click(Show& show) {
+  const std::string name = show.frmMain.cboList.Text();
+  if (name == kFirstListItem || name.empty()) return;
+  ClearForNewSet(show);
+  if (!LoadGameSet(show, show.AppPath("\\Trivia Sets\\" + name + ".txt"))) return;
+  ResetPlayerNames(show);
+  ReadySet(show);
+  ShowReadyBoard(show);
+}
+
+}  // namespace pawnfield

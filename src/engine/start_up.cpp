@@ -1,0 +1,139 @@
+#include "engine/start_up.h"
+
+#include <cmath>
+
+#include "config/settings.h"
+#include "engine/errors.h"
+#include "engine/handlers.h"
+#include "engine/main_load.h"
+#include "engine/show.h"
+#include "platform/text.h"
+
+namespace pawnfield {
+
+namespace {
+
+constexpr double kTwipsPerPixel = 15;
+constexpr int kManualMode = 6;
+
+// The audience screen is in use where a second monitor is; without one it would stand off the right edge.
+void ReadMonitors(Show& show) {
+  const auto monitors = show.platform.displays.Enumerate();
+  show.state.DualScreen = monitors.size() >= 2;
+  if (show.state.DualScreen) {
+    show.state.FSLeft = static_cast<int>(monitors[1].Left * kTwipsPerPixel);
+  } else if (!monitors.empty()) {
+    show.state.FSLeft = static_cast<int>((monitors[0].Right - monitors[0].Left) * kTwipsPerPixel);
+  }
+}
+
+void ShowAudienceInManualMode(Show& show) {
+  if (!show.state.DualScreen) return;
+  show.frmFSMain.Left = show.state.FSLeft;
+  show.frmFSMain.Visible = true;
+}
+
+}  // namespace
+
+bool ScanForSiblings(Show& show, ScanMode mode) {
+  constexpr const char* kFamily = "OSTARA";
+  Processes& processes = show.platform.processes;
+  for (const ProcessInfo& process : processes.List()) {
+    const bool sibling = process.Caption.size() > 5 && ToUpper(process.Caption.substr(0, 6)) == kFamily &&
+                         process.Handle != processes.CurrentId();
+    if (!sibling) continue;
+    if (mode == ScanMode::Tell) {
+      show.platform.dialogs.MessageBox(process.Caption + " is already running. Please close that instance first.",
+                                       kAppTitle, BoxKind::Critical);
+      processes.Activate(process.Handle);
+      processes.EndProgram();
+    }
+    return true;
+  }
+  return false;
+}
+
+void PrepareDataFolders(Show& show) {
+  FileSystem& files = show.platform.files;
+  const std::string& root = show.platform.folders.DataRoot;
+  if (!files.FolderExists(root)) files.CreateFolder(root);
+  for (const char* name :
+       {"Ostara Panel Pro 4", "Ostara Clash", "Pawnfield", "Ostara Wheelhouse", "Ostara Bargain", "BackgroundMusic"}) {
+    const std::string folder = root + "\\" + name;
+    if (!files.FolderExists(folder)) files.CreateFolder(folder);
+  }
+}
+
+void Main(Show& show) {
+  AttachHandlers(show);
+  Processes& processes = show.platform.processes;
+  if (!processes.ClaimSingleInstance()) {
+    show.platform.dialogs.MessageBox(
+        "There is already an instance of this application open. Please close that instance first.", kAppTitle,
+        BoxKind::Critical);
+    processes.Activate(0);
+    processes.EndProgram();
+    return;
+  }
+  if (ScanForSiblings(show, ScanMode::Tell)) return;
+  show.frmLoading.Visible = true;
+  RunGuarded(
+      show.platform.dialogs, [&] { PrepareDataFolders(show); }, "modMain", "PrepareDataFolders");
+  ReadMonitors(show);
+  show.frmAlwaysLoaded.tmrAlwaysLoaded.Enabled = true;
+}
+
+void tmrAlwaysLoaded_Timer(Show& show) {
+  show.frmAlwaysLoaded.tmrAlwaysLoaded.Enabled = false;
+  show.frmLoading.Visible = false;
+  show.frmSplash.imgBG.Picture = show.AppPath("\\Images\\Standby.jpg");
+  show.frmSplash.Visible = true;
+  show.frmSplash.tmrProgress.Enabled = true;
+}
+
+void tmrProgress_Timer(Show& show) {
+  constexpr double kStep = 500;
+  constexpr double kMargin = 100;
+  SplashForm& form = show.frmSplash;
+  const double full = form.Width - kMargin;
+  form.oProgress.Width = std::fmin(form.oProgress.Width + kStep, full);
+  if (form.oProgress.Width < full) return;
+  form.tmrProgress.Enabled = false;
+  form.tmrSplash.Enabled = true;
+}
+
+void tmrSplash_Timer(Show& show) {
+  show.frmSplash.tmrSplash.Enabled = false;
+  show.platform.dialogs.MessageBox("No hardware was detected so you will be loaded in manual mode.", kAppTitle,
+                                   BoxKind::Plain);
+  show.state.SerialComm = kManualMode;
+  ShowAudienceInManualMode(show);
+  LoadMainForm(show);
+  show.frmSplash.Visible = false;
+}
+
+bool Form_QueryUnload(Show& show) {
+  Displays& displays = show.platform.displays;
+  displays.SetTopMost(show.frmMain, true);
+  const BoxAnswer answer =
+      show.platform.dialogs.MessageBox("Are you sure you want to exit?", kAppTitle, BoxKind::YesNoCancel);
+  displays.SetTopMost(show.frmMain, false);
+  return answer == BoxAnswer::Yes;
+}
+
+void fileExit(Show& show) {
+  MainForm& form = show.frmMain;
+  for (Timer* timer :
+       {&form.tmr5QuestionTimer, &form.tmrAnswer, &form.tmrArrowsTimer, &form.tmrAutoContinue, &form.tmrBGMusic,
+        &form.tmrBonus, &form.tmrExternalCtrlFlasher, &form.tmrFlipPlayerPiece, &form.tmrMainTimer, &form.tmrNonBuzzer,
+        &form.tmrOptionalHeaders, &form.tmrRotate, &form.tmrWinner}) {
+    timer->Enabled = false;
+  }
+  // Settings that can't be saved are told, and the program ends all the same.
+  RunGuarded(
+      show.platform.dialogs, [&] { SaveAllSettings(show); }, "frmMain", "fileExit");
+  for (Form* other : AllForms(show)) other->Visible = false;
+  show.platform.processes.EndProgram();
+}
+
+}  // namespace pawnfield
