@@ -3,9 +3,9 @@
 
 #include <string>
 
-namespace pawnfield {
+#include "engine/show.h"
 
-struct Show;
+namespace pawnfield {
 
 inline constexpr int kSoundBuzzer1 = 1;  // 1, 2, 3: the players' ring-in clips.
 inline constexpr int kSoundCorrect = 4;
@@ -18,6 +18,11 @@ inline constexpr int kSoundBankCount = 3;
 
 // The entry of the bank in use (SoundSet); empty when the effect is off or the row or bank is out of range.
 std::string SoundEntry(const Show& show, int row);
+
+// The file's 102 lines, bank after bank, to the entries and back. False when lines are missing: their entries are
+// empty.
+bool ParseSoundTable(const std::string& bytes, SoundBanks& banks);
+std::string FormatSoundTable(const SoundBanks& banks);
 
 // Reads Sounds.dat. False when it is missing or short; entries read so far stand, an absent file leaves the table
 // alone.

@@ -108,7 +108,9 @@ struct TextSize {
 };
 
 // Measures text as a label that wraps at words and sizes itself: the width is wrapWidth, or the widest word's width
-// where that is more. All in twips.
+// where that is more. All in twips. Every advance and line height is exactly proportional to the font's size: measuring
+// is as if done at one large reference size without hinting, with the text wrapped at the width scaled to it. A text
+// that fits a box at one size thus fits it at every smaller one, which the search for a fitting size relies on.
 class TextMeasurer {
  public:
   virtual ~TextMeasurer() = default;

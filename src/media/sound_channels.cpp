@@ -1,0 +1,78 @@
+#include "media/sound_channels.h"
+
+#include "config/settings.h"
+#include "engine/show.h"
+
+namespace pawnfield {
+
+namespace {
+
+constexpr int kDefaultVolume = 75;
+constexpr int kLoudest = 100;
+
+// The position comes first, so that a channel that is given the file it has starts it anew.
+void Play(MediaChannel& channel, const std::string& path) {
+  channel.SetPosition(0);
+  channel.SetUrl(path);
+}
+
+void LoadVolume(Show& show, const std::string& key, int& volume, MediaChannel& channel) {
+  volume = GetIntSetting(show, key, kDefaultVolume);
+  if (volume < 0 || volume > kLoudest) volume = kDefaultVolume;
+  channel.SetVolume(volume);
+}
+
+void btnStopSounds_Click(Show& show) {
+  StopSoundClip(show);
+  StopEvent(show);
+  StopKeyPress(show);
+}
+
+void optSoundBank_Click(Show& show, std::size_t index) { show.state.SoundSet = static_cast<int>(index) + 1; }
+
+}  // namespace
+
+void PlayKeyPress(Show& show, const std::string& path) { Play(show.platform.media.KeyPressPlayer, path); }
+
+void PlayEvent(Show& show, const std::string& path) { Play(show.platform.media.EventPlayer, path); }
+
+void PlaySoundClip(Show& show, const std::string& path) { Play(show.platform.media.SoundClipPlayer, path); }
+
+void PlayCorrectIncorrect(Show& show, const std::string& path) {
+  Play(show.platform.media.CorrectIncorrectPlayer, path);
+}
+
+void StopKeyPress(Show& show) { show.platform.media.KeyPressPlayer.Stop(); }
+
+void StopEvent(Show& show) { show.platform.media.EventPlayer.Stop(); }
+
+void StopSoundClip(Show& show) { show.platform.media.SoundClipPlayer.Stop(); }
+
+void RestartBackground(Show& show) { show.platform.media.BackgroundPlayer.SetPosition(0); }
+
+void StopBackground(Show& show) { show.platform.media.BackgroundPlayer.Stop(); }
+
+void PauseBackground(Show& show) { show.platform.media.BackgroundPlayer.Pause(); }
+
+void LoadVolumes(Show& show) {
+  GameState& state = show.state;
+  const MediaChannels& media = show.platform.media;
+  LoadVolume(show, "EventPlayerVolume", state.EventPlayerVolume, media.EventPlayer);
+  LoadVolume(show, "KeyPressPlayerVolume", state.KeyPressPlayerVolume, media.KeyPressPlayer);
+  LoadVolume(show, "SoundClipPlayerVolume", state.SoundClipPlayerVolume, media.SoundClipPlayer);
+  LoadVolume(show, "BackgroundPlayerVolume", state.BackgroundPlayerVolume, media.BackgroundPlayer);
+  LoadVolume(show, "CorrectIncorrectVolume", state.CorrectIncorrectVolume, media.CorrectIncorrectPlayer);
+}
+
+void BindSoundChannels(Show& show) {
+  MainForm& form = show.frmMain;
+  form.btnPlay.OnClick = [&show] { PlaySoundClip(show, show.frmMain.lblQuestion[0].Caption); };
+  form.btnStop.OnClick = [&show] { StopSoundClip(show); };
+  form.btnStopSounds.OnClick = [&show] { btnStopSounds_Click(show); };
+  for (std::size_t i = 0; i < form.optSoundBank.Size(); ++i) {
+    form.optSoundBank[i].OnClick = [&show, i] { optSoundBank_Click(show, i); };
+  }
+  form.btnSounds.Enabled = false;
+}
+
+}  // namespace pawnfield
