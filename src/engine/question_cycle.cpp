@@ -85,6 +85,8 @@ void ShowNotice(ControlArray<Label, 5>& labels, double size) {
 }
 
 void Advance(Show& show) {
+  // The next question replaces the notice, which must not take the question down when its own time is up.
+  if (show.frmMain.tmr5QuestionTimer.Enabled) tmr5QuestionTimer_Timer(show);
   ++show.state.CurrentQuestion;
   const std::string text = Trim(QuestionAt(show, show.state.CurrentQuestion).QuestionText);
   show.frmMain.lblQuestion[0].Caption = text;

@@ -67,7 +67,7 @@ void PrepareDataFolders(Show& show) {
 void Main(Show& show) {
   AttachHandlers(show);
   Processes& processes = show.platform.processes;
-  if (!processes.ClaimSingleInstance()) {
+  if (processes.AnotherInstanceRuns()) {
     show.platform.dialogs.MessageBox(
         "There is already an instance of this application open. Please close that instance first.", kAppTitle,
         BoxKind::Critical);

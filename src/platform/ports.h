@@ -150,7 +150,7 @@ class Processes {
  public:
   virtual ~Processes() = default;
   // True when this user already runs the program; otherwise marks it as running for the life of the process.
-  virtual bool ClaimSingleInstance() = 0;
+  virtual bool AnotherInstanceRuns() = 0;
   virtual std::vector<ProcessInfo> List() const = 0;
   virtual std::int64_t CurrentId() const = 0;
   // Brings that process's window to the front; 0 means the other instance of this program.

@@ -44,7 +44,7 @@ class SimDisplays : public Displays {
 
 class SimProcesses : public Processes {
  public:
-  bool ClaimSingleInstance() override { return AlreadyRuns; }
+  bool AnotherInstanceRuns() override { return AlreadyRuns; }
   std::vector<ProcessInfo> List() const override { return Others; }
   std::int64_t CurrentId() const override { return 4711; }
   void Activate(std::int64_t id) override { Activated.push_back(id); }
