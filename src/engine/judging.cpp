@@ -36,7 +36,7 @@ void WriteVerdict(Label& words, Image& picture, const Verdict& verdict, const st
 }
 
 void ShowVerdictPicture(Show& show, const Verdict& verdict) {
-  const std::string path = LoadPicture(show, verdict.Picture, "ShowVerdictPicture");
+  const std::string path = PicturePath(show, verdict.Picture);
   PlayCorrectIncorrect(show, show.AppPath(verdict.Sting));
   WriteVerdict(show.frmMain.lblRightWrong, show.frmMain.imgCorrect, verdict, path);
   if (show.state.DualScreen) WriteVerdict(show.frmFSMain.lblRightWrong, show.frmFSMain.imgCorrect, verdict, path);

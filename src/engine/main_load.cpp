@@ -25,7 +25,7 @@ int IntInRange(Show& show, const std::string& key, int fallback, int low, int hi
 
 // The pictures that the forms are made with: squares, labels, panels.
 void SetDesignPictures(Show& show) {
-  const auto picture = [&show](const std::string& tail) { return LoadPicture(show, "\\Images\\" + tail, "Form_Load"); };
+  const auto picture = [&show](const std::string& tail) { return PicturePath(show, "\\Images\\" + tail); };
   MainForm& form = show.frmMain;
   FSMainForm& audience = show.frmFSMain;
   form.imgBkgnd.Picture = picture("Blank.bmp");
@@ -220,7 +220,7 @@ void ShowIdleBoard(Show& show) {
   state.CurrentPlayer = 0;
   SetBuzzerStates(show, false, false, false);
   form.btnCorrect.Enabled = false;
-  form.imgDJEntry.Picture = LoadPicture(show, "\\Images\\Neutral.bmp", "Form_Load");
+  form.imgDJEntry.Picture = PicturePath(show, "\\Images\\Neutral.bmp");
   HidePanel(show, Panel::Question);
   ShowPanel(show, Panel::Standby);
   // Only here does Trivia Mode A differ from Trivia Mode B.
@@ -247,14 +247,21 @@ void ShowIdleBoard(Show& show) {
   }
 }
 
+// All six are tried before the first that is missing is told.
 void LoadPieces(Show& show) {
   MainForm& form = show.frmMain;
-  const std::array names{"X", "O", "T"};
-  for (int player = 1; player <= 3; ++player) {
-    const std::string stem = std::string("\\Images\\") + names[static_cast<std::size_t>(player - 1)];
-    form.FaceA(player).Picture = LoadPicture(show, stem + "-100a.bmp", "Form_Load");
-    form.FaceB(player).Picture = LoadPicture(show, stem + "-100b.bmp", "Form_Load");
-  }
+  std::string missing;
+  const auto load = [&](Image& face, const std::string& tail) {
+    face.Picture = PicturePath(show, tail);
+    if (face.Picture->empty() && missing.empty()) missing = show.AppPath(tail);
+  };
+  load(form.imgXa, "\\Images\\X-100a.bmp");
+  load(form.imgXb, "\\Images\\X-100b.bmp");
+  load(form.imgOa, "\\Images\\O-100a.bmp");
+  load(form.imgOb, "\\Images\\O-100b.bmp");
+  load(form.imgTa, "\\Images\\T-100a.bmp");
+  load(form.imgTb, "\\Images\\T-100b.bmp");
+  if (!missing.empty()) throw RuntimeError(kErrorFileNotFound, "File not found: " + missing);
 }
 
 void RunStep(Show& show, void (*step)(Show&)) {

@@ -96,17 +96,21 @@ void SetCursorOnBoth(Show& show, int player) {
   if (show.state.DualScreen) show.frmFSMain.MouseIcon = show.frmMain.MouseIcon;
 }
 
-std::string LoadPicture(Show& show, const std::string& tail, const std::string& procedure) {
+std::string PicturePath(Show& show, const std::string& tail) {
   const std::string path = show.AppPath(tail);
   const auto [entry, isNew] = show.PictureFound.try_emplace(path, false);
-  if (isNew) {
-    entry->second = show.platform.files.CanOpen(path);
-    if (!entry->second) {
-      ReportError(show.platform.dialogs, RuntimeError(kErrorFileNotFound, "File not found"), "frmMain", procedure,
-                  path);
-    }
-  }
+  if (isNew) entry->second = show.platform.files.CanOpen(path);
   return entry->second ? path : "";
+}
+
+std::string LoadPicture(Show& show, const std::string& tail, const std::string& procedure) {
+  const bool asked = show.PictureFound.contains(show.AppPath(tail));
+  const std::string path = PicturePath(show, tail);
+  if (path.empty() && !asked) {
+    ReportError(show.platform.dialogs, RuntimeError(kErrorFileNotFound, "File not found"), "frmMain", procedure,
+                show.AppPath(tail));
+  }
+  return path;
 }
 
 }  // namespace pawnfield

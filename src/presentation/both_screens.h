@@ -32,8 +32,9 @@ void SetSquarePicture(Show& show, int row, int column, const std::string& pictur
 void SetConsoleCursor(Show& show, int player);
 void SetCursorOnBoth(Show& show, int player);
 
-// The path of a picture of the program's folder, for a control to show. A file that can't be opened is reported through
-// the shared error box the first time, and the control shows nothing.
+// The path of a picture of the program's folder, for a control to show; empty when the file can't be opened.
+std::string PicturePath(Show& show, const std::string& tail);
+// The same, and a file that can't be opened is reported through the shared error box the first time it is asked for.
 std::string LoadPicture(Show& show, const std::string& tail, const std::string& procedure);
 
 }  // namespace pawnfield
