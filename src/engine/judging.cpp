@@ -162,7 +162,7 @@ void btnUndo_Click(Show& show) {
   TakeBackClaim(show);
   state.LastPoints = 0;
   state.LastPlayer = 0;
-  ChangeCursor(show);
+  SetConsoleCursor(show, state.CurrentPlayer);
 }
 
 }  // namespace pawnfield

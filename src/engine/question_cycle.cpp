@@ -2,6 +2,7 @@
 
 #include <cmath>
 
+#include "engine/errors.h"
 #include "engine/options.h"
 #include "engine/show.h"
 #include "engine/turn_order.h"
@@ -31,11 +32,14 @@ Font FontOf(const TriviaQuestion& question) {
   return {question.FontName, kDefaultSize, question.FontBold, question.FontItalic};
 }
 
-Color ColorOf(const TriviaQuestion& question) {
-  if (IsBlank(question.FontColor)) return kWhite;
-  const auto number = ParseNumber(question.FontColor);
-  if (!number) throw RuntimeError(kErrorTypeMismatch, "Type mismatch");
-  return static_cast<Color>(std::fmod(*number, 16777216.0));
+// The console's label takes the question's colour. One that is no number is told, and the fit's white stays.
+void ColorQuestion(Show& show, const TriviaQuestion& question) {
+  if (IsBlank(question.FontColor)) return;
+  if (const auto number = ParseNumber(question.FontColor)) {
+    show.frmMain.lblQuestion[0].ForeColor = static_cast<Color>(std::fmod(*number, 16777216.0));
+    return;
+  }
+  ReportError(show.platform.dialogs, RuntimeError(kErrorTypeMismatch, "Type mismatch"), "frmMain", "ShowQuestion");
 }
 
 // Offers the verdict, opens the ring-in where players ring in, and locks the options.
@@ -68,8 +72,7 @@ void ShowTextQuestion(Show& show) {
   if (show.state.DualScreen) SetQuestion(show, text, show.frmFSMain.lblQuestion);
   OpenQuestion(show);
   if (show.state.GameType == kTriviaModeC) show.frmMain.btnCorrect.Enabled = false;
-  // Last, so that a colour that is no number leaves a whole question behind its message. The console alone takes it.
-  show.frmMain.lblQuestion[0].ForeColor = ColorOf(question);
+  ColorQuestion(show, question);
 }
 
 void WriteNotice(Label& label, double size) {

@@ -52,11 +52,11 @@ void SetBuzzerStates(Show& show, bool player1, bool player2, bool player3) {
   show.frmMain.btnBuzzer[2].Enabled = player3;
 }
 
-void ChangeCursor(Show& show) { SetConsoleCursor(show, show.state.CurrentPlayer); }
+void ChangeCursor(Show& show) { SetCursorOnBoth(show, show.state.CurrentPlayer); }
 
 void btnNextPlayer_Click(Show& show) {
   AdvanceToNextPlayer(show);
-  if (IsChallengeType(show.state.GameType)) ChangeCursor(show);
+  if (IsChallengeType(show.state.GameType)) SetConsoleCursor(show, show.state.CurrentPlayer);
 }
 
 }  // namespace pawnfield

@@ -10,7 +10,7 @@ void AdvanceToNextPlayer(Show& show);
 // Makes player n the one with the turn: lamps, score box, corner piece, colour of the typed command, CurrentPlayer.
 void GiveTurnTo(Show& show, int player);
 void SetBuzzerStates(Show& show, bool player1, bool player2, bool player3);
-// The console's cursor follows CurrentPlayer.
+// The cursor of both screens follows CurrentPlayer.
 void ChangeCursor(Show& show);
 
 void btnNextPlayer_Click(Show& show);

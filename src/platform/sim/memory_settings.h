@@ -23,6 +23,8 @@ class MemorySettings : public SettingsStore {
 
   // Key and value of every save, in order.
   std::vector<std::pair<std::string, std::string>> Writes;
+  // The next save keeps nothing and throws error 61.
+  bool FailNextSave = false;
 
  private:
   std::map<std::string, std::string> values_;
