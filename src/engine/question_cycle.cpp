@@ -221,8 +221,8 @@ void tmrRotate_Timer(Show& show) {
   const std::string a = show.frmMain.lblP1Score.Caption;
   const std::string b = show.frmMain.lblP2Score.Caption;
   const std::string c = show.frmMain.lblP3Score.Caption;
-  const int on = state.MicsOnWithBuzzer ? '2' : '3';
-  const int off = state.MicsOnWithBuzzer ? '0' : '1';
+  const int on = state.MicsOnWithBuzzer ? int{'2'} : int{'3'};
+  const int off = state.MicsOnWithBuzzer ? int{'0'} : int{'1'};
   if (state.Lamp1 != on && state.Lamp2 != on && state.Lamp3 != on) state.Lamp1 = on;
   if (++state.RotateCount <= 11 - state.LedSpeed) return;
   const auto light = [&](int lit, const std::string& code1, const std::string& code2, const std::string& code3) {

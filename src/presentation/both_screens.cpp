@@ -105,7 +105,7 @@ std::string PicturePath(Show& show, const std::string& tail) {
 
 std::string LoadPicture(Show& show, const std::string& tail, const std::string& procedure) {
   const bool asked = show.PictureFound.contains(show.AppPath(tail));
-  const std::string path = PicturePath(show, tail);
+  std::string path = PicturePath(show, tail);
   if (path.empty() && !asked) {
     ReportError(show.platform.dialogs, RuntimeError(kErrorFileNotFound, "File not found"), "frmMain", procedure,
                 show.AppPath(tail));
