@@ -75,9 +75,9 @@ void PlaceCopies(ControlArray<Label, 5>& labels, int distance, Color edge) {
 }  // namespace
 
 // A measurer scales linearly, so a text that fits at a size fits at every smaller one, and halving finds the very size
-// that stepping down from the top finds.
+// that stepping down from the top finds. An empty text takes no room at any size.
 int FittingSize(const TextMeasurer& measurer, const Font& font, const std::string& text, const FitLimits& limits) {
-  if (Fits(measurer, font, text, limits, limits.FirstSize)) return limits.FirstSize;
+  if (text.empty() || Fits(measurer, font, text, limits, limits.FirstSize)) return limits.FirstSize;
   int fitting = kSmallestTried - 1;
   int tooLarge = limits.FirstSize;
   while (tooLarge - fitting > 1) {
