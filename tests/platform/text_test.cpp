@@ -1,0 +1,101 @@
+#include "platform/text.h"
+
+#include <gtest/gtest.h>
+
+#include "platform/line_reader.h"
+
+namespace pawnfield {
+namespace {
+
+TEST(Text, TrimRemovesBlanksAndNothingElse) {
+  const std::pair<const char*, const char*> cases[] = {{"", ""},        {"   ", ""},      {"  a b  ", "a b"},
+                                                       {"\ta ", "\ta"}, {"\r\n", "\r\n"}, {"\xA0x\xA0", "\xA0x\xA0"}};
+  for (const auto& [text, trimmed] : cases) EXPECT_EQ(Trim(text), trimmed) << '[' << text << ']';
+}
+
+TEST(Text, CaseChangesLeaveTheUpperHalfOfTheCodePageAlone) {
+  EXPECT_EQ(ToLower("AZ\xC9[@`{"), "az\xC9[@`{");
+  EXPECT_EQ(ToUpper("az\xE9[@`{"), "AZ\xE9[@`{");
+}
+
+TEST(Text, PathPartsSplitAtTheLastBackslashAndTheFirstDot) {
+  EXPECT_EQ(ExtractFolder("C:\\Shows\\a.txt"), "C:\\Shows\\");
+  EXPECT_EQ(ExtractFileName("C:\\Shows\\a.txt"), "a.txt");
+  EXPECT_EQ(ExtractFolder("a.txt"), "");
+  EXPECT_EQ(ExtractFileName("a.txt"), "");
+  EXPECT_EQ(ExtractFileName("C:\\Shows\\"), "");
+  EXPECT_EQ(StripExtension("a.b.txt"), "a");
+  EXPECT_EQ(StripExtension("plain"), "plain");
+  EXPECT_EQ(StripExtension(".txt"), "");
+}
+
+TEST(Text, TheNumberTestTakesWholeNumbersTextsOnly) {
+  const std::pair<const char*, std::optional<double>> cases[] = {{"1942", 1942},
+                                                                 {" 12 ", 12},
+                                                                 {"+5", 5},
+                                                                 {"-.5", -0.5},
+                                                                 {"12.", 12},
+                                                                 {"1e3", 1000},
+                                                                 {"1E-2", 0.01},
+                                                                 {"", std::nullopt},
+                                                                 {" ", std::nullopt},
+                                                                 {".", std::nullopt},
+                                                                 {"-", std::nullopt},
+                                                                 {"1 2", std::nullopt},
+                                                                 {"1e", std::nullopt},
+                                                                 {"e5", std::nullopt},
+                                                                 {"0x10", std::nullopt},
+                                                                 {"inf", std::nullopt},
+                                                                 {"nan", std::nullopt},
+                                                                 {"+-1", std::nullopt},
+                                                                 {"1,5", std::nullopt},
+                                                                 {"1e999", std::nullopt}};
+  for (const auto& [text, number] : cases) EXPECT_EQ(ParseNumber(text), number) << '[' << text << ']';
+}
+
+TEST(Text, ALeadingNumberStopsWhereItEnds) {
+  const std::pair<const char*, double> cases[] = {
+      {"12pt", 12}, {" 10.5 pt", 10.5}, {"1e", 1}, {"2e3x", 2000}, {"pt12", 0}, {"", 0}, {"-3-3", -3}, {"+7", 7}};
+  for (const auto& [text, number] : cases) EXPECT_EQ(LeadingNumber(text), number) << '[' << text << ']';
+}
+
+TEST(Text, HalvesRoundToTheEvenNeighbour) {
+  const std::pair<double, long long> cases[] = {{0.5, 0},   {1.5, 2},   {2.5, 2},   {-0.5, 0},  {-1.5, -2},
+                                                {-2.5, -2}, {10.4, 10}, {10.6, 11}, {-3.2, -3}, {49.5, 50}};
+  for (const auto& [value, rounded] : cases) EXPECT_EQ(RoundHalfEven(value), rounded) << value;
+}
+
+TEST(Text, BooleansAreWordsOrNumbers) {
+  const std::pair<const char*, std::optional<bool>> cases[] = {
+      {"True", true}, {"FALSE", false},      {"-1", true},      {"0", false},
+      {"0.0", false}, {"yes", std::nullopt}, {"", std::nullopt}};
+  for (const auto& [text, value] : cases) EXPECT_EQ(ParseBoolean(text), value) << '[' << text << ']';
+}
+
+TEST(Text, NumbersAreWrittenAsTheyAreRead) {
+  const std::pair<double, const char*> cases[] = {{0, "0"},           {-0.0, "0"}, {16777215, "16777215"},
+                                                  {100000, "100000"}, {-5, "-5"},  {0.25, "0.25"}};
+  for (const auto& [value, text] : cases) EXPECT_EQ(NumberText(value), text);
+  EXPECT_EQ(ParseNumber(NumberText(1e20)), 1e20);
+}
+
+TEST(LineReader, EndsLinesAtCarriageReturnsOnly) {
+  const std::pair<std::string, std::vector<std::string>> cases[] = {
+      {"", {}},
+      {"a", {"a"}},
+      {"a\r\nb\r\n", {"a", "b"}},
+      {"a\rb", {"a", "b"}},
+      {"a\nb\r\nc", {"a\nb", "c"}},
+      {"\r\r\n\r", {"", "", ""}},
+      {"a\r\n\nb", {"a", "\nb"}},
+      {std::string("a\0b\r", 4), {std::string("a\0b", 3)}}};
+  for (const auto& [bytes, lines] : cases) {
+    LineReader reader(bytes);
+    std::vector<std::string> read;
+    while (const auto line = reader.Next()) read.emplace_back(*line);
+    EXPECT_EQ(read, lines) << '[' << bytes << ']';
+  }
+}
+
+}  // namespace
+}  // namespace pawnfield
