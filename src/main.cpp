@@ -1,0 +1,15 @@
+// Composes the desktop platform and the console; nothing else.
+
+#include <QApplication>
+
+#include "engine/start_up.h"
+#include "platform/desktop/desktop_program.h"
+
+int main(int argc, char** argv) {
+  QApplication application(argc, argv);
+  QApplication::setApplicationName("Pawnfield");
+  pawnfield::PrepareApplication();
+  pawnfield::DesktopProgram program;
+  pawnfield::Main(program.TheShow());
+  return QApplication::exec();
+}

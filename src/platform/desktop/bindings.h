@@ -1,0 +1,17 @@
+// One mirror for each kind of control: widget from model, and the user's action to the model.
+#pragma once
+
+#include <memory>
+
+#include "platform/controls.h"
+
+class QAction;
+class QWidget;
+
+namespace pawnfield {
+
+// Null when a control of this kind can't be shown by such a widget.
+std::unique_ptr<Mirror> MakeBinding(Control& control, QWidget& widget);
+std::unique_ptr<Mirror> MakeActionBinding(Menu& menu, QAction& action);
+
+}  // namespace pawnfield

@@ -1,0 +1,249 @@
+#include "platform/desktop/canvas.h"
+
+#include <QMouseEvent>
+#include <QPaintEvent>
+#include <QPainter>
+#include <QVBoxLayout>
+#include <algorithm>
+#include <cmath>
+
+#include "platform/desktop/text_layout.h"
+
+namespace pawnfield {
+
+namespace {
+
+constexpr double kSmallestSize = 6;
+// A picture under this many pixels is scaled as it is painted, so that the flip leaves no copies behind.
+constexpr int kCachedArea = 40000;
+
+QColor ToQColor(Color color) { return QColor(color & 0xFF, (color >> 8) & 0xFF, (color >> 16) & 0xFF); }
+
+struct TextSource {
+  std::string Caption;
+  Font Typeface;
+  Color Fore = kWhite;
+};
+
+bool ReadText(const Control& control, TextSource& source) {
+  if (const auto* label = dynamic_cast<const Label*>(&control)) {
+    source = {label->Caption, label->Font, label->ForeColor};
+  } else if (const auto* box = dynamic_cast<const TextBox*>(&control)) {
+    source = {box->Text, {"Segoe UI", 28, true, false}, box->ForeColor};
+  }
+  return !source.Caption.empty();
+}
+
+}  // namespace
+
+struct Canvas::Item : Mirror {
+  Item(Canvas& canvas, Control& shown, const ItemStyle& itemStyle, std::size_t place)
+      : owner(canvas), control(shown), style(itemStyle), declared(place) {}
+  ~Item() override { control.SetMirror(nullptr); }
+  Item(const Item&) = delete;
+  Item& operator=(const Item&) = delete;
+  void Changed(Control&, PropertyId id) override { owner.ItemChanged(*this, id); }
+
+  Canvas& owner;
+  Control& control;
+  ItemStyle style;
+  std::size_t declared;
+  QString pictureKey;
+  // Laid out text, kept until caption, font or width changes.
+  std::unique_ptr<TextBlock> text;
+  double textWidth = 0;
+  // What the item covered when it was last looked at, empty when hidden.
+  QRect covered;
+};
+
+Canvas::Canvas(PictureCache& pictures, QWidget* parent) : QWidget(parent), pictures_(pictures) {
+  setAttribute(Qt::WA_OpaquePaintEvent);
+}
+
+Canvas::~Canvas() = default;
+
+void Canvas::SetLogicalSize(double widthTwips, double heightTwips) {
+  logicalWidth_ = widthTwips;
+  logicalHeight_ = heightTwips;
+  resizeEvent(nullptr);
+}
+
+void Canvas::Add(Control& control, const ItemStyle& style) {
+  const auto& all = control.Owner().Controls();
+  const auto place = static_cast<std::size_t>(std::find(all.begin(), all.end(), &control) - all.begin());
+  auto item = std::make_unique<Item>(*this, control, style, place);
+  Item& added = *item;
+  items_[&control] = std::move(item);
+  control.SetMirror(&added);
+  ItemChanged(added, PropertyId::Picture);
+  Order();
+}
+
+void Canvas::Embed(Control& control, QWidget& widget) {
+  // The host follows the containers' visibility, and the widget its own.
+  auto* host = new QWidget(this);
+  auto* fill = new QVBoxLayout(host);
+  fill->setContentsMargins(0, 0, 0, 0);
+  fill->addWidget(&widget);
+  embedded_.emplace_back(&control, host);
+  PlaceEmbedded();
+}
+
+void Canvas::ItemChanged(Item& item, PropertyId id) {
+  if (id == PropertyId::Picture) {
+    if (const auto* image = dynamic_cast<Image*>(&item.control)) item.pictureKey = PictureCache::KeyOf(image->Picture);
+    if (const auto* box = dynamic_cast<PictureBox*>(&item.control)) {
+      item.pictureKey = PictureCache::KeyOf(box->Picture);
+    }
+  }
+  if (id == PropertyId::Caption || id == PropertyId::Text || id == PropertyId::Font) item.text.reset();
+  if (id == PropertyId::ZOrder) Order();
+  if (item.control.Kind() == ControlKind::PictureBox || item.control.Kind() == ControlKind::Frame) PlaceEmbedded();
+  Refresh(item);
+}
+
+void Canvas::Refresh(Item& item) {
+  const QRect before = item.covered;
+  // An edge of two pixels takes in what smoothing and slanted letters add.
+  item.covered = item.control.IsShown() ? FillRect(item.control).toAlignedRect().adjusted(-2, -2, 2, 2) : QRect();
+  update(before);
+  update(item.covered);
+}
+
+void Canvas::Order() {
+  const auto depthKey = [](const Item* item) {
+    // Containers from the outside in, each by its place among its neighbours.
+    std::vector<std::pair<int, std::size_t>> key;
+    for (const Control* c = &item->control; c != nullptr; c = c->Container) {
+      const auto& all = c->Owner().Controls();
+      const auto place = static_cast<std::size_t>(std::find(all.begin(), all.end(), c) - all.begin());
+      key.emplace_back(c->ZOrder.Get(), place);
+    }
+    std::reverse(key.begin(), key.end());
+    return key;
+  };
+  std::vector<std::pair<std::vector<std::pair<int, std::size_t>>, Item*>> keyed;
+  for (const auto& [control, item] : items_) keyed.emplace_back(depthKey(item.get()), item.get());
+  std::sort(keyed.begin(), keyed.end());
+  order_.clear();
+  for (const auto& [key, item] : keyed) order_.push_back(item);
+  update();
+}
+
+QRectF Canvas::PixelRect(const Control& control) const {
+  double left = control.Left;
+  double top = control.Top;
+  for (const Control* c = control.Container; c != nullptr; c = c->Container) {
+    left += c->Left;
+    top += c->Top;
+  }
+  return {origin_.x() + left * scale_, origin_.y() + top * scale_, control.Width * scale_, control.Height * scale_};
+}
+
+QRectF Canvas::FillRect(const Control& control) const {
+  QRectF rect = PixelRect(control);
+  if (fillsDisplay_ && control.Width >= logicalWidth_ && control.Height >= logicalHeight_) return QRectF(this->rect());
+  // Slanted outline copies and negative margins may reach past a label's box.
+  if (control.Kind() == ControlKind::Label) rect.adjust(-rect.height() * 0.1, 0, rect.height() * 0.1, 0);
+  return rect;
+}
+
+Control* Canvas::At(const QPoint& point) const {
+  for (auto it = order_.rbegin(); it != order_.rend(); ++it) {
+    Control& control = (*it)->control;
+    const bool touchable = control.Kind() != ControlKind::Label || control.OnDblClick || control.OnClick;
+    if (touchable && control.IsShown() && PixelRect(control).contains(point)) return &control;
+  }
+  return nullptr;
+}
+
+void Canvas::paintEvent(QPaintEvent* event) {
+  QPainter painter(this);
+  painter.setRenderHints(QPainter::Antialiasing | QPainter::SmoothPixmapTransform | QPainter::TextAntialiasing);
+  if (backdrop_) {
+    backdrop_(painter, rect());
+  } else {
+    painter.fillRect(event->rect(), Qt::black);
+  }
+  for (Item* item : order_) {
+    if (item->control.IsShown() && FillRect(item->control).intersects(QRectF(event->rect()))) {
+      PaintItem(painter, *item);
+    }
+  }
+}
+
+void Canvas::PaintItem(QPainter& painter, Item& item) {
+  const QRectF rect = FillRect(item.control);
+  if (item.style.PaintsGround) {
+    const auto* box = dynamic_cast<PictureBox*>(&item.control);
+    painter.fillRect(rect, box != nullptr ? ToQColor(box->BackColor) : QColor(Qt::black));
+  }
+  if (!item.pictureKey.isEmpty()) PaintPicture(painter, item, rect);
+  PaintText(painter, item, PixelRect(item.control));
+}
+
+void Canvas::PaintPicture(QPainter& painter, Item& item, const QRectF& rect) {
+  const QSize size = rect.toRect().size();
+  if (size.isEmpty()) return;
+  const auto* container = item.control.Container;
+  const bool fillsPanel = container != nullptr && item.control.Width >= container->Width &&
+                          item.control.Height >= container->Height && container->Width > 0;
+  if (size.width() * size.height() < kCachedArea) {
+    const QPixmap picture = pictures_.Original(item.pictureKey);
+    if (!picture.isNull()) painter.drawPixmap(rect, picture, QRectF(picture.rect()));
+    return;
+  }
+  const auto fill = fillsPanel ? PictureCache::Fill::Cover : PictureCache::Fill::Stretch;
+  painter.drawPixmap(rect.toRect().topLeft(), pictures_.Scaled(item.pictureKey, size, fill));
+}
+
+void Canvas::PaintText(QPainter& painter, Item& item, const QRectF& rect) {
+  TextSource source;
+  if (!ReadText(item.control, source)) return;
+  if (!item.text || item.textWidth != item.control.Width) {
+    item.textWidth = item.control.Width;
+    item.text = std::make_unique<TextBlock>(source.Typeface, source.Caption, item.textWidth, item.style.Align);
+    while (item.style.ShrinkToFit && source.Typeface.Size > kSmallestSize &&
+           (item.text->Height() > item.control.Height || item.text->Width() > item.textWidth + 1)) {
+      source.Typeface.Size = std::max(kSmallestSize, source.Typeface.Size - 2);
+      item.text = std::make_unique<TextBlock>(source.Typeface, source.Caption, item.textWidth, item.style.Align);
+    }
+  }
+  painter.save();
+  painter.translate(rect.topLeft());
+  painter.scale(scale_, scale_);
+  painter.setPen(ToQColor(source.Fore));
+  const double spareHeight =
+      item.style.Align.testFlag(Qt::AlignVCenter) ? item.control.Height - item.text->Height() : 0;
+  const double spareWidth = std::min(0.0, item.control.Width - item.text->Width());
+  item.text->Draw(painter, QPointF(spareWidth / 2, spareHeight / 2));
+  painter.restore();
+}
+
+void Canvas::resizeEvent(QResizeEvent*) {
+  scale_ = std::min(width() / logicalWidth_, height() / logicalHeight_);
+  origin_ = QPointF((width() - logicalWidth_ * scale_) / 2, (height() - logicalHeight_ * scale_) / 2);
+  for (const auto& [control, item] : items_) Refresh(*item);
+  PlaceEmbedded();
+  update();
+}
+
+void Canvas::PlaceEmbedded() {
+  for (const auto& [control, host] : embedded_) {
+    host->setGeometry(PixelRect(*control).toRect());
+    host->setVisible(control->Container == nullptr || control->Container->IsShown());
+    host->raise();
+  }
+}
+
+void Canvas::mousePressEvent(QMouseEvent* event) {
+  if (event->button() != Qt::LeftButton) return;
+  if (Control* control = At(event->position().toPoint())) control->Click();
+}
+
+void Canvas::mouseDoubleClickEvent(QMouseEvent* event) {
+  if (event->button() != Qt::LeftButton) return;
+  if (Control* control = At(event->position().toPoint())) control->DblClick();
+}
+
+}  // namespace pawnfield

@@ -1,0 +1,76 @@
+// Paints a form's pictures, panels and texts from their models. Both screens use it: twips become pixels at one scale,
+// the logical screen stands in the middle, and only what changed is painted again.
+#pragma once
+
+#include <QWidget>
+#include <functional>
+#include <map>
+#include <memory>
+#include <vector>
+
+#include "platform/controls.h"
+#include "platform/desktop/picture_cache.h"
+
+namespace pawnfield {
+
+class TextBlock;
+
+// How one item is drawn where its model does not say.
+struct ItemStyle {
+  Qt::Alignment Align = Qt::AlignCenter;
+  // Texts that no rule has fitted are drawn smaller when they would not fit; fitted ones are drawn as told.
+  bool ShrinkToFit = true;
+  // A panel paints its ground; others show only their picture.
+  bool PaintsGround = false;
+};
+
+class Canvas : public QWidget {
+ public:
+  Canvas(PictureCache& pictures, QWidget* parent);
+  ~Canvas() override;
+
+  void SetLogicalSize(double widthTwips, double heightTwips);
+  // A screen's canvas lets pictures that fill the logical screen fill the whole display.
+  void SetFillsDisplay(bool fills) { fillsDisplay_ = fills; }
+  void SetBackdrop(std::function<void(QPainter&, const QRect&)> paint) { backdrop_ = std::move(paint); }
+  // Paints the control from now on, and in it everything that stands in it.
+  void Add(Control& control, const ItemStyle& style = {});
+  bool Holds(const Control& control) const { return items_.count(&control) != 0; }
+  // A widget that stands on the canvas at its control's place.
+  void Embed(Control& control, QWidget& widget);
+
+  // The control's rectangle in pixels of this widget.
+  QRectF PixelRect(const Control& control) const;
+  // The front-most shown control at the point, or null.
+  Control* At(const QPoint& point) const;
+
+ protected:
+  void paintEvent(QPaintEvent* event) override;
+  void resizeEvent(QResizeEvent* event) override;
+  void mousePressEvent(QMouseEvent* event) override;
+  void mouseDoubleClickEvent(QMouseEvent* event) override;
+
+ private:
+  struct Item;
+  void ItemChanged(Item& item, PropertyId id);
+  void Refresh(Item& item);
+  void Order();
+  QRectF FillRect(const Control& control) const;
+  void PaintItem(QPainter& painter, Item& item);
+  void PaintPicture(QPainter& painter, Item& item, const QRectF& rect);
+  void PaintText(QPainter& painter, Item& item, const QRectF& rect);
+  void PlaceEmbedded();
+
+  PictureCache& pictures_;
+  std::function<void(QPainter&, const QRect&)> backdrop_;
+  double logicalWidth_ = 1, logicalHeight_ = 1;
+  double scale_ = 1;
+  QPointF origin_;
+  bool fillsDisplay_ = false;
+  std::map<const Control*, std::unique_ptr<Item>> items_;
+  // Back to front, containers before what stands in them.
+  std::vector<Item*> order_;
+  std::vector<std::pair<Control*, QWidget*>> embedded_;
+};
+
+}  // namespace pawnfield

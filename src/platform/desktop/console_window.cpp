@@ -1,0 +1,97 @@
+#include "platform/desktop/console_window.h"
+
+#include <QGuiApplication>
+#include <QPainter>
+#include <QScreen>
+
+#include "platform/desktop/ground.h"
+#include "presentation/main_form.h"
+#include "ui_frm_main.h"
+
+namespace pawnfield {
+
+namespace {
+constexpr double kPanelWidth = 7210;
+constexpr double kPanelHeight = 5640;
+constexpr double kAnswerHeight = 900;
+}  // namespace
+
+ConsoleWindow::ConsoleWindow(MainForm& form, FormWindows& windows, PictureCache& pictures) : FormWindow(form, windows) {
+  Ui::frmMain design;
+  design.setupUi(this);
+  // The frame that blinks around Start lies over nothing that must be hit.
+  design.shpStart->setAttribute(Qt::WA_TransparentForMouseEvents);
+  design.shpStart->raise();
+  board_ = new Canvas(pictures, design.pnlBoard);
+  board_->setObjectName("pnlBoardCanvas");
+  design.pnlBoard->layout()->addWidget(board_);
+  answer_ = new Canvas(pictures, design.fraAnswer);
+  answer_->setObjectName("pnlAnswerCanvas");
+  design.fraAnswer->layout()->addWidget(answer_);
+  BindForm();
+  FillBoard(form);
+  FillAnswer(form, pictures);
+  board_->Embed(form.fraSoundButtons, *design.fraSoundButtons);
+  Bindings()->AddCanvas(*board_);
+  Bindings()->AddCanvas(*answer_);
+  HoldUnseen();
+}
+
+void ConsoleWindow::FillBoard(MainForm& form) {
+  board_->SetLogicalSize(kPanelWidth, kPanelHeight);
+  board_->SetBackdrop(PaintGround);
+  for (Image* image : {&form.imgHeader, &form.imgA, &form.imgB, &form.imgC, &form.imgD, &form.imgE, &form.imgF,
+                       &form.img1, &form.img2, &form.img3, &form.img4, &form.img5, &form.img6, &form.imgDJEntry}) {
+    board_->Add(*image);
+  }
+  form.img.ForEach([this](Image& square) { board_->Add(square); });
+  board_->Add(form.txtOptionalHeading);
+  ItemStyle panel;
+  panel.PaintsGround = true;
+  for (PictureBox* box : {&form.picQuestion, &form.picQuestionPicture, &form.picSound, &form.picBonus, &form.picMOD,
+                          &form.picCorrect, &form.picWinner, &form.picStandby}) {
+    board_->Add(*box, panel);
+  }
+  for (Image* image : {&form.imgQuestionBackground, &form.picImageResize[0], &form.imgSound, &form.imgBonus,
+                       &form.imgCorrect, &form.imgStandby}) {
+    board_->Add(*image);
+  }
+  // A rule has fitted these, so they are drawn as told.
+  ItemStyle fitted;
+  fitted.ShrinkToFit = false;
+  fitted.Align = Qt::AlignHCenter;
+  for (std::size_t i = 0; i < 5; ++i) board_->Add(form.lblQuestion[i], fitted);
+  board_->Add(form.lblWinner, fitted);
+  board_->Add(form.lblRightWrong);
+}
+
+void ConsoleWindow::FillAnswer(MainForm& form, PictureCache&) {
+  answer_->SetLogicalSize(kPanelWidth, kAnswerHeight);
+  answer_->SetBackdrop([](QPainter& painter, const QRect& area) { painter.fillRect(area, QColor("#080C16")); });
+  answer_->Add(form.lblAnswer);
+}
+
+void ConsoleWindow::HoldUnseen() {
+  Bindings()->Hold({// Pictures kept for others.
+                    "imgBkgnd", "imgXa", "imgXb", "imgOa", "imgOb", "imgTa", "imgTb", "imgCursor(0)", "imgCursor(1)",
+                    "imgCursor(2)", "imgCursor(3)", "imgStandardStandby", "imgStandardBonus", "imgStandardHeader",
+                    // What only measures.
+                    "lblQuestionAutoResize", "lblAnswerAutoResize", "lblWinnerResize", "picEntScreen",
+                    // Tell of the game's state to what asks for it; a button that does nothing would only mislead.
+                    "btnCorrect", "btnEnableAllBuzzers"});
+}
+
+void ConsoleWindow::ShowForm() {
+  if (const QScreen* screen = QGuiApplication::primaryScreen()) setGeometry(screen->availableGeometry());
+  showMaximized();
+  raise();
+  activateWindow();
+}
+
+void ConsoleWindow::ComeForward() {
+  if (isMinimized()) showMaximized();
+  raise();
+  activateWindow();
+}
+
+}  // namespace pawnfield

@@ -1,0 +1,30 @@
+// frmMain's window: the operator's console with the board and its panels on a canvas in the middle.
+#pragma once
+
+#include "platform/desktop/canvas.h"
+#include "platform/desktop/form_window.h"
+
+namespace pawnfield {
+
+class MainForm;
+
+class ConsoleWindow : public FormWindow {
+ public:
+  ConsoleWindow(MainForm& form, FormWindows& windows, PictureCache& pictures);
+  Canvas& Board() { return *board_; }
+  // Comes to the front, as asked by a second start of the program.
+  void ComeForward();
+
+ protected:
+  void ShowForm() override;
+
+ private:
+  void FillBoard(MainForm& form);
+  void FillAnswer(MainForm& form, PictureCache& pictures);
+  void HoldUnseen();
+
+  Canvas* board_ = nullptr;
+  Canvas* answer_ = nullptr;
+};
+
+}  // namespace pawnfield

@@ -1,0 +1,22 @@
+#include "platform/desktop/desktop_platform.h"
+
+namespace pawnfield {
+
+DesktopPlatform::DesktopPlatform(const DesktopPlaces& places, std::function<void()> onActivate)
+    : dialogs(windows),
+      settings(places.configFolder),
+      displays([this](Form& form) { return windows.Find(form); }),
+      processes(places.runtimeFolder, std::move(onActivate)),
+      platform{clock,
+               dialogs,
+               {eventPlayer, keyPressPlayer, soundClipPlayer, correctIncorrectPlayer, backgroundPlayer},
+               settings,
+               files,
+               text,
+               pictures,
+               displays,
+               processes,
+               random,
+               places.folders} {}
+
+}  // namespace pawnfield

@@ -1,0 +1,43 @@
+// Every port on this desktop, made once and handed to the show.
+#pragma once
+
+#include <functional>
+
+#include "platform/desktop/desktop_folders.h"
+#include "platform/desktop/form_windows.h"
+#include "platform/desktop/linux_processes.h"
+#include "platform/desktop/mpv_channel.h"
+#include "platform/desktop/qt_clock.h"
+#include "platform/desktop/qt_dialogs.h"
+#include "platform/desktop/qt_file_system.h"
+#include "platform/desktop/qt_readers.h"
+#include "platform/desktop/qt_settings_store.h"
+
+namespace pawnfield {
+
+// Where things lie; the defaults are the machine's own places.
+struct DesktopPlaces {
+  Folders folders = FindFolders();
+  QString configFolder = ConfigFolder();
+  QString runtimeFolder = RuntimeFolder();
+};
+
+class DesktopPlatform {
+ public:
+  DesktopPlatform(const DesktopPlaces& places, std::function<void()> onActivate);
+
+  FormWindows windows;
+  QtClock clock;
+  QtDialogs dialogs;
+  MpvChannel eventPlayer, keyPressPlayer, soundClipPlayer, correctIncorrectPlayer, backgroundPlayer;
+  QtSettingsStore settings;
+  QtFileSystem files;
+  QtTextMeasurer text;
+  QtPictureReader pictures;
+  QtDisplays displays;
+  LinuxProcesses processes;
+  SeededRandom random;
+  Platform platform;
+};
+
+}  // namespace pawnfield

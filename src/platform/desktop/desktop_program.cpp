@@ -1,0 +1,38 @@
+#include "platform/desktop/desktop_program.h"
+
+#include <QApplication>
+#include <QFile>
+#include <QStyleFactory>
+#include <clocale>
+
+#include "platform/desktop/text_layout.h"
+
+namespace pawnfield {
+
+DesktopProgram::DesktopProgram(const DesktopPlaces& places)
+    : desktop_(places, [this] { console_.ComeForward(); }),
+      show_(desktop_.platform),
+      console_(show_.frmMain, desktop_.windows, pictures_),
+      audience_(show_.frmFSMain, desktop_.windows, pictures_),
+      loading_(show_.frmLoading, desktop_.windows),
+      splash_(show_.frmSplash, desktop_.windows),
+      gameLoading_(show_.frmGameLoading, desktop_.windows),
+      gameInProgress_(show_.frmGameInProgress, desktop_.windows),
+      gameTypeHelp_(show_.frmGameTypeHelp, desktop_.windows) {}
+
+std::vector<FormWindow*> DesktopProgram::Windows() {
+  return {&console_, &audience_, &loading_, &splash_, &gameLoading_, &gameInProgress_, &gameTypeHelp_};
+}
+
+void PrepareApplication() {
+  // The player reads numbers in the C form, and the application object has just set the user's.
+  setlocale(LC_NUMERIC, "C");
+  SubstituteFonts();
+  QApplication::setStyle(QStyleFactory::create("Fusion"));
+  // The windows come and go as the forms say; the last one that goes does not end the program.
+  QApplication::setQuitOnLastWindowClosed(false);
+  QFile look(":/look/look.qss");
+  if (look.open(QIODevice::ReadOnly)) qApp->setStyleSheet(QString::fromUtf8(look.readAll()));
+}
+
+}  // namespace pawnfield

@@ -1,0 +1,38 @@
+// The whole program on this desktop: the platform, the show and the forms' windows.
+#pragma once
+
+#include "engine/show.h"
+#include "platform/desktop/audience_window.h"
+#include "platform/desktop/console_window.h"
+#include "platform/desktop/desktop_platform.h"
+#include "platform/desktop/small_windows.h"
+
+namespace pawnfield {
+
+class DesktopProgram {
+ public:
+  explicit DesktopProgram(const DesktopPlaces& places = {});
+
+  Show& TheShow() { return show_; }
+  ConsoleWindow& Console() { return console_; }
+  AudienceWindow& Audience() { return audience_; }
+  // All windows, for what goes over every form.
+  std::vector<FormWindow*> Windows();
+
+ private:
+  PictureCache pictures_;
+  DesktopPlatform desktop_;
+  Show show_;
+  ConsoleWindow console_;
+  AudienceWindow audience_;
+  LoadingWindow loading_;
+  SplashWindow splash_;
+  GameLoadingWindow gameLoading_;
+  GameInProgressWindow gameInProgress_;
+  GameTypeHelpWindow gameTypeHelp_;
+};
+
+// What the application object needs before the first window: fonts, colours, number format.
+void PrepareApplication();
+
+}  // namespace pawnfield

@@ -1,0 +1,62 @@
+#include "platform/desktop/form_window.h"
+
+#include <QCloseEvent>
+#include <QGuiApplication>
+#include <QScreen>
+
+#include "platform/desktop/native_path.h"
+#include "platform/desktop/windows_1252.h"
+
+namespace pawnfield {
+
+FormWindow::FormWindow(Form& form, FormWindows& windows, Qt::WindowFlags flags)
+    : QMainWindow(nullptr, flags), form_(form), windows_(windows) {
+  windows_.Add(form, *this);
+}
+
+FormWindow::~FormWindow() {
+  form_.SetMirror(nullptr);
+  windows_.Remove(form_);
+}
+
+void FormWindow::BindForm() {
+  setObjectName(QString::fromStdString(form_.Name()));
+  setWindowTitle(FromWindows1252(form_.Caption));
+  binder_ = std::make_unique<Binder>(form_, *this);
+  form_.SetMirror(this);
+  if (form_.Visible) ShowForm();
+}
+
+void FormWindow::Changed(Control&, PropertyId id) {
+  if (id == PropertyId::Caption) setWindowTitle(FromWindows1252(form_.Caption));
+  if (id == PropertyId::Visible) form_.Visible ? ShowForm() : hide();
+  if (id == PropertyId::Focus) activateWindow();
+  if (id == PropertyId::ZOrder && isVisible()) raise();
+  if (id == PropertyId::MouseIcon) {
+    const auto path = NativePlainFile(form_.MouseIcon);
+    path ? setCursor(QCursor(QPixmap(*path))) : unsetCursor();
+  }
+}
+
+void FormWindow::ShowForm() {
+  adjustSize();
+  if (const QScreen* screen = QGuiApplication::primaryScreen()) {
+    move(screen->availableGeometry().center() - rect().center());
+  }
+  show();
+  raise();
+}
+
+void FormWindow::closeEvent(QCloseEvent* event) {
+  // The form decides; when it ends, its own change hides this window.
+  event->ignore();
+  if (!form_.Visible) {
+    event->accept();
+    return;
+  }
+  bool close = true;
+  if (form_.OnQueryUnload) form_.Dispatch([&] { close = form_.OnQueryUnload(); }, "Form_QueryUnload");
+  if (close) form_.Unload();
+}
+
+}  // namespace pawnfield

@@ -1,0 +1,10 @@
+// The dark blue ground that both boards stand on.
+#pragma once
+
+#include <QPainter>
+
+namespace pawnfield {
+
+void PaintGround(QPainter& painter, const QRect& area);
+
+}  // namespace pawnfield

@@ -1,0 +1,81 @@
+#include "platform/desktop/linux_processes.h"
+
+#include <QCoreApplication>
+#include <QDir>
+#include <QFile>
+#include <QFileInfo>
+#include <QLocalSocket>
+#include <algorithm>
+
+#include "platform/desktop/windows_1252.h"
+
+namespace pawnfield {
+
+namespace {
+
+constexpr int kConnectMs = 500;
+
+// The program's file name, or what the kernel calls it when it has no command line.
+QString CaptionOf(const QString& processFolder) {
+  QFile commandLine(processFolder + "/cmdline");
+  if (commandLine.open(QIODevice::ReadOnly)) {
+    const QByteArray first = commandLine.readAll().split('\0').first();
+    if (!first.isEmpty()) return QFileInfo(QFile::decodeName(first)).fileName();
+  }
+  QFile name(processFolder + "/comm");
+  return name.open(QIODevice::ReadOnly) ? QString::fromUtf8(name.readAll()).trimmed() : QString();
+}
+
+}  // namespace
+
+LinuxProcesses::LinuxProcesses(QString runtimeFolder, std::function<void()> onActivate)
+    : runtimeFolder_(std::move(runtimeFolder)), onActivate_(std::move(onActivate)) {}
+
+bool LinuxProcesses::ClaimSingleInstance() {
+  QDir().mkpath(runtimeFolder_);
+  lock_ = std::make_unique<QLockFile>(runtimeFolder_ + "/pawnfield.lock");
+  // Only a lock whose process is gone is stale, however old it is.
+  lock_->setStaleLockTime(0);
+  if (!lock_->tryLock() && lock_->error() == QLockFile::LockFailedError) return true;
+  Listen();
+  return false;
+}
+
+void LinuxProcesses::Listen() {
+  QLocalServer::removeServer(SocketPath());
+  QObject::connect(&server_, &QLocalServer::newConnection, &server_, [this] {
+    while (QLocalSocket* caller = server_.nextPendingConnection()) caller->deleteLater();
+    onActivate_();
+  });
+  server_.listen(SocketPath());
+}
+
+std::vector<ProcessInfo> LinuxProcesses::List() const {
+  std::vector<ProcessInfo> processes;
+  for (const QString& entry : QDir("/proc").entryList(QDir::Dirs | QDir::NoDotAndDotDot)) {
+    bool isNumber = false;
+    const qlonglong id = entry.toLongLong(&isNumber);
+    if (!isNumber) continue;
+    const auto caption = ToWindows1252(CaptionOf("/proc/" + entry));
+    if (caption && !caption->empty()) processes.push_back({*caption, id});
+  }
+  std::sort(processes.begin(), processes.end(),
+            [](const ProcessInfo& a, const ProcessInfo& b) { return a.Handle < b.Handle; });
+  return processes;
+}
+
+std::int64_t LinuxProcesses::CurrentId() const { return QCoreApplication::applicationPid(); }
+
+void LinuxProcesses::Activate(std::int64_t id) {
+  if (id != 0) return;
+  QLocalSocket socket;
+  socket.connectToServer(SocketPath());
+  socket.waitForConnected(kConnectMs);
+}
+
+void LinuxProcesses::EndProgram() {
+  // Queued, so that an end asked for before the message loop runs is not lost.
+  QMetaObject::invokeMethod(QCoreApplication::instance(), &QCoreApplication::quit, Qt::QueuedConnection);
+}
+
+}  // namespace pawnfield

@@ -1,0 +1,36 @@
+// The processes of this machine, the one-instance rule and the end of the program.
+#pragma once
+
+#include <QLocalServer>
+#include <QLockFile>
+#include <QString>
+#include <functional>
+#include <memory>
+
+#include "platform/ports.h"
+
+namespace pawnfield {
+
+class LinuxProcesses : public Processes {
+ public:
+  // The folder is the user's own for running programs; onActivate runs when another instance asks for the front.
+  LinuxProcesses(QString runtimeFolder, std::function<void()> onActivate);
+
+  bool ClaimSingleInstance() override;
+  std::vector<ProcessInfo> List() const override;
+  std::int64_t CurrentId() const override;
+  // Other programs' windows can't be raised from here on Linux; only 0 has an effect.
+  void Activate(std::int64_t id) override;
+  void EndProgram() override;
+
+ private:
+  QString SocketPath() const { return runtimeFolder_ + "/pawnfield.socket"; }
+  void Listen();
+
+  QString runtimeFolder_;
+  std::function<void()> onActivate_;
+  std::unique_ptr<QLockFile> lock_;
+  QLocalServer server_;
+};
+
+}  // namespace pawnfield

@@ -1,0 +1,54 @@
+// Widgets that the form files promote to: those that tell more of the user's actions, or paint what no widget does.
+#pragma once
+
+#include <QComboBox>
+#include <QFrame>
+#include <QLabel>
+#include <QPixmap>
+#include <functional>
+
+namespace pawnfield {
+
+// Tells before its list opens, so that the model can fill it.
+class ModelComboBox : public QComboBox {
+  Q_OBJECT
+ public:
+  using QComboBox::QComboBox;
+  void showPopup() override;
+ signals:
+  void AboutToOpen();
+};
+
+// A label that can be clicked; its text is shown smaller rather than cut.
+class ModelLabel : public QLabel {
+  Q_OBJECT
+ public:
+  using QLabel::QLabel;
+ signals:
+  void Clicked();
+  void DoubleClicked();
+
+ protected:
+  void mousePressEvent(QMouseEvent* event) override;
+  void mouseDoubleClickEvent(QMouseEvent* event) override;
+  void paintEvent(QPaintEvent* event) override;
+};
+
+// Paints one picture over its whole area behind what stands in it.
+class PictureFrame : public QFrame {
+  Q_OBJECT
+ public:
+  using QFrame::QFrame;
+  void SetPicture(const QPixmap& picture);
+ signals:
+  void Clicked();
+
+ protected:
+  void paintEvent(QPaintEvent* event) override;
+  void mousePressEvent(QMouseEvent* event) override;
+
+ private:
+  QPixmap picture_;
+};
+
+}  // namespace pawnfield

@@ -1,0 +1,93 @@
+#include "platform/desktop/qt_dialogs.h"
+
+#include <QApplication>
+#include <QFileDialog>
+#include <QMessageBox>
+#include <QTimer>
+
+#include "platform/desktop/native_path.h"
+#include "platform/desktop/windows_1252.h"
+
+namespace pawnfield {
+
+namespace {
+
+// How often a modal form's window looks whether its form has ended; far below what a person notices.
+constexpr int kModalPollMs = 15;
+
+QMessageBox::StandardButtons ButtonsOf(BoxKind kind) {
+  switch (kind) {
+    case BoxKind::YesNoCancel:
+      return QMessageBox::Yes | QMessageBox::No | QMessageBox::Cancel;
+    case BoxKind::YesNo:
+      return QMessageBox::Yes | QMessageBox::No;
+    default:
+      return QMessageBox::Ok;
+  }
+}
+
+// Closing the box without a choice is the most careful of the answers it offers.
+BoxAnswer AnswerOf(int button, BoxKind kind) {
+  if (kind == BoxKind::Plain || kind == BoxKind::Critical) return BoxAnswer::Ok;
+  if (button == QMessageBox::Yes) return BoxAnswer::Yes;
+  if (button == QMessageBox::No) return BoxAnswer::No;
+  return kind == BoxKind::YesNo ? BoxAnswer::No : BoxAnswer::Cancel;
+}
+
+}  // namespace
+
+QString FilterList(const std::string& filter) {
+  const QStringList parts = FromWindows1252(filter).split('|', Qt::SkipEmptyParts);
+  QStringList filters;
+  for (qsizetype i = 0; i + 1 < parts.size(); i += 2) {
+    const qsizetype bracket = parts[i].indexOf('(');
+    const QString title = (bracket < 0 ? parts[i] : parts[i].left(bracket)).trimmed();
+    filters.append(title + " (" + QString(parts[i + 1]).replace(';', ' ') + ')');
+  }
+  return filters.join(";;");
+}
+
+BoxAnswer QtDialogs::MessageBox(const std::string& text, const std::string& title, BoxKind kind) {
+  QMessageBox box(QApplication::activeWindow());
+  box.setWindowFlag(Qt::WindowStaysOnTopHint);
+  box.setWindowTitle(FromWindows1252(title));
+  box.setTextFormat(Qt::PlainText);
+  box.setText(FromWindows1252(text).replace("\r\n", "\n"));
+  if (kind == BoxKind::Critical) box.setIcon(QMessageBox::Critical);
+  if (kind == BoxKind::YesNo || kind == BoxKind::YesNoCancel) box.setIcon(QMessageBox::Question);
+  box.setStandardButtons(ButtonsOf(kind));
+  return AnswerOf(box.exec(), kind);
+}
+
+std::string QtDialogs::ChooseFile(const FileDialogRequest& request) {
+  const QString title = FromWindows1252(request.Title);
+  const QString folder = NativePath(request.InitialFolder);
+  const QString filters = FilterList(request.Filter);
+  QWidget* parent = QApplication::activeWindow();
+  const QString chosen = request.Save ? QFileDialog::getSaveFileName(parent, title, folder, filters)
+                                      : QFileDialog::getOpenFileName(parent, title, folder, filters);
+  if (chosen.isEmpty()) return "";
+  const auto spelled = SpelledPath(chosen);
+  if (!spelled) {
+    MessageBox("The file's name or folder holds characters that can't be used here. Please rename it.", request.Title,
+               BoxKind::Plain);
+  }
+  return spelled.value_or("");
+}
+
+void QtDialogs::ShowModal(Form& form) {
+  QWidget* window = windows_.Find(form);
+  if (window == nullptr) return;
+  window->setWindowModality(Qt::ApplicationModal);
+  form.Visible = true;
+  // The form's mirror belongs to its window, so the end of the form is looked for rather than told.
+  QEventLoop loop;
+  QTimer poll;
+  QObject::connect(&poll, &QTimer::timeout, &loop, [&form, &loop] {
+    if (!form.Visible) loop.quit();
+  });
+  poll.start(kModalPollMs);
+  if (form.Visible) loop.exec();
+}
+
+}  // namespace pawnfield

@@ -1,0 +1,25 @@
+// Modal questions to the operator: message boxes, file dialogs and modal forms.
+#pragma once
+
+#include <QString>
+
+#include "platform/desktop/form_windows.h"
+#include "platform/ports.h"
+
+namespace pawnfield {
+
+class QtDialogs : public Dialogs {
+ public:
+  explicit QtDialogs(const FormWindows& windows) : windows_(windows) {}
+  BoxAnswer MessageBox(const std::string& text, const std::string& title, BoxKind kind) override;
+  std::string ChooseFile(const FileDialogRequest& request) override;
+  void ShowModal(Form& form) override;
+
+ private:
+  const FormWindows& windows_;
+};
+
+// "Game Sets(*.txt)|*.txt|All|*.*" as the toolkit's list of filters.
+QString FilterList(const std::string& filter);
+
+}  // namespace pawnfield
