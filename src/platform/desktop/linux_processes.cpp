@@ -31,7 +31,7 @@ QString CaptionOf(const QString& processFolder) {
 LinuxProcesses::LinuxProcesses(QString runtimeFolder, std::function<void()> onActivate)
     : runtimeFolder_(std::move(runtimeFolder)), onActivate_(std::move(onActivate)) {}
 
-bool LinuxProcesses::ClaimSingleInstance() {
+bool LinuxProcesses::AnotherInstanceRuns() {
   QDir().mkpath(runtimeFolder_);
   lock_ = std::make_unique<QLockFile>(runtimeFolder_ + "/pawnfield.lock");
   // Only a lock whose process is gone is stale, however old it is.

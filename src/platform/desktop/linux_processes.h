@@ -16,7 +16,7 @@ class LinuxProcesses : public Processes {
   // The folder is the user's own for running programs; onActivate runs when another instance asks for the front.
   LinuxProcesses(QString runtimeFolder, std::function<void()> onActivate);
 
-  bool ClaimSingleInstance() override;
+  bool AnotherInstanceRuns() override;
   std::vector<ProcessInfo> List() const override;
   std::int64_t CurrentId() const override;
   // Other programs' windows can't be raised from here on Linux; only 0 has an effect.

@@ -1,6 +1,7 @@
 #include "platform/desktop/text_layout.h"
 
 #include <QFontMetricsF>
+#include <QPainter>
 #include <algorithm>
 
 #include "platform/desktop/windows_1252.h"
@@ -8,6 +9,18 @@
 namespace pawnfield {
 
 namespace {
+
+// Large enough that rounding to the layout's 64ths of a pixel does not show.
+constexpr int kReferencePixels = 1000;
+
+QFont ReferenceFont(const Font& font) {
+  QFont result(FromWindows1252(font.Name));
+  result.setPixelSize(kReferencePixels);
+  result.setBold(font.Bold);
+  result.setItalic(font.Italic);
+  result.setHintingPreference(QFont::PreferNoHinting);
+  return result;
+}
 
 // A text label breaks at the ends of its lines whatever their form.
 QString WithLineSeparators(const std::string& text) {
@@ -41,20 +54,11 @@ void SubstituteFonts() {
   QFont::insertSubstitution("MS Sans Serif", "Liberation Sans");
 }
 
-QFont ScaledFont(const Font& font, double pixelsPerTwip) {
-  QFont result(FromWindows1252(font.Name));
-  result.setPixelSize(std::max(1, static_cast<int>(font.Size * kTwipsPerPoint * pixelsPerTwip)));
-  result.setBold(font.Bold);
-  result.setItalic(font.Italic);
-  result.setHintingPreference(QFont::PreferNoHinting);
-  return result;
-}
-
-QFont TwipsFont(const Font& font) { return ScaledFont(font, 1); }
-
 TextBlock::TextBlock(const Font& font, const std::string& text, double wrapWidth, Qt::Alignment alignment) {
-  const QFont twips = TwipsFont(font);
-  layout_.setFont(twips);
+  if (font.Size <= 0) return;
+  const QFont reference = ReferenceFont(font);
+  scale_ = font.Size * kTwipsPerPoint / kReferencePixels;
+  layout_.setFont(reference);
   layout_.setText(WithLineSeparators(text));
   QTextOption option(alignment);
   option.setWrapMode(QTextOption::WordWrap);
@@ -62,7 +66,7 @@ TextBlock::TextBlock(const Font& font, const std::string& text, double wrapWidth
   layout_.setTextOption(option);
   layout_.setCacheEnabled(true);
   // A hair more than the widest word, so that rounding within the layout never breaks a word in two.
-  width_ = std::max(wrapWidth, WidestWord(layout_.text(), twips) + 1);
+  width_ = std::max(wrapWidth / scale_, WidestWord(layout_.text(), reference) + 1);
   layout_.beginLayout();
   for (QTextLine line = layout_.createLine(); line.isValid(); line = layout_.createLine()) {
     line.setLineWidth(width_);
@@ -72,6 +76,12 @@ TextBlock::TextBlock(const Font& font, const std::string& text, double wrapWidth
   layout_.endLayout();
 }
 
-void TextBlock::Draw(QPainter& painter, const QPointF& at) const { layout_.draw(&painter, at); }
+void TextBlock::Draw(QPainter& painter, const QPointF& at) const {
+  painter.save();
+  painter.translate(at);
+  painter.scale(scale_, scale_);
+  layout_.draw(&painter, QPointF(0, 0));
+  painter.restore();
+}
 
 }  // namespace pawnfield

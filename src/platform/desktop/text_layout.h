@@ -1,4 +1,5 @@
-// Text laid out in twips with unhinted letters, so that what is measured at one scale is what is drawn at every other.
+// Text laid out at one large size without hinting, and scaled from there: what is measured grows in proportion to the
+// font's size, and what is drawn breaks its lines where it was measured, at every scale.
 #pragma once
 
 #include <QFont>
@@ -9,26 +10,23 @@
 
 namespace pawnfield {
 
-inline constexpr double kTwipsPerPixel = 15;
 inline constexpr double kTwipsPerPoint = 20;
 
 // Makes the substitutes of fonts that this machine need not have known to the font system. Called once, at start.
 void SubstituteFonts();
-// The font with a pixel size in twips, for use under a painter that is scaled to twips.
-QFont TwipsFont(const Font& font);
-// Twips font scaled to the given number of pixels a twip.
-QFont ScaledFont(const Font& font, double pixelsPerTwip);
-
 // One text broken at words into lines of the wrap width. A word wider than that keeps its line to itself.
 class TextBlock {
  public:
   TextBlock(const Font& font, const std::string& text, double wrapWidth, Qt::Alignment alignment = Qt::AlignHCenter);
-  double Width() const { return width_; }
-  double Height() const { return height_; }
+  // In twips.
+  double Width() const { return width_ * scale_; }
+  double Height() const { return height_ * scale_; }
   // With the block's top left corner at the point; the painter's unit is the twip.
   void Draw(QPainter& painter, const QPointF& at) const;
 
  private:
+  // From the reference size to twips.
+  double scale_ = 1;
   QTextLayout layout_;
   double width_ = 0;
   double height_ = 0;
