@@ -25,6 +25,13 @@ struct TextSource {
   Color Fore = kWhite;
 };
 
+// A panel, or a picture as large as the panel it stands in: such a one keeps its shape and covers the whole.
+bool FillsItsPanel(const Control& control) {
+  const Control* container = control.Container;
+  if (container == nullptr) return control.Kind() == ControlKind::PictureBox;
+  return control.Width >= container->Width && control.Height >= container->Height;
+}
+
 bool ReadText(const Control& control, TextSource& source) {
   if (const auto* label = dynamic_cast<const Label*>(&control)) {
     source = {label->Caption, label->Font, label->ForeColor};
@@ -185,15 +192,12 @@ void Canvas::PaintItem(QPainter& painter, Item& item) {
 void Canvas::PaintPicture(QPainter& painter, Item& item, const QRectF& rect) {
   const QSize size = rect.toRect().size();
   if (size.isEmpty()) return;
-  const auto* container = item.control.Container;
-  const bool fillsPanel = container != nullptr && item.control.Width >= container->Width &&
-                          item.control.Height >= container->Height && container->Width > 0;
   if (size.width() * size.height() < kCachedArea) {
     const QPixmap picture = pictures_.Original(item.pictureKey);
     if (!picture.isNull()) painter.drawPixmap(rect, picture, QRectF(picture.rect()));
     return;
   }
-  const auto fill = fillsPanel ? PictureCache::Fill::Cover : PictureCache::Fill::Stretch;
+  const auto fill = FillsItsPanel(item.control) ? PictureCache::Fill::Cover : PictureCache::Fill::Stretch;
   painter.drawPixmap(rect.toRect().topLeft(), pictures_.Scaled(item.pictureKey, size, fill));
 }
 

@@ -1,0 +1,89 @@
+// Plays two short games in the real program on the present display and saves pictures of both screens at each phase.
+
+#include <QApplication>
+#include <QTextStream>
+
+#include "show_driver.h"
+
+namespace pawnfield {
+namespace {
+
+// Counts what did not go as it should, and says so at once.
+class Script {
+ public:
+  explicit Script(ShowDriver& driver) : driver_(driver) {}
+  void Do(const QString& what, bool done) {
+    if (done) return;
+    ++failures_;
+    QTextStream(stderr) << "did not work: " << what << '\n';
+  }
+  void Press(const QString& widget) { Do("press " + widget, driver_.Press(widget)); }
+  int Failures() const { return failures_; }
+
+ private:
+  ShowDriver& driver_;
+  int failures_ = 0;
+};
+
+void PlayTrivia(ShowDriver& driver, Script& script) {
+  MainForm& form = driver.TheShow().frmMain;
+  script.Press("optGameType_2");
+  script.Do("choose a set", driver.Choose("cboList", "General Knowledge 1"));
+  driver.TakePictures("set-loaded");
+  script.Press("btnStart");
+  driver.TakePictures("question");
+  script.Press("btnQuestionCorrect");
+  driver.TakePictures("correct");
+  script.Do("board after the verdict", driver.WaitFor([&] { return !form.picCorrect.Visible; }));
+  script.Do("claim a square", driver.PressSquare(1, 1));
+  driver.TakePictures("square-turning");
+  driver.Pause(1500);
+  driver.TakePictures("square-claimed");
+  script.Do("continue",
+            driver.WaitFor([&] { return form.btnContinue.Enabled.Get() || form.picQuestion.Visible.Get(); }));
+  if (form.btnContinue.Enabled) script.Press("btnContinue");
+  script.Do("second question", driver.WaitFor([&] { return form.picQuestion.Visible.Get(); }));
+  script.Press("btnQuestionIncorrect");
+  driver.TakePictures("incorrect");
+  driver.Pause(5000);
+  driver.TakePictures("after-incorrect");
+  script.Press("btnStandbyMode");
+  driver.TakePictures("standby");
+  script.Press("btnPlayMode");
+  script.Press("btnEndGame");
+  driver.TakePictures("winner");
+  driver.Pause(6000);
+  driver.TakePictures("after-winner");
+}
+
+void PlayChallenge(ShowDriver& driver, Script& script) {
+  script.Press("btnReset");
+  script.Press("optGameType_0");
+  driver.TakePictures("challenge-ready");
+  script.Press("btnStart");
+  if (driver.TheShow().frmMain.btnPlayMode.Enabled) script.Press("btnPlayMode");
+  for (int i = 0; i < 3; ++i) {
+    script.Do("claim on the console", driver.PressSquare(i, i));
+    driver.Pause(2500);
+  }
+  script.Do("claim on the audience screen", driver.PressAudienceSquare(4, 0));
+  driver.Pause(2500);
+  driver.TakePictures("challenge-board");
+}
+
+}  // namespace
+}  // namespace pawnfield
+
+int main(int argc, char** argv) {
+  QApplication application(argc, argv);
+  pawnfield::PrepareApplication();
+  const QString folder = argc > 1 ? QString::fromLocal8Bit(argv[1]) : QString("show");
+  pawnfield::ShowDriver driver(folder);
+  pawnfield::Script script(driver);
+  script.Do("start", driver.Start());
+  driver.TakePictures("console");
+  pawnfield::PlayTrivia(driver, script);
+  pawnfield::PlayChallenge(driver, script);
+  for (const QString& text : driver.BoxTexts()) QTextStream(stdout) << "box: " << text << '\n';
+  return script.Failures() == 0 ? 0 : 1;
+}

@@ -1,0 +1,130 @@
+#include "show_driver.h"
+
+#include <QAbstractItemView>
+#include <QApplication>
+#include <QDir>
+#include <QElapsedTimer>
+#include <QMessageBox>
+#include <QPushButton>
+#include <QTest>
+#include <QTextStream>
+#include <QTimer>
+
+#include "engine/start_up.h"
+#include "platform/desktop/model_widgets.h"
+#include "platform/desktop/native_path.h"
+
+namespace pawnfield {
+
+namespace {
+
+constexpr int kStepMs = 20;
+constexpr int kStartMs = 20000;
+
+DesktopPlaces PlacesBelow(const QString& folder) {
+  DesktopPlaces places;
+  const QString shared = NativePath(places.folders.App);
+  places.folders.App = SpelledPath(MakeUserCopy(shared, folder + "/app")).value_or("");
+  places.folders.DataRoot = SpelledPath(folder + "/Ostara Show Kit Data").value_or("");
+  places.configFolder = folder + "/config";
+  places.runtimeFolder = folder + "/run";
+  return places;
+}
+
+}  // namespace
+
+ShowDriver::ShowDriver(const QString& workFolder)
+    : folder_(QDir(workFolder).absolutePath()), program_(PlacesBelow(folder_ + "/home")) {
+  // A box stops the caller in a loop of its own, so it is answered from a timer.
+  auto* answerer = new QTimer(&program_.Console());
+  QObject::connect(answerer, &QTimer::timeout, answerer, [this] { AnswerBox(); });
+  answerer->start(kStepMs * 2);
+}
+
+void ShowDriver::AnswerBox() {
+  auto* box = qobject_cast<QMessageBox*>(QApplication::activeModalWidget());
+  if (box == nullptr) return;
+  boxTexts_.append(box->text());
+  QAbstractButton* button = box->button(QMessageBox::Ok);
+  if (button == nullptr) button = box->button(QMessageBox::Yes);
+  if (button != nullptr) button->click();
+}
+
+bool ShowDriver::Start() {
+  // The wait below needs a loop to run in, and the entry returns at once.
+  Main(TheShow());
+  const bool up = WaitFor([this] { return program_.Console().isVisible(); }, kStartMs);
+  Pause(300);
+  return up;
+}
+
+bool ShowDriver::WaitFor(const std::function<bool()>& condition, int milliseconds) {
+  QElapsedTimer elapsed;
+  elapsed.start();
+  while (!condition() && elapsed.elapsed() < milliseconds) QTest::qWait(kStepMs);
+  return condition();
+}
+
+void ShowDriver::Pause(int milliseconds) { QTest::qWait(milliseconds); }
+
+bool ShowDriver::Press(const QString& widget) {
+  auto* target = program_.Console().findChild<QWidget*>(widget);
+  if (target == nullptr || !target->isVisible() || !target->isEnabled()) return false;
+  // An option is hit on its mark, which stands at the left.
+  const bool marked = target->inherits("QRadioButton") || target->inherits("QCheckBox");
+  QTest::mouseClick(target, Qt::LeftButton, {}, marked ? QPoint(8, target->height() / 2) : QPoint());
+  Pause(kStepMs);
+  return true;
+}
+
+bool ShowDriver::ClickCanvas(Canvas& canvas, const Control* square) {
+  if (square == nullptr || !canvas.isVisible()) return false;
+  const QPoint centre = canvas.PixelRect(*square).center().toPoint();
+  if (canvas.At(centre) != square) return false;
+  QTest::mouseClick(&canvas, Qt::LeftButton, {}, centre);
+  return true;
+}
+
+bool ShowDriver::PressSquare(int row, int column) {
+  return ClickCanvas(program_.Console().Board(), TheShow().frmMain.img.At(row, column));
+}
+
+bool ShowDriver::PressAudienceSquare(int row, int column) {
+  return ClickCanvas(program_.Audience().Screen(), TheShow().frmFSMain.img.At(row, column));
+}
+
+bool ShowDriver::Choose(const QString& combo, const QString& item) {
+  auto* box = program_.Console().findChild<ModelComboBox*>(combo);
+  if (box == nullptr || !box->isEnabled() || !box->isVisible()) return false;
+  QTest::mouseClick(box, Qt::LeftButton);
+  Pause(200);
+  const int row = box->findText(item);
+  if (row < 0) {
+    box->hidePopup();
+    return false;
+  }
+  QAbstractItemView* view = box->view();
+  const QModelIndex index = box->model()->index(row, 0);
+  view->scrollTo(index);
+  // A list that has just opened takes a press for the end of the click that opened it.
+  Pause(QApplication::doubleClickInterval() + 50);
+  const QPoint place = view->visualRect(index).center();
+  QTest::mouseMove(view->viewport(), place);
+  QTest::mouseClick(view->viewport(), Qt::LeftButton, {}, place);
+  Pause(100);
+  return box->currentText() == item || !box->view()->isVisible();
+}
+
+void ShowDriver::TakePictures(const QString& name) {
+  Pause(120);
+  QDir().mkpath(folder_);
+  const QString start = QString("%1/%2-%3").arg(folder_).arg(++pictureCount_, 2, 10, QChar('0')).arg(name);
+  QTextStream out(stdout);
+  const QString console = start + "-console.png";
+  if (program_.Console().grab().save(console)) out << console << '\n';
+  if (!program_.Audience().isVisible()) return;
+  const QString audience = start + "-audience.png";
+  if (program_.Audience().grab().save(audience)) out << audience << '\n';
+}
+
+}  // namespace pawnfield

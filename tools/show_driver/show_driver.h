@@ -1,0 +1,47 @@
+// Works the real program as an operator would: presses widgets and squares by name, waits on the clock, and takes
+// pictures of both screens.
+#pragma once
+
+#include <QString>
+#include <functional>
+
+#include "platform/desktop/desktop_program.h"
+
+namespace pawnfield {
+
+class ShowDriver {
+ public:
+  // All that the program writes goes below the folder; the assets are the ones of the source tree.
+  explicit ShowDriver(const QString& workFolder);
+
+  // Runs the program's entry up to the console. False when the console did not come up.
+  bool Start();
+  // Presses a button, option, check box or label with the mouse. False when it can't be pressed.
+  bool Press(const QString& widget);
+  bool PressSquare(int row, int column);
+  bool PressAudienceSquare(int row, int column);
+  // Opens the list and picks the item of that text with the mouse.
+  bool Choose(const QString& combo, const QString& item);
+  // Lets the program run until the condition holds, at most the given time.
+  bool WaitFor(const std::function<bool()>& condition, int milliseconds = 8000);
+  void Pause(int milliseconds);
+  // Answers each message box that comes up while the driver waits, and keeps its text.
+  QStringList BoxTexts() const { return boxTexts_; }
+
+  // Saves NN-name-console.png and NN-name-audience.png, and prints where they are.
+  void TakePictures(const QString& name);
+
+  Show& TheShow() { return program_.TheShow(); }
+  DesktopProgram& Program() { return program_; }
+
+ private:
+  void AnswerBox();
+  bool ClickCanvas(Canvas& canvas, const Control* square);
+
+  QString folder_;
+  DesktopProgram program_;
+  QStringList boxTexts_;
+  int pictureCount_ = 0;
+};
+
+}  // namespace pawnfield
