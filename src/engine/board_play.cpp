@@ -157,6 +157,7 @@ void ClaimSquare(Show& show, int r, int c, const std::string& key) {
   GameState& state = show.state;
   MainForm& form = show.frmMain;
   if (!state.PlacementOpen) return;
+  show.entry.DJEntry.clear();
   form.txtDJCommand.Text = "";
   if (!TryClaimSquare(show, r, c)) {
     state.PlacementOpen = true;

@@ -1,5 +1,6 @@
 #include "engine/handlers.h"
 
+#include "controllers/keyboard.h"
 #include "controllers/ring_in.h"
 #include "engine/board_play.h"
 #include "engine/errors.h"
@@ -51,8 +52,9 @@ void AttachOptions(Show& show) {
   mirror(form.chkIncorrectPenalty, state.IncorrectPenalty);
   form.chkExtKeyboardCtrl.OnClick = [&form, &state] {
     state.KeyControl = form.chkExtKeyboardCtrl.Value == 1;
-    form.txtDJCommand.Enabled = state.KeyControl;
+    form.txtDJCommand.Visible = state.KeyControl;
   };
+  form.OnKeyPress = [&show](int keyAscii) { ProcessKeyPress(show, keyAscii); };
 }
 
 void AttachScoreButtons(Show& show) {

@@ -173,7 +173,7 @@ void LoadRulesAndVolumes(Show& show) {
   MainForm& form = show.frmMain;
   state.KeyControl = GetBoolSetting(show, "KeyControl", true);
   form.chkExtKeyboardCtrl.Value = state.KeyControl ? 1 : 0;
-  form.txtDJCommand.Enabled = state.KeyControl;
+  form.txtDJCommand.Visible = state.KeyControl;
   state.KeyCorrect = KeySetting(show, "KeyCorrect", "Y");
   state.KeyIncorrect = KeySetting(show, "KeyIncorrect", "N");
   state.GameEnds = GetBoolSetting(show, "GameEnds", false);

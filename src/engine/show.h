@@ -26,6 +26,15 @@ struct Flip {
   bool AtEdge = false;
 };
 
+// The square being typed: empty, a letter, or a letter and a digit. Row and Column are named as the typed halves are:
+// the letter stands above a column of the board and the digit beside a row.
+struct SquareEntry {
+  std::string DJEntry;
+  std::string DJRowLetter;
+  int DJRow = 0;
+  int DJColumn = 0;
+};
+
 // Paths of media files by bank 1..3 and row 1..34; index 0 of both is unused.
 using SoundBanks = std::array<std::array<std::string, 35>, 4>;
 
@@ -38,6 +47,7 @@ struct Show {
   int NumGameQuestions = 0;
   SoundBanks soundBanks;
   Flip flip, fsFlip;
+  SquareEntry entry;
   bool FlashToggle = false;
   int FlashCount = 0;
   std::array<int, 2> AnimateCount{};

@@ -63,6 +63,10 @@ void Form::Dispatch(const std::function<void()>& handler, const std::string& pro
   }
 }
 
+void Form::KeyPress(int keyAscii) {
+  if (Visible && Enabled && OnKeyPress) Dispatch([this, keyAscii] { OnKeyPress(keyAscii); }, "Form_KeyPress");
+}
+
 void Form::Unload() {
   if (OnUnload) Dispatch(OnUnload, "Form_Unload");
   Visible = false;

@@ -170,6 +170,8 @@ class Form : public Control {
   Control* Find(const std::string& name) const;
   // Runs an event's handler inside the guard; procedure is the handler's name ("btnStart_Click").
   void Dispatch(const std::function<void()>& handler, const std::string& procedure);
+  // A key on the form by its Windows-1252 code, as typed: Ctrl+N is 14. Runs the handler while the form is enabled.
+  void KeyPress(int keyAscii);
   // Ends the form: hides it and, when it was shown modally, ends that.
   void Unload();
 
@@ -182,6 +184,7 @@ class Form : public Control {
   std::function<bool()> OnQueryUnload;
   std::function<void()> OnUnload;
   std::function<void()> OnResize;
+  std::function<void(int keyAscii)> OnKeyPress;
   // Wraps every event that enters the program's logic; unset means the handler is called plainly.
   std::function<void(const std::function<void()>& handler, const std::string& form, const std::string& procedure)>
       Guard;

@@ -1,0 +1,137 @@
+#include "controllers/keyboard.h"
+
+#include <cctype>
+
+#include "controllers/ring_in.h"
+#include "engine/board_play.h"
+#include "engine/judging.h"
+#include "engine/question_cycle.h"
+#include "engine/show.h"
+#include "engine/turn_order.h"
+#include "platform/text.h"
+#include "presentation/both_screens.h"
+
+namespace pawnfield {
+
+namespace {
+
+constexpr int kBackspace = 8;
+constexpr int kEnter = 13;
+constexpr int kCtrlN = 14;
+constexpr int kCtrlS = 19;
+constexpr int kCtrlU = 21;
+constexpr int kCtrlZ = 26;
+constexpr int kNoColumn = 99;
+
+bool IsKeypadMode(const GameState& state) { return state.SerialComm == 8 || state.SerialComm == 9; }
+
+bool MayRingIn(const Show& show) {
+  const bool open = PanelVisible(show, Panel::Question) || PanelVisible(show, Panel::QuestionPicture);
+  const bool held = show.state.CurrentPlayer >= 1 && show.state.CurrentPlayer <= 3;
+  return open && !held && !PanelVisible(show, Panel::Standby);
+}
+
+void RingInKey(Show& show, int key) {
+  const bool digit = key >= '0' && key <= '9';
+  if (!MayRingIn(show) || (!digit && key != '^')) return;
+  if (!IsKeypadMode(show.state)) {
+    AcceptRingIn(show, key - '0', RingInSource::Other);
+  } else if (key == '^') {
+    SelectControllerPlayer(show, 1, 6);
+  } else {
+    SelectControllerPlayer(show, key == '0' ? 1 : 0, key - '0');
+  }
+}
+
+void ControlKey(Show& show, int key) {
+  MainForm& form = show.frmMain;
+  if (!show.state.KeyControl) return;
+  if (key == kCtrlN && form.btnNextPlayer.Enabled) btnNextPlayer_Click(show);
+  if (key == kCtrlS && form.btnSkipQuestion.Enabled) btnSkipQuestion_Click(show);
+  if (key == kCtrlU && form.btnUndo.Enabled) btnUndo_Click(show);
+  if (key == kCtrlZ && !PanelVisible(show, Panel::Standby)) form.lblPlayer1[0].DblClick();
+}
+
+void JudgingKey(Show& show, int key) {
+  MainForm& form = show.frmMain;
+  if (!show.state.KeyControl || !IsQuestionType(show.state.GameType)) return;
+  if ((key == 'Y' || key == 'y') && form.btnQuestionCorrect.Visible) HandleCorrect(show);
+  if ((key == 'N' || key == 'n') && form.btnQuestionIncorrect.Visible) HandleIncorrect(show);
+  const bool typing = !Trim(form.txtDJCommand.Text).empty();
+  if ((key == 'C' || key == 'c') && form.btnContinue.Enabled && !typing) btnContinue_Click(show);
+}
+
+void ShowEntry(Show& show, const std::string& entry) {
+  show.entry.DJEntry = entry;
+  show.frmMain.txtDJCommand.Text = entry;
+}
+
+void LetterOfSquare(Show& show, int key) {
+  if (key == kEnter) {
+    AdvanceToNextPlayer(show);
+    if (IsChallengeType(show.state.GameType)) ChangeCursor(show);
+    return;
+  }
+  const int letter = std::toupper(key);
+  const int row = letter - 'A';
+  if (row < 0 || row > 5 || (row > 2 && row >= show.state.GridRows)) return;
+  show.entry.DJRow = row;
+  show.entry.DJRowLetter = std::string(1, static_cast<char>(letter));
+  ShowEntry(show, show.entry.DJRowLetter);
+}
+
+void DigitOfSquare(Show& show, int key) {
+  if (key == kBackspace) {
+    ShowEntry(show, "");
+    return;
+  }
+  const bool digit = key >= '1' && key <= '6';
+  show.entry.DJColumn = digit && key - '1' < show.state.GridCols ? key - '1' : kNoColumn;
+  if (show.entry.DJColumn != kNoColumn) ShowEntry(show, show.entry.DJEntry + static_cast<char>(key));
+}
+
+void EndOfSquare(Show& show, int key) {
+  if (key == kBackspace) ShowEntry(show, show.entry.DJRowLetter);
+  if (key != kEnter) return;
+  const int digit = show.entry.DJColumn;
+  const int letter = show.entry.DJRow;
+  ClaimSquare(show, digit, letter, std::to_string(digit) + std::to_string(letter));
+  ShowEntry(show, "");
+  show.entry.DJRowLetter.clear();
+}
+
+void SquareKey(Show& show, int key) {
+  if (!show.state.PlacementOpen || PanelVisible(show, Panel::Standby)) return;
+  switch (show.entry.DJEntry.size()) {
+    case 0:
+      LetterOfSquare(show, key);
+      break;
+    case 1:
+      DigitOfSquare(show, key);
+      break;
+    default:
+      EndOfSquare(show, key);
+  }
+}
+
+}  // namespace
+
+void SelectControllerPlayer(Show& show, int group, int number) {
+  int controller = 0;
+  if (group == 0 && number >= 1 && number <= 9) controller = number;
+  if (group == 1 && number == 0) controller = 10;
+  if (group == 2 && number == 0) controller = 20;
+  if (controller == 0) return;
+  const int player = show.state.Routing[static_cast<std::size_t>(controller)];
+  if (player < 1 || player > 3) return;
+  btnSelectPlayer_Click(show, player - 1);
+}
+
+void ProcessKeyPress(Show& show, int keyAscii) {
+  RingInKey(show, keyAscii);
+  ControlKey(show, keyAscii);
+  JudgingKey(show, keyAscii);
+  SquareKey(show, keyAscii);
+}
+
+}  // namespace pawnfield
