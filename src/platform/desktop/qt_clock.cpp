@@ -22,8 +22,9 @@ class QtClock::RunningTimer : public Mirror {
   }
 
  private:
+  // A timer that nothing listens to is state only, and wakes nobody.
   void Arm() {
-    if (model_.Enabled && model_.Interval > 0) {
+    if (model_.Enabled && model_.Interval > 0 && model_.OnTimer) {
       timer_.start(model_.Interval);
     } else {
       timer_.stop();
