@@ -120,7 +120,8 @@ void optGameType_Click(Show& show, int index) {
   if (!show.state.GameInProgress) {
     show.state.GameType = index + 1;
     btnReset_Click(show);
-    if (IsChallengeType(show.state.GameType)) form.btnStart.Enabled = true;
+    // With nothing loaded the reset does nothing; the new type's options are offered all the same.
+    ShowOptionsOfType(show);
   } else if (index + 1 != show.state.GameType) {
     AskGameInProgress(show);
   }

@@ -76,6 +76,8 @@ void OfferOption(Control& control, Control& label, bool offered) {
   label.Enabled = offered;
 }
 
+}  // namespace
+
 void ShowOptionsOfType(Show& show) {
   MainForm& form = show.frmMain;
   const bool trivia = IsQuestionType(show.state.GameType);
@@ -91,8 +93,6 @@ void ShowOptionsOfType(Show& show) {
   form.lblSelectPlayer.Visible = ringIn;
   form.btnNextPlayer.Visible = !ringIn;
 }
-
-}  // namespace
 
 void MakeGameBoard(Show& show, int w, int h, int n) {
   show.state.GridCols = n;

@@ -19,6 +19,8 @@ void ClearFSBoardPictures(Show& show);
 void HideBoardControls(Show& show);
 void HideFSBoardControls(Show& show);
 
+// Shows and enables the options, and the buttons before a start, that the game type has.
+void ShowOptionsOfType(Show& show);
 // The full reset: scores, names, pictures, buttons, phase flags, options shown by game type, standby.
 void ResetGameBoard(Show& show);
 // Makes one square look empty on both screens; nothing outside 0..5.
