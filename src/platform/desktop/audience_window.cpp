@@ -30,18 +30,24 @@ AudienceWindow::AudienceWindow(FSMainForm& form, FormWindows& windows, PictureCa
 }
 
 void AudienceWindow::Fill(FSMainForm& form) {
-  for (Image* image :
-       {&form.imgBackground, &form.imgHeader, &form.imgA, &form.imgB, &form.imgC, &form.imgD, &form.imgE, &form.imgF,
-        &form.img1, &form.img2, &form.img3, &form.img4, &form.img5, &form.img6, &form.imgDJEntry}) {
-    screen_->Add(*image);
+  screen_->Add(form.imgBackground);
+  screen_->Add(form.imgHeader);
+  ItemStyle sign;
+  sign.IsSign = true;
+  for (Image* image : {&form.imgA, &form.imgB, &form.imgC, &form.imgD, &form.imgE, &form.imgF, &form.img1, &form.img2,
+                       &form.img3, &form.img4, &form.img5, &form.img6}) {
+    screen_->Add(*image, sign);
   }
-  form.img.ForEach([this](Image& square) { screen_->Add(square); });
-  ItemStyle name;
-  name.Align = Qt::AlignLeft | Qt::AlignVCenter;
+  screen_->Add(form.imgDJEntry);
+  ItemStyle rounded;
+  rounded.Corner = 0.09;
+  form.img.ForEach([&](Image& square) { screen_->Add(square, rounded); });
+  rounded.Edge = 0.03;
+  rounded.Corner = 0.18;
   for (std::size_t i = 0; i < 3; ++i) {
-    screen_->Add(form.picPlayer[i]);
-    screen_->Add(form.ScoreBox(static_cast<int>(i) + 1));
-    screen_->Add(form.lblPlayer[i], name);
+    screen_->Add(form.picPlayer[i], rounded);
+    screen_->Add(form.ScoreBox(static_cast<int>(i) + 1), rounded);
+    screen_->Add(form.lblPlayer[i]);
     screen_->Add(form.Label11[i]);
   }
   screen_->Add(form.txtOptionalHeading);
@@ -75,7 +81,9 @@ void AudienceWindow::ShowForm() {
     return;
   }
   setGeometry(screens[1]->geometry());
-  showFullScreen();
+  // The toolkit's own call for this would also ask for the focus.
+  setWindowState(windowState() | Qt::WindowFullScreen);
+  show();
   if (windowHandle() != nullptr) windowHandle()->setScreen(screens[1]);
   setGeometry(screens[1]->geometry());
 }

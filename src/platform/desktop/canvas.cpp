@@ -19,17 +19,40 @@ constexpr int kCachedArea = 40000;
 
 QColor ToQColor(Color color) { return QColor(color & 0xFF, (color >> 8) & 0xFF, (color >> 16) & 0xFF); }
 
+void PaintSign(QPainter& painter, const QPixmap& sign, const QRectF& rect) {
+  if (sign.isNull()) return;
+  QRectF place(QPointF(), QSizeF(sign.size()).scaled(rect.size(), Qt::KeepAspectRatio));
+  place.moveCenter(rect.center());
+  painter.setCompositionMode(QPainter::CompositionMode_Lighten);
+  painter.drawPixmap(place, sign, QRectF(sign.rect()));
+  painter.setCompositionMode(QPainter::CompositionMode_SourceOver);
+}
+
+// Painted as a brush, because a clip would leave the round corners rough.
+void PaintRounded(QPainter& painter, const QPixmap& picture, const QRectF& rect, const ItemStyle& style) {
+  if (picture.isNull()) return;
+  QBrush brush(picture);
+  brush.setTransform(QTransform::fromTranslate(rect.x(), rect.y())
+                         .scale(rect.width() / picture.width(), rect.height() / picture.height()));
+  const double edgeX = style.Edge * picture.height() * rect.width() / picture.width();
+  const double edgeY = style.Edge * rect.height();
+  const double radius = style.Corner * rect.height();
+  painter.setPen(Qt::NoPen);
+  painter.setBrush(brush);
+  painter.drawRoundedRect(rect.adjusted(edgeX, edgeY, -edgeX, -edgeY), radius, radius);
+  painter.setBrush(Qt::NoBrush);
+}
+
 struct TextSource {
   std::string Caption;
   Font Typeface;
   Color Fore = kWhite;
 };
 
-// A panel, or a picture as large as the panel it stands in: such a one keeps its shape and covers the whole.
+// A picture as large as the panel it stands in.
 bool FillsItsPanel(const Control& control) {
   const Control* container = control.Container;
-  if (container == nullptr) return control.Kind() == ControlKind::PictureBox;
-  return control.Width >= container->Width && control.Height >= container->Height;
+  return container != nullptr && control.Width >= container->Width && control.Height >= container->Height;
 }
 
 bool ReadText(const Control& control, TextSource& source) {
@@ -192,12 +215,21 @@ void Canvas::PaintItem(QPainter& painter, Item& item) {
 void Canvas::PaintPicture(QPainter& painter, Item& item, const QRectF& rect) {
   const QSize size = rect.toRect().size();
   if (size.isEmpty()) return;
+  if (item.style.IsSign) {
+    PaintSign(painter, pictures_.Original(item.pictureKey), rect);
+    return;
+  }
+  if (item.style.Corner > 0) {
+    PaintRounded(painter, pictures_.Original(item.pictureKey), rect, item.style);
+    return;
+  }
   if (size.width() * size.height() < kCachedArea) {
     const QPixmap picture = pictures_.Original(item.pictureKey);
     if (!picture.isNull()) painter.drawPixmap(rect, picture, QRectF(picture.rect()));
     return;
   }
-  const auto fill = FillsItsPanel(item.control) ? PictureCache::Fill::Cover : PictureCache::Fill::Stretch;
+  const auto fill =
+      item.style.PaintsGround || FillsItsPanel(item.control) ? PictureCache::Fill::Cover : PictureCache::Fill::Stretch;
   painter.drawPixmap(rect.toRect().topLeft(), pictures_.Scaled(item.pictureKey, size, fill));
 }
 

@@ -20,8 +20,13 @@ struct ItemStyle {
   Qt::Alignment Align = Qt::AlignCenter;
   // Texts that no rule has fitted are drawn smaller when they would not fit; fitted ones are drawn as told.
   bool ShrinkToFit = true;
-  // A panel paints its ground; others show only their picture.
+  // A panel paints its ground, and its picture covers it in the picture's own shape.
   bool PaintsGround = false;
+  // A sign on a dark ground: keeps its shape, and only what is lighter than the board is seen of it.
+  bool IsSign = false;
+  // Cuts the picture's dark corners: the edge and the corner's radius as shares of its height.
+  double Edge = 0;
+  double Corner = 0;
 };
 
 class Canvas : public QWidget {
@@ -30,7 +35,7 @@ class Canvas : public QWidget {
   ~Canvas() override;
 
   void SetLogicalSize(double widthTwips, double heightTwips);
-  // A screen's canvas lets pictures that fill the logical screen fill the whole display.
+  // Lets panels that fill the logical screen fill the whole widget.
   void SetFillsDisplay(bool fills) { fillsDisplay_ = fills; }
   void SetBackdrop(std::function<void(QPainter&, const QRect&)> paint) { backdrop_ = std::move(paint); }
   // Paints the control from now on, and in it everything that stands in it.

@@ -39,12 +39,19 @@ ConsoleWindow::ConsoleWindow(MainForm& form, FormWindows& windows, PictureCache&
 
 void ConsoleWindow::FillBoard(MainForm& form) {
   board_->SetLogicalSize(kPanelWidth, kPanelHeight);
+  board_->SetFillsDisplay(true);
   board_->SetBackdrop(PaintGround);
-  for (Image* image : {&form.imgHeader, &form.imgA, &form.imgB, &form.imgC, &form.imgD, &form.imgE, &form.imgF,
-                       &form.img1, &form.img2, &form.img3, &form.img4, &form.img5, &form.img6, &form.imgDJEntry}) {
-    board_->Add(*image);
+  board_->Add(form.imgHeader);
+  ItemStyle sign;
+  sign.IsSign = true;
+  for (Image* image : {&form.imgA, &form.imgB, &form.imgC, &form.imgD, &form.imgE, &form.imgF, &form.img1, &form.img2,
+                       &form.img3, &form.img4, &form.img5, &form.img6}) {
+    board_->Add(*image, sign);
   }
-  form.img.ForEach([this](Image& square) { board_->Add(square); });
+  board_->Add(form.imgDJEntry);
+  ItemStyle rounded;
+  rounded.Corner = 0.09;
+  form.img.ForEach([&](Image& square) { board_->Add(square, rounded); });
   board_->Add(form.txtOptionalHeading);
   ItemStyle panel;
   panel.PaintsGround = true;
