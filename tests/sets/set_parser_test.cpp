@@ -140,8 +140,9 @@ TEST(SetParser, WritesTheFormatLineByTypeFontAndColour) {
 
 TEST(SetParser, CompactionMovesBlanksOneStepInOnePass) {
   // Letters are questions, "-" is a blank record, "a" has an answer only.
-  const std::pair<std::string, std::string> cases[] = {{"X-Y", "XY-"},     {"X--Y", "X-Y-"}, {"-X-Y", "X-Y-"}, {"-XY-Z", "XY-Z-"},
-                                                       {"X---Y", "X--Y-"}, {"XaY", "XaY"},   {"XYZ", "XYZ"}};
+  const std::pair<std::string, std::string> cases[] = {{"X-Y", "XY-"},     {"X--Y", "X-Y-"},   {"-X-Y", "X-Y-"},
+                                                       {"-XY-Z", "XY-Z-"}, {"X---Y", "X--Y-"}, {"XaY", "XaY"},
+                                                       {"XYZ", "XYZ"}};
   for (const auto& [before, after] : cases) {
     auto set = std::make_unique<TriviaSet>();
     for (std::size_t i = 0; i < before.size(); ++i) {
