@@ -96,11 +96,12 @@ def score_box(lit):
 
 
 def board_label(wording):
-    size = (60 * SCALE, 60 * SCALE)
-    image = Image.new("RGB", size, rgb(GROUND))
-    mask = text_mask(size, (30 * SCALE, 30 * SCALE), wording, font("bold", 34 * SCALE))
-    paint(image, "#9FB4EC", mask)
-    return finish(image, (60, 60))
+    """A letter or digit on nothing, so that it stands on whatever ground the board has."""
+    size = (120 * SCALE, 120 * SCALE)
+    mask = text_mask(size, (60 * SCALE, 60 * SCALE), wording, font("bold", 68 * SCALE))
+    image = Image.new("RGBA", size, rgb("#9FB4EC") + (0,))
+    image.putalpha(mask)
+    return image.resize((120, 120), Image.LANCZOS)
 
 
 def cursor(kind):
@@ -606,8 +607,8 @@ def main():
         bitmaps[kind + "-100a"] = piece_at_rest(kind)
         bitmaps[kind + "-100b"] = piece_lit(kind)
     for i in range(5):
-        bitmaps[f"Row{i + 1}"] = board_label(str(i + 1))
-        bitmaps["Col" + "ABCDE"[i]] = board_label("ABCDE"[i])
+        board_label(str(i + 1)).save(IMAGES / f"Row{i + 1}.png", optimize=True)
+        board_label("ABCDE"[i]).save(IMAGES / ("Col" + "ABCDE"[i] + ".png"), optimize=True)
     for name, image in bitmaps.items():
         image.convert("RGB").save(IMAGES / (name + ".bmp"))
     for kind, name in (("X", "X"), ("O", "O"), ("T", "T"), ("N", "Neutral")):

@@ -39,8 +39,8 @@ void SetDesignPictures(Show& show) {
   const std::array columns{&form.imgA, &form.imgB, &form.imgC, &form.imgD, &form.imgE};
   const std::array rows{&form.img1, &form.img2, &form.img3, &form.img4, &form.img5};
   for (std::size_t i = 0; i < 5; ++i) {
-    columns[i]->Picture = picture(std::string("Col") + static_cast<char>('A' + i) + ".bmp");
-    rows[i]->Picture = picture("Row" + std::to_string(i + 1) + ".bmp");
+    columns[i]->Picture = picture(std::string("Col") + static_cast<char>('A' + i) + ".png");
+    rows[i]->Picture = picture("Row" + std::to_string(i + 1) + ".png");
   }
   if (!show.state.DualScreen) return;
   const std::array fsColumns{&audience.imgA, &audience.imgB, &audience.imgC, &audience.imgD, &audience.imgE};
