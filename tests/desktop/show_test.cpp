@@ -3,6 +3,7 @@
 #include <gtest/gtest.h>
 
 #include <QGuiApplication>
+#include <QProcess>
 #include <QScreen>
 #include <QTemporaryDir>
 #include <QWindow>
@@ -84,6 +85,18 @@ TEST_F(ShowTest, ChallengeTakesSquaresFromBothScreens) {
   EXPECT_TRUE(Wait([] { return Claimed(4, 2); }));
   // The board's own squares hold what the model says on both screens.
   EXPECT_TRUE(Wait([] { return Main().img.At(4, 2)->Picture == Audience().img.At(4, 2)->Picture.Get(); }));
+}
+
+TEST_F(ShowTest, UnpluggedProjectorLeavesTheConsoleAlone) {
+  const auto xrandr = [](const QStringList& arguments) { return QProcess::execute("xrandr", arguments) == 0; };
+  QWidget& audience = driver_->Program().Audience();
+  const QRect console = driver_->Program().Console().geometry();
+  ASSERT_TRUE(xrandr({"--output", "DUMMY1", "--off"}));
+  EXPECT_TRUE(Wait([&] { return !audience.isVisible(); }));
+  EXPECT_TRUE(driver_->Program().Console().isVisible());
+  EXPECT_EQ(driver_->Program().Console().geometry(), console);
+  ASSERT_TRUE(xrandr({"--output", "DUMMY1", "--mode", "1920x1080", "--pos", "1280x0"}));
+  EXPECT_TRUE(Wait([&] { return audience.isVisible() && audience.geometry() == QRect(1280, 0, 1920, 1080); }));
 }
 
 }  // namespace

@@ -5,6 +5,7 @@
 #include <QStyleFactory>
 #include <clocale>
 
+#include "engine/handlers.h"
 #include "platform/desktop/text_layout.h"
 
 namespace pawnfield {
@@ -19,6 +20,11 @@ DesktopProgram::DesktopProgram(const DesktopPlaces& places)
       gameLoading_(show_.frmGameLoading, desktop_.windows),
       gameInProgress_(show_.frmGameInProgress, desktop_.windows),
       gameTypeHelp_(show_.frmGameTypeHelp, desktop_.windows) {}
+
+// The clock outlives the forms, whose timers must not be looked at any more.
+DesktopProgram::~DesktopProgram() {
+  for (Form* form : AllForms(show_)) desktop_.clock.Detach(*form);
+}
 
 std::vector<FormWindow*> DesktopProgram::Windows() {
   return {&console_, &audience_, &loading_, &splash_, &gameLoading_, &gameInProgress_, &gameTypeHelp_};

@@ -12,6 +12,9 @@ namespace pawnfield {
 class DesktopProgram {
  public:
   explicit DesktopProgram(const DesktopPlaces& places = {});
+  ~DesktopProgram();
+  DesktopProgram(const DesktopProgram&) = delete;
+  DesktopProgram& operator=(const DesktopProgram&) = delete;
 
   Show& TheShow() { return show_; }
   ConsoleWindow& Console() { return console_; }
