@@ -3,6 +3,8 @@
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
+#include <ostream>
+
 #include "support/game_player.h"
 
 namespace pawnfield {
@@ -16,6 +18,8 @@ struct Game {
   const char* board;
   const char* winner;
 };
+
+void PrintTo(const Game& game, std::ostream* out) { *out << game.script; }
 
 const Game kGames[] = {
     {"ChallengeA_RowEndsTheGame",
