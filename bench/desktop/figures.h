@@ -1,0 +1,22 @@
+// The figures that need the real program: each prints lines as the other benchmarks do, with a median in its name.
+#pragma once
+
+#include <QString>
+#include <functional>
+#include <string>
+#include <vector>
+
+namespace pawnfield {
+
+void PrintMedian(const std::string& name, std::vector<double> milliseconds);
+
+// Starts this program several times over as the show's program, and takes the time to its first windows.
+bool MeasureStartUp();
+// One such start: prints the time from the given reading of the steady clock to the loading form's first paint, and
+// the time that the console takes from the start of its load to its first paint.
+int RunStartUp(long long startedNs, const QString& folder);
+
+// Fits a long question into both boxes with the desktop's own measurer, quickly and plainly.
+void MeasureFits();
+
+}  // namespace pawnfield
