@@ -86,9 +86,8 @@ def score_box(lit):
     body = rounded_mask(size, box, 14 * SCALE)
     if lit:
         glow(image, "#FF4A50", body, 3 * SCALE, 0.9)
-        image.paste(vertical_gradient(size, "#B22A31", "#6E141B"), (0, 0), body)
-        glow(image, "#FF5A5F", ImageChops.multiply(body, radial_mask(size, (0.5, 0.1), 0.6)), 1, 0.35)
-        paint(image, "#FF9A9D", rounded_mask(size, box, 14 * SCALE, 3 * SCALE))
+        image.paste(vertical_gradient(size, "#5E1620", "#3C0D14"), (0, 0), body)
+        paint(image, "#FF4A50", rounded_mask(size, box, 14 * SCALE, 4 * SCALE))
     else:
         image.paste(vertical_gradient(size, "#1E2942", "#121929"), (0, 0), body)
         paint(image, "#33415F", rounded_mask(size, box, 14 * SCALE, 2 * SCALE))

@@ -1,5 +1,7 @@
 #include "presentation/fs_main_form.h"
 
+#include <array>
+
 namespace pawnfield {
 
 namespace {
@@ -10,6 +12,9 @@ constexpr double kBandTop = 10080;
 constexpr double kBandHeight = 1260;
 constexpr double kBandGap = 240;
 constexpr double kPlayerWidth = (kWidth - 4 * kBandGap) / 3;
+constexpr double kNameMargin = 300;
+// The players' red, yellow and green, light enough to be read on the lit box.
+constexpr std::array<Color, 3> kPlayerColors{0x706BFF, 0x4DD8FF, 0x8CE046};
 }  // namespace
 
 FSMainForm::FSMainForm() : Form("frmFSMain") {
@@ -28,7 +33,8 @@ FSMainForm::FSMainForm() : Form("frmFSMain") {
     PictureBox& scoreBox = ScoreBox(static_cast<int>(i) + 1);
     picPlayer[i].MoveTo(left, kBandTop, kPlayerWidth, kBandHeight);
     scoreBox.MoveTo(left + kPlayerWidth * 0.58, kBandTop, kPlayerWidth * 0.40, kBandHeight);
-    lblPlayer[i].MoveTo(left + 120, kBandTop, kPlayerWidth * 0.56 - 120, kBandHeight);
+    lblPlayer[i].MoveTo(left + kNameMargin, kBandTop, kPlayerWidth * 0.56 - kNameMargin, kBandHeight);
+    lblPlayer[i].ForeColor = kPlayerColors[i];
     lblPlayer[i].Font = {"Segoe UI", 26, true, false};
     Label11[i].MoveTo(left + kPlayerWidth * 0.58, kBandTop, kPlayerWidth * 0.40, kBandHeight);
     Label11[i].Font = {"Segoe UI", 40, true, false};
