@@ -57,7 +57,6 @@ void PlayTrivia(ShowDriver& driver, Script& script) {
 }
 
 void PlayChallenge(ShowDriver& driver, Script& script) {
-  script.Press("btnReset");
   script.Press("optGameType_0");
   driver.TakePictures("challenge-ready");
   script.Press("btnStart");
