@@ -3,6 +3,7 @@
 #include <gtest/gtest.h>
 
 #include <QGuiApplication>
+#include <QKeyEvent>
 #include <QProcess>
 #include <QScreen>
 #include <QTemporaryDir>
@@ -81,10 +82,25 @@ TEST_F(ShowTest, ChallengeTakesSquaresFromBothScreens) {
   ASSERT_TRUE(driver_->PressSquare(0, 0));
   EXPECT_TRUE(Wait([] { return Claimed(0, 0); }));
   driver_->Pause(1500);
-  ASSERT_TRUE(driver_->PressAudienceSquare(4, 2));
-  EXPECT_TRUE(Wait([] { return Claimed(4, 2); }));
+  ASSERT_TRUE(driver_->PressAudienceSquare(4, 1));
+  EXPECT_TRUE(Wait([] { return Claimed(4, 1); }));
   // The board's own squares hold what the model says on both screens.
-  EXPECT_TRUE(Wait([] { return Main().img.At(4, 2)->Picture == Audience().img.At(4, 2)->Picture.Get(); }));
+  EXPECT_TRUE(Wait([] { return Main().img.At(4, 1)->Picture == Audience().img.At(4, 1)->Picture.Get(); }));
+}
+
+TEST_F(ShowTest, TypedKeysClaimASquareWhereverTheFocusIs) {
+  QWidget& console = driver_->Program().Console();
+  ASSERT_TRUE(Wait([] { return Main().btnUndo.Enabled && driver_->TheShow().state.PlacementOpen; }));
+  console.activateWindow();
+  ASSERT_TRUE(Wait([&] { return console.isActiveWindow(); }));
+  console.findChild<QWidget*>("btnStopSounds")->setFocus();
+  for (const QString key : {"c", "5", "\r"}) {
+    QWidget* focus = console.focusWidget() != nullptr ? console.focusWidget() : &console;
+    QKeyEvent press(QEvent::KeyPress, key == "\r" ? Qt::Key_Return : Qt::Key_A, Qt::NoModifier, key);
+    QCoreApplication::sendEvent(focus, &press);
+  }
+  EXPECT_TRUE(Wait([] { return Claimed(4, 2); }));
+  EXPECT_EQ(driver_->TheShow().state.LastSquareKey, "42");
 }
 
 TEST_F(ShowTest, UnpluggedProjectorLeavesTheConsoleAlone) {

@@ -23,9 +23,7 @@ void PaintSign(QPainter& painter, const QPixmap& sign, const QRectF& rect) {
   if (sign.isNull()) return;
   QRectF place(QPointF(), QSizeF(sign.size()).scaled(rect.size(), Qt::KeepAspectRatio));
   place.moveCenter(rect.center());
-  painter.setCompositionMode(QPainter::CompositionMode_Lighten);
   painter.drawPixmap(place, sign, QRectF(sign.rect()));
-  painter.setCompositionMode(QPainter::CompositionMode_SourceOver);
 }
 
 // Painted as a brush, because a clip would leave the round corners rough.

@@ -5,6 +5,7 @@
 #include <QScreen>
 
 #include "platform/desktop/ground.h"
+#include "platform/desktop/key_bridge.h"
 #include "presentation/main_form.h"
 #include "ui_frm_main.h"
 
@@ -35,6 +36,7 @@ ConsoleWindow::ConsoleWindow(MainForm& form, FormWindows& windows, PictureCache&
   Bindings()->AddCanvas(*board_);
   Bindings()->AddCanvas(*answer_);
   HoldUnseen();
+  new KeyBridge(form, *this);
 }
 
 void ConsoleWindow::FillBoard(MainForm& form) {
