@@ -12,7 +12,8 @@ constexpr double kBandTop = 10080;
 constexpr double kBandHeight = 1260;
 constexpr double kBandGap = 240;
 constexpr double kPlayerWidth = (kWidth - 4 * kBandGap) / 3;
-constexpr double kNameMargin = 300;
+constexpr double kNameMargin = 240;
+constexpr double kNameShare = 0.61;
 // The players' red, yellow and green, light enough to be read on the lit box.
 constexpr std::array<Color, 3> kPlayerColors{0x706BFF, 0x4DD8FF, 0x8CE046};
 }  // namespace
@@ -32,11 +33,11 @@ FSMainForm::FSMainForm() : Form("frmFSMain") {
     const double left = kBandGap + static_cast<double>(i) * (kPlayerWidth + kBandGap);
     PictureBox& scoreBox = ScoreBox(static_cast<int>(i) + 1);
     picPlayer[i].MoveTo(left, kBandTop, kPlayerWidth, kBandHeight);
-    scoreBox.MoveTo(left + kPlayerWidth * 0.58, kBandTop, kPlayerWidth * 0.40, kBandHeight);
-    lblPlayer[i].MoveTo(left + kNameMargin, kBandTop, kPlayerWidth * 0.56 - kNameMargin, kBandHeight);
+    scoreBox.MoveTo(left + kPlayerWidth * kNameShare, kBandTop, kPlayerWidth * (0.98 - kNameShare), kBandHeight);
+    lblPlayer[i].MoveTo(left + kNameMargin, kBandTop, kPlayerWidth * kNameShare - kNameMargin, kBandHeight);
     lblPlayer[i].ForeColor = kPlayerColors[i];
-    lblPlayer[i].Font = {"Segoe UI", 26, true, false};
-    Label11[i].MoveTo(left + kPlayerWidth * 0.58, kBandTop, kPlayerWidth * 0.40, kBandHeight);
+    lblPlayer[i].Font = {"Segoe UI", 23, true, false};
+    Label11[i].MoveTo(left + kPlayerWidth * kNameShare, kBandTop, kPlayerWidth * (0.98 - kNameShare), kBandHeight);
     Label11[i].Font = {"Segoe UI", 40, true, false};
     lblPlayer[i].Caption = "PLAYER " + std::to_string(i + 1);
     Label11[i].Caption = "0";
