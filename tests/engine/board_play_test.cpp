@@ -129,6 +129,38 @@ TEST(QuestionCycle, ThePauseIsAsLongAsChosenAndTheUserMayAdvance) {
   }
 }
 
+TEST(QuestionCycle, EachKindOfQuestionHasItsPanelOnBothScreensUntilTheVerdict) {
+  struct Case {
+    const char* question;
+    const char* panel;
+    const char* sound;
+  };
+  const Case cases[] = {{"Which one?", "picQuestion", ""},
+                        {"C:\\Shows\\clip.WAV", "picSound", "C:\\Shows\\clip.WAV"},
+                        {"C:\\Shows\\photo.jpg", "picQuestionPicture", ""}};
+  for (const Case& c : cases) {
+    ShowFixture fixture;
+    fixture.sim.files.Put("C:\\Shows\\photo.jpg", SimPictures::PictureBytes(800, 600));
+    fixture.sim.files.Put("C:\\Shows\\clip.WAV", "sound");
+    fixture.WriteSet("One", {c.question});
+    fixture.Start();
+    fixture.form().optGameType[2].Click();
+    fixture.ChooseSet("One");
+    fixture.form().btnStart.Click();
+    for (const bool up : {true, false}) {
+      for (const char* panel : {"picQuestion", "picSound", "picQuestionPicture"}) {
+        const bool expected = up && std::string(panel) == c.panel;
+        EXPECT_EQ(fixture.form().Find(panel)->Visible.Get(), expected) << c.question << " " << panel;
+        EXPECT_EQ(fixture.audience().Find(panel)->Visible.Get(), expected) << c.question << " " << panel;
+      }
+      EXPECT_EQ(fixture.sim.media.SoundClipPlayer.Playing, up && *c.sound != 0) << c.question;
+      fixture.form().btnQuestionCorrect.Click();
+    }
+    EXPECT_EQ(fixture.sim.media.SoundClipPlayer.Url, c.sound);
+    EXPECT_EQ(fixture.form().lblAnswer.Caption, "The answer");
+  }
+}
+
 TEST(QuestionCycle, FiveQuestionsLeftIsToldOnceOnBothScreens) {
   GamePlayer player({4, 2, 4, Ending::FullBoard, "m"});
   ShowFixture& fixture = player.fixture();

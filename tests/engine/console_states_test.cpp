@@ -134,6 +134,15 @@ TEST(ConsoleStates, AChangeOfTypeInARunningGameIsAsked) {
   EXPECT_FALSE(form.btnStart.Enabled);
 }
 
+TEST(ConsoleStates, InStandbyTheGameCannotBeEnded) {
+  GamePlayer player({2, 2, 3, Ending::FullBoard, ""});
+  player.Play("00 H E");
+  EXPECT_FALSE(player.fixture().form().picWinner.Visible);
+  EXPECT_TRUE(player.fixture().show().state.GameInProgress);
+  player.Play("V E");
+  EXPECT_TRUE(player.fixture().form().picWinner.Visible);
+}
+
 TEST(ConsoleStates, AChangeOfGridOrPlayersActsAtOnce) {
   GamePlayer player({1, 3, 5, Ending::FullBoard, ""});
   ShowFixture& fixture = player.fixture();
