@@ -78,6 +78,12 @@ void TextBox::Type(const std::string& text) {
   Raise(OnChange, "_Change");
 }
 
+void TextBox::GotFocus() {
+  if (!IsReachable()) return;
+  Owner().ActiveControl = this;
+  Raise(OnGotFocus, "_GotFocus");
+}
+
 void ComboBox::AddItem(const std::string& text) {
   auto items = List.Get();
   items.push_back(text);

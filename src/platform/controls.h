@@ -55,7 +55,8 @@ enum class PropertyId {
   Interval,
   MouseIcon,
   ZOrder,
-  Focus
+  Focus,
+  Selection
 };
 
 enum class ControlKind {
@@ -231,10 +232,15 @@ class TextBox : public Control {
   TextBox(Form& form, std::string name) : Control(form, std::move(name), ControlKind::TextBox) {}
   // A user's edit: sets Text and runs OnChange.
   void Type(const std::string& text);
+  // A user goes to the box, by a click or by the keyboard.
+  void GotFocus();
+  // Marks the whole text, so that the next character typed replaces it.
+  void SelectAll() { Notify(PropertyId::Selection); }
   Property<std::string> Text{*this, PropertyId::Text};
   Property<Color> ForeColor{*this, PropertyId::ForeColor, kWhite};
   Property<Color> BackColor{*this, PropertyId::BackColor, kBlack};
   std::function<void()> OnChange;
+  std::function<void()> OnGotFocus;
 };
 
 class ComboBox : public Control {

@@ -1,4 +1,5 @@
 // Plays two short games in the real program on the present display and saves pictures of both screens at each phase.
+// Usage: pawnfield_show [FOLDER [forms]]; with "forms" it opens every form instead and saves a picture of each.
 
 #include <QApplication>
 #include <QTextStream>
@@ -70,6 +71,16 @@ void PlayChallenge(ShowDriver& driver, Script& script) {
   driver.TakePictures("challenge-board");
 }
 
+// Every form that the console opens, once.
+void ShowForms(ShowDriver& driver, Script& script) {
+  MainForm& form = driver.TheShow().frmMain;
+  const auto picture = [&](const char* name, Control& opener) {
+    script.Do(name, driver.PictureOfForm(name, [&] { opener.Click(); }));
+  };
+  picture("frmPlayerNames", form.mnuFileAddPlayerNames);
+  picture("frmGameTypeHelp", form.btnGameTypeHelp);
+}
+
 }  // namespace
 }  // namespace pawnfield
 
@@ -81,8 +92,12 @@ int main(int argc, char** argv) {
   pawnfield::Script script(driver);
   script.Do("start", driver.Start());
   driver.TakePictures("console");
-  pawnfield::PlayTrivia(driver, script);
-  pawnfield::PlayChallenge(driver, script);
+  if (argc > 2 && QString(argv[2]) == "forms") {
+    pawnfield::ShowForms(driver, script);
+  } else {
+    pawnfield::PlayTrivia(driver, script);
+    pawnfield::PlayChallenge(driver, script);
+  }
   for (const QString& text : driver.BoxTexts()) QTextStream(stdout) << "box: " << text << '\n';
   return script.Failures() == 0 ? 0 : 1;
 }

@@ -115,6 +115,33 @@ bool ShowDriver::Choose(const QString& combo, const QString& item) {
   return box->currentText() == item || !box->view()->isVisible();
 }
 
+void ShowDriver::SaveForm(FormWindow& window) {
+  QDir().mkpath(folder_);
+  const QString path =
+      QString("%1/%2-%3.png").arg(folder_).arg(++pictureCount_, 2, 10, QChar('0')).arg(window.objectName());
+  if (window.grab().save(path)) QTextStream(stdout) << path << '\n';
+}
+
+bool ShowDriver::PictureOfForm(const QString& form, const std::function<void()>& open) {
+  constexpr int kSettledMs = 300;
+  FormWindow* window = nullptr;
+  for (FormWindow* each : program_.Windows()) {
+    if (each->objectName() == form) window = each;
+  }
+  if (window == nullptr) return false;
+  bool opened = false;
+  // A modal form stops the caller until it is closed, so its picture is taken from a timer.
+  QTimer::singleShot(kSettledMs, window, [&] {
+    opened = window->isVisible();
+    if (!opened) return;
+    SaveForm(*window);
+    window->close();
+  });
+  open();
+  Pause(kSettledMs + kStepMs);
+  return opened;
+}
+
 void ShowDriver::TakePictures(const QString& name) {
   Pause(120);
   QDir().mkpath(folder_);

@@ -31,11 +31,16 @@ class ShowDriver {
   // Saves NN-name-console.png and NN-name-audience.png, and prints where they are.
   void TakePictures(const QString& name);
 
+  // Opens a form, saves NN-form.png of its window with the mouse away from it, and closes it. False when it did not
+  // open.
+  bool PictureOfForm(const QString& form, const std::function<void()>& open);
+
   Show& TheShow() { return program_.TheShow(); }
   DesktopProgram& Program() { return program_; }
 
  private:
   void AnswerBox();
+  void SaveForm(FormWindow& window);
   bool ClickCanvas(Canvas& canvas, const Control* square);
 
   QString folder_;

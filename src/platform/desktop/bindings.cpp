@@ -4,10 +4,12 @@
 #include <QAction>
 #include <QCheckBox>
 #include <QColor>
+#include <QFocusEvent>
 #include <QGroupBox>
 #include <QLineEdit>
 #include <QProgressBar>
 #include <QRadioButton>
+#include <QTimer>
 #include <QToolTip>
 
 #include "platform/desktop/model_widgets.h"
@@ -26,8 +28,8 @@ class Binding : public Mirror {
  public:
   Binding(Model& boundModel, Widget& boundWidget) : model(boundModel), widget(boundWidget) {
     QSizePolicy policy = widget.sizePolicy();
-    // A hidden control keeps its place, so that nothing moves under the operator's hand; a box for a name comes
-    // and goes in the place of the name.
+    // A hidden control keeps its place, so that nothing moves under the operator's hand; a box for typing leaves its
+    // own to what stands beside it.
     policy.setRetainSizeWhenHidden(model.Kind() != ControlKind::TextBox);
     widget.setSizePolicy(policy);
     ShowCommon();
@@ -155,10 +157,28 @@ class ComboBinding : public Binding<ComboBox, ModelComboBox> {
   }
 };
 
+// Tells the model when the user goes to its box. A window that merely comes back to the front tells nothing.
+class FocusWatch : public QObject {
+ public:
+  FocusWatch(TextBox& box, QWidget& view) : QObject(&view), box_(box) { view.installEventFilter(this); }
+  bool eventFilter(QObject*, QEvent* event) override {
+    if (event->type() != QEvent::FocusIn) return false;
+    const Qt::FocusReason reason = static_cast<QFocusEvent*>(event)->reason();
+    const bool byUser = reason == Qt::MouseFocusReason || reason == Qt::TabFocusReason ||
+                        reason == Qt::BacktabFocusReason || reason == Qt::ShortcutFocusReason;
+    if (byUser) box_.GotFocus();
+    return false;
+  }
+
+ private:
+  TextBox& box_;
+};
+
 class TextBoxBinding : public Binding<TextBox, QLineEdit> {
  public:
   TextBoxBinding(TextBox& box, QLineEdit& view) : Binding(box, view) {
     ShowOwn(PropertyId::Text);
+    new FocusWatch(box, view);
     QObject::connect(&widget, &QLineEdit::textEdited, &widget, [this](const QString& text) { Edited(text); });
   }
 
@@ -173,7 +193,9 @@ class TextBoxBinding : public Binding<TextBox, QLineEdit> {
     }
     ShowOwn(PropertyId::Text);
   }
-  void ShowOwn(PropertyId) override {
+  void ShowOwn(PropertyId id) override {
+    // The press that gives the focus places the cursor afterwards.
+    if (id == PropertyId::Selection) QTimer::singleShot(0, &widget, &QLineEdit::selectAll);
     const QString text = FromWindows1252(model.Text);
     if (widget.text() != text) widget.setText(text);
     // Black is the design's own ground; any other colour is a sign to the operator.

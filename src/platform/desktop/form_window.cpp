@@ -2,6 +2,7 @@
 
 #include <QCloseEvent>
 #include <QGuiApplication>
+#include <QPushButton>
 #include <QScreen>
 
 #include "platform/desktop/native_path.h"
@@ -39,12 +40,31 @@ void FormWindow::Changed(Control&, PropertyId id) {
 }
 
 void FormWindow::ShowForm() {
-  adjustSize();
+  // The toolkit's own adjustment keeps a window to two thirds of the screen and would press its contents together.
+  resize(sizeHint());
   if (const QScreen* screen = QGuiApplication::primaryScreen()) {
+    resize(size().boundedTo(screen->availableGeometry().size()));
     move(screen->availableGeometry().center() - rect().center());
   }
   show();
   raise();
+}
+
+void FormWindow::keyPressEvent(QKeyEvent* event) {
+  const bool enter = event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter;
+  if (windowType() != Qt::Dialog || (!enter && event->key() != Qt::Key_Escape)) {
+    QMainWindow::keyPressEvent(event);
+    return;
+  }
+  if (!enter) {
+    close();
+    return;
+  }
+  auto* button = qobject_cast<QPushButton*>(focusWidget());
+  for (QPushButton* other : findChildren<QPushButton*>()) {
+    if (button == nullptr && other->isDefault()) button = other;
+  }
+  if (button != nullptr) button->click();
 }
 
 void FormWindow::closeEvent(QCloseEvent* event) {

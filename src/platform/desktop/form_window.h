@@ -10,6 +10,19 @@
 
 namespace pawnfield {
 
+// The window of a dialog: a title and a box to close it by.
+inline constexpr Qt::WindowFlags kDialog = Qt::Dialog | Qt::WindowTitleHint | Qt::WindowCloseButtonHint;
+
+// Fills the window with the form file's widgets.
+template <typename Design>
+void SetUp(QMainWindow& window) {
+  auto* content = new QWidget(&window);
+  Design design;
+  design.setupUi(content);
+  content->setObjectName("pnlContent");
+  window.setCentralWidget(content);
+}
+
 class FormWindow : public QMainWindow, public Mirror {
  public:
   FormWindow(Form& form, FormWindows& windows, Qt::WindowFlags flags = Qt::Window);
@@ -25,6 +38,8 @@ class FormWindow : public QMainWindow, public Mirror {
   // Called once the window has its widgets; binds them and takes over what the form says already.
   void BindForm();
   virtual void ShowForm();
+  // In a dialog Enter presses the button that has the focus, or else the default one, and Escape closes.
+  void keyPressEvent(QKeyEvent* event) override;
   void closeEvent(QCloseEvent* event) override;
   Form& form_;
 

@@ -12,17 +12,6 @@ namespace pawnfield {
 namespace {
 
 constexpr Qt::WindowFlags kBare = Qt::SplashScreen | Qt::FramelessWindowHint;
-constexpr Qt::WindowFlags kDialog = Qt::Dialog | Qt::WindowTitleHint | Qt::WindowCloseButtonHint;
-
-// Fills the window with the form file's widgets.
-template <typename Design>
-void SetUp(QMainWindow& window) {
-  auto* content = new QWidget(&window);
-  Design design;
-  design.setupUi(content);
-  content->setObjectName("pnlContent");
-  window.setCentralWidget(content);
-}
 
 }  // namespace
 
