@@ -136,7 +136,7 @@ void optGameType_Click(Show& show, int index) {
 void ApplyPlayerLayout(Show& show, int players) {
   MainForm& form = show.frmMain;
   const bool three = players == 3;
-  form.txtPlayerName[2].Visible = three && form.txtPlayerName[0].Visible;
+  show.frmPlayerNames.txtPlayerName[2].Visible = three;
   show.frmPlayerNames.chkPlayer3Penalty.Visible = three;
   form.picPlayer3.Visible = three;
   form.lblPlayer3Score.Visible = three;

@@ -6,6 +6,7 @@
 #include "engine/errors.h"
 #include "engine/game_flow.h"
 #include "engine/judging.h"
+#include "engine/player_names.h"
 #include "engine/question_cycle.h"
 #include "engine/set_choice.h"
 #include "engine/show.h"
@@ -158,6 +159,7 @@ void AttachHandlers(Show& show) {
   AttachSquares(show);
   AttachTimers(show);
   AttachExit(show);
+  AttachPlayerNamesHandlers(show);
   BindSoundChannels(show);
   DisableWithoutHandler(show.frmMain);
   for (Menu* menu : {&show.frmMain.mnuFile, &show.frmMain.mnuHelp, &show.frmMain.mnuZR610}) menu->Enabled = true;

@@ -10,6 +10,7 @@
 #include "platform/ports.h"
 #include "presentation/fs_main_form.h"
 #include "presentation/main_form.h"
+#include "presentation/player_names_form.h"
 #include "presentation/small_forms.h"
 #include "sets/trivia_set.h"
 

@@ -53,6 +53,22 @@ std::optional<double> Convert(std::string_view number) {
 char Lower(char c) { return c >= 'A' && c <= 'Z' ? static_cast<char>(c - 'A' + 'a') : c; }
 char Upper(char c) { return c >= 'a' && c <= 'z' ? static_cast<char>(c - 'a' + 'A') : c; }
 
+char Capital(char c) {
+  const auto code = static_cast<unsigned char>(c);
+  constexpr unsigned char kDivisionSign = 0xF7;
+  if (code >= 0xE0 && code <= 0xFE && code != kDivisionSign) return static_cast<char>(code - 0x20);
+  switch (code) {
+    case 0x9A:
+    case 0x9C:
+    case 0x9E:
+      return static_cast<char>(code - 0x10);
+    case 0xFF:
+      return static_cast<char>(0x9F);
+    default:
+      return Upper(c);
+  }
+}
+
 }  // namespace
 
 std::string Trim(const std::string& text) {
@@ -70,6 +86,12 @@ std::string ToLower(const std::string& text) {
 std::string ToUpper(const std::string& text) {
   std::string result = text;
   std::transform(result.begin(), result.end(), result.begin(), Upper);
+  return result;
+}
+
+std::string ToCapitals(const std::string& text) {
+  std::string result = text;
+  std::transform(result.begin(), result.end(), result.begin(), Capital);
   return result;
 }
 

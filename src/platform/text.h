@@ -10,6 +10,8 @@ namespace pawnfield {
 std::string Trim(const std::string& text);
 std::string ToLower(const std::string& text);
 std::string ToUpper(const std::string& text);
+// For text that is shown: the accented letters of Windows-1252 become capitals too.
+std::string ToCapitals(const std::string& text);
 // Up to and including the last backslash; empty when there is none.
 std::string ExtractFolder(const std::string& path);
 // After the last backslash; empty when there is none.

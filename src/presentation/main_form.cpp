@@ -179,7 +179,6 @@ void MainForm::SetInitialStates() {
   for (std::size_t i = 1; i < 5; ++i) lblQuestion[i].Visible = false;
   Hide(lblQuestionAutoResize, lblAnswerAutoResize, lblWinnerResize, txtOptionalHeading);
   Hide(shpStart, lblListLeftArrow, lblListRightArrow, btnQuestionCorrect, btnQuestionIncorrect);
-  for (std::size_t i = 0; i < 3; ++i) txtPlayerName[i].Visible = false;
   mnuZR610.Visible = false;
   Disable(btnSkipQuestion, btnNextPlayer, btnContinue, btnStart, btnUndo, btnReset, btnEndGame, btnCorrect);
 }

@@ -90,7 +90,6 @@ class MainForm : public Form {
   PictureBox picPlayer2{*this, "picPlayer2"};
   PictureBox picPlayer3{*this, "picPlayer3"};
   ControlArray<Label, 3> lblPlayer1{*this, "lblPlayer1"};
-  ControlArray<TextBox, 3> txtPlayerName{*this, "txtPlayerName"};
   PictureBox picP1Score{*this, "picP1Score"};
   PictureBox picP2Score{*this, "picP2Score"};
   PictureBox picP3Score{*this, "picP3Score"};

@@ -35,6 +35,4 @@ GameTypeHelpForm::GameTypeHelpForm() : Form("frmGameTypeHelp") {
       "Trivia Mode C\r\nThe question appears and the first player to ring in answers.";
 }
 
-PlayerNamesForm::PlayerNamesForm() : Form("frmPlayerNames") {}
-
 }  // namespace pawnfield

@@ -1,5 +1,4 @@
-// The small forms of start-up and game choice: loading, splash, the type-change question, the list of game types, and
-// what the names dialog's settings need.
+// The small forms of start-up and game choice: loading, splash, the type-change question and the list of game types.
 #pragma once
 
 #include "platform/controls.h"
@@ -41,14 +40,6 @@ struct GameTypeHelpForm : Form {
   GameTypeHelpForm();
   Label lblGameTypes{*this, "lblGameTypes"};
   Button btnOk{*this, "btnOk"};
-};
-
-struct PlayerNamesForm : Form {
-  PlayerNamesForm();
-  CheckBox chkPlayer1Penalty{*this, "chkPlayer1Penalty"};
-  CheckBox chkPlayer2Penalty{*this, "chkPlayer2Penalty"};
-  CheckBox chkPlayer3Penalty{*this, "chkPlayer3Penalty"};
-  ComboBox cboPenaltyPoints{*this, "cboPenaltyPoints"};
 };
 
 }  // namespace pawnfield

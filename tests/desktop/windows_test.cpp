@@ -189,7 +189,11 @@ TEST_F(WindowsTest, CloseBoxAsksTheForm) {
 TEST_F(WindowsTest, ModalFormReturnsWhenItEnds) {
   GameTypeHelpForm& help = program_.TheShow().frmGameTypeHelp;
   help.btnOk.OnClick = [&] { help.Unload(); };
-  FormWindow* window = program_.Windows().back();
+  FormWindow* window = nullptr;
+  for (FormWindow* each : program_.Windows()) {
+    if (each->objectName() == "frmGameTypeHelp") window = each;
+  }
+  ASSERT_NE(window, nullptr);
   QTimer::singleShot(50, window, [&] { window->findChild<QAbstractButton*>("btnOk")->click(); });
   program_.TheShow().platform.dialogs.ShowModal(help);
   EXPECT_FALSE(help.Visible);

@@ -16,6 +16,7 @@ TEST(Text, TrimRemovesBlanksAndNothingElse) {
 TEST(Text, CaseChangesLeaveTheUpperHalfOfTheCodePageAlone) {
   EXPECT_EQ(ToLower("AZ\xC9[@`{"), "az\xC9[@`{");
   EXPECT_EQ(ToUpper("az\xE9[@`{"), "AZ\xE9[@`{");
+  EXPECT_EQ(ToCapitals("az\xE0\xFE\xF7\xDF\x9C\xFF\xA0["), "AZ\xC0\xDE\xF7\xDF\x8C\x9F\xA0[");
 }
 
 TEST(Text, PathPartsSplitAtTheLastBackslashAndTheFirstDot) {

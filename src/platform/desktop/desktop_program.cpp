@@ -19,7 +19,8 @@ DesktopProgram::DesktopProgram(const DesktopPlaces& places)
       splash_(show_.frmSplash, desktop_.windows),
       gameLoading_(show_.frmGameLoading, desktop_.windows),
       gameInProgress_(show_.frmGameInProgress, desktop_.windows),
-      gameTypeHelp_(show_.frmGameTypeHelp, desktop_.windows) {}
+      gameTypeHelp_(show_.frmGameTypeHelp, desktop_.windows),
+      playerNames_(show_.frmPlayerNames, desktop_.windows) {}
 
 // The clock outlives the forms, whose timers must not be looked at any more.
 DesktopProgram::~DesktopProgram() {
@@ -27,7 +28,7 @@ DesktopProgram::~DesktopProgram() {
 }
 
 std::vector<FormWindow*> DesktopProgram::Windows() {
-  return {&console_, &audience_, &loading_, &splash_, &gameLoading_, &gameInProgress_, &gameTypeHelp_};
+  return {&console_, &audience_, &loading_, &splash_, &gameLoading_, &gameInProgress_, &gameTypeHelp_, &playerNames_};
 }
 
 void PrepareApplication() {

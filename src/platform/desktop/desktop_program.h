@@ -5,6 +5,7 @@
 #include "platform/desktop/audience_window.h"
 #include "platform/desktop/console_window.h"
 #include "platform/desktop/desktop_platform.h"
+#include "platform/desktop/player_names_window.h"
 #include "platform/desktop/small_windows.h"
 
 namespace pawnfield {
@@ -33,6 +34,7 @@ class DesktopProgram {
   GameLoadingWindow gameLoading_;
   GameInProgressWindow gameInProgress_;
   GameTypeHelpWindow gameTypeHelp_;
+  PlayerNamesWindow playerNames_;
 };
 
 // What the application object needs before the first window: fonts, colours, number format.
