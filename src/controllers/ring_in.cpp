@@ -1,5 +1,7 @@
 #include "controllers/ring_in.h"
 
+#include "controllers/transceiver.h"
+#include "engine/errors.h"
 #include "engine/question_cycle.h"
 #include "engine/show.h"
 #include "engine/turn_order.h"
@@ -9,13 +11,73 @@
 
 namespace pawnfield {
 
+namespace {
+
+constexpr std::int64_t kDebounceMs = 200;
+
+bool IsPlayer(int number) { return number >= 1 && number <= 3; }
+
+// Takes the press's time into the remote's debounce memory; false for a press that follows another too soon.
+bool PassesDebounce(PressState& presses, std::size_t remote, std::int64_t now) {
+  if (remote >= presses.LastPressTick.size()) throw RuntimeError(kErrorSubscript, "Subscript out of range");
+  std::int64_t& last = presses.LastPressTick[remote];
+  if (last > 0 && now - last <= kDebounceMs) return false;
+  last = now;
+  return true;
+}
+
+bool QuestionIsOpen(Show& show) {
+  const MainForm& form = show.frmMain;
+  const bool dialogUp = show.platform.dialogs.Modal() != ModalKind::None;
+  if (!form.Visible || !form.Enabled || dialogUp || PanelVisible(show, Panel::Standby)) return false;
+  const bool shown = PanelVisible(show, Panel::Question) || PanelVisible(show, Panel::QuestionPicture);
+  return shown && !IsPlayer(show.state.CurrentPlayer);
+}
+
+void PlayRingIn(Show& show, int player) { PlayEvent(show, SoundEntry(show, kSoundBuzzer1 + player - 1)); }
+
+void TakePress(Show& show, std::size_t remote) {
+  if (!PassesDebounce(show.presses, remote, show.platform.clock.NowMs()) || !QuestionIsOpen(show)) return;
+  if (remote >= show.state.Routing.size()) throw RuntimeError(kErrorSubscript, "Subscript out of range");
+  const int player = show.state.Routing[remote];
+  if (!IsPlayer(player)) return;
+  AcceptRingIn(show, player, RingInSource::Wireless);
+  // The clip starts a second time, as players of wireless remotes know it.
+  PlayRingIn(show, player);
+  if (show.dgTransceiver) show.dgTransceiver->LED_Set(static_cast<int>(remote), kLampColor);
+}
+
+}  // namespace
+
+void CreateTransceiver(Show& show) {
+  const auto guard = [&show](const std::function<void()>& poll, const std::string&, const std::string&) {
+    RunGuarded(show.platform.dialogs, poll, show.frmMain.Name(), "dgTransceiver_OnButtonPressed");
+  };
+  // One device can be open at a time, so the old object goes before the new one comes.
+  show.dgTransceiver.reset();
+  show.dgTransceiver = std::make_unique<Transceiver>(
+      show.platform.hid, show.platform.clock,
+      [&show](const TransceiverData& data) { dgTransceiver_OnButtonPressed(show, data); }, guard);
+}
+
+void dgTransceiver_OnButtonPressed(Show& show, const TransceiverData& data) {
+  try {
+    TakePress(show, static_cast<std::size_t>(data.Remote));
+  } catch (const RuntimeError& error) {
+    if (error.Number() != kErrorSubscript) throw;
+    // The operator learns once of a remote that the show has no place for; its other presses are passed over.
+    if (!show.presses.ToldRemotes.insert(data.Remote).second) return;
+    throw RuntimeError(error.Number(), std::string(error.what()) + " (remote " + std::to_string(data.Remote) + ")");
+  }
+}
+
 void AcceptRingIn(Show& show, int player, [[maybe_unused]] RingInSource source) {
   MainForm& form = show.frmMain;
-  const bool isPlayer = player >= 1 && player <= 3;
+  const bool isPlayer = IsPlayer(player);
   SetBuzzerStates(show, false, false, false);
   show.state.CurrentPlayer = player;
   LightScoreBox(show, isPlayer ? player : 0);
-  if (isPlayer) PlayEvent(show, SoundEntry(show, kSoundBuzzer1 + player - 1));
+  if (isPlayer) PlayRingIn(show, player);
   form.btnCorrect.Enabled = true;
   ShowVerdictButtons(show, true, true);
   const bool cover = show.state.GameType == kTriviaModeC && show.state.HideQuestion && show.state.DualScreen;

@@ -3,6 +3,7 @@
 #include <array>
 
 #include "config/settings.h"
+#include "controllers/ring_in.h"
 #include "engine/errors.h"
 #include "engine/game_flow.h"
 #include "engine/show.h"
@@ -294,8 +295,8 @@ void ShowConsole(Show& show) {
 
 void LoadMainForm(Show& show) {
   // Each step reports its own failure, so that one bad value or file leaves the rest of the load whole.
-  for (const auto step : {SetDesignPictures, LoadRoutingAndPoints, StartForm, LoadScreenPictures, FillSetList,
-                          LoadGameOptions, LoadPlayOptions, LoadSounds, LoadRulesAndVolumes, DecideOnMusic,
+  for (const auto step : {SetDesignPictures, CreateTransceiver, LoadRoutingAndPoints, StartForm, LoadScreenPictures,
+                          FillSetList, LoadGameOptions, LoadPlayOptions, LoadSounds, LoadRulesAndVolumes, DecideOnMusic,
                           ShowIdleBoard, ShowAudience, LoadScreenSettings, ShowConsole, LoadPieces}) {
     RunStep(show, step);
   }

@@ -4,8 +4,11 @@
 
 #include <array>
 #include <map>
+#include <memory>
 #include <string>
 
+#include "controllers/press_state.h"
+#include "controllers/transceiver.h"
 #include "engine/game_state.h"
 #include "platform/ports.h"
 #include "presentation/fs_main_form.h"
@@ -52,6 +55,9 @@ struct Show {
   bool FlashToggle = false;
   int FlashCount = 0;
   std::array<int, 2> AnimateCount{};
+  PressState presses;
+  // Lives from the console's load to the exit, whether or not a device was found.
+  std::unique_ptr<Transceiver> dgTransceiver;
   // Whether a picture of the program could be opened when it was first asked for.
   std::map<std::string, bool> PictureFound;
 

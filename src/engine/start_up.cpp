@@ -132,6 +132,7 @@ void fileExit(Show& show) {
   // Settings that can't be saved are told, and the program ends all the same.
   RunGuarded(
       show.platform.dialogs, [&] { SaveAllSettings(show); }, "frmMain", "fileExit");
+  show.dgTransceiver.reset();
   for (Form* other : AllForms(show)) other->Visible = false;
   show.platform.processes.EndProgram();
 }

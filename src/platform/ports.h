@@ -2,6 +2,7 @@
 // program spells them (backslashes allowed), text is Windows-1252.
 #pragma once
 
+#include <cstddef>
 #include <cstdint>
 #include <optional>
 #include <stdexcept>
@@ -22,6 +23,7 @@ class RuntimeError : public std::runtime_error {
   int number_;
 };
 
+inline constexpr int kErrorInvalidArgument = 5;
 inline constexpr int kErrorOverflow = 6;
 inline constexpr int kErrorSubscript = 9;
 inline constexpr int kErrorTypeMismatch = 13;
@@ -40,10 +42,14 @@ class Clock {
   virtual std::int64_t NowMs() const = 0;
   virtual void Attach(Form& form) = 0;
   virtual void Detach(Form& form) = 0;
+  // Holds the program for that long; no event reaches it meanwhile. What has changed is on the screens before it.
+  virtual void Pause(int ms) = 0;
 };
 
 enum class BoxKind { Plain, Critical, YesNoCancel, YesNo };
 enum class BoxAnswer { Ok, Yes, No, Cancel };
+
+enum class ModalKind { None, Box, Window };
 
 struct FileDialogRequest {
   std::string Title;
@@ -62,6 +68,8 @@ class Dialogs {
   virtual std::string ChooseFile(const FileDialogRequest& request) = 0;
   // Shows the form and returns when it has been unloaded.
   virtual void ShowModal(Form& form) = 0;
+  // What waits for the operator now; where one stands over another, the upper one.
+  virtual ModalKind Modal() const = 0;
 };
 
 // One independent player. Assigning a path starts it; an empty path or no such file is silence without a message.
@@ -159,6 +167,38 @@ class Processes {
   virtual void EndProgram() = 0;
 };
 
+struct HidDevice {
+  int Vendor = 0;
+  int Product = 0;
+};
+
+// Bytes of a whole report, the leading report number included; 0 for a kind of report that the device doesn't have.
+struct HidLengths {
+  std::size_t Input = 0;
+  std::size_t Output = 0;
+};
+
+enum class HidRead { Report, Nothing, Failed };
+
+// The HID devices of the machine, one of which can be open. A report is its bytes behind the report number, which is 0
+// where the device numbers none.
+class HidPort {
+ public:
+  virtual ~HidPort() = default;
+  // Those present, in the system's order.
+  virtual std::vector<HidDevice> Enumerate() const = 0;
+  // Opens the first that is the vendor's and one of the products, for reading and writing. Its product number; none
+  // when there is no such device or it can't be opened.
+  virtual std::optional<int> Open(int vendor, const std::vector<int>& products) = 0;
+  // Both 0 while none is open.
+  virtual HidLengths Lengths() const = 0;
+  // Takes the oldest report that has arrived, without waiting for one. Failed when the device is gone.
+  virtual HidRead Read(std::string& report) = 0;
+  // The bytes written; 0 when nothing could be.
+  virtual std::size_t Write(const std::string& report) = 0;
+  virtual void Close() = 0;
+};
+
 class RandomSource {
  public:
   virtual ~RandomSource() = default;
@@ -193,6 +233,7 @@ struct Platform {
   Displays& displays;
   Processes& processes;
   RandomSource& random;
+  HidPort& hid;
   Folders folders;
 };
 

@@ -7,16 +7,10 @@ DesktopPlatform::DesktopPlatform(const DesktopPlaces& places, std::function<void
       settings(places.configFolder),
       displays([this](Form& form) { return windows.Find(form); }),
       processes(places.runtimeFolder, std::move(onActivate)),
-      platform{clock,
-               dialogs,
-               {eventPlayer, keyPressPlayer, soundClipPlayer, correctIncorrectPlayer, backgroundPlayer},
-               settings,
-               files,
-               text,
-               pictures,
-               displays,
-               processes,
-               random,
-               places.folders} {}
+      platform{
+          clock,    dialogs,  {eventPlayer, keyPressPlayer, soundClipPlayer, correctIncorrectPlayer, backgroundPlayer},
+          settings, files,    text,
+          pictures, displays, processes,
+          random,   hid,      places.folders} {}
 
 }  // namespace pawnfield

@@ -5,6 +5,7 @@
 
 #include "platform/desktop/desktop_folders.h"
 #include "platform/desktop/form_windows.h"
+#include "platform/desktop/hidapi_port.h"
 #include "platform/desktop/linux_processes.h"
 #include "platform/desktop/mpv_channel.h"
 #include "platform/desktop/qt_clock.h"
@@ -37,6 +38,7 @@ class DesktopPlatform {
   QtDisplays displays;
   LinuxProcesses processes;
   SeededRandom random;
+  HidapiPort hid;
   Platform platform;
 };
 

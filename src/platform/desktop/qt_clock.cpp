@@ -1,6 +1,9 @@
 #include "platform/desktop/qt_clock.h"
 
+#include <QApplication>
+#include <QThread>
 #include <QTimer>
+#include <QWidget>
 
 namespace pawnfield {
 
@@ -47,6 +50,14 @@ void QtClock::Attach(Form& form) {
 
 void QtClock::Detach(Form& form) {
   for (const Control* control : form.Controls()) timers_.erase(control);
+}
+
+// Nothing but the paints is delivered before the pause, so that no press overtakes another.
+void QtClock::Pause(int ms) {
+  for (QWidget* window : QApplication::topLevelWidgets()) {
+    if (window->isVisible()) QCoreApplication::sendPostedEvents(window, QEvent::UpdateRequest);
+  }
+  QThread::msleep(static_cast<unsigned long>(ms));
 }
 
 }  // namespace pawnfield

@@ -18,6 +18,7 @@ class QtClock : public Clock {
   std::int64_t NowMs() const override { return elapsed_.elapsed(); }
   void Attach(Form& form) override;
   void Detach(Form& form) override;
+  void Pause(int ms) override;
 
  private:
   class RunningTimer;

@@ -90,4 +90,10 @@ void QtDialogs::ShowModal(Form& form) {
   if (form.Visible) loop.exec();
 }
 
+ModalKind QtDialogs::Modal() const {
+  const QWidget* upper = QApplication::activeModalWidget();
+  if (upper == nullptr) return ModalKind::None;
+  return qobject_cast<const QMessageBox*>(upper) != nullptr ? ModalKind::Box : ModalKind::Window;
+}
+
 }  // namespace pawnfield

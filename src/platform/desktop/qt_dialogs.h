@@ -14,6 +14,7 @@ class QtDialogs : public Dialogs {
   BoxAnswer MessageBox(const std::string& text, const std::string& title, BoxKind kind) override;
   std::string ChooseFile(const FileDialogRequest& request) override;
   void ShowModal(Form& form) override;
+  ModalKind Modal() const override;
 
  private:
   const FormWindows& windows_;

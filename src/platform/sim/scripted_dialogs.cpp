@@ -2,6 +2,7 @@
 
 #include <cstdlib>
 #include <iostream>
+#include <utility>
 
 namespace pawnfield {
 
@@ -11,8 +12,8 @@ ScriptedDialogs::~ScriptedDialogs() {
   if (!faults.empty()) std::abort();
 }
 
-void ScriptedDialogs::ExpectMessage(const std::string& textPart, BoxAnswer answer) {
-  script_.push_back({Kind::Message, textPart, answer, {}});
+void ScriptedDialogs::ExpectMessage(const std::string& textPart, BoxAnswer answer, std::function<void()> act) {
+  script_.push_back({Kind::Message, textPart, answer, std::move(act)});
 }
 
 void ScriptedDialogs::ExpectFile(const std::string& chosenPath) {
@@ -59,10 +60,19 @@ bool ScriptedDialogs::Take(Kind kind, const std::string& shown, Step& step) {
   return true;
 }
 
+void ScriptedDialogs::Act(const Step& step, ModalKind kind) {
+  const ModalKind below = std::exchange(modal_, kind);
+  if (step.act) step.act();
+  modal_ = below;
+}
+
 BoxAnswer ScriptedDialogs::MessageBox(const std::string& text, const std::string& title, BoxKind kind) {
   boxes_.push_back({text, title, kind});
   Step step{Kind::Message, {}, BoxAnswer::Ok, {}};
-  if (Take(Kind::Message, text, step)) return step.answer;
+  if (Take(Kind::Message, text, step)) {
+    Act(step, ModalKind::Box);
+    return step.answer;
+  }
   if (kind == BoxKind::YesNoCancel) return BoxAnswer::Cancel;
   return kind == BoxKind::YesNo ? BoxAnswer::No : BoxAnswer::Ok;
 }
@@ -77,7 +87,7 @@ void ScriptedDialogs::ShowModal(Form& form) {
   Step step{Kind::Form, {}, BoxAnswer::Ok, {}};
   const bool expected = Take(Kind::Form, form.Name(), step);
   form.Visible = true;
-  if (expected && step.act) step.act();
+  if (expected) Act(step, ModalKind::Window);
   if (!form.Visible) return;
   if (expected) faults_.push_back("form " + form.Name() + " was left open");
   form.Unload();

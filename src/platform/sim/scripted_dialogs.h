@@ -22,8 +22,8 @@ class ScriptedDialogs : public Dialogs {
   // Ends the process when faults were left unread: a script that went wrong can't pass for one that went well.
   ~ScriptedDialogs() override;
 
-  // The next box must contain textPart.
-  void ExpectMessage(const std::string& textPart, BoxAnswer answer = BoxAnswer::Ok);
+  // The next box must contain textPart; act runs while it is shown.
+  void ExpectMessage(const std::string& textPart, BoxAnswer answer = BoxAnswer::Ok, std::function<void()> act = {});
   void ExpectFile(const std::string& chosenPath);
   // act runs while the form of that name is shown and must see it unloaded or hidden.
   void ExpectForm(const std::string& formName, std::function<void()> act);
@@ -31,6 +31,7 @@ class ScriptedDialogs : public Dialogs {
   BoxAnswer MessageBox(const std::string& text, const std::string& title, BoxKind kind) override;
   std::string ChooseFile(const FileDialogRequest& request) override;
   void ShowModal(Form& form) override;
+  ModalKind Modal() const override { return modal_; }
 
   const std::vector<ShownBox>& Boxes() const { return boxes_; }
   const std::vector<FileDialogRequest>& FileRequests() const { return requests_; }
@@ -50,9 +51,12 @@ class ScriptedDialogs : public Dialogs {
 
   // Takes the next step when it is of that kind and fits what is shown; otherwise records a fault.
   bool Take(Kind kind, const std::string& shown, Step& step);
+  // Runs the step's act while a dialog of that kind is up.
+  void Act(const Step& step, ModalKind kind);
   static bool Fits(const Step& step, Kind kind, const std::string& shown);
   static std::string Describe(Kind kind, const std::string& text);
 
+  ModalKind modal_ = ModalKind::None;
   std::deque<Step> script_;
   std::vector<std::string> faults_;
   std::vector<ShownBox> boxes_;

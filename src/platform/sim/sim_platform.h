@@ -7,6 +7,7 @@
 #include "platform/sim/scripted_dialogs.h"
 #include "platform/sim/sim_devices.h"
 #include "platform/sim/sim_files.h"
+#include "platform/sim/sim_hid.h"
 #include "platform/sim/virtual_clock.h"
 
 namespace pawnfield {
@@ -25,6 +26,7 @@ struct SimPlatform {
   SimDisplays displays;
   SimProcesses processes;
   SimRandom random;
+  SimHid hid{clock};
   Platform platform;
 };
 

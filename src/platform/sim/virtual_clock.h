@@ -13,6 +13,8 @@ class VirtualClock : public Clock, public Mirror {
   std::int64_t NowMs() const override { return now_; }
   void Attach(Form& form) override;
   void Detach(Form& form) override;
+  // What falls due meanwhile fires at the next Advance.
+  void Pause(int ms) override { now_ += ms; }
   void Changed(Control& control, PropertyId id) override;
 
   // Fires what falls due within the next ms milliseconds, in due order; equal times in the order of starting. Timers
