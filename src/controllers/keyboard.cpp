@@ -3,6 +3,7 @@
 #include <cctype>
 
 #include "controllers/ring_in.h"
+#include "controllers/shared_key.h"
 #include "engine/board_play.h"
 #include "engine/judging.h"
 #include "engine/question_cycle.h"
@@ -23,8 +24,6 @@ constexpr int kCtrlU = 21;
 constexpr int kCtrlZ = 26;
 constexpr int kNoColumn = 99;
 
-bool IsKeypadMode(const GameState& state) { return state.SerialComm == 8 || state.SerialComm == 9; }
-
 bool MayRingIn(const Show& show) {
   const bool open = PanelVisible(show, Panel::Question) || PanelVisible(show, Panel::QuestionPicture);
   const bool held = show.state.CurrentPlayer >= 1 && show.state.CurrentPlayer <= 3;
@@ -34,7 +33,7 @@ bool MayRingIn(const Show& show) {
 void RingInKey(Show& show, int key) {
   const bool digit = key >= '0' && key <= '9';
   if (!MayRingIn(show) || (!digit && key != '^')) return;
-  if (!IsKeypadMode(show.state)) {
+  if (!IsKeypadMode(show)) {
     AcceptRingIn(show, key - '0', RingInSource::Other);
   } else if (key == '^') {
     SelectControllerPlayer(show, 1, 6);
@@ -125,6 +124,9 @@ void SelectControllerPlayer(Show& show, int group, int number) {
   const int player = show.state.Routing[static_cast<std::size_t>(controller)];
   if (player < 1 || player > 3) return;
   btnSelectPlayer_Click(show, player - 1);
+  if (!PublishesPlayers(show)) return;
+  WriteSharedKey(show, std::to_string(9 + player), "PLAYER " + std::to_string(player));
+  show.state.CurrentPlayer = player;
 }
 
 void ProcessKeyPress(Show& show, int keyAscii) {

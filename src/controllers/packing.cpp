@@ -41,7 +41,9 @@ std::string PackLong(std::int32_t value, ByteOrder order) {
   return bytes;
 }
 
-std::string PackLongPadded(std::int32_t value, ByteOrder order) { return PackLong(value, order) + std::string(4, '\0'); }
+std::string PackLongPadded(std::int32_t value, ByteOrder order) {
+  return PackLong(value, order) + std::string(4, '\0');
+}
 
 std::int32_t GetLong(const std::string& text, std::size_t& pos, ByteOrder order) {
   return static_cast<std::int32_t>(Take(text, pos, 4, order));

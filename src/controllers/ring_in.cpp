@@ -1,5 +1,6 @@
 #include "controllers/ring_in.h"
 
+#include "controllers/shared_key.h"
 #include "controllers/transceiver.h"
 #include "engine/errors.h"
 #include "engine/question_cycle.h"
@@ -74,6 +75,7 @@ void dgTransceiver_OnButtonPressed(Show& show, const TransceiverData& data) {
 void AcceptRingIn(Show& show, int player, [[maybe_unused]] RingInSource source) {
   MainForm& form = show.frmMain;
   const bool isPlayer = IsPlayer(player);
+  SendKeyPressInRingIn(show, false);
   SetBuzzerStates(show, false, false, false);
   show.state.CurrentPlayer = player;
   LightScoreBox(show, isPlayer ? player : 0);

@@ -4,8 +4,7 @@
 
 namespace pawnfield {
 
-SelfTimer::SelfTimer(Clock& clock, Handler handler, GuardFunction guard)
-    : clock_(clock), handler_(std::move(handler)) {
+SelfTimer::SelfTimer(Clock& clock, Handler handler, GuardFunction guard) : clock_(clock), handler_(std::move(handler)) {
   holder_.Guard = std::move(guard);
   timer_.OnTimer = [this] { Fire(); };
   clock_.Attach(holder_);

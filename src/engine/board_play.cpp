@@ -3,6 +3,7 @@
 #include <optional>
 
 #include "config/settings.h"
+#include "controllers/companion.h"
 #include "engine/lines.h"
 #include "engine/question_cycle.h"
 #include "engine/show.h"
@@ -70,6 +71,7 @@ void PayScore(Show& show) {
   const int player = show.state.CurrentPlayer;
   if (player < 1 || player > 3) return;
   SetScore(show, player, NumberText(ScoreOf(show, player) + show.state.PiecePoints));
+  ReportPlayer(show, player, kRed);
 }
 
 void CloseTurnOfRingIn(Show& show) {

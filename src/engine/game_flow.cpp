@@ -3,6 +3,8 @@
 #include <array>
 
 #include "config/settings.h"
+#include "controllers/companion.h"
+#include "controllers/shared_key.h"
 #include "engine/options.h"
 #include "engine/question_cycle.h"
 #include "engine/set_choice.h"
@@ -76,6 +78,7 @@ void SetListForType(ComboBox& list, int gameType) {
 void StartChallenge(Show& show) {
   GiveTurnTo(show, 1);
   SetCursorOnBoth(show, 1);
+  ReportFirstTurn(show);
   show.state.GameLoaded = true;
   show.state.PlacementOpen = true;
 }
@@ -102,6 +105,7 @@ void StartTrivia(Show& show) {
     state.CurrentPlayer = 0;
   } else {
     GiveTurnTo(show, 1);
+    ReportFirstTurn(show);
   }
 }
 
@@ -195,6 +199,7 @@ void cbxScore_Click(Show& show, int index) {
 void btnStart_Click(Show& show) {
   MainForm& form = show.frmMain;
   const bool ringIn = show.state.GameType == kTriviaModeC;
+  SendKeyPressInRingIn(show, true);
   form.shpStart.Visible = false;
   form.tmrArrowsTimer.Enabled = false;
   form.lblListLeftArrow.Visible = false;
@@ -261,6 +266,11 @@ void fileClearAllScores_Click(Show& show) {
   ClearBoardPictures(show);
   ClearBoardArray(show);
   GiveTurnTo(show, 1);
+  ReportFirstTurn(show);
+  PublishScore(show, "10", 1);
+  PublishScore(show, "11", 2);
+  // The external keyboard program takes a cleared score of player 3 from a name of its own.
+  PublishScore(show, "13", 3);
 }
 
 void PlaceAudienceScreen(Show& show) { show.frmFSMain.Left = show.state.FullScreenGameBoard ? 0 : show.state.FSLeft; }

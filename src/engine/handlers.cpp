@@ -1,5 +1,6 @@
 #include "engine/handlers.h"
 
+#include "controllers/companion.h"
 #include "controllers/keyboard.h"
 #include "controllers/ring_in.h"
 #include "engine/board_play.h"
@@ -122,6 +123,7 @@ void AttachTimers(Show& show) {
   OnTimer(show, form.tmrWinner, tmrWinner_Timer);
   OnTimer(show, show.frmFSMain.tmrFSFlipPlayerPiece, tmrFSFlipPlayerPiece_Timer);
   OnTimer(show, show.frmAlwaysLoaded.tmrAlwaysLoaded, tmrAlwaysLoaded_Timer);
+  OnTimer(show, show.frmAlwaysLoaded.tmrCompanion, tmrCompanion_Timer);
   OnTimer(show, show.frmSplash.tmrProgress, tmrProgress_Timer);
   OnTimer(show, show.frmSplash.tmrSplash, tmrSplash_Timer);
   for (std::size_t i = 0; i < 2; ++i) {

@@ -2,6 +2,8 @@
 
 #include <array>
 
+#include "controllers/companion.h"
+#include "controllers/shared_key.h"
 #include "engine/options.h"
 #include "engine/question_cycle.h"
 #include "engine/show.h"
@@ -79,6 +81,8 @@ void TakeBackClaim(Show& show) {
   if (owner != player) return;
   // The other displays of the score catch up with its next change.
   show.frmMain.Score(player).Caption = NumberText(ScoreOf(show, player) - state.LastPoints);
+  if (player == 2) PublishScore(show, "11", player);
+  ReportPlayer(show, player, state.ScreenFonts[static_cast<std::size_t>(player - 1)].ForeColor);
   owner = 0;
   RemovePiece(show, state.LastRow, state.LastCol);
   GiveTurnBack(show, player);
@@ -103,7 +107,10 @@ void HandleCorrect(Show& show) {
   show.state.PlacementOpen = true;
   ChangeCursor(show);
   form.txtDJCommand.Enabled = true;
-  if (show.state.GameType == kTriviaModeC) LightScoreBox(show, 0);
+  if (show.state.GameType == kTriviaModeC) {
+    LightScoreBox(show, 0);
+    ReportVerdict(show, show.state.CurrentPlayer, true);
+  }
   EnableOptions(show);
   form.txtDJCommand.SetFocus();
 }
@@ -113,6 +120,7 @@ void HandleIncorrect(Show& show) {
   LiftCover(show);
   form.tmrExternalCtrlFlasher.Enabled = false;
   AnnounceVerdict(show, kIncorrectVerdict);
+  if (!show.state.Animation) SendKeyPressInRingIn(show, true);
   TakePenalty(show);
   if (show.state.GameType != kTriviaModeC) {
     AdvanceToNextPlayer(show);
@@ -120,6 +128,7 @@ void HandleIncorrect(Show& show) {
     form.btnCorrect.Enabled = false;
     ShowVerdictButtons(show, false, false);
     LightScoreBox(show, 0);
+    ReportVerdict(show, show.state.CurrentPlayer, false);
     show.state.CurrentPlayer = 0;
   }
   SetBuzzerStates(show, true, true, true);
@@ -150,6 +159,7 @@ void btnSkipQuestion_Click(Show& show) {
   ShowVerdictButtons(show, false, false);
   if (IsQuestionType(show.state.GameType)) form.btnContinue.Enabled = true;
   StartAutoContinue(show);
+  ReportPlayers(show, kWhite);
   if (show.state.GameType != kTriviaModeA) show.state.CurrentPlayer = 0;
   EnableOptions(show);
 }

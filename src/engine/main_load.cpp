@@ -3,6 +3,7 @@
 #include <array>
 
 #include "config/settings.h"
+#include "controllers/companion.h"
 #include "controllers/ring_in.h"
 #include "engine/errors.h"
 #include "engine/game_flow.h"
@@ -288,7 +289,10 @@ void ShowAudience(Show& show) {
 
 void ShowConsole(Show& show) {
   show.frmMain.Visible = true;
-  if (show.state.TSSupport) show.frmMain.tmrMainTimer.Enabled = true;
+  if (!show.state.TSSupport) return;
+  show.state.C2CValue = 0;
+  ReportPlayers(show, kWhite);
+  show.frmMain.tmrMainTimer.Enabled = true;
 }
 
 }  // namespace

@@ -2,6 +2,7 @@
 
 #include <cmath>
 
+#include "controllers/shared_key.h"
 #include "engine/errors.h"
 #include "engine/options.h"
 #include "engine/show.h"
@@ -123,6 +124,7 @@ void ShowQuestion(Show& show, int index) {
       ShowTextQuestion(show);
       break;
   }
+  SendKeyPressInRingIn(show, true);
 }
 
 void CheckQuestionsLeft(Show& show) {
@@ -166,6 +168,7 @@ void tmrAutoContinue_Timer(Show& show) {
   // Stopped first: whatever the next question brings up, the pause has run once.
   show.frmMain.tmrAutoContinue.Enabled = false;
   Advance(show);
+  SendKeyPressInRingIn(show, true);
 }
 
 void tmr5QuestionTimer_Timer(Show& show) {

@@ -1,5 +1,7 @@
 #include "engine/set_choice.h"
 
+#include "controllers/companion.h"
+#include "controllers/shared_key.h"
 #include "engine/game_flow.h"
 #include "engine/options.h"
 #include "engine/question_cycle.h"
@@ -48,6 +50,14 @@ void ReadySet(Show& show) {
   form.btnUndo.Enabled = false;
   ExpandMediaPaths(show);
   EnableOptions(show);
+  ReportPlayers(show, kWhite);
+}
+
+// The external keyboard program knows the scores from the choice of a file on.
+void PublishScores(Show& show) {
+  PublishScore(show, "10", 1);
+  PublishScore(show, "11", 2);
+  PublishScore(show, "12", 3);
 }
 
 void ShowReadyBoard(Show& show) {
@@ -76,7 +86,10 @@ void btnSelectGame_Click(Show& show) {
   BuildFSGrid(show, show.state.GridSize);
   const std::string path =
       show.platform.dialogs.ChooseFile({"Open", "Game Sets(*.txt)|*.txt", show.state.SetsFolder, false});
-  if (!path.empty() && LoadGameSet(show, path)) ReadySet(show);
+  if (!path.empty() && LoadGameSet(show, path)) {
+    ReadySet(show);
+    PublishScores(show);
+  }
   ShowReadyBoard(show);
 }
 

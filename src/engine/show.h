@@ -3,6 +3,7 @@
 #pragma once
 
 #include <array>
+#include <deque>
 #include <map>
 #include <memory>
 #include <string>
@@ -60,6 +61,10 @@ struct Show {
   std::unique_ptr<Transceiver> dgTransceiver;
   // Whether a picture of the program could be opened when it was first asked for.
   std::map<std::string, bool> PictureFound;
+  // Texts for the companion that wait until the present event is done, oldest first.
+  std::deque<std::string> CompanionReports;
+  // Whether the last report, and the last write to the external keyboard program's key, failed; that has been told.
+  bool CompanionFails = false, SharedKeyFails = false;
 
   MainForm frmMain;
   FSMainForm frmFSMain;

@@ -3,6 +3,8 @@
 #include <cmath>
 
 #include "config/settings.h"
+#include "controllers/companion.h"
+#include "controllers/shared_key.h"
 #include "engine/errors.h"
 #include "engine/handlers.h"
 #include "engine/main_load.h"
@@ -123,6 +125,7 @@ bool Form_QueryUnload(Show& show) {
 
 void fileExit(Show& show) {
   MainForm& form = show.frmMain;
+  SendKeyPress(show, false);
   for (Timer* timer :
        {&form.tmr5QuestionTimer, &form.tmrAnswer, &form.tmrArrowsTimer, &form.tmrAutoContinue, &form.tmrBGMusic,
         &form.tmrBonus, &form.tmrExternalCtrlFlasher, &form.tmrFlipPlayerPiece, &form.tmrMainTimer, &form.tmrNonBuzzer,
@@ -132,6 +135,7 @@ void fileExit(Show& show) {
   // Settings that can't be saved are told, and the program ends all the same.
   RunGuarded(
       show.platform.dialogs, [&] { SaveAllSettings(show); }, "frmMain", "fileExit");
+  ReportExit(show);
   show.dgTransceiver.reset();
   for (Form* other : AllForms(show)) other->Visible = false;
   show.platform.processes.EndProgram();

@@ -2,6 +2,7 @@
 
 #include <array>
 
+#include "controllers/companion.h"
 #include "engine/show.h"
 #include "presentation/both_screens.h"
 
@@ -11,12 +12,18 @@ namespace {
 
 constexpr std::array<Color, 4> kFocusColor{kRed, kRed, kYellow, kGreen};
 
-// The player after the lit lamp, 0 when none is lit.
+// The player of the first lit lamp, 0 when none is lit.
+int LitPlayer(const GameState& state) {
+  if (state.Lamp1 == kLampOn) return 1;
+  if (state.Lamp2 == kLampOn) return 2;
+  return state.Lamp3 == kLampOn ? 3 : 0;
+}
+
+// The player after that one, 0 when none is lit.
 int NextByLamps(const GameState& state) {
-  if (state.Lamp1 == kLampOn) return 2;
-  if (state.Lamp2 == kLampOn) return state.Players == 2 ? 1 : 3;
-  if (state.Lamp3 == kLampOn) return 1;
-  return 0;
+  const int lit = LitPlayer(state);
+  if (lit == 0) return 0;
+  return lit == 3 || (lit == 2 && state.Players == 2) ? 1 : lit + 1;
 }
 
 }  // namespace
@@ -40,10 +47,13 @@ void GiveTurnTo(Show& show, int player) {
 void AdvanceToNextPlayer(Show& show) {
   const int next = NextByLamps(show.state);
   if (next == 0) return;
+  const int old = LitPlayer(show.state);
   // The step from player 3 to player 1 leaves the status text as it was.
   const bool announced = next != 1 || show.state.Lamp2 == kLampOn;
   GiveTurnTo(show, next);
   if (announced) show.frmMain.lblStatusBar.Caption = "Player " + std::to_string(next) + " Selected!";
+  ReportPlayer(show, next, kRed);
+  ReportPlayer(show, old, kWhite);
 }
 
 void SetBuzzerStates(Show& show, bool player1, bool player2, bool player3) {

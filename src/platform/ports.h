@@ -163,6 +163,9 @@ class Processes {
   virtual std::int64_t CurrentId() const = 0;
   // Brings that process's window to the front; 0 means the other instance of this program.
   virtual void Activate(std::int64_t id) = 0;
+  // Starts the program of that name that lies beside this one, hidden, with the text as its one argument, and doesn't
+  // wait for it. False when there is none. No shell takes part, so that every character arrives as it is.
+  virtual bool StartHelper(const std::string& name, const std::string& argument) = 0;
   // Ends the message loop once the present event is done.
   virtual void EndProgram() = 0;
 };

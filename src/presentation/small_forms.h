@@ -13,6 +13,8 @@ struct LoadingForm : Form {
 struct AlwaysLoadedForm : Form {
   AlwaysLoadedForm();
   Timer tmrAlwaysLoaded{*this, "tmrAlwaysLoaded", 50};
+  // Runs while reports to the companion wait.
+  Timer tmrCompanion{*this, "tmrCompanion", 1};
 };
 
 struct SplashForm : Form {

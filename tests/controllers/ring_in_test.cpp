@@ -26,8 +26,7 @@ class RingIn : public ::testing::Test {
   void Press(int remote) {
     constexpr int kAnswerA = 4;
     const int wire = remote % 10 == 0 ? remote - 10 : remote;
-    fixture.sim.hid.Reports.push_back(
-        BuildPacket({static_cast<char>(wire), kAnswerA, '\0', '\0'}, 0));
+    fixture.sim.hid.Reports.push_back(BuildPacket({static_cast<char>(wire), kAnswerA, '\0', '\0'}, 0));
     fixture.sim.clock.Advance(30);
   }
 

@@ -154,8 +154,7 @@ TEST_F(Wireless, WithoutADeviceAndWithOddOnes) {
 TEST(SelfTimer, TellsTheSecondsSinceItsFirstEventAndIgnoresNegativeIntervals) {
   VirtualClock clock;
   std::vector<double> seconds;
-  SelfTimer timer(
-      clock, [&](double at) { seconds.push_back(at); }, {});
+  SelfTimer timer(clock, [&](double at) { seconds.push_back(at); }, {});
   timer.SetInterval(250);
   timer.SetInterval(-1);
   EXPECT_EQ(timer.Interval(), 250);

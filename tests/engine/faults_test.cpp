@@ -76,8 +76,9 @@ TEST(Faults, AColourThatIsNoNumberLeavesTheQuestionUpBehindItsMessage) {
 TEST(Faults, SettingsThatCannotBeSavedAreToldAndTheProgramEnds) {
   ShowFixture fixture;
   fixture.Start();
-  fixture.sim.settings.FailNextSave = true;
+  fixture.sim.settings.FailSaves = 2;
   fixture.sim.dialogs.ExpectMessage("Are you sure you want to exit?", BoxAnswer::Yes);
+  fixture.sim.dialogs.ExpectMessage("Procedure: WriteSharedKey");
   fixture.sim.dialogs.ExpectMessage("Procedure: fileExit");
   fixture.form().mnuFileExit.Click();
   EXPECT_TRUE(fixture.sim.processes.Ended);

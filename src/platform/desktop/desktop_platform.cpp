@@ -1,12 +1,17 @@
 #include "platform/desktop/desktop_platform.h"
 
+#include <QCoreApplication>
+
+#include "platform/desktop/native_path.h"
+
 namespace pawnfield {
 
 DesktopPlatform::DesktopPlatform(const DesktopPlaces& places, std::function<void()> onActivate)
     : dialogs(windows),
       settings(places.configFolder),
       displays([this](Form& form) { return windows.Find(form); }),
-      processes(places.runtimeFolder, std::move(onActivate)),
+      processes(places.runtimeFolder, std::move(onActivate),
+                {QCoreApplication::applicationDirPath(), NativePath(places.folders.App)}),
       platform{
           clock,    dialogs,  {eventPlayer, keyPressPlayer, soundClipPlayer, correctIncorrectPlayer, backgroundPlayer},
           settings, files,    text,

@@ -5,6 +5,7 @@
 #include <QFile>
 #include <QFileInfo>
 #include <QLocalSocket>
+#include <QProcess>
 #include <algorithm>
 
 #include "platform/desktop/windows_1252.h"
@@ -28,8 +29,10 @@ QString CaptionOf(const QString& processFolder) {
 
 }  // namespace
 
-LinuxProcesses::LinuxProcesses(QString runtimeFolder, std::function<void()> onActivate)
-    : runtimeFolder_(std::move(runtimeFolder)), onActivate_(std::move(onActivate)) {}
+LinuxProcesses::LinuxProcesses(QString runtimeFolder, std::function<void()> onActivate, QStringList programFolders)
+    : runtimeFolder_(std::move(runtimeFolder)),
+      onActivate_(std::move(onActivate)),
+      programFolders_(std::move(programFolders)) {}
 
 bool LinuxProcesses::AnotherInstanceRuns() {
   QDir().mkpath(runtimeFolder_);
@@ -71,6 +74,23 @@ void LinuxProcesses::Activate(std::int64_t id) {
   QLocalSocket socket;
   socket.connectToServer(SocketPath());
   socket.waitForConnected(kConnectMs);
+}
+
+bool LinuxProcesses::StartHelper(const std::string& name, const std::string& argument) {
+  QString plain = FromWindows1252(name);
+  if (plain.endsWith(".exe", Qt::CaseInsensitive)) plain.chop(4);
+  for (const QString& folder : programFolders_) {
+    const QFileInfo file(folder + '/' + plain);
+    if (!file.isFile() || !file.isExecutable()) continue;
+    QProcess helper;
+    helper.setProgram(file.absoluteFilePath());
+    helper.setArguments({FromWindows1252(argument)});
+    helper.setStandardInputFile(QProcess::nullDevice());
+    helper.setStandardOutputFile(QProcess::nullDevice());
+    helper.setStandardErrorFile(QProcess::nullDevice());
+    return helper.startDetached();
+  }
+  return false;
 }
 
 void LinuxProcesses::EndProgram() {

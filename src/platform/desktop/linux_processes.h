@@ -4,6 +4,7 @@
 #include <QLocalServer>
 #include <QLockFile>
 #include <QString>
+#include <QStringList>
 #include <functional>
 #include <memory>
 
@@ -13,14 +14,17 @@ namespace pawnfield {
 
 class LinuxProcesses : public Processes {
  public:
-  // The folder is the user's own for running programs; onActivate runs when another instance asks for the front.
-  LinuxProcesses(QString runtimeFolder, std::function<void()> onActivate);
+  // The folder is the user's own for running programs; onActivate runs when another instance asks for the front; helper
+  // programs are looked for in the program's folders, in their order.
+  LinuxProcesses(QString runtimeFolder, std::function<void()> onActivate, QStringList programFolders = {});
 
   bool AnotherInstanceRuns() override;
   std::vector<ProcessInfo> List() const override;
   std::int64_t CurrentId() const override;
   // Other programs' windows can't be raised from here on Linux; only 0 has an effect.
   void Activate(std::int64_t id) override;
+  // "PadBridge.exe" is an executable "PadBridge" here. It is given the text in UTF-8, and its output goes nowhere.
+  bool StartHelper(const std::string& name, const std::string& argument) override;
   void EndProgram() override;
 
  private:
@@ -29,6 +33,7 @@ class LinuxProcesses : public Processes {
 
   QString runtimeFolder_;
   std::function<void()> onActivate_;
+  QStringList programFolders_;
   std::unique_ptr<QLockFile> lock_;
   QLocalServer server_;
 };

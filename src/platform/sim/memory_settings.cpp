@@ -18,7 +18,7 @@ std::string MemorySettings::GetSetting(const std::string& application, const std
 
 void MemorySettings::SaveSetting(const std::string& application, const std::string& section, const std::string& key,
                                  const std::string& value) {
-  if (std::exchange(FailNextSave, false)) throw RuntimeError(kErrorDiskFull, "Disk full");
+  if (FailSaves > 0 && FailSaves-- > 0) throw RuntimeError(kErrorDiskFull, "Disk full");
   Writes.emplace_back(key, value);
   Preset(application, section, key, value);
 }

@@ -23,8 +23,8 @@ class MemorySettings : public SettingsStore {
 
   // Key and value of every save, in order.
   std::vector<std::pair<std::string, std::string>> Writes;
-  // The next save keeps nothing and throws error 61.
-  bool FailNextSave = false;
+  // That many of the next saves keep nothing and throw error 61.
+  int FailSaves = 0;
 
  private:
   std::map<std::string, std::string> values_;

@@ -71,6 +71,12 @@ std::string SimPictures::PictureBytes(int width, int height) {
   return kPictureMark + std::to_string(width) + " " + std::to_string(height);
 }
 
+bool SimProcesses::StartHelper(const std::string& name, const std::string& argument) {
+  if (name != Helper) return false;
+  HelperArguments.push_back(argument);
+  return true;
+}
+
 double SimRandom::Next() {
   if (!Scripted.empty()) {
     const double value = Scripted.front();

@@ -48,9 +48,13 @@ class SimProcesses : public Processes {
   std::vector<ProcessInfo> List() const override { return Others; }
   std::int64_t CurrentId() const override { return 4711; }
   void Activate(std::int64_t id) override { Activated.push_back(id); }
+  bool StartHelper(const std::string& name, const std::string& argument) override;
   void EndProgram() override { Ended = true; }
 
   bool AlreadyRuns = false;
+  // The program that lies beside this one, empty for none, and the arguments that it was started with.
+  std::string Helper;
+  std::vector<std::string> HelperArguments;
   std::vector<ProcessInfo> Others;
   std::vector<std::int64_t> Activated;
   bool Ended = false;
