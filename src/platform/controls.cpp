@@ -74,7 +74,7 @@ void Form::Unload() {
 
 void TextBox::Type(const std::string& text) {
   if (!IsReachable()) return;
-  Text = text;
+  Text = MaxLength == 0 ? text : text.substr(0, MaxLength);
   Raise(OnChange, "_Change");
 }
 
@@ -83,6 +83,8 @@ void TextBox::GotFocus() {
   Owner().ActiveControl = this;
   Raise(OnGotFocus, "_GotFocus");
 }
+
+void TextBox::LoseFocus() { Raise(OnLostFocus, "_LostFocus"); }
 
 void ComboBox::AddItem(const std::string& text) {
   auto items = List.Get();

@@ -230,17 +230,23 @@ class PictureBox : public Control {
 class TextBox : public Control {
  public:
   TextBox(Form& form, std::string name) : Control(form, std::move(name), ControlKind::TextBox) {}
-  // A user's edit: sets Text and runs OnChange.
+  // A user's edit: sets Text, cut to MaxLength, and runs OnChange.
   void Type(const std::string& text);
   // A user goes to the box, by a click or by the keyboard.
   void GotFocus();
   // Marks the whole text, so that the next character typed replaces it.
   void SelectAll() { Notify(PropertyId::Selection); }
+  // A user leaves the box for another control.
+  void LoseFocus();
   Property<std::string> Text{*this, PropertyId::Text};
+  Property<pawnfield::Font> Font{*this, PropertyId::Font, {"Segoe UI", 28, true, false}};
   Property<Color> ForeColor{*this, PropertyId::ForeColor, kWhite};
   Property<Color> BackColor{*this, PropertyId::BackColor, kBlack};
+  // In characters; 0 for no limit.
+  std::size_t MaxLength = 0;
   std::function<void()> OnChange;
   std::function<void()> OnGotFocus;
+  std::function<void()> OnLostFocus;
 };
 
 class ComboBox : public Control {

@@ -57,6 +57,11 @@ struct FileDialogRequest {
   std::string Filter;
   std::string InitialFolder;
   bool Save = false;
+  // A name to begin with, and what a name typed without an extension gets (no point).
+  std::string FileName{};
+  std::string DefaultExtension{};
+  // False where the program itself asks before it replaces a file.
+  bool ConfirmsOverwrite = true;
 };
 
 // Modal, synchronous questions to the operator.
@@ -66,6 +71,9 @@ class Dialogs {
   virtual BoxAnswer MessageBox(const std::string& text, const std::string& title, BoxKind kind) = 0;
   // The chosen path, empty when cancelled.
   virtual std::string ChooseFile(const FileDialogRequest& request) = 0;
+  // The choice, nothing when cancelled.
+  virtual std::optional<Font> ChooseFont(const Font& start) = 0;
+  virtual std::optional<Color> ChooseColor(Color start) = 0;
   // Shows the form and returns when it has been unloaded.
   virtual void ShowModal(Form& form) = 0;
   // What waits for the operator now; where one stands over another, the upper one.

@@ -57,7 +57,7 @@ bool ReadText(const Control& control, TextSource& source) {
   if (const auto* label = dynamic_cast<const Label*>(&control)) {
     source = {label->Caption, label->Font, label->ForeColor};
   } else if (const auto* box = dynamic_cast<const TextBox*>(&control)) {
-    source = {box->Text, {"Segoe UI", 28, true, false}, box->ForeColor};
+    source = {box->Text, box->Font, box->ForeColor};
   }
   return !source.Caption.empty();
 }

@@ -1,7 +1,9 @@
 #include "platform/desktop/qt_dialogs.h"
 
 #include <QApplication>
+#include <QColorDialog>
 #include <QFileDialog>
+#include <QFontDialog>
 #include <QMessageBox>
 #include <QTimer>
 
@@ -14,6 +16,7 @@ namespace {
 
 // How often a modal form's window looks whether its form has ended; far below what a person notices.
 constexpr int kModalPollMs = 15;
+constexpr double kSmallestFont = 6;
 
 QMessageBox::StandardButtons ButtonsOf(BoxKind kind) {
   switch (kind) {
@@ -60,19 +63,39 @@ BoxAnswer QtDialogs::MessageBox(const std::string& text, const std::string& titl
 }
 
 std::string QtDialogs::ChooseFile(const FileDialogRequest& request) {
-  const QString title = FromWindows1252(request.Title);
-  const QString folder = NativePath(request.InitialFolder);
-  const QString filters = FilterList(request.Filter);
-  QWidget* parent = QApplication::activeWindow();
-  const QString chosen = request.Save ? QFileDialog::getSaveFileName(parent, title, folder, filters)
-                                      : QFileDialog::getOpenFileName(parent, title, folder, filters);
-  if (chosen.isEmpty()) return "";
-  const auto spelled = SpelledPath(chosen);
+  QFileDialog dialog(QApplication::activeWindow(), FromWindows1252(request.Title), NativePath(request.InitialFolder));
+  dialog.setAcceptMode(request.Save ? QFileDialog::AcceptSave : QFileDialog::AcceptOpen);
+  dialog.setFileMode(request.Save ? QFileDialog::AnyFile : QFileDialog::ExistingFile);
+  dialog.setOption(QFileDialog::DontConfirmOverwrite, !request.ConfirmsOverwrite);
+  if (!request.Filter.empty()) dialog.setNameFilters(FilterList(request.Filter).split(";;"));
+  if (!request.FileName.empty()) dialog.selectFile(FromWindows1252(request.FileName));
+  dialog.setDefaultSuffix(FromWindows1252(request.DefaultExtension));
+  if (dialog.exec() != QDialog::Accepted || dialog.selectedFiles().isEmpty()) return "";
+  const auto spelled = SpelledPath(dialog.selectedFiles().first());
   if (!spelled) {
     MessageBox("The file's name or folder holds characters that can't be used here. Please rename it.", request.Title,
                BoxKind::Plain);
   }
   return spelled.value_or("");
+}
+
+std::optional<Font> QtDialogs::ChooseFont(const Font& start) {
+  QFont first(FromWindows1252(start.Name));
+  first.setPointSizeF(start.Size > 0 ? start.Size : kSmallestFont);
+  first.setBold(start.Bold);
+  first.setItalic(start.Italic);
+  bool chosen = false;
+  const QFont font = QFontDialog::getFont(&chosen, first, QApplication::activeWindow());
+  const auto name = ToWindows1252(font.family());
+  if (!chosen || !name) return std::nullopt;
+  return Font{*name, font.pointSizeF(), font.bold(), font.italic()};
+}
+
+std::optional<Color> QtDialogs::ChooseColor(Color start) {
+  const QColor first(start & 0xFF, (start >> 8) & 0xFF, (start >> 16) & 0xFF);
+  const QColor color = QColorDialog::getColor(first, QApplication::activeWindow());
+  if (!color.isValid()) return std::nullopt;
+  return color.red() | color.green() << 8 | color.blue() << 16;
 }
 
 void QtDialogs::ShowModal(Form& form) {

@@ -13,6 +13,8 @@ class QtDialogs : public Dialogs {
   explicit QtDialogs(const FormWindows& windows) : windows_(windows) {}
   BoxAnswer MessageBox(const std::string& text, const std::string& title, BoxKind kind) override;
   std::string ChooseFile(const FileDialogRequest& request) override;
+  std::optional<Font> ChooseFont(const Font& start) override;
+  std::optional<Color> ChooseColor(Color start) override;
   void ShowModal(Form& form) override;
   ModalKind Modal() const override;
 

@@ -20,6 +20,14 @@ void ScriptedDialogs::ExpectFile(const std::string& chosenPath) {
   script_.push_back({Kind::File, chosenPath, BoxAnswer::Ok, {}});
 }
 
+void ScriptedDialogs::ExpectFont(std::optional<Font> chosen) {
+  script_.push_back({Kind::Typeface, "", BoxAnswer::Ok, {}, std::move(chosen)});
+}
+
+void ScriptedDialogs::ExpectColor(std::optional<Color> chosen) {
+  script_.push_back({Kind::Tint, "", BoxAnswer::Ok, {}, {}, chosen});
+}
+
 void ScriptedDialogs::ExpectForm(const std::string& formName, std::function<void()> act) {
   script_.push_back({Kind::Form, formName, BoxAnswer::Ok, std::move(act)});
 }
@@ -30,6 +38,10 @@ std::string ScriptedDialogs::Describe(Kind kind, const std::string& text) {
       return "message \"" + text + "\"";
     case Kind::File:
       return "file dialog \"" + text + "\"";
+    case Kind::Typeface:
+      return "font dialog";
+    case Kind::Tint:
+      return "colour dialog";
     case Kind::Form:
       break;
   }
@@ -44,6 +56,8 @@ bool ScriptedDialogs::Fits(const Step& step, Kind kind, const std::string& shown
     case Kind::Form:
       return shown == step.text;
     case Kind::File:
+    case Kind::Typeface:
+    case Kind::Tint:
       break;
   }
   return true;
@@ -81,6 +95,18 @@ std::string ScriptedDialogs::ChooseFile(const FileDialogRequest& request) {
   requests_.push_back(request);
   Step step{Kind::File, {}, BoxAnswer::Ok, {}};
   return Take(Kind::File, request.Title, step) ? step.text : std::string();
+}
+
+std::optional<Font> ScriptedDialogs::ChooseFont(const Font& start) {
+  FontStart = start;
+  Step step{Kind::Typeface, {}, BoxAnswer::Ok, {}};
+  return Take(Kind::Typeface, "", step) ? step.font : std::nullopt;
+}
+
+std::optional<Color> ScriptedDialogs::ChooseColor(Color start) {
+  ColorStart = start;
+  Step step{Kind::Tint, {}, BoxAnswer::Ok, {}};
+  return Take(Kind::Tint, "", step) ? step.color : std::nullopt;
 }
 
 void ScriptedDialogs::ShowModal(Form& form) {

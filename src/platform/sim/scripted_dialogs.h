@@ -4,6 +4,7 @@
 
 #include <deque>
 #include <functional>
+#include <optional>
 #include <string>
 #include <vector>
 
@@ -25,28 +26,37 @@ class ScriptedDialogs : public Dialogs {
   // The next box must contain textPart; act runs while it is shown.
   void ExpectMessage(const std::string& textPart, BoxAnswer answer = BoxAnswer::Ok, std::function<void()> act = {});
   void ExpectFile(const std::string& chosenPath);
+  void ExpectFont(std::optional<Font> chosen);
+  void ExpectColor(std::optional<Color> chosen);
   // act runs while the form of that name is shown and must see it unloaded or hidden.
   void ExpectForm(const std::string& formName, std::function<void()> act);
 
   BoxAnswer MessageBox(const std::string& text, const std::string& title, BoxKind kind) override;
   std::string ChooseFile(const FileDialogRequest& request) override;
+  std::optional<Font> ChooseFont(const Font& start) override;
+  std::optional<Color> ChooseColor(Color start) override;
   void ShowModal(Form& form) override;
   ModalKind Modal() const override { return modal_; }
 
   const std::vector<ShownBox>& Boxes() const { return boxes_; }
   const std::vector<FileDialogRequest>& FileRequests() const { return requests_; }
+  // What the last dialog of each kind began with.
+  Font FontStart;
+  Color ColorStart = 0;
   // What went wrong so far, the answers left over included; empties both.
   std::vector<std::string> TakeFaults();
   // True when nothing went wrong and no answer is left over; the faults stay to be taken.
   bool Verify() const { return faults_.empty() && script_.empty(); }
 
  private:
-  enum class Kind { Message, File, Form };
+  enum class Kind { Message, File, Form, Typeface, Tint };
   struct Step {
     Kind kind;
     std::string text;
     BoxAnswer answer = BoxAnswer::Ok;
     std::function<void()> act;
+    std::optional<Font> font{};
+    std::optional<Color> color{};
   };
 
   // Takes the next step when it is of that kind and fits what is shown; otherwise records a fault.
