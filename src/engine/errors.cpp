@@ -19,6 +19,13 @@ std::string UntrappedErrorText(int number, const std::string& description, const
   return text;
 }
 
+std::string NotedErrorText(const RuntimeError& error, const std::string& location, const std::string& procedure,
+                           const std::string& filename) {
+  std::string text = UntrappedErrorText(error.Number(), error.what(), location, procedure, filename);
+  const std::string colon = "information: ";
+  return text.replace(text.find(colon), colon.size(), "information.");
+}
+
 void ReportError(Dialogs& dialogs, const RuntimeError& error, const std::string& location, const std::string& procedure,
                  const std::string& filename) {
   dialogs.MessageBox(UntrappedErrorText(error.Number(), error.what(), location, procedure, filename), "Pawnfield",

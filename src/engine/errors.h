@@ -12,6 +12,10 @@ namespace pawnfield {
 std::string UntrappedErrorText(int number, const std::string& description, const std::string& location,
                                const std::string& procedure, const std::string& filename = "");
 
+// The same with a full stop where a colon stands, as the boxes of media and printing have it.
+std::string NotedErrorText(const RuntimeError& error, const std::string& location, const std::string& procedure,
+                           const std::string& filename = "");
+
 // Shows the box for an error that a routine caught itself.
 void ReportError(Dialogs& dialogs, const RuntimeError& error, const std::string& location, const std::string& procedure,
                  const std::string& filename = "");

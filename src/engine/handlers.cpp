@@ -15,6 +15,7 @@
 #include "engine/turn_order.h"
 #include "engine/win_detection.h"
 #include "media/sound_channels.h"
+#include "sets/editor_handlers.h"
 
 namespace pawnfield {
 
@@ -151,8 +152,9 @@ void DisableWithoutHandler(Form& form) {
 }  // namespace
 
 std::vector<Form*> AllForms(Show& show) {
-  return {&show.frmMain,        &show.frmFSMain,         &show.frmLoading,      &show.frmAlwaysLoaded, &show.frmSplash,
-          &show.frmGameLoading, &show.frmGameInProgress, &show.frmGameTypeHelp, &show.frmPlayerNames};
+  return {&show.frmMain,        &show.frmFSMain,      &show.frmLoading,        &show.frmAlwaysLoaded,
+          &show.frmSplash,      &show.frmGameLoading, &show.frmGameInProgress, &show.frmGameTypeHelp,
+          &show.frmPlayerNames, &show.frmEditor,      &show.frmEditChoice,     &show.frmDialog2};
 }
 
 void AttachHandlers(Show& show) {
@@ -162,6 +164,7 @@ void AttachHandlers(Show& show) {
   AttachTimers(show);
   AttachExit(show);
   AttachPlayerNamesHandlers(show);
+  AttachEditorHandlers(show);
   BindSoundChannels(show);
   DisableWithoutHandler(show.frmMain);
   for (Menu* menu : {&show.frmMain.mnuFile, &show.frmMain.mnuHelp, &show.frmMain.mnuZR610}) menu->Enabled = true;

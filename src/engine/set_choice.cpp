@@ -9,7 +9,8 @@
 #include "engine/turn_order.h"
 #include "presentation/board_layout.h"
 #include "presentation/both_screens.h"
-#include "sets/media_paths.h"
+#include "sets/file_dialogs.h"
+#include "sets/missing_media.h"
 #include "sets/set_file.h"
 
 namespace pawnfield {
@@ -48,7 +49,7 @@ void ReadySet(Show& show) {
     PlaceAudienceScreen(show);
   }
   form.btnUndo.Enabled = false;
-  ExpandMediaPaths(show);
+  ScanSetForMissingMedia(show);
   EnableOptions(show);
   ReportPlayers(show, kWhite);
 }
@@ -84,8 +85,9 @@ void btnSelectGame_Click(Show& show) {
   ClearForNewSet(show);
   ApplyPlayerLayout(show, show.state.Players);
   BuildFSGrid(show, show.state.GridSize);
-  const std::string path =
-      show.platform.dialogs.ChooseFile({"Open", "Game Sets(*.txt)|*.txt", show.state.SetsFolder, false});
+  show.consoleDialog = {"", "Game Sets(*.txt)|*.txt", show.state.SetsFolder};
+  ShowOpen(show, show.consoleDialog);
+  const std::string path = show.consoleDialog.FileName;
   if (!path.empty() && LoadGameSet(show, path)) {
     ReadySet(show);
     PublishScores(show);
@@ -102,6 +104,8 @@ void cboList_Click(Show& show) {
   const std::string name = show.frmMain.cboList.Text();
   if (name == kFirstListItem || name.empty()) return;
   ClearForNewSet(show);
+  // A repair must not go to the file that was loaded before.
+  show.consoleDialog.FileName.clear();
   if (!LoadGameSet(show, show.AppPath("\\Trivia Sets\\" + name + ".txt"))) return;
   ResetPlayerNames(show);
   ReadySet(show);

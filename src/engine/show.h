@@ -16,6 +16,8 @@
 #include "presentation/main_form.h"
 #include "presentation/player_names_form.h"
 #include "presentation/small_forms.h"
+#include "sets/editor_form.h"
+#include "sets/missing_media_form.h"
 #include "sets/trivia_set.h"
 
 namespace pawnfield {
@@ -50,6 +52,14 @@ struct Show {
   GameState state;
   TriviaSet GameSet;
   int NumGameQuestions = 0;
+  // The set that is open in the editor, which begins with the game's set where EditCurrentSet says so.
+  TriviaSet EditSet;
+  int NumEditQuestions = 0;
+  bool EditCurrentSet = false;
+  // Counted from 1: the question that frmDialog2 is about.
+  int MissingQuestion = 0;
+  // The file dialog of the console; FileName is the set that was loaded by it.
+  CommonDialog consoleDialog;
   SoundBanks soundBanks;
   Flip flip, fsFlip;
   SquareEntry entry;
@@ -74,6 +84,9 @@ struct Show {
   GameLoadingForm frmGameLoading;
   GameInProgressForm frmGameInProgress;
   GameTypeHelpForm frmGameTypeHelp;
+  EditorForm frmEditor;
+  EditChoiceForm frmEditChoice;
+  MissingMediaForm frmDialog2;
   PlayerNamesForm frmPlayerNames;
 
   // The path of a file of the program's folder, as in AppPath("\\Images\\scorebox.bmp").

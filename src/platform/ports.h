@@ -33,6 +33,7 @@ inline constexpr int kErrorDiskFull = 61;
 inline constexpr int kErrorPathAccess = 75;
 inline constexpr int kErrorPathNotFound = 76;
 inline constexpr int kErrorInvalidPicture = 481;
+inline constexpr int kErrorPrinter = 482;
 
 // Time: milliseconds of a clock that never goes back. Attach makes the clock the mirror of a form's timers, so that
 // they run while enabled; a detached form's timers stop.
@@ -210,6 +211,23 @@ class HidPort {
   virtual void Close() = 0;
 };
 
+// Lines that belong on one page where a page can hold them.
+using PrintBlock = std::vector<std::string>;
+
+struct PrintDocument {
+  std::string Title;
+  std::vector<PrintBlock> Blocks;
+};
+
+class Printing {
+ public:
+  virtual ~Printing() = default;
+  // Asks for a printer; the copies to print, nothing when cancelled.
+  virtual std::optional<int> ChoosePrinter() = 0;
+  // Prints on the printer chosen last, each copy from a new page. RuntimeError 482 when it can't.
+  virtual void Print(const PrintDocument& document, int copies) = 0;
+};
+
 class RandomSource {
  public:
   virtual ~RandomSource() = default;
@@ -222,6 +240,8 @@ class RandomSource {
 struct Folders {
   std::string App;
   std::string DataRoot;
+  // The system's drive ("C:"), empty where drives have no letters.
+  std::string SystemDrive{};
 };
 
 struct MediaChannels {
@@ -245,6 +265,7 @@ struct Platform {
   Processes& processes;
   RandomSource& random;
   HidPort& hid;
+  Printing& printing;
   Folders folders;
 };
 

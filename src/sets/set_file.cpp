@@ -64,14 +64,6 @@ void Fill(Show& show, const std::string& path, const std::string& bytes) {
   show.frmMain.tmrOptionalHeaders.Enabled = true;
 }
 
-std::string NormalPath(const std::string& path) {
-  std::string result = path;
-  std::erase(result, '\0');
-  result = Trim(result);
-  const bool isText = result.size() >= 4 && ToLower(result.substr(result.size() - 4)) == ".txt";
-  return isText ? result : result + ".txt";
-}
-
 void ReportSaveError(Show& show, const RuntimeError& error, const std::string& path) {
   if (error.Number() != kErrorPathAccess) {
     ReportError(show.platform.dialogs, error, "frmEditor", "SaveFile", path);
@@ -86,6 +78,14 @@ void ReportSaveError(Show& show, const RuntimeError& error, const std::string& p
 }
 
 }  // namespace
+
+std::string NormalSetPath(const std::string& path) {
+  std::string result = path;
+  std::erase(result, '\0');
+  result = Trim(result);
+  const bool isText = result.size() >= 4 && ToLower(result.substr(result.size() - 4)) == ".txt";
+  return isText ? result : result + ".txt";
+}
 
 void ResetGameSet(Show& show) {
   show.GameSet.fill({});
@@ -127,7 +127,7 @@ void FillSetList(Show& show) {
 
 bool SaveSetFile(Show& show, TriviaSet& set, std::string& path) {
   CompactSet(set);
-  path = NormalPath(path);
+  path = NormalSetPath(path);
   try {
     show.platform.files.Write(path, FormatSet(set));
     return true;

@@ -11,8 +11,14 @@ struct Show;
 
 // Parses a file's bytes into the set; returns the count of questions. The set is reset first.
 int ParseSet(const std::string& bytes, TriviaSet& set);
+// A sibling title's set: six blocks of a heading and five questions of four lines, the third of which means nothing
+// here. Whatever the file lacks is left blank. The set is reset first.
+inline constexpr int kImportedQuestions = 30;
+void ParseImportedSet(const std::string& bytes, TriviaSet& set);
 // All 101 records, 303 lines.
 std::string FormatSet(const TriviaSet& set);
+// The questions only, up to the first blank one, at most 100.
+std::string FormatQuestions(const TriviaSet& set);
 // Moves blank records one step towards the end, in a single pass.
 void CompactSet(TriviaSet& set);
 
@@ -29,8 +35,10 @@ bool ParseFontBold(const std::string& line);
 bool ParseFontItalic(const std::string& line);
 std::string ParseFontColor(const std::string& line);
 
-// Writes the set in the given path's normal form (NUL removed, trimmed, ".txt" appended), which goes back to the
-// caller. True when it was saved; a failure is told to the operator.
+// NUL removed, trimmed, ".txt" appended unless the path ends so.
+std::string NormalSetPath(const std::string& path);
+// Writes the set in the given path's normal form, which goes back to the caller. True when it was saved; a
+// failure is told to the operator.
 bool SaveSetFile(Show& show, TriviaSet& set, std::string& path);
 
 enum class QuestionKind { Text, Picture, Sound };

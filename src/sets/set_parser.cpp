@@ -62,6 +62,10 @@ std::string FormatLine(const TriviaQuestion& question) {
   return line;
 }
 
+std::string RecordLines(const TriviaQuestion& question) {
+  return Trim(question.QuestionText) + "\r\n" + Trim(question.AnswerText) + "\r\n" + FormatLine(question) + "\r\n";
+}
+
 }  // namespace
 
 std::string ParseFontName(const std::string& line) {
@@ -102,11 +106,28 @@ int ParseSet(const std::string& bytes, TriviaSet& set) {
   return count;
 }
 
+void ParseImportedSet(const std::string& bytes, TriviaSet& set) {
+  constexpr std::size_t kBlockLength = 5;
+  set.fill({});
+  LineReader reader(bytes);
+  for (std::size_t i = 0; i < kImportedQuestions; ++i) {
+    if (i % kBlockLength == 0) reader.Next();
+    set[i].QuestionText = NextLine(reader, kQuestionLength);
+    set[i].AnswerText = NextLine(reader, kAnswerLength);
+    reader.Next();
+    ReadFormat(NextLine(reader), set[i]);
+  }
+}
+
 std::string FormatSet(const TriviaSet& set) {
   std::string text;
-  for (const TriviaQuestion& question : set) {
-    text += Trim(question.QuestionText) + "\r\n" + Trim(question.AnswerText) + "\r\n" + FormatLine(question) + "\r\n";
-  }
+  for (const TriviaQuestion& question : set) text += RecordLines(question);
+  return text;
+}
+
+std::string FormatQuestions(const TriviaSet& set) {
+  std::string text;
+  for (std::size_t i = 0; i + 1 < set.size() && !Trim(set[i].QuestionText).empty(); ++i) text += RecordLines(set[i]);
   return text;
 }
 

@@ -23,6 +23,7 @@ TEST(Faults, BrokenAndMissingMediaAreToldAndTheGameGoesOn) {
   fixture.WriteSet("Media", PictureSet());
   fixture.Start();
   fixture.form().optGameType[2].Click();
+  fixture.sim.dialogs.ExpectForm("frmDialog2", [&] { fixture.show().frmDialog2.btnCancel.Click(); });
   fixture.ChooseSet("Media");
   fixture.sim.dialogs.ExpectMessage("An untrapped error has occurred.  Please make a ");
   fixture.form().btnStart.Click();

@@ -12,10 +12,18 @@ DesktopPlatform::DesktopPlatform(const DesktopPlaces& places, std::function<void
       displays([this](Form& form) { return windows.Find(form); }),
       processes(places.runtimeFolder, std::move(onActivate),
                 {QCoreApplication::applicationDirPath(), NativePath(places.folders.App)}),
-      platform{
-          clock,    dialogs,  {eventPlayer, keyPressPlayer, soundClipPlayer, correctIncorrectPlayer, backgroundPlayer},
-          settings, files,    text,
-          pictures, displays, processes,
-          random,   hid,      places.folders} {}
+      platform{clock,
+               dialogs,
+               {eventPlayer, keyPressPlayer, soundClipPlayer, correctIncorrectPlayer, backgroundPlayer},
+               settings,
+               files,
+               text,
+               pictures,
+               displays,
+               processes,
+               random,
+               hid,
+               printing,
+               places.folders} {}
 
 }  // namespace pawnfield

@@ -11,6 +11,7 @@
 #include "platform/desktop/qt_clock.h"
 #include "platform/desktop/qt_dialogs.h"
 #include "platform/desktop/qt_file_system.h"
+#include "platform/desktop/qt_printing.h"
 #include "platform/desktop/qt_readers.h"
 #include "platform/desktop/qt_settings_store.h"
 
@@ -39,6 +40,7 @@ class DesktopPlatform {
   LinuxProcesses processes;
   SeededRandom random;
   HidapiPort hid;
+  QtPrinting printing;
   Platform platform;
 };
 

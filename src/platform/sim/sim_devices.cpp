@@ -87,4 +87,11 @@ double SimRandom::Next() {
   return static_cast<double>(state_ >> 8) / 16777216.0;
 }
 
+std::optional<int> SimPrinter::ChoosePrinter() { return Copies; }
+
+void SimPrinter::Print(const PrintDocument& document, int copies) {
+  if (Broken) throw RuntimeError(kErrorPrinter, "Printer error");
+  for (int i = 0; i < copies; ++i) Printed.push_back(document);
+}
+
 }  // namespace pawnfield

@@ -42,6 +42,17 @@ class SimDisplays : public Displays {
   std::vector<std::pair<std::string, bool>> TopMost;
 };
 
+class SimPrinter : public Printing {
+ public:
+  std::optional<int> ChoosePrinter() override;
+  void Print(const PrintDocument& document, int copies) override;
+
+  // What the operator chooses next; nothing cancels.
+  std::optional<int> Copies;
+  bool Broken = false;
+  std::vector<PrintDocument> Printed;
+};
+
 class SimProcesses : public Processes {
  public:
   bool AnotherInstanceRuns() override { return AlreadyRuns; }

@@ -27,6 +27,7 @@ struct SimPlatform {
   SimProcesses processes;
   SimRandom random;
   SimHid hid{clock};
+  SimPrinter printing;
   Platform platform;
 };
 

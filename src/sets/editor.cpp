@@ -1,0 +1,265 @@
+#include "sets/editor.h"
+
+#include <cmath>
+#include <initializer_list>
+#include <limits>
+
+#include "engine/show.h"
+#include "media/sound_channels.h"
+#include "platform/text.h"
+#include "presentation/text_fitting.h"
+#include "sets/editor_media.h"
+#include "sets/set_file.h"
+
+namespace pawnfield::editor {
+
+namespace {
+
+constexpr int kLargestPreview = 80;
+constexpr double kPreviewMarginX = 100;
+constexpr double kPreviewMarginY = 50;
+constexpr double kColors = 16777216;
+
+void SetShown(std::initializer_list<Control*> controls, bool shown) {
+  for (Control* control : controls) control->Visible = shown;
+}
+
+void EnableFontButtons(EditorForm& form, bool enabled) {
+  for (Button* button : {&form.btnFont, &form.btnFontColor, &form.btnDefault}) button->Enabled = enabled;
+}
+
+// The preview in the record's font. A size that is none leaves the preview's.
+void TakeRecordFont(TextBox& preview, const TriviaQuestion& record) {
+  if (Trim(record.FontName).empty()) return;
+  const double size = LeadingNumber(record.FontSize);
+  preview.Font = Font{record.FontName, size > 0 ? size : preview.Font->Size, record.FontBold, record.FontItalic};
+}
+
+void TakeRecordColor(TextBox& preview, const TriviaQuestion& record) {
+  if (Trim(record.FontColor).empty()) return;
+  const auto number = ParseNumber(record.FontColor);
+  if (!number) throw RuntimeError(kErrorTypeMismatch, "Type mismatch");
+  preview.ForeColor = static_cast<Color>(std::fmod(*number, kColors));
+}
+
+// A medium has no wording: text left from the question before would be taken for its own.
+void HideWording(EditorForm& form) {
+  SetShown({&form.lblQuestionPrompt, &form.txtDisplayQuestion, &form.txtEnterQuestion}, false);
+  form.txtEnterQuestion.Text = std::string();
+  EnableFontButtons(form, false);
+}
+
+void ShowPictureRecord(Show& show, const std::string& path) {
+  EditorForm& form = show.frmEditor;
+  form.txtPath.Text = path;
+  SetShown({&form.picQuestionPicture, &form.imgQuestionPicture, &form.lblPath, &form.txtPath}, true);
+  HideWording(form);
+  DisplayPicture(show, path);
+}
+
+void ShowSoundRecord(EditorForm& form, const std::string& path) {
+  form.imgQuestionPicture.Picture = std::string();
+  form.picQuestionPicture.Visible = false;
+  form.txtPath.Text = path;
+  SetShown({&form.lblPath, &form.txtPath, &form.frmSoundButtons}, true);
+  HideWording(form);
+}
+
+void ShowTextRecord(Show& show, const TriviaQuestion& record, const std::string& text) {
+  EditorForm& form = show.frmEditor;
+  SetShown({&form.picQuestionPicture, &form.lblPath, &form.txtPath}, false);
+  SetShown({&form.lblQuestionPrompt, &form.txtDisplayQuestion, &form.txtEnterQuestion}, true);
+  EnableFontButtons(form, true);
+  if (form.txtEnterQuestion.Text.Get() != text) {
+    form.txtEnterQuestion.Text = text;
+    txtEnterQuestion_Change(show);
+  }
+  TakeRecordFont(form.txtDisplayQuestion, record);
+  form.txtDisplayQuestion.Text = text;
+}
+
+void ShowRecord(Show& show) {
+  EditorForm& form = show.frmEditor;
+  form.frmSoundButtons.Visible = false;
+  StopSoundClip(show);
+  const TriviaQuestion& record = ShownRecord(show);
+  const std::string text = Trim(record.QuestionText);
+  form.txtAnswer.Text = Trim(record.AnswerText);
+  form.btnPicture.Enabled = true;
+  form.btnSound.Enabled = true;
+  form.lblQuestion.Caption = "Question " + std::to_string(form.EditQuestionNumber) + ":";
+  const QuestionKind kind = KindOfQuestion(text);
+  if (kind == QuestionKind::Picture) ShowPictureRecord(show, text);
+  if (kind == QuestionKind::Sound) ShowSoundRecord(form, text);
+  if (kind == QuestionKind::Text) {
+    ShowTextRecord(show, record, text);
+    // A colour that is none is told once all else stands.
+    TakeRecordColor(form.txtDisplayQuestion, record);
+  }
+}
+
+void PrepareForm(Show& show) {
+  EditorForm& form = show.frmEditor;
+  SetShown({&form.frmSoundButtons, &form.lblPath, &form.txtPath}, false);
+  form.btnPicture.Enabled = true;
+  form.btnSound.Enabled = true;
+  form.txtDisplayQuestion.Visible = true;
+  form.EditDirty = false;
+  form.EditFileName.clear();
+  form.EditQuestionNumber = 1;
+  form.EditQuestionKind = "T";
+  ClearEditorDisplay(show);
+  ResetEditSet(show);
+  if (show.EditCurrentSet) {
+    CopyGameSetToEdit(show);
+    form.EditFileName = show.state.LoadedSetPath;
+    DisplayEditQuestion(show);
+  }
+  SetNumEditQuestions(show, show.NumEditQuestions);
+}
+
+void FitPreview(Show& show) {
+  EditorForm& form = show.frmEditor;
+  Label& measure = form.lblQuestionAutoResize;
+  Font font = form.txtDisplayQuestion.Font;
+  const double width = form.txtDisplayQuestion.Width - kPreviewMarginX;
+  const double height = form.txtDisplayQuestion.Height - kPreviewMarginY;
+  constexpr double kAny = std::numeric_limits<double>::infinity();
+  // The limit itself still fits.
+  const FitLimits limits{kLargestPreview, width, kAny, std::nextafter(height, kAny)};
+  font.Size = FittingSize(show.platform.text, font, form.txtEnterQuestion.Text, limits);
+  measure.Width = width;
+  measure.Caption = form.txtEnterQuestion.Text.Get();
+  measure.Font = font;
+  form.txtDisplayQuestion.Font = font;
+}
+
+}  // namespace
+
+void btnStartGame_Click(Show& show) {
+  if (Trim(show.frmMain.cboList.Text()).empty()) {
+    ShowEditor(show);
+  } else {
+    show.platform.dialogs.ShowModal(show.frmEditChoice);
+  }
+}
+
+void EditChoice_Click(Show& show, bool current) {
+  show.EditCurrentSet = current;
+  show.frmEditChoice.Visible = false;
+  ShowEditor(show);
+  show.frmEditChoice.Unload();
+}
+
+void ShowEditor(Show& show) {
+  EditorForm& form = show.frmEditor;
+  form.Reset();
+  // The form is loaded and then activated, and what a bad record tells must not keep it from coming up.
+  form.Dispatch([&show] { PrepareForm(show); }, "Form_Load");
+  StopSoundClip(show);
+  form.txtEnterQuestion.SetFocus();
+  show.platform.dialogs.ShowModal(form);
+}
+
+void ResetEditSet(Show& show) { show.EditSet.fill({}); }
+
+void CopyGameSetToEdit(Show& show) {
+  const auto last = std::min(static_cast<std::size_t>(show.NumGameQuestions), show.EditSet.size() - 1);
+  for (std::size_t i = 0; i <= last; ++i) show.EditSet[i] = show.GameSet[i];
+  show.NumEditQuestions = show.NumGameQuestions;
+}
+
+void CopyEditSetToGame(Show& show) {
+  for (std::size_t i = 0; i + 1 < show.GameSet.size(); ++i) {
+    const std::string size = show.GameSet[i].FontSize;
+    show.GameSet[i] = show.EditSet[i];
+    show.GameSet[i].FontSize = size;
+  }
+}
+
+TriviaQuestion& ShownRecord(Show& show) {
+  const int number = show.frmEditor.EditQuestionNumber;
+  if (number < 1 || number > kSetCapacity) throw RuntimeError(kErrorSubscript, "Subscript out of range");
+  return show.EditSet[static_cast<std::size_t>(number - 1)];
+}
+
+void DisplayEditQuestion(Show& show) {
+  int& number = show.frmEditor.EditQuestionNumber;
+  const bool outside = number < 1 || number > kSetCapacity;
+  if (outside) number = 1;
+  ShowRecord(show);
+  if (!outside) return;
+  EnableEditorControls(show, true);
+  throw RuntimeError(kErrorSubscript, "Subscript out of range");
+}
+
+void ClearEditorDisplay(Show& show) {
+  EditorForm& form = show.frmEditor;
+  form.txtDisplayQuestion.Text = std::string();
+  form.txtDisplayQuestion.Font = Font{"Comic Sans MS", 28, true, true};
+  form.txtDisplayQuestion.ForeColor = kWhite;
+  form.txtEnterQuestion.Text = std::string();
+  form.txtAnswer.Text = std::string();
+  form.lblQuestion.Caption = "Question 1:";
+  form.lblAnswer.Caption = "Answer:";
+  form.picQuestionPicture.Visible = false;
+  form.lblQuestion.Visible = true;
+}
+
+void EnableEditorControls(Show& show, bool enabled) {
+  EditorForm& form = show.frmEditor;
+  for (Control* control : std::initializer_list<Control*>{
+           &form.btnImport, &form.btnInsertQuestion, &form.btnBack10, &form.btnBack, &form.btnForward,
+           &form.btnForward10, &form.btnNext, &form.btnNewFile, &form.btnFileOpen, &form.btnSave, &form.btnSaveAs,
+           &form.btnPrint, &form.mnuFileNew, &form.mnuFileOpen, &form.mnuFileSave, &form.mnuSaveAs,
+           &form.mnuFilePrint}) {
+    control->Enabled = enabled;
+  }
+}
+
+void UpdateEditorControls(Show& show) {
+  const TriviaQuestion& record = ShownRecord(show);
+  EnableEditorControls(show, !Trim(record.QuestionText).empty() || !Trim(record.AnswerText).empty());
+}
+
+void SetNumEditQuestions(Show& show, int count) {
+  show.NumEditQuestions = count;
+  show.frmEditor.lblNumQuestions.Caption = std::to_string(count);
+}
+
+void txtEnterQuestion_Change(Show& show) {
+  EditorForm& form = show.frmEditor;
+  FitPreview(show);
+  const std::string typed = Trim(form.txtEnterQuestion.Text);
+  TriviaQuestion& record = ShownRecord(show);
+  if (typed != Trim(record.QuestionText)) {
+    form.EditDirty = true;
+    record.QuestionText = typed;
+    form.txtDisplayQuestion.Text = typed;
+  }
+  UpdateEditorControls(show);
+}
+
+void txtEnterQuestion_LostFocus(Show& show) {
+  TriviaQuestion& record = ShownRecord(show);
+  if (Trim(record.FontName).empty()) {
+    record.FontName = "Courier New";
+    record.FontSize = "28";
+    record.FontBold = true;
+    record.FontItalic = true;
+  }
+  if (Trim(record.FontColor).empty()) record.FontColor = "16777215";
+}
+
+void txtAnswer_Change(Show& show) {
+  TriviaQuestion& record = ShownRecord(show);
+  const std::string typed = Trim(show.frmEditor.txtAnswer.Text);
+  if (typed == Trim(record.AnswerText)) return;
+  show.frmEditor.EditDirty = true;
+  record.AnswerText = typed;
+  UpdateEditorControls(show);
+}
+
+void txtDisplayQuestion_Click(Show& show) { show.frmEditor.txtEnterQuestion.SetFocus(); }
+
+}  // namespace pawnfield::editor

@@ -1,0 +1,190 @@
+#include "sets/editor_files.h"
+
+#include "engine/errors.h"
+#include "engine/show.h"
+#include "media/sound_channels.h"
+#include "platform/text.h"
+#include "sets/editor.h"
+#include "sets/file_dialogs.h"
+#include "sets/set_file.h"
+
+namespace pawnfield::editor {
+
+namespace {
+
+constexpr const char* kSetFilter = "Game Sets(*.txt)|*.txt";
+constexpr const char* kSiblingFolder = "\\Program Files\\Ostara Panel Pro 4\\";
+
+std::string SetsFolder(const Show& show) { return show.AppPath("\\Trivia Sets"); }
+
+// The path to save under, in the form that SaveFile gives it; empty after a cancel.
+std::string AskSavePath(Show& show, FileDialogMode mode, const std::string& title, const std::string& fileName) {
+  const std::string chosen = Trim(ShowFileDialog(show, {mode, title, kSetFilter, "txt", fileName, SetsFolder(show)}));
+  return chosen.empty() ? chosen : NormalSetPath(chosen);
+}
+
+bool MayOverwrite(Show& show, const std::string& path, const std::string& question) {
+  if (!FileExists(show, path)) return true;
+  return show.platform.dialogs.MessageBox(question, kAppTitle, BoxKind::YesNo) == BoxAnswer::Yes;
+}
+
+// A set that could not be saved stays unsaved and keeps its name.
+bool SaveFile(Show& show, std::string path) {
+  if (!SaveSetFile(show, show.EditSet, path)) return false;
+  show.frmEditor.EditDirty = false;
+  show.state.SetFolder = ExtractFolder(path);
+  return true;
+}
+
+void SaveUnder(Show& show, const std::string& path, const std::string& question) {
+  if (path.empty() || !MayOverwrite(show, path, question)) return;
+  if (SaveFile(show, path)) show.frmEditor.EditFileName = path;
+}
+
+bool SaveChanges(Show& show) {
+  const std::string& name = show.frmEditor.EditFileName;
+  const std::string title = name.empty() ? "Save Trivia Set" : "Save Trivia Set - " + name;
+  const std::string path = AskSavePath(show, FileDialogMode::SaveAskingOverwrite, title, name);
+  return !path.empty() && SaveFile(show, path);
+}
+
+// True when nothing is unsaved any more, or the operator doesn't mind.
+bool SavedFirst(Show& show) {
+  if (!show.frmEditor.EditDirty) return true;
+  const BoxAnswer answer =
+      show.platform.dialogs.MessageBox("Would you like to save the changes you made?", kAppTitle, BoxKind::YesNoCancel);
+  if (answer == BoxAnswer::Yes) return SaveChanges(show);
+  return answer == BoxAnswer::No;
+}
+
+// What is typed next belongs to this question. The entry is emptied first, so that a set without questions leaves the
+// controls on, as in an editor that has just been opened.
+void ShowFirstQuestion(Show& show) {
+  show.frmEditor.txtEnterQuestion.Text = std::string();
+  show.frmEditor.EditQuestionNumber = 1;
+  DisplayEditQuestion(show);
+}
+
+std::string PrintTitle(const std::string& fileName) {
+  return Trim(fileName).empty() ? "Untitled" : StripExtension(ExtractFileName(fileName));
+}
+
+PrintDocument DocumentOf(const Show& show) {
+  PrintDocument document{PrintTitle(show.frmEditor.EditFileName), {}};
+  document.Blocks.push_back({document.Title, " "});
+  for (int i = 0; i < show.NumEditQuestions; ++i) {
+    const TriviaQuestion& question = show.EditSet[static_cast<std::size_t>(i)];
+    document.Blocks.push_back(
+        {std::to_string(i + 1) + ". " + Trim(question.QuestionText), Trim(question.AnswerText), " "});
+  }
+  return document;
+}
+
+std::string ImportFolder(const Show& show) {
+  const std::string sibling = show.platform.folders.SystemDrive + kSiblingFolder;
+  if (!show.platform.folders.SystemDrive.empty() && FileExists(show, sibling + "Ostara Panel Pro 4.exe")) {
+    return sibling + "Trivia Sets";
+  }
+  return SetsFolder(show);
+}
+
+}  // namespace
+
+void mnuFileNew_Click(Show& show) {
+  EditorForm& form = show.frmEditor;
+  form.btnPicture.Enabled = true;
+  form.btnSound.Enabled = true;
+  form.txtDisplayQuestion.Enabled = true;
+  ResetEditSet(show);
+  SetNumEditQuestions(show, 0);
+  form.EditQuestionKind = "T";
+  ShowFirstQuestion(show);
+}
+
+void mnuFileOpen_Click(Show& show) {
+  EditorForm& form = show.frmEditor;
+  if (!SavedFirst(show)) return;
+  form.cd1EditorDialog = {"", kSetFilter, SetsFolder(show)};
+  ShowOpen(show, form.cd1EditorDialog);
+  const std::string path = form.cd1EditorDialog.FileName;
+  if (path.empty()) return;
+  const bool read = OpenFile(show, path);
+  // A set that could not be read must not be written over by the empty one that stands in its place.
+  form.EditFileName = read ? path : "";
+  form.EditDirty = false;
+  show.state.SetFolder = ExtractFolder(path);
+  form.btnPicture.Enabled = true;
+  form.btnSound.Enabled = true;
+  ShowFirstQuestion(show);
+}
+
+void mnuFileSave_Click(Show& show) {
+  std::string& name = show.frmEditor.EditFileName;
+  if (Trim(name).empty()) {
+    SaveUnder(show, AskSavePath(show, FileDialogMode::Save, "Save Trivia Set", ""),
+              "Filename already exists. Overwrite existing file?");
+    return;
+  }
+  name = NormalSetPath(name);
+  if (SaveFile(show, name) && !show.state.LoadedSetPath.empty()) CopyEditSetToGame(show);
+}
+
+void mnuSaveAs_Click(Show& show) {
+  SaveUnder(show, AskSavePath(show, FileDialogMode::Save, "Save Trivia Set", ""),
+            "File already exists. Do you want to overwrite?");
+}
+
+bool Editor_QueryUnload(Show& show) {
+  if (!SavedFirst(show)) return false;
+  show.frmEditor.EditFileName.clear();
+  show.frmEditor.EditDirty = false;
+  ResetEditSet(show);
+  ClearEditorDisplay(show);
+  EnableEditorControls(show, true);
+  StopSoundClip(show);
+  return true;
+}
+
+void mnuFilePrint_Click(Show& show) {
+  try {
+    const auto copies = show.platform.printing.ChoosePrinter();
+    if (copies) show.platform.printing.Print(DocumentOf(show), *copies);
+  } catch (const RuntimeError& error) {
+    show.platform.dialogs.MessageBox(NotedErrorText(error, show.frmEditor.Name(), "mnuFilePrint"), kAppTitle,
+                                     BoxKind::Critical);
+  }
+}
+
+bool OpenFile(Show& show, const std::string& path) {
+  ResetEditSet(show);
+  SetNumEditQuestions(show, 0);
+  try {
+    SetNumEditQuestions(show, ParseSet(show.platform.files.Read(path), show.EditSet));
+    return true;
+  } catch (const RuntimeError& error) {
+    ReportError(show.platform.dialogs, error, show.frmEditor.Name(), "OpenFile", path);
+    return false;
+  }
+}
+
+// The editor is emptied before the operator is asked, so a cancel leaves it empty.
+void btnImport_Click(Show& show) {
+  EditorForm& form = show.frmEditor;
+  ResetEditSet(show);
+  ClearEditorDisplay(show);
+  form.cd1EditorDialog = {"", "Trivia Sets (*.txt)|*.txt", ImportFolder(show)};
+  ShowOpen(show, form.cd1EditorDialog);
+  const std::string path = Trim(form.cd1EditorDialog.FileName);
+  SetNumEditQuestions(show, 0);
+  try {
+    if (!path.empty()) {
+      ParseImportedSet(show.platform.files.Read(path), show.EditSet);
+      SetNumEditQuestions(show, kImportedQuestions);
+    }
+  } catch (const RuntimeError& error) {
+    ReportError(show.platform.dialogs, error, form.Name(), "OpenFile", path);
+  }
+  ShowFirstQuestion(show);
+}
+
+}  // namespace pawnfield::editor
