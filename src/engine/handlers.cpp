@@ -1,5 +1,6 @@
 #include "engine/handlers.h"
 
+#include "config/help.h"
 #include "controllers/companion.h"
 #include "controllers/keyboard.h"
 #include "controllers/ring_in.h"
@@ -152,9 +153,9 @@ void DisableWithoutHandler(Form& form) {
 }  // namespace
 
 std::vector<Form*> AllForms(Show& show) {
-  return {&show.frmMain,        &show.frmFSMain,      &show.frmLoading,        &show.frmAlwaysLoaded,
-          &show.frmSplash,      &show.frmGameLoading, &show.frmGameInProgress, &show.frmGameTypeHelp,
-          &show.frmPlayerNames, &show.frmEditor,      &show.frmEditChoice,     &show.frmDialog2};
+  return {&show.frmMain,        &show.frmFSMain,         &show.frmLoading,      &show.frmAlwaysLoaded, &show.frmSplash,
+          &show.frmGameLoading, &show.frmGameInProgress, &show.frmGameTypeHelp, &show.frmPlayerNames,  &show.frmEditor,
+          &show.frmEditChoice,  &show.frmDialog2,        &show.frmHelpAbout};
 }
 
 void AttachHandlers(Show& show) {
@@ -165,6 +166,7 @@ void AttachHandlers(Show& show) {
   AttachExit(show);
   AttachPlayerNamesHandlers(show);
   AttachEditorHandlers(show);
+  AttachHelpHandlers(show);
   BindSoundChannels(show);
   DisableWithoutHandler(show.frmMain);
   for (Menu* menu : {&show.frmMain.mnuFile, &show.frmMain.mnuHelp, &show.frmMain.mnuZR610}) menu->Enabled = true;

@@ -13,6 +13,7 @@
 #include "engine/game_state.h"
 #include "platform/ports.h"
 #include "presentation/fs_main_form.h"
+#include "presentation/help_about_form.h"
 #include "presentation/main_form.h"
 #include "presentation/player_names_form.h"
 #include "presentation/small_forms.h"
@@ -88,6 +89,7 @@ struct Show {
   EditChoiceForm frmEditChoice;
   MissingMediaForm frmDialog2;
   PlayerNamesForm frmPlayerNames;
+  HelpAboutForm frmHelpAbout;
 
   // The path of a file of the program's folder, as in AppPath("\\Images\\scorebox.bmp").
   std::string AppPath(const std::string& tail) const { return platform.folders.App + tail; }

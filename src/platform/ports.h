@@ -236,6 +236,15 @@ class RandomSource {
   virtual double Next() = 0;
 };
 
+// Pages for people to read, beside the program's own windows.
+class Pages {
+ public:
+  virtual ~Pages() = default;
+  // An address that begins with "http" opens in the system's browser; any other is the name of a page of the shipped
+  // manual ("index.html"). Returns at once; false when the page can't be shown.
+  virtual bool Open(const std::string& address) = 0;
+};
+
 // Folders without a trailing backslash, but for DataRoot, which the operator's data lies below.
 struct Folders {
   std::string App;
@@ -266,6 +275,7 @@ struct Platform {
   RandomSource& random;
   HidPort& hid;
   Printing& printing;
+  Pages& pages;
   Folders folders;
 };
 

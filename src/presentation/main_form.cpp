@@ -61,7 +61,9 @@ void MainForm::SetCaptions() {
   mnuReconnectMF.Caption = "Reconnect";
   mTestK7Controllers.Caption = "Test Controllers";
   mnuHelp.Caption = "&Help";
+  mnuHelpManual.Caption = "Operator's &Manual";
   mnuHelpDocumentation.Caption = "&Documentation";
+  mnuHelpSupport.Caption = "&Support";
   mnuHelpProjector.Caption = "Connect to &Projector";
   mnuHelpAbout.Caption = "&About";
 

@@ -28,7 +28,9 @@ class MainForm : public Form {
   Menu mnuReconnectMF{*this, "mnuReconnectMF"};
   Menu mTestK7Controllers{*this, "mTestK7Controllers"};
   Menu mnuHelp{*this, "mnuHelp"};
+  Menu mnuHelpManual{*this, "mnuHelpManual"};
   Menu mnuHelpDocumentation{*this, "mnuHelpDocumentation"};
+  Menu mnuHelpSupport{*this, "mnuHelpSupport"};
   Menu mnuHelpProjector{*this, "mnuHelpProjector"};
   Menu mnuHelpAbout{*this, "mnuHelpAbout"};
 

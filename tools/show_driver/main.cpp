@@ -79,6 +79,7 @@ void ShowForms(ShowDriver& driver, Script& script) {
   };
   picture("frmPlayerNames", form.mnuFileAddPlayerNames);
   picture("frmGameTypeHelp", form.btnGameTypeHelp);
+  picture("frmHelpAbout", form.mnuHelpAbout);
 }
 
 }  // namespace

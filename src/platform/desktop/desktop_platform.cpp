@@ -12,6 +12,7 @@ DesktopPlatform::DesktopPlatform(const DesktopPlaces& places, std::function<void
       displays([this](Form& form) { return windows.Find(form); }),
       processes(places.runtimeFolder, std::move(onActivate),
                 {QCoreApplication::applicationDirPath(), NativePath(places.folders.App)}),
+      pages(places.manualFolder),
       platform{clock,
                dialogs,
                {eventPlayer, keyPressPlayer, soundClipPlayer, correctIncorrectPlayer, backgroundPlayer},
@@ -24,6 +25,7 @@ DesktopPlatform::DesktopPlatform(const DesktopPlaces& places, std::function<void
                random,
                hid,
                printing,
+               pages,
                places.folders} {}
 
 }  // namespace pawnfield

@@ -4,6 +4,7 @@
 #include <functional>
 
 #include "platform/desktop/desktop_folders.h"
+#include "platform/desktop/desktop_pages.h"
 #include "platform/desktop/form_windows.h"
 #include "platform/desktop/hidapi_port.h"
 #include "platform/desktop/linux_processes.h"
@@ -22,6 +23,7 @@ struct DesktopPlaces {
   Folders folders = FindFolders();
   QString configFolder = ConfigFolder();
   QString runtimeFolder = RuntimeFolder();
+  QString manualFolder = ManualFolder();
 };
 
 class DesktopPlatform {
@@ -41,6 +43,7 @@ class DesktopPlatform {
   SeededRandom random;
   HidapiPort hid;
   QtPrinting printing;
+  DesktopPages pages;
   Platform platform;
 };
 

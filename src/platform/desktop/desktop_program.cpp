@@ -20,7 +20,8 @@ DesktopProgram::DesktopProgram(const DesktopPlaces& places)
       gameLoading_(show_.frmGameLoading, desktop_.windows),
       gameInProgress_(show_.frmGameInProgress, desktop_.windows),
       gameTypeHelp_(show_.frmGameTypeHelp, desktop_.windows),
-      playerNames_(show_.frmPlayerNames, desktop_.windows) {}
+      playerNames_(show_.frmPlayerNames, desktop_.windows),
+      helpAbout_(show_.frmHelpAbout, desktop_.windows) {}
 
 // The clock outlives the forms, whose timers must not be looked at any more.
 DesktopProgram::~DesktopProgram() {
@@ -28,7 +29,8 @@ DesktopProgram::~DesktopProgram() {
 }
 
 std::vector<FormWindow*> DesktopProgram::Windows() {
-  return {&console_, &audience_, &loading_, &splash_, &gameLoading_, &gameInProgress_, &gameTypeHelp_, &playerNames_};
+  return {&console_,        &audience_,     &loading_,     &splash_,   &gameLoading_,
+          &gameInProgress_, &gameTypeHelp_, &playerNames_, &helpAbout_};
 }
 
 void PrepareApplication() {

@@ -5,6 +5,7 @@
 #include "platform/desktop/audience_window.h"
 #include "platform/desktop/console_window.h"
 #include "platform/desktop/desktop_platform.h"
+#include "platform/desktop/help_about_window.h"
 #include "platform/desktop/player_names_window.h"
 #include "platform/desktop/small_windows.h"
 
@@ -20,6 +21,8 @@ class DesktopProgram {
   Show& TheShow() { return show_; }
   ConsoleWindow& Console() { return console_; }
   AudienceWindow& Audience() { return audience_; }
+  // What shows the manual.
+  DesktopPages& ManualPages() { return desktop_.pages; }
   // All windows, for what goes over every form.
   std::vector<FormWindow*> Windows();
 
@@ -35,6 +38,7 @@ class DesktopProgram {
   GameInProgressWindow gameInProgress_;
   GameTypeHelpWindow gameTypeHelp_;
   PlayerNamesWindow playerNames_;
+  HelpAboutWindow helpAbout_;
 };
 
 // What the application object needs before the first window: fonts, colours, number format.

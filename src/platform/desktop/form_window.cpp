@@ -40,6 +40,8 @@ void FormWindow::Changed(Control&, PropertyId id) {
 }
 
 void FormWindow::ShowForm() {
+  QPushButton* first = form_.ActiveControl == nullptr ? DefaultButton() : nullptr;
+  if (first != nullptr) first->setFocus();
   // The toolkit's own adjustment keeps a window to two thirds of the screen and would press its contents together.
   resize(sizeHint());
   if (const QScreen* screen = QGuiApplication::primaryScreen()) {
@@ -61,10 +63,15 @@ void FormWindow::keyPressEvent(QKeyEvent* event) {
     return;
   }
   auto* button = qobject_cast<QPushButton*>(focusWidget());
-  for (QPushButton* other : findChildren<QPushButton*>()) {
-    if (button == nullptr && other->isDefault()) button = other;
-  }
+  if (button == nullptr) button = DefaultButton();
   if (button != nullptr) button->click();
+}
+
+QPushButton* FormWindow::DefaultButton() const {
+  for (QPushButton* button : findChildren<QPushButton*>()) {
+    if (button->isDefault()) return button;
+  }
+  return nullptr;
 }
 
 void FormWindow::closeEvent(QCloseEvent* event) {

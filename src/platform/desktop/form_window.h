@@ -8,6 +8,8 @@
 #include "platform/desktop/binder.h"
 #include "platform/desktop/form_windows.h"
 
+class QPushButton;
+
 namespace pawnfield {
 
 // The window of a dialog: a title and a box to close it by.
@@ -44,6 +46,9 @@ class FormWindow : public QMainWindow, public Mirror {
   Form& form_;
 
  private:
+  // Null when the form has none.
+  QPushButton* DefaultButton() const;
+
   FormWindows& windows_;
   std::unique_ptr<Binder> binder_;
 };

@@ -71,6 +71,18 @@ class SimProcesses : public Processes {
   bool Ended = false;
 };
 
+// Notes what was opened, in order.
+class SimPages : public Pages {
+ public:
+  bool Open(const std::string& address) override {
+    Opened.push_back(address);
+    return Works;
+  }
+
+  std::vector<std::string> Opened;
+  bool Works = true;
+};
+
 // Gives the scripted values first, then a fixed sequence.
 class SimRandom : public RandomSource {
  public:

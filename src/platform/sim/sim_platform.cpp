@@ -18,8 +18,8 @@ void PutImages(SimFiles& files, const std::string& folder) {
 }  // namespace
 
 SimPlatform::SimPlatform(Folders where)
-    : platform{clock,  dialogs, media.Channels(), settings,        files, text, pictures, displays, processes,
-               random, hid,     printing,         std::move(where)} {
+    : platform{clock,    dialogs,   media.Channels(), settings, files,    text,  pictures,
+               displays, processes, random,           hid,      printing, pages, std::move(where)} {
   const std::string app = platform.folders.App;
   PutImages(files, app + "\\Images");
   files.PutFolder(app + "\\Trivia Sets");

@@ -28,6 +28,7 @@ struct SimPlatform {
   SimRandom random;
   SimHid hid{clock};
   SimPrinter printing;
+  SimPages pages;
   Platform platform;
 };
 

@@ -1,0 +1,18 @@
+// Where the help menu's entries lead: the one place that holds the addresses of the maker's pages.
+#pragma once
+
+namespace pawnfield {
+
+// A page of the maker's and the page of the shipped manual that stands in for it while it has no address or can't be
+// opened.
+struct HelpPage {
+  const char* Address;
+  const char* Shipped;
+};
+
+inline constexpr HelpPage kManualPage{"", "index.html"};
+inline constexpr HelpPage kDocumentationPage{"", "documentation.html"};
+inline constexpr HelpPage kSupportPage{"", "messages.html"};
+inline constexpr HelpPage kLicencePage{"", "licence.html"};
+
+}  // namespace pawnfield

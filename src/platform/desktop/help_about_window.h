@@ -1,0 +1,15 @@
+// frmHelpAbout's window.
+#pragma once
+
+#include "platform/desktop/form_window.h"
+
+namespace pawnfield {
+
+struct HelpAboutForm;
+
+class HelpAboutWindow : public FormWindow {
+ public:
+  HelpAboutWindow(HelpAboutForm& form, FormWindows& windows);
+};
+
+}  // namespace pawnfield
