@@ -2,6 +2,7 @@
 
 #include "config/help.h"
 #include "controllers/companion.h"
+#include "controllers/config_keys.h"
 #include "controllers/keyboard.h"
 #include "controllers/ring_in.h"
 #include "engine/board_play.h"
@@ -155,7 +156,7 @@ void DisableWithoutHandler(Form& form) {
 std::vector<Form*> AllForms(Show& show) {
   return {&show.frmMain,        &show.frmFSMain,         &show.frmLoading,      &show.frmAlwaysLoaded, &show.frmSplash,
           &show.frmGameLoading, &show.frmGameInProgress, &show.frmGameTypeHelp, &show.frmPlayerNames,  &show.frmEditor,
-          &show.frmEditChoice,  &show.frmDialog2,        &show.frmHelpAbout};
+          &show.frmEditChoice,  &show.frmDialog2,        &show.frmHelpAbout,    &show.frmConfigKeys};
 }
 
 void AttachHandlers(Show& show) {
@@ -167,6 +168,7 @@ void AttachHandlers(Show& show) {
   AttachPlayerNamesHandlers(show);
   AttachEditorHandlers(show);
   AttachHelpHandlers(show);
+  AttachConfigKeysHandlers(show);
   BindSoundChannels(show);
   DisableWithoutHandler(show.frmMain);
   for (Menu* menu : {&show.frmMain.mnuFile, &show.frmMain.mnuHelp, &show.frmMain.mnuZR610}) menu->Enabled = true;

@@ -12,6 +12,7 @@
 #include "controllers/transceiver.h"
 #include "engine/game_state.h"
 #include "platform/ports.h"
+#include "presentation/config_keys_form.h"
 #include "presentation/fs_main_form.h"
 #include "presentation/help_about_form.h"
 #include "presentation/main_form.h"
@@ -90,6 +91,7 @@ struct Show {
   MissingMediaForm frmDialog2;
   PlayerNamesForm frmPlayerNames;
   HelpAboutForm frmHelpAbout;
+  ConfigKeysForm frmConfigKeys;
 
   // The path of a file of the program's folder, as in AppPath("\\Images\\scorebox.bmp").
   std::string AppPath(const std::string& tail) const { return platform.folders.App + tail; }

@@ -84,6 +84,7 @@ void MainForm::SetCaptions() {
   lblHidequestionOption.Caption = "Hide Question";
   lblLose100Points.Caption = "Lose 100 Points on Incorrect";
   lblExtKeyboardCtrl.Caption = "External Keyboard Control";
+  btnEditKeyboardCtrl.Caption = "Configure";
   lblTimedResponse.Caption = "Timed Response";
   lblAutoContinuePrompt.Caption = "Auto Continue";
   pawnfield::Caption(lblScoring, std::array{"Correct Answer Value", "Line Bonus"});

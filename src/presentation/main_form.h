@@ -49,6 +49,7 @@ class MainForm : public Form {
   Label lblLose100Points{*this, "lblLose100Points"};
   CheckBox chkExtKeyboardCtrl{*this, "chkExtKeyboardCtrl"};
   Label lblExtKeyboardCtrl{*this, "lblExtKeyboardCtrl"};
+  Button btnEditKeyboardCtrl{*this, "btnEditKeyboardCtrl"};
   Label lblTimedResponse{*this, "lblTimedResponse"};
   ComboBox cboTimedResponse{*this, "cboTimedResponse"};
   Label lblAutoContinuePrompt{*this, "lblAutoContinuePrompt"};

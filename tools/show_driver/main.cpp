@@ -69,6 +69,8 @@ void PlayChallenge(ShowDriver& driver, Script& script) {
   script.Do("claim on the audience screen", driver.PressAudienceSquare(4, 0));
   driver.Pause(2500);
   driver.TakePictures("challenge-board");
+  script.Do("type half a square", driver.Type({"c"}));
+  driver.TakePictures("square-half-typed");
 }
 
 // Every form that the console opens, once.
@@ -80,6 +82,7 @@ void ShowForms(ShowDriver& driver, Script& script) {
   picture("frmPlayerNames", form.mnuFileAddPlayerNames);
   picture("frmGameTypeHelp", form.btnGameTypeHelp);
   picture("frmHelpAbout", form.mnuHelpAbout);
+  picture("frmConfigKeys", form.btnEditKeyboardCtrl);
 }
 
 }  // namespace

@@ -5,6 +5,7 @@
 #include <QDir>
 #include <QElapsedTimer>
 #include <QMessageBox>
+#include <QProcess>
 #include <QPushButton>
 #include <QTest>
 #include <QTextStream>
@@ -140,6 +141,14 @@ bool ShowDriver::PictureOfForm(const QString& form, const std::function<void()>&
   open();
   Pause(kSettledMs + kStepMs);
   return opened;
+}
+
+bool ShowDriver::Type(const QStringList& keys) {
+  for (const QString& key : keys) {
+    if (QProcess::execute("xdotool", {"key", "--clearmodifiers", key}) != 0) return false;
+    Pause(kStepMs * 2);
+  }
+  return true;
 }
 
 void ShowDriver::TakePictures(const QString& name) {

@@ -25,6 +25,9 @@ class ShowDriver {
   // Lets the program run until the condition holds, at most the given time.
   bool WaitFor(const std::function<bool()>& condition, int milliseconds = 8000);
   void Pause(int milliseconds);
+  // Sends keys to whatever window is in front, as a keyboard would: names as in "c", "Return", "ctrl+n". False when
+  // nothing can send them.
+  bool Type(const QStringList& keys);
   // Answers each message box that comes up while the driver waits, and keeps its text.
   QStringList BoxTexts() const { return boxTexts_; }
 

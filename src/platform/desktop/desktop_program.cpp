@@ -21,7 +21,8 @@ DesktopProgram::DesktopProgram(const DesktopPlaces& places)
       gameInProgress_(show_.frmGameInProgress, desktop_.windows),
       gameTypeHelp_(show_.frmGameTypeHelp, desktop_.windows),
       playerNames_(show_.frmPlayerNames, desktop_.windows),
-      helpAbout_(show_.frmHelpAbout, desktop_.windows) {}
+      helpAbout_(show_.frmHelpAbout, desktop_.windows),
+      configKeys_(show_.frmConfigKeys, desktop_.windows) {}
 
 // The clock outlives the forms, whose timers must not be looked at any more.
 DesktopProgram::~DesktopProgram() {
@@ -29,8 +30,8 @@ DesktopProgram::~DesktopProgram() {
 }
 
 std::vector<FormWindow*> DesktopProgram::Windows() {
-  return {&console_,        &audience_,     &loading_,     &splash_,   &gameLoading_,
-          &gameInProgress_, &gameTypeHelp_, &playerNames_, &helpAbout_};
+  return {&console_,        &audience_,     &loading_,     &splash_,    &gameLoading_,
+          &gameInProgress_, &gameTypeHelp_, &playerNames_, &helpAbout_, &configKeys_};
 }
 
 void PrepareApplication() {

@@ -3,6 +3,7 @@
 
 #include "engine/show.h"
 #include "platform/desktop/audience_window.h"
+#include "platform/desktop/config_keys_window.h"
 #include "platform/desktop/console_window.h"
 #include "platform/desktop/desktop_platform.h"
 #include "platform/desktop/help_about_window.h"
@@ -39,6 +40,7 @@ class DesktopProgram {
   GameTypeHelpWindow gameTypeHelp_;
   PlayerNamesWindow playerNames_;
   HelpAboutWindow helpAbout_;
+  ConfigKeysWindow configKeys_;
 };
 
 // What the application object needs before the first window: fonts, colours, number format.

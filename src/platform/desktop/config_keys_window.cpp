@@ -1,0 +1,13 @@
+#include "platform/desktop/config_keys_window.h"
+
+#include "presentation/config_keys_form.h"
+#include "ui_frm_config_keys.h"
+
+namespace pawnfield {
+
+ConfigKeysWindow::ConfigKeysWindow(ConfigKeysForm& form, FormWindows& windows) : FormWindow(form, windows, kDialog) {
+  SetUp<Ui::frmConfigKeys>(*this);
+  BindForm();
+}
+
+}  // namespace pawnfield

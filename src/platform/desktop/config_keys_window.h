@@ -1,0 +1,15 @@
+// frmConfigKeys' window.
+#pragma once
+
+#include "platform/desktop/form_window.h"
+
+namespace pawnfield {
+
+struct ConfigKeysForm;
+
+class ConfigKeysWindow : public FormWindow {
+ public:
+  ConfigKeysWindow(ConfigKeysForm& form, FormWindows& windows);
+};
+
+}  // namespace pawnfield
