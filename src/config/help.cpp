@@ -7,7 +7,7 @@
 namespace pawnfield {
 
 void OpenHelpPage(Show& show, const HelpPage& page) {
-  Pages& pages = show.platform.pages;
+  HelpPages& pages = show.platform.pages;
   const std::string address = page.Address;
   if (!address.empty() && pages.Open(address)) return;
   if (pages.Open(page.Shipped)) return;

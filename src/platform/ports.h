@@ -237,9 +237,9 @@ class RandomSource {
 };
 
 // Pages for people to read, beside the program's own windows.
-class Pages {
+class HelpPages {
  public:
-  virtual ~Pages() = default;
+  virtual ~HelpPages() = default;
   // An address that begins with "http" opens in the system's browser; any other is the name of a page of the shipped
   // manual ("index.html"). Returns at once; false when the page can't be shown.
   virtual bool Open(const std::string& address) = 0;
@@ -275,7 +275,7 @@ struct Platform {
   RandomSource& random;
   HidPort& hid;
   Printing& printing;
-  Pages& pages;
+  HelpPages& pages;
   Folders folders;
 };
 

@@ -9,7 +9,7 @@
 
 namespace pawnfield {
 
-class DesktopPages : public Pages {
+class DesktopPages : public HelpPages {
  public:
   explicit DesktopPages(QString manualFolder) : folder_(std::move(manualFolder)) {}
   bool Open(const std::string& address) override;

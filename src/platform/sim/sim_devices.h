@@ -72,7 +72,7 @@ class SimProcesses : public Processes {
 };
 
 // Notes what was opened, in order.
-class SimPages : public Pages {
+class SimPages : public HelpPages {
  public:
   bool Open(const std::string& address) override {
     Opened.push_back(address);
