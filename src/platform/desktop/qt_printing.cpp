@@ -47,9 +47,9 @@ Paragraph Wrap(const std::string& text, const QFont& font, double indent, QPaint
   return paragraph;
 }
 
-class Pages {
+class PrintedPages {
  public:
-  Pages(QPrinter& printer, QPainter& painter) : printer_(printer), painter_(painter) {}
+  PrintedPages(QPrinter& printer, QPainter& painter) : printer_(printer), painter_(painter) {}
 
   void Add(const PrintBlock& block, bool isTitle) {
     std::vector<Paragraph> paragraphs;
@@ -118,7 +118,7 @@ void PaintDocument(QPrinter& printer, const PrintDocument& document, int copies)
   printer.setPageMargins(QMarginsF(kMarginMm, kMarginMm, kMarginMm, kMarginMm), QPageLayout::Millimeter);
   QPainter painter;
   if (!painter.begin(&printer)) throw RuntimeError(kErrorPrinter, "Printer error");
-  Pages pages(printer, painter);
+  PrintedPages pages(printer, painter);
   for (int copy = 0; copy < copies; ++copy) {
     if (copy > 0) pages.BreakPage();
     for (std::size_t i = 0; i < document.Blocks.size(); ++i) pages.Add(document.Blocks[i], i == 0);
