@@ -62,7 +62,7 @@ void JudgingKey(Show& show, int key) {
 
 void ShowEntry(Show& show, const std::string& entry) {
   show.entry.DJEntry = entry;
-  show.frmMain.txtDJCommand.Text = entry;
+  SetTypedCommand(show, entry);
 }
 
 void LetterOfSquare(Show& show, int key) {

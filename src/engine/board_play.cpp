@@ -160,7 +160,7 @@ void ClaimSquare(Show& show, int r, int c, const std::string& key) {
   MainForm& form = show.frmMain;
   if (!state.PlacementOpen) return;
   show.entry.DJEntry.clear();
-  form.txtDJCommand.Text = "";
+  SetTypedCommand(show, "");
   if (!TryClaimSquare(show, r, c)) {
     state.PlacementOpen = true;
     return;

@@ -17,6 +17,7 @@
 #include "engine/turn_order.h"
 #include "engine/win_detection.h"
 #include "media/sound_channels.h"
+#include "presentation/audience_screen.h"
 #include "sets/editor_handlers.h"
 
 namespace pawnfield {
@@ -156,7 +157,7 @@ void DisableWithoutHandler(Form& form) {
 std::vector<Form*> AllForms(Show& show) {
   return {&show.frmMain,        &show.frmFSMain,         &show.frmLoading,      &show.frmAlwaysLoaded, &show.frmSplash,
           &show.frmGameLoading, &show.frmGameInProgress, &show.frmGameTypeHelp, &show.frmPlayerNames,  &show.frmEditor,
-          &show.frmEditChoice,  &show.frmDialog2,        &show.frmHelpAbout,    &show.frmConfigKeys};
+          &show.frmEditChoice,  &show.frmDialog2,        &show.frmHelpAbout,    &show.frmConfigKeys,   &show.frmSS};
 }
 
 void AttachHandlers(Show& show) {
@@ -170,6 +171,7 @@ void AttachHandlers(Show& show) {
   AttachHelpHandlers(show);
   AttachConfigKeysHandlers(show);
   BindSoundChannels(show);
+  AttachAudienceHandlers(show);
   DisableWithoutHandler(show.frmMain);
   for (Menu* menu : {&show.frmMain.mnuFile, &show.frmMain.mnuHelp, &show.frmMain.mnuZR610}) menu->Enabled = true;
   for (Form* form : AllForms(show)) {

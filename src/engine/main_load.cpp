@@ -12,6 +12,8 @@
 #include "media/sound_channels.h"
 #include "media/sound_table.h"
 #include "platform/text.h"
+#include "presentation/audience_screen.h"
+#include "presentation/audience_step.h"
 #include "presentation/board_layout.h"
 #include "presentation/both_screens.h"
 #include "sets/set_file.h"
@@ -29,7 +31,6 @@ int IntInRange(Show& show, const std::string& key, int fallback, int low, int hi
 void SetDesignPictures(Show& show) {
   const auto picture = [&show](const std::string& tail) { return PicturePath(show, "\\Images\\" + tail); };
   MainForm& form = show.frmMain;
-  FSMainForm& audience = show.frmFSMain;
   form.imgBkgnd.Picture = picture("Blank.bmp");
   form.imgStandardStandby.Picture = picture("Standby.jpg");
   form.imgStandardBonus.Picture = picture("Bonus.jpg");
@@ -44,16 +45,7 @@ void SetDesignPictures(Show& show) {
     columns[i]->Picture = picture(std::string("Col") + static_cast<char>('A' + i) + ".png");
     rows[i]->Picture = picture("Row" + std::to_string(i + 1) + ".png");
   }
-  if (!show.state.DualScreen) return;
-  const std::array fsColumns{&audience.imgA, &audience.imgB, &audience.imgC, &audience.imgD, &audience.imgE};
-  const std::array fsRows{&audience.img1, &audience.img2, &audience.img3, &audience.img4, &audience.img5};
-  for (std::size_t i = 0; i < 5; ++i) {
-    fsColumns[i]->Picture = columns[i]->Picture;
-    fsRows[i]->Picture = rows[i]->Picture;
-  }
-  audience.imgSound.Picture = form.imgSound.Picture;
-  audience.picWinner.Picture = form.picWinner.Picture;
-  audience.picHideQuestion.Picture = picture("Cover.jpg");
+  if (show.state.DualScreen) CopyDesignPictures(show);
 }
 
 // Numbers 0, 10 .. 100.
@@ -85,10 +77,7 @@ void LoadScreenPictures(Show& show) {
   form.imgStandby.Picture = custom ? own[0] : form.imgStandardStandby.Picture.Get();
   form.imgBonus.Picture = custom ? own[1] : form.imgStandardBonus.Picture.Get();
   form.imgHeader.Picture = custom ? own[2] : form.imgStandardHeader.Picture.Get();
-  if (!show.state.DualScreen) return;
-  show.frmFSMain.imgStandby.Picture = form.imgStandby.Picture;
-  show.frmFSMain.imgBonus.Picture = form.imgBonus.Picture;
-  show.frmFSMain.imgHeader.Picture = form.imgHeader.Picture;
+  if (show.state.DualScreen) CopyScreenPictures(show);
 }
 
 void ShowGameType(Show& show) {
@@ -283,8 +272,7 @@ void StartForm(Show& show) {
 
 void ShowAudience(Show& show) {
   if (!show.state.DualScreen) return;
-  PlaceAudienceScreen(show);
-  show.frmFSMain.Visible = true;
+  ShowAudienceScreen(show, show.state.FullScreenGameBoard ? 0 : show.state.FSLeft);
 }
 
 void ShowConsole(Show& show) {

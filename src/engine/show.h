@@ -7,6 +7,7 @@
 #include <map>
 #include <memory>
 #include <string>
+#include <vector>
 
 #include "controllers/press_state.h"
 #include "controllers/transceiver.h"
@@ -17,6 +18,7 @@
 #include "presentation/help_about_form.h"
 #include "presentation/main_form.h"
 #include "presentation/player_names_form.h"
+#include "presentation/second_screen_form.h"
 #include "presentation/small_forms.h"
 #include "sets/editor_form.h"
 #include "sets/missing_media_form.h"
@@ -77,9 +79,13 @@ struct Show {
   std::deque<std::string> CompanionReports;
   // Whether the last report, and the last write to the external keyboard program's key, failed; that has been told.
   bool CompanionFails = false, SharedKeyFails = false;
+  std::vector<MonitorInfo> Monitors;
+  // frmFSMain has been loaded; and the desktop's saver and sleep are held off.
+  bool AudienceLoaded = false, AwakeHeld = false;
 
   MainForm frmMain;
   FSMainForm frmFSMain;
+  SecondScreenForm frmSS;
   LoadingForm frmLoading;
   AlwaysLoadedForm frmAlwaysLoaded;
   SplashForm frmSplash;

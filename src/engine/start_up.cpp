@@ -10,29 +10,23 @@
 #include "engine/main_load.h"
 #include "engine/show.h"
 #include "platform/text.h"
+#include "presentation/audience_screen.h"
+#include "presentation/monitors.h"
 
 namespace pawnfield {
 
 namespace {
 
-constexpr double kTwipsPerPixel = 15;
 constexpr int kManualMode = 6;
 
 // The audience screen is in use where a second monitor is; without one it would stand off the right edge.
 void ReadMonitors(Show& show) {
-  const auto monitors = show.platform.displays.Enumerate();
-  show.state.DualScreen = monitors.size() >= 2;
-  if (show.state.DualScreen) {
-    show.state.FSLeft = static_cast<int>(monitors[1].Left * kTwipsPerPixel);
-  } else if (!monitors.empty()) {
-    show.state.FSLeft = static_cast<int>((monitors[0].Right - monitors[0].Left) * kTwipsPerPixel);
-  }
+  FindAudiencePlace(show);
+  show.state.DualScreen = HasSecondMonitor(show);
 }
 
 void ShowAudienceInManualMode(Show& show) {
-  if (!show.state.DualScreen) return;
-  show.frmFSMain.Left = show.state.FSLeft;
-  show.frmFSMain.Visible = true;
+  if (show.state.DualScreen) ShowAudienceScreen(show, show.state.FSLeft);
 }
 
 }  // namespace
@@ -137,6 +131,8 @@ void fileExit(Show& show) {
       show.platform.dialogs, [&] { SaveAllSettings(show); }, "frmMain", "fileExit");
   ReportExit(show);
   show.dgTransceiver.reset();
+  RunGuarded(
+      show.platform.dialogs, [&] { UnloadAudienceScreen(show); }, "frmFSMain", "Form_Unload");
   for (Form* other : AllForms(show)) other->Visible = false;
   show.platform.processes.EndProgram();
 }

@@ -54,6 +54,7 @@ enum class PropertyId {
   ToolTipText,
   Interval,
   MouseIcon,
+  WindowState,
   ZOrder,
   Focus,
   Selection
@@ -179,12 +180,15 @@ class Form : public Control {
   Property<std::string> Caption{*this, PropertyId::Caption};
   Property<std::string> MouseIcon{*this, PropertyId::MouseIcon};
   Property<Color> BackColor{*this, PropertyId::BackColor, kBlack};
+  // 0 as placed, 1 minimised.
+  Property<int> WindowState{*this, PropertyId::WindowState, 0};
   // The control that was given the focus last, null for none.
   Control* ActiveControl = nullptr;
   // What the window's close box asks first; returns true to let the form close. Null means always.
   std::function<bool()> OnQueryUnload;
   std::function<void()> OnUnload;
   std::function<void()> OnResize;
+  std::function<void()> OnMove;
   std::function<void(int keyAscii)> OnKeyPress;
   // Wraps every event that enters the program's logic; unset means the handler is called plainly.
   std::function<void(const std::function<void()>& handler, const std::string& form, const std::string& procedure)>

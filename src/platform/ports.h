@@ -4,6 +4,7 @@
 
 #include <cstddef>
 #include <cstdint>
+#include <functional>
 #include <optional>
 #include <stdexcept>
 #include <string>
@@ -155,7 +156,14 @@ class Displays {
   virtual ~Displays() = default;
   // In the system's order, the console's first.
   virtual std::vector<MonitorInfo> Enumerate() const = 0;
+  // Called from now on, between events, when a monitor has come, gone or changed its size or place.
+  virtual void OnChanged(std::function<void()> changed) = 0;
+  // Keeps the form's window above all others or not; never moves it.
   virtual void SetTopMost(Form& form, bool onTop) = 0;
+  // Rounds the corners of the form's window, with a radius in pixels.
+  virtual void RoundWindow(Form& form, int radius) = 0;
+  // Holds the desktop's screen saver and sleep off while true. A machine without such a service is no error.
+  virtual void KeepAwake(bool awake) = 0;
 };
 
 struct ProcessInfo {

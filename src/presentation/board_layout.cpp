@@ -185,7 +185,7 @@ void ResetGameBoard(Show& show) {
   form.picQuestion.Visible = false;
   form.picQuestionPicture.Visible = false;
   form.lblAnswer.Caption = "";
-  form.txtDJCommand.Text = "";
+  SetTypedCommand(show, "");
   form.txtDJCommand.BackColor = kRed;
   form.imgDJEntry.Picture = form.imgXa.Picture;
   state.Lamp1 = kLampOn;

@@ -79,6 +79,11 @@ void LightScoreBox(Show& show, int player) {
   }
 }
 
+void SetTypedCommand(Show& show, const std::string& text) {
+  show.frmMain.txtDJCommand.Text = text;
+  if (show.state.DualScreen) show.frmFSMain.lblDJCommand.Caption = text;
+}
+
 void SetSquarePicture(Show& show, int row, int column, const std::string& picture) {
   Image* square = show.frmMain.img.At(row, column);
   if (square == nullptr) return;

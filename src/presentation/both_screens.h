@@ -27,6 +27,8 @@ void ResetScores(Show& show);
 
 // Lights the score box of a player 1..3 and makes the others normal; 0 makes all normal.
 void LightScoreBox(Show& show, int player);
+// The square that is being typed, as far as it is known.
+void SetTypedCommand(Show& show, const std::string& text);
 void SetSquarePicture(Show& show, int row, int column, const std::string& picture);
 // The cursor of a player 1..3, or the neutral one for 0.
 void SetConsoleCursor(Show& show, int player);

@@ -2,6 +2,8 @@
 
 #include <array>
 
+#include "presentation/form_layout.h"
+
 namespace pawnfield {
 
 namespace {
@@ -84,7 +86,7 @@ void FSMainForm::Form_Resize() {
   picQuestionPicture.MoveTo(0, 0, Width, Height);
   picQuestionPicture.BringToFront();
   for (PictureBox* panel : {&picQuestion, &picHideQuestion, &picCorrect, &picWinner, &picBonus, &picMOD, &picSound}) {
-    panel->MoveTo(picStandby.Left, picStandby.Top, picStandby.Width, picStandby.Height);
+    MoveLike(*panel, picStandby, Extent::Copy);
     panel->BringToFront();
   }
   picStandby.BringToFront();

@@ -2,6 +2,7 @@
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
+#include "presentation/both_screens.h"
 #include "support/game_player.h"
 
 namespace pawnfield {
@@ -33,7 +34,7 @@ TEST(Judging, ScoreButtonsRefuseWhatLeavesTheLimitsAsAWhole) {
   GamePlayer player({1, 2, 3, Ending::FinishRow, ""});
   for (const Case& c : cases) {
     MainForm& form = player.fixture().form();
-    form.lblP2Score.Caption = c.start;
+    SetScore(player.fixture().show(), 2, c.start);
     const std::string step = c.step;
     const auto index = static_cast<std::size_t>(step[2] - '0');
     (step[0] == 'u' ? form.btnScore2Up[index] : form.btnScore2Dn[index]).Click();

@@ -1,4 +1,4 @@
-// Plays a game on the console from a short script, and checks after every step that the audience sees the same.
+// Plays a game on the console from a short script, and checks after every event that the audience sees the same.
 #pragma once
 
 #include <string>
@@ -16,6 +16,7 @@ struct GameSetup {
   Ending End = Ending::FinishRow;
   // Further options: "p" penalty on, "m" the user advances, "0" squares worth nothing, "a" animation on.
   std::string Options;
+  Screens Monitors = Screens::Two;
 };
 
 class GamePlayer {
@@ -40,11 +41,13 @@ class GamePlayer {
   Button& ButtonOf(char letter);
   Button& ScoreButton(const std::string& step);
   void Press(Control& control, const std::string& step);
-  void ExpectBothScreensAlike(const std::string& step);
+  void CheckEveryEvent();
+  void ExpectBothScreensAlike(const std::string& event);
 
   ShowFixture fixture_;
   int gameType_;
   bool scoresAlike_ = true;
+  std::string step_ = "start";
 };
 
 }  // namespace pawnfield

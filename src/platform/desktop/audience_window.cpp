@@ -1,17 +1,23 @@
 #include "platform/desktop/audience_window.h"
 
+#include <QEvent>
 #include <QGuiApplication>
-#include <QScreen>
 #include <QTimer>
 #include <QWindow>
 
 #include "platform/desktop/ground.h"
+#include "platform/desktop/windows_1252.h"
 #include "presentation/fs_main_form.h"
+#include "presentation/second_screen_form.h"
 
 namespace pawnfield {
 
-AudienceWindow::AudienceWindow(FSMainForm& form, FormWindows& windows, PictureCache& pictures)
-    : FormWindow(form, windows, Qt::Window | Qt::FramelessWindowHint | Qt::WindowDoesNotAcceptFocus) {
+AudienceWindow::AudienceWindow(FSMainForm& form, SecondScreenForm& copy, FormWindows& windows, PictureCache& pictures,
+                               Screens& screens)
+    : FormWindow(form, windows, Qt::Window | Qt::FramelessWindowHint | Qt::WindowDoesNotAcceptFocus),
+      copy_(copy),
+      windows_(windows),
+      screens_(screens) {
   setAttribute(Qt::WA_ShowWithoutActivating);
   screen_ = new Canvas(pictures, this);
   screen_->setObjectName("pnlScreen");
@@ -23,10 +29,16 @@ AudienceWindow::AudienceWindow(FSMainForm& form, FormWindows& windows, PictureCa
   Fill(form);
   FillPanels(form);
   Bindings()->AddCanvas(*screen_);
-  // A projector that comes or goes: the window must neither cover the console nor stay away.
-  const auto place = [this] { QTimer::singleShot(0, this, [this] { ShowForm(); }); };
-  connect(qGuiApp, &QGuiApplication::screenAdded, this, place);
-  connect(qGuiApp, &QGuiApplication::screenRemoved, this, place);
+  copy_.SetMirror(this);
+  windows_.Add(copy_, *this);
+  setWindowTitle(FromWindows1252(copy_.Form::Caption));
+  screens_.Subscribe([this] { Place(); });
+  connect(qGuiApp, &QGuiApplication::screenRemoved, this, &AudienceWindow::ScreenRemoved);
+}
+
+AudienceWindow::~AudienceWindow() {
+  copy_.SetMirror(nullptr);
+  windows_.Remove(copy_);
 }
 
 void AudienceWindow::Fill(FSMainForm& form) {
@@ -74,18 +86,51 @@ void AudienceWindow::FillPanels(FSMainForm& form) {
   for (Label* label : {&form.lblPlayerName, &form.lblWhatIsAnswer, &form.lblRightWrong}) screen_->Add(*label);
 }
 
-void AudienceWindow::ShowForm() {
-  const QList<QScreen*> screens = QGuiApplication::screens();
-  if (!form_.Visible || screens.size() < 2) {
+void AudienceWindow::Changed(Control& control, PropertyId id) {
+  // What frmFSMain tells of a window is frmSS's affair, but for the cursor.
+  if (&control == &copy_ ? id == PropertyId::Visible : id == PropertyId::MouseIcon) {
+    id == PropertyId::Visible ? Place() : FormWindow::Changed(control, id);
+  }
+}
+
+void AudienceWindow::ShowForm() { Place(); }
+
+void AudienceWindow::Place() {
+  QScreen* target = screens_.Second();
+  if (!copy_.Visible || target == nullptr) {
     hide();
     return;
   }
-  setGeometry(screens[1]->geometry());
+  winId();
+  // The window manager keeps a full-screen window at its monitor's size, also where the toolkit has not heard of it.
+  if (isVisible() && windowHandle()->screen() == target && pos() == target->geometry().topLeft()) return;
+  // Where windows have no coordinates, a full-screen window goes to the monitor it had when it was shown.
+  if (isVisible() && windowHandle()->screen() != target) hide();
+  windowHandle()->setScreen(target);
+  setGeometry(target->geometry());
   // The toolkit's own call for this would also ask for the focus.
-  setWindowState(windowState() | Qt::WindowFullScreen);
+  setWindowState(Qt::WindowFullScreen);
   show();
-  if (windowHandle() != nullptr) windowHandle()->setScreen(screens[1]);
-  setGeometry(screens[1]->geometry());
+  setGeometry(target->geometry());
+}
+
+void AudienceWindow::ScreenRemoved(const QScreen* screen) {
+  if (windowHandle() != nullptr && windowHandle()->screen() == screen) hide();
+}
+
+void AudienceWindow::changeEvent(QEvent* event) {
+  FormWindow::changeEvent(event);
+  if (event->type() != QEvent::WindowStateChange || screens_.IsChanging()) return;
+  copy_.WindowState = isMinimized() ? 1 : 0;
+  if (copy_.OnResize) copy_.Dispatch(copy_.OnResize, "Form_Resize");
+}
+
+void AudienceWindow::moveEvent(QMoveEvent* event) {
+  FormWindow::moveEvent(event);
+  const QScreen* target = screens_.Second();
+  if (!isVisible() || screens_.IsChanging() || target == nullptr || pos() == target->geometry().topLeft()) return;
+  if (copy_.OnMove) copy_.Dispatch(copy_.OnMove, "Form_Move");
+  QTimer::singleShot(0, this, [this] { Place(); });
 }
 
 }  // namespace pawnfield

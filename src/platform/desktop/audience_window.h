@@ -1,25 +1,41 @@
-// frmFSMain's window: full-screen on the second monitor, never taking the focus from the console.
+// The window of the audience screen: shows frmFSMain's controls under the name of frmSS, full-screen on the second
+// monitor while frmSS is loaded, and never takes the focus from the console.
 #pragma once
 
 #include "platform/desktop/canvas.h"
 #include "platform/desktop/form_window.h"
+#include "platform/desktop/screens.h"
 
 namespace pawnfield {
 
 class FSMainForm;
+struct SecondScreenForm;
 
 class AudienceWindow : public FormWindow {
  public:
-  AudienceWindow(FSMainForm& form, FormWindows& windows, PictureCache& pictures);
+  AudienceWindow(FSMainForm& form, SecondScreenForm& copy, FormWindows& windows, PictureCache& pictures,
+                 Screens& screens);
+  ~AudienceWindow() override;
   Canvas& Screen() { return *screen_; }
 
  protected:
+  void Changed(Control& control, PropertyId id) override;
   void ShowForm() override;
+  void changeEvent(QEvent* event) override;
+  void moveEvent(QMoveEvent* event) override;
 
  private:
   void Fill(FSMainForm& form);
   void FillPanels(FSMainForm& form);
 
+  // Fills its monitor or hides, as the monitors and frmSS have it.
+  void Place();
+  // Gone before the toolkit would move it over the console.
+  void ScreenRemoved(const QScreen* screen);
+
+  SecondScreenForm& copy_;
+  FormWindows& windows_;
+  Screens& screens_;
   Canvas* screen_ = nullptr;
 };
 

@@ -17,7 +17,8 @@ constexpr double kPanelHeight = 5640;
 constexpr double kAnswerHeight = 900;
 }  // namespace
 
-ConsoleWindow::ConsoleWindow(MainForm& form, FormWindows& windows, PictureCache& pictures) : FormWindow(form, windows) {
+ConsoleWindow::ConsoleWindow(MainForm& form, FormWindows& windows, PictureCache& pictures, Screens& screens)
+    : FormWindow(form, windows), screens_(screens) {
   Ui::frmMain design;
   design.setupUi(this);
   // The frame that blinks around Start lies over nothing that must be hit.
@@ -37,6 +38,7 @@ ConsoleWindow::ConsoleWindow(MainForm& form, FormWindows& windows, PictureCache&
   Bindings()->AddCanvas(*answer_);
   HoldUnseen();
   new KeyBridge(form, *this);
+  screens_.Subscribe([this] { ReturnHome(); });
 }
 
 void ConsoleWindow::FillBoard(MainForm& form) {
@@ -91,10 +93,25 @@ void ConsoleWindow::HoldUnseen() {
 }
 
 void ConsoleWindow::ShowForm() {
-  if (const QScreen* screen = QGuiApplication::primaryScreen()) setGeometry(screen->availableGeometry());
+  if (const QScreen* screen = screens_.First()) setGeometry(screen->availableGeometry());
   showMaximized();
   raise();
   activateWindow();
+}
+
+void ConsoleWindow::ReturnHome() {
+  const QScreen* home = screens_.First();
+  if (!isVisible() || home == nullptr || home->geometry().contains(geometry().center())) return;
+  const bool maximised = isMaximized();
+  if (maximised) showNormal();
+  setGeometry(home->availableGeometry());
+  if (maximised) showMaximized();
+}
+
+void ConsoleWindow::moveEvent(QMoveEvent* event) {
+  FormWindow::moveEvent(event);
+  const QScreen* screen = QGuiApplication::screenAt(geometry().center());
+  if (isVisible() && screen != nullptr) screens_.MoveHome(*screen);
 }
 
 void ConsoleWindow::ComeForward() {

@@ -3,6 +3,7 @@
 
 #include "platform/desktop/canvas.h"
 #include "platform/desktop/form_window.h"
+#include "platform/desktop/screens.h"
 
 namespace pawnfield {
 
@@ -10,19 +11,23 @@ class MainForm;
 
 class ConsoleWindow : public FormWindow {
  public:
-  ConsoleWindow(MainForm& form, FormWindows& windows, PictureCache& pictures);
+  ConsoleWindow(MainForm& form, FormWindows& windows, PictureCache& pictures, Screens& screens);
   Canvas& Board() { return *board_; }
   // Comes to the front, as asked by a second start of the program.
   void ComeForward();
 
  protected:
   void ShowForm() override;
+  void moveEvent(QMoveEvent* event) override;
 
  private:
   void FillBoard(MainForm& form);
   void FillAnswer(MainForm& form, PictureCache& pictures);
   void HoldUnseen();
+  // Back to its own monitor, when a change of the monitors has left it on another one.
+  void ReturnHome();
 
+  Screens& screens_;
   Canvas* board_ = nullptr;
   Canvas* answer_ = nullptr;
 };

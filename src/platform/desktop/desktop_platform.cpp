@@ -9,7 +9,7 @@ namespace pawnfield {
 DesktopPlatform::DesktopPlatform(const DesktopPlaces& places, std::function<void()> onActivate)
     : dialogs(windows),
       settings(places.configFolder),
-      displays([this](Form& form) { return windows.Find(form); }),
+      displays(screens, [this](Form& form) { return windows.Find(form); }),
       processes(places.runtimeFolder, std::move(onActivate),
                 {QCoreApplication::applicationDirPath(), NativePath(places.folders.App)}),
       pages(places.manualFolder),

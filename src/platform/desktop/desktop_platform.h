@@ -11,6 +11,7 @@
 #include "platform/desktop/mpv_channel.h"
 #include "platform/desktop/qt_clock.h"
 #include "platform/desktop/qt_dialogs.h"
+#include "platform/desktop/qt_displays.h"
 #include "platform/desktop/qt_file_system.h"
 #include "platform/desktop/qt_printing.h"
 #include "platform/desktop/qt_readers.h"
@@ -31,6 +32,7 @@ class DesktopPlatform {
   DesktopPlatform(const DesktopPlaces& places, std::function<void()> onActivate);
 
   FormWindows windows;
+  Screens screens;
   QtClock clock;
   QtDialogs dialogs;
   MpvChannel eventPlayer, keyPressPlayer, soundClipPlayer, correctIncorrectPlayer, backgroundPlayer;

@@ -13,8 +13,8 @@ namespace pawnfield {
 DesktopProgram::DesktopProgram(const DesktopPlaces& places)
     : desktop_(places, [this] { console_.ComeForward(); }),
       show_(desktop_.platform),
-      console_(show_.frmMain, desktop_.windows, pictures_),
-      audience_(show_.frmFSMain, desktop_.windows, pictures_),
+      console_(show_.frmMain, desktop_.windows, pictures_, desktop_.screens),
+      audience_(show_.frmFSMain, show_.frmSS, desktop_.windows, pictures_, desktop_.screens),
       loading_(show_.frmLoading, desktop_.windows),
       splash_(show_.frmSplash, desktop_.windows),
       gameLoading_(show_.frmGameLoading, desktop_.windows),

@@ -1,10 +1,7 @@
 #include "platform/desktop/qt_readers.h"
 
-#include <QGuiApplication>
 #include <QImageReader>
 #include <QRandomGenerator>
-#include <QScreen>
-#include <QWidget>
 
 #include "platform/desktop/native_path.h"
 #include "platform/desktop/text_layout.h"
@@ -25,24 +22,6 @@ PixelSize QtPictureReader::Size(const std::string& path) const {
   const QImage image = reader.read();
   if (image.isNull()) throw RuntimeError(kErrorInvalidPicture, "Invalid picture");
   return {image.width(), image.height()};
-}
-
-std::vector<MonitorInfo> QtDisplays::Enumerate() const {
-  std::vector<MonitorInfo> monitors;
-  for (const QScreen* screen : QGuiApplication::screens()) {
-    const QRect area = screen->geometry();
-    monitors.push_back({area.left(), area.top(), area.left() + area.width(), area.top() + area.height()});
-  }
-  return monitors;
-}
-
-void QtDisplays::SetTopMost(Form& form, bool onTop) {
-  QWidget* window = windowOf_(form);
-  if (window == nullptr || window->windowFlags().testFlag(Qt::WindowStaysOnTopHint) == onTop) return;
-  // A change of flags hides the window.
-  const bool visible = window->isVisible();
-  window->setWindowFlag(Qt::WindowStaysOnTopHint, onTop);
-  window->setVisible(visible);
 }
 
 void SeededRandom::Randomize() { state_ = QRandomGenerator::system()->generate64(); }

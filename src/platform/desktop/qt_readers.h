@@ -1,11 +1,7 @@
-// What the machine can tell of text, pictures and screens: the measuring ports.
+// What the machine can tell of text and pictures: the measuring ports.
 #pragma once
 
-#include <functional>
-
 #include "platform/ports.h"
-
-class QWidget;
 
 namespace pawnfield {
 
@@ -17,18 +13,6 @@ class QtTextMeasurer : public TextMeasurer {
 class QtPictureReader : public PictureReader {
  public:
   PixelSize Size(const std::string& path) const override;
-};
-
-class QtDisplays : public Displays {
- public:
-  using WindowLookup = std::function<QWidget*(Form&)>;
-  // The lookup gives a form's window, or null.
-  explicit QtDisplays(WindowLookup windowOf) : windowOf_(std::move(windowOf)) {}
-  std::vector<MonitorInfo> Enumerate() const override;
-  void SetTopMost(Form& form, bool onTop) override;
-
- private:
-  WindowLookup windowOf_;
 };
 
 class SeededRandom : public RandomSource {

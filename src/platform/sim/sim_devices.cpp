@@ -77,6 +77,11 @@ bool SimProcesses::StartHelper(const std::string& name, const std::string& argum
   return true;
 }
 
+void SimDisplays::Change(std::vector<MonitorInfo> monitors) {
+  Monitors = std::move(monitors);
+  if (changed_) changed_();
+}
+
 double SimRandom::Next() {
   if (!Scripted.empty()) {
     const double value = Scripted.front();

@@ -3,6 +3,7 @@
 
 #include <cstdint>
 #include <deque>
+#include <map>
 #include <string>
 #include <utility>
 #include <vector>
@@ -35,11 +36,21 @@ class SimPictures : public PictureReader {
 class SimDisplays : public Displays {
  public:
   std::vector<MonitorInfo> Enumerate() const override { return Monitors; }
+  void OnChanged(std::function<void()> changed) override { changed_ = std::move(changed); }
   void SetTopMost(Form& form, bool onTop) override { TopMost.emplace_back(form.Name(), onTop); }
+  void RoundWindow(Form& form, int radius) override { Rounded[form.Name()] = radius; }
+  void KeepAwake(bool awake) override { Awake = awake; }
+  // The cable is pulled or put in, or a mode is changed.
+  void Change(std::vector<MonitorInfo> monitors);
 
   std::vector<MonitorInfo> Monitors{{0, 0, 1280, 800}};
   // Every call, in order.
   std::vector<std::pair<std::string, bool>> TopMost;
+  std::map<std::string, int> Rounded;
+  bool Awake = false;
+
+ private:
+  std::function<void()> changed_;
 };
 
 class SimPrinter : public Printing {

@@ -1,0 +1,42 @@
+// Which monitors there are, in the order in which the program counts them: the console's own is the first, whatever
+// the desktop calls its primary one. Tells when that changes.
+#pragma once
+
+#include <QObject>
+#include <QScreen>
+#include <QTimer>
+#include <functional>
+#include <vector>
+
+namespace pawnfield {
+
+class Screens : public QObject {
+ public:
+  Screens();
+
+  QList<QScreen*> List() const;
+  // The console's monitor; the primary one while the console's is away.
+  QScreen* First() const;
+  // The audience's, null when there is none.
+  QScreen* Second() const;
+  // The operator has put the console on another monitor.
+  void MoveHome(const QScreen& screen);
+  // True from a change of the monitors until it has settled: what moves meanwhile is not the operator's doing.
+  bool IsChanging() const { return settled_.isActive(); }
+
+  // Told soon after a change and once more when it has settled, in the order of subscribing.
+  void Subscribe(std::function<void()> changed) { subscribers_.push_back(std::move(changed)); }
+
+ private:
+  void Watch(QScreen& screen);
+  void Refresh();
+  void Change();
+  void Tell();
+
+  // By name, so that a monitor which comes back is known again.
+  QString home_;
+  QTimer refresh_, soon_, settled_;
+  std::vector<std::function<void()>> subscribers_;
+};
+
+}  // namespace pawnfield

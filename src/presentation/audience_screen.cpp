@@ -1,0 +1,124 @@
+#include "presentation/audience_screen.h"
+
+#include "config/settings.h"
+#include "engine/show.h"
+#include "presentation/audience_step.h"
+#include "presentation/monitors.h"
+
+namespace pawnfield {
+
+namespace {
+
+constexpr const char* kScreenLost = "Audience screen lost";
+constexpr int kMinimised = 1;
+constexpr int kNormal = 0;
+
+void LoadSecondScreen(Show& show) {
+  show.frmSS.Left = show.state.FSLeft;
+  show.frmSS.Top = show.state.FSTop;
+  show.frmFSMain.Visible = false;
+  show.platform.displays.SetTopMost(show.frmSS, true);
+  show.frmSS.Visible = true;
+}
+
+void LoadAudienceScreen(Show& show) {
+  show.AudienceLoaded = true;
+  show.frmFSMain.Left = show.state.FSLeft;
+  show.frmFSMain.Top = show.state.FSTop;
+  show.frmFSMain.imgStandby.Visible = show.frmMain.imgStandby.Visible;
+  PaintGB(show);
+}
+
+void SecondScreenResized(Show& show) {
+  if (!HasSecondMonitor(show)) {
+    show.frmSS.Visible = false;
+    return;
+  }
+  show.frmFSMain.WindowState = show.frmSS.WindowState == kMinimised ? kMinimised : kNormal;
+}
+
+// The window can't be dragged off its monitor.
+void SecondScreenMoved(Show& show) {
+  if (show.frmSS.WindowState != kNormal) return;
+  show.frmSS.Left = show.state.FSLeft;
+  show.frmFSMain.Left = show.state.FSLeft;
+}
+
+// Saver and sleep are held off while the board or a question is up, whoever brought it up.
+void KeepAwakeWhileShowing(Show& show) {
+  const bool showing = show.frmMain.Visible && !show.frmMain.picStandby.Visible;
+  if (showing == show.AwakeHeld) return;
+  show.AwakeHeld = showing;
+  show.platform.displays.KeepAwake(showing);
+}
+
+void tmrRePaint_Timer(Show& show) {
+  PaintGB(show);
+  KeepAwakeWhileShowing(show);
+}
+
+void AudienceScreenFound(Show& show) {
+  Label& status = show.frmMain.lblStatusBar;
+  if (status.Caption == kScreenLost) status.Caption = "";
+  if (!show.state.DualScreen) {
+    show.state.DualScreen = true;
+    BringAudienceInStep(show);
+  }
+  ShowAudienceScreen(show, show.state.FullScreenGameBoard ? 0 : show.state.FSLeft);
+  PaintGB(show);
+  show.frmSS.Left = show.state.FSLeft;
+}
+
+void AudienceScreenLost(Show& show) {
+  if (!show.frmSS.Visible) return;
+  show.frmSS.Visible = false;
+  show.frmMain.lblStatusBar.Caption = kScreenLost;
+}
+
+}  // namespace
+
+void AttachAudienceHandlers(Show& show) {
+  FSMainForm& form = show.frmFSMain;
+  form.tmrRePaint.OnTimer = [&show] { tmrRePaint_Timer(show); };
+  for (std::size_t i = 0; i < 3; ++i) {
+    form.lblPlayer[i].OnDblClick = [&show, i] { show.frmMain.lblPlayer1[i].DblClick(); };
+  }
+  show.frmSS.OnResize = [&show] { SecondScreenResized(show); };
+  show.frmSS.OnMove = [&show] { SecondScreenMoved(show); };
+  show.platform.displays.OnChanged(
+      [&show] { show.frmSS.Dispatch([&show] { MonitorsChanged(show); }, "MonitorsChanged"); });
+}
+
+void ShowAudienceScreen(Show& show, int left) {
+  if (!show.AudienceLoaded) LoadAudienceScreen(show);
+  show.frmFSMain.Left = left;
+  show.frmFSMain.Visible = true;
+}
+
+void PaintGB(Show& show) {
+  if (show.AudienceLoaded && HasSecondMonitor(show) && !show.frmSS.Visible) LoadSecondScreen(show);
+}
+
+void UnloadAudienceScreen(Show& show) {
+  if (show.AwakeHeld) show.platform.displays.KeepAwake(false);
+  show.AwakeHeld = false;
+  show.frmFSMain.tmrRePaint.Enabled = false;
+  if (!show.AudienceLoaded) return;
+  show.AudienceLoaded = false;
+  show.frmSS.Visible = false;
+  show.frmFSMain.Visible = false;
+  SaveSetting(show, "SecondaryLeft", std::to_string(static_cast<int>(show.frmFSMain.Left)));
+  SaveSetting(show, "SecondaryTop", std::to_string(static_cast<int>(show.frmFSMain.Top)));
+}
+
+void MonitorsChanged(Show& show) {
+  FindAudiencePlace(show);
+  if (!show.frmMain.Visible) {
+    // The console's load brings the audience screen up by itself.
+    if (!show.AudienceLoaded) show.state.DualScreen = HasSecondMonitor(show);
+    return;
+  }
+  HasSecondMonitor(show) ? AudienceScreenFound(show) : AudienceScreenLost(show);
+}
+
+}  // namespace pawnfield

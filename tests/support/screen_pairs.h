@@ -1,0 +1,17 @@
+// What both screens must agree on, read from the forms; and a form's whole appearance as text.
+#pragma once
+
+#include <string>
+#include <vector>
+
+#include "engine/show.h"
+
+namespace pawnfield {
+
+// Names the pairs of which the audience's half differs from the console's; empty when both screens agree. Squares are
+// left out while a piece turns, which each screen does by itself.
+std::vector<std::string> UnlikePairs(Show& show);
+// One line for each control of the form that can be seen: its place and what it shows.
+std::vector<std::string> Appearance(const Form& form);
+
+}  // namespace pawnfield
