@@ -384,6 +384,49 @@ def winner():
 WIDE = (1920, 1080)
 
 
+def screen_outline(image, box, colour, width):
+    """A monitor: a lit face with an edge."""
+    paint(image, mix(PANEL, colour, 0.10), rounded_mask(image.size, box, 22))
+    paint(image, colour, rounded_mask(image.size, box, 22, width))
+
+
+def projector_help():
+    size = (2160, 1350)
+    image = stage(size, "#27406F", (0.5, 0.3), 0.8)
+    mask = text_mask(size, (1080, 120), "Connecting a projector", font("bold", 92))
+    paint(image, "#F4F7FF", mask)
+    # The computer, the cable and the wall.
+    screen_outline(image, (170, 260, 690, 590), "#A9BBE6", 14)
+    draw = ImageDraw.Draw(image)
+    draw.polygon([(100, 650), (760, 650), (690, 596), (170, 596)], fill=rgb("#5A6C9A"))
+    cable = Image.new("L", size, 0)
+    stroke(ImageDraw.Draw(cable), [(770 + 5 * x, 620 + 110 * math.sin(x / 100 * math.pi) - 0.6 * x) for x in range(101)], 16)
+    glow(image, GOLD, cable, 24, 0.5)
+    paint(image, GOLD, cable)
+    screen_outline(image, (1290, 230, 2010, 635), GOLD, 14)
+    for left, top, kind in ((1420, 290, "X"), (1590, 290, "O"), (1760, 290, "T")):
+        paint(image, PLAYER[kind], piece_mask(kind, size, (left + 60, top + 140), 62))
+    paint(image, "#A9BBE6", text_mask(size, (430, 425), "Console", font("medium", 64)))
+    steps = ("Plug the projector or a second monitor into this computer.",
+             "Set the desktop to extend its screens, not to mirror them.",
+             "The audience screen comes up there by itself, even during a game.")
+    for i, step in enumerate(steps):
+        y = 800 + i * 170
+        paint(image, GOLD, rounded_mask(size, (150, y - 52, 254, y + 52), 52))
+        paint(image, GROUND, text_mask(size, (202, y), str(i + 1), font("bold", 62)))
+        ImageDraw.Draw(image).text((310, y - 36), step, font=font("medium", 56), fill=rgb("#E6EAF2"))
+    return finish(image, (1080, 675))
+
+
+def exit_cross():
+    image = Image.new("RGBA", (96, 96), (0, 0, 0, 0))
+    mask = Image.new("L", (384, 384), 0)
+    for ends in ([(112, 112), (272, 272)], [(112, 272), (272, 112)]):
+        stroke(ImageDraw.Draw(mask), ends, 36)
+    image.paste(Image.new("RGBA", (96, 96), rgb("#E6EAF2") + (255,)), (0, 0), mask.resize((96, 96), Image.LANCZOS))
+    return image
+
+
 def hsv(h, s, v):
     return tuple(round(255 * c) for c in colorsys.hsv_to_rgb(h % 1.0, s, v))
 
@@ -612,10 +655,12 @@ def main():
         image.convert("RGB").save(IMAGES / (name + ".bmp"))
     for kind, name in (("X", "X"), ("O", "O"), ("T", "T"), ("N", "Neutral")):
         cursor(kind).save(IMAGES / f"Cursor{name}.png", optimize=True)
+    exit_cross().save(IMAGES / "Exit.png", optimize=True)
     icon().save(ASSETS / "pawnfield.png", optimize=True)
     for name, image in (("Standby", standby()), ("Bonus", bonus()), ("Header", header()), ("Sound", sound_panel()),
                         ("Correct", verdict(True)), ("Incorrect", verdict(False)), ("FiveLeft", five_left()),
-                        ("Cover", cover()), ("Winner", winner())):
+                        ("Cover", cover()), ("Winner", winner()),
+                        ("Projector", projector_help())):
         save_jpeg(image, IMAGES / (name + ".jpg"))
     for number in range(50):
         image = background(number)

@@ -155,9 +155,22 @@ void DisableWithoutHandler(Form& form) {
 }  // namespace
 
 std::vector<Form*> AllForms(Show& show) {
-  return {&show.frmMain,        &show.frmFSMain,         &show.frmLoading,      &show.frmAlwaysLoaded, &show.frmSplash,
-          &show.frmGameLoading, &show.frmGameInProgress, &show.frmGameTypeHelp, &show.frmPlayerNames,  &show.frmEditor,
-          &show.frmEditChoice,  &show.frmDialog2,        &show.frmHelpAbout,    &show.frmConfigKeys,   &show.frmSS};
+  return {&show.frmMain,
+          &show.frmFSMain,
+          &show.frmLoading,
+          &show.frmAlwaysLoaded,
+          &show.frmSplash,
+          &show.frmGameLoading,
+          &show.frmGameInProgress,
+          &show.frmGameTypeHelp,
+          &show.frmPlayerNames,
+          &show.frmEditor,
+          &show.frmEditChoice,
+          &show.frmDialog2,
+          &show.frmHelpAbout,
+          &show.frmConfigKeys,
+          &show.frmSS,
+          &show.frmConnectToProjector};
 }
 
 void AttachHandlers(Show& show) {

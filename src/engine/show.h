@@ -14,6 +14,7 @@
 #include "engine/game_state.h"
 #include "platform/ports.h"
 #include "presentation/config_keys_form.h"
+#include "presentation/connect_to_projector_form.h"
 #include "presentation/fs_main_form.h"
 #include "presentation/help_about_form.h"
 #include "presentation/main_form.h"
@@ -86,6 +87,7 @@ struct Show {
   MainForm frmMain;
   FSMainForm frmFSMain;
   SecondScreenForm frmSS;
+  ConnectToProjectorForm frmConnectToProjector;
   LoadingForm frmLoading;
   AlwaysLoadedForm frmAlwaysLoaded;
   SplashForm frmSplash;

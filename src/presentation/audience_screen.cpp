@@ -3,6 +3,7 @@
 #include "config/settings.h"
 #include "engine/show.h"
 #include "presentation/audience_step.h"
+#include "presentation/both_screens.h"
 #include "presentation/monitors.h"
 
 namespace pawnfield {
@@ -57,6 +58,15 @@ void tmrRePaint_Timer(Show& show) {
   KeepAwakeWhileShowing(show);
 }
 
+void mnuHelpProjector_Click(Show& show) {
+  constexpr int kCornerRadius = 10;
+  ConnectToProjectorForm& form = show.frmConnectToProjector;
+  form.imgProjector.Picture = PicturePath(show, "\\Images\\Projector.jpg");
+  form.imgExit.Picture = PicturePath(show, "\\Images\\Exit.png");
+  show.platform.displays.RoundWindow(form, kCornerRadius);
+  show.platform.dialogs.ShowModal(form);
+}
+
 void AudienceScreenFound(Show& show) {
   Label& status = show.frmMain.lblStatusBar;
   if (status.Caption == kScreenLost) status.Caption = "";
@@ -83,6 +93,8 @@ void AttachAudienceHandlers(Show& show) {
   for (std::size_t i = 0; i < 3; ++i) {
     form.lblPlayer[i].OnDblClick = [&show, i] { show.frmMain.lblPlayer1[i].DblClick(); };
   }
+  show.frmMain.mnuHelpProjector.OnClick = [&show] { mnuHelpProjector_Click(show); };
+  show.frmConnectToProjector.imgExit.OnClick = [&show] { show.frmConnectToProjector.Unload(); };
   show.frmSS.OnResize = [&show] { SecondScreenResized(show); };
   show.frmSS.OnMove = [&show] { SecondScreenMoved(show); };
   show.platform.displays.OnChanged(

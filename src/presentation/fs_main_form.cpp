@@ -10,12 +10,12 @@ namespace {
 constexpr double kWidth = 15360;
 constexpr double kHeight = 11520;
 // Names and scores stand in one band below the board.
-constexpr double kBandTop = 10080;
-constexpr double kBandHeight = 1260;
-constexpr double kBandGap = 240;
+constexpr double kBandTop = 9960;
+constexpr double kBandHeight = 1460;
+constexpr double kBandGap = 120;
 constexpr double kPlayerWidth = (kWidth - 4 * kBandGap) / 3;
-constexpr double kNameMargin = 240;
-constexpr double kNameShare = 0.61;
+constexpr double kNameMargin = 150;
+constexpr double kNameShare = 0.56;
 // The players' red, yellow and green, light enough to be read on the lit box.
 constexpr std::array<Color, 3> kPlayerColors{0x706BFF, 0x4DD8FF, 0x8CE046};
 }  // namespace

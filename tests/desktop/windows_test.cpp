@@ -172,6 +172,18 @@ TEST_F(WindowsTest, CanvasPaintsInOrderOfZAndAgainAfterAChange) {
   EXPECT_EQ(centre(), QColor(0, 255, 0));
 }
 
+TEST_F(WindowsTest, NamesAndScoresAreLegibleFromTheBackRow) {
+  FSMainForm& audience = program_.TheShow().frmFSMain;
+  Canvas& screen = program_.Audience().Screen();
+  for (const char* text :
+       {"PLAYER 1", "THE MAGNIFICENT SEVENTH GRADERS", "CHRISTOPHER-ALEXANDER", "-999999", "-1000050"}) {
+    for (Label* label : {&audience.lblPlayer[0], &audience.Label11[2]}) {
+      label->Caption = text;
+      EXPECT_GE(screen.LetterHeight(*label), audience.Height / 40) << text;
+    }
+  }
+}
+
 TEST_F(WindowsTest, CloseBoxAsksTheForm) {
   bool mayClose = false;
   int asked = 0;

@@ -129,6 +129,37 @@ TEST_P(WholeGame, EndsAsWorkedOutByHand) {
   EXPECT_EQ(player.Board().find_first_not_of("0/"), std::string::npos);
 }
 
+// Fails for each write to a control that it watches.
+class NoWrites : public Mirror {
+ public:
+  explicit NoWrites(FSMainForm& form) {
+    for (Control* control : form.Controls()) {
+      if (control != &form.tmrRePaint) control->SetMirror(this);
+    }
+    form.SetMirror(this);
+  }
+  void Changed(Control& control, PropertyId) override { ADD_FAILURE() << control.Name() << " was written"; }
+};
+
+TEST_P(WholeGame, LeavesTheAudienceFormAloneWithOneMonitor) {
+  GameSetup setup = GetParam().setup;
+  setup.Monitors = Screens::One;
+  GamePlayer player(setup);
+  NoWrites watch(player.fixture().audience());
+  player.Play(GetParam().script);
+  EXPECT_EQ(player.fixture().Scores(), GetParam().scores);
+  player.Play("> >");
+  for (Control* control : player.fixture().audience().Controls()) control->SetMirror(nullptr);
+}
+
+TEST(OneMonitor, LoadAndExitLeaveTheAudienceFormAlone) {
+  ShowFixture fixture(Screens::One);
+  NoWrites watch(fixture.audience());
+  fixture.Start();
+  fixture.sim.dialogs.ExpectMessage("Are you sure you want to exit?", BoxAnswer::Yes);
+  fixture.form().mnuFileExit.Click();
+}
+
 INSTANTIATE_TEST_SUITE_P(Games, WholeGame, testing::ValuesIn(kGames),
                          [](const auto& game) { return std::string(game.param.name); });
 

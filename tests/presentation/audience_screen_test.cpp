@@ -131,6 +131,16 @@ TEST_P(PluggedIn, ShowsWhatItWouldHaveShownFromTheStart) {
 INSTANTIATE_TEST_SUITE_P(Moments, PluggedIn, testing::ValuesIn(kMoments),
                          [](const auto& moment) { return std::string(moment.param.name); });
 
+TEST(AudienceScreen, HelpToConnectAProjectorIsRoundedAndClosesByItsCross) {
+  ShowFixture fixture;
+  fixture.Start();
+  ConnectToProjectorForm& help = fixture.show().frmConnectToProjector;
+  fixture.sim.dialogs.ExpectForm("frmConnectToProjector", [&] { help.imgExit.Click(); });
+  fixture.form().mnuHelpProjector.Click();
+  EXPECT_FALSE(help.Visible);
+  EXPECT_EQ(fixture.sim.displays.Rounded["frmConnectToProjector"], 10);
+}
+
 TEST(AudienceScreen, SleepIsHeldOffFromStartToStandbyAndExit) {
   GamePlayer player({1, 2, 3, Ending::FullBoard, ""});
   const SimDisplays& displays = player.fixture().sim.displays;

@@ -1,9 +1,11 @@
 // Plays two short games in the real program on the present display and saves pictures of both screens at each phase.
-// Usage: pawnfield_show [FOLDER [forms]]; with "forms" it opens every form instead and saves a picture of each.
+// Usage: pawnfield_show [FOLDER [forms|gallery]]; with "forms" it opens every form instead and saves a picture of each,
+// with "gallery" it brings up everything that the two screens can show.
 
 #include <QApplication>
 #include <QTextStream>
 
+#include "gallery.h"
 #include "show_driver.h"
 
 namespace pawnfield {
@@ -83,6 +85,7 @@ void ShowForms(ShowDriver& driver, Script& script) {
   picture("frmGameTypeHelp", form.btnGameTypeHelp);
   picture("frmHelpAbout", form.mnuHelpAbout);
   picture("frmConfigKeys", form.btnEditKeyboardCtrl);
+  picture("frmConnectToProjector", form.mnuHelpProjector);
 }
 
 }  // namespace
@@ -96,8 +99,11 @@ int main(int argc, char** argv) {
   pawnfield::Script script(driver);
   script.Do("start", driver.Start());
   driver.TakePictures("console");
-  if (argc > 2 && QString(argv[2]) == "forms") {
+  const QString what = argc > 2 ? argv[2] : "";
+  if (what == "forms") {
     pawnfield::ShowForms(driver, script);
+  } else if (what == "gallery") {
+    script.Do("gallery", pawnfield::ShowGallery(driver));
   } else {
     pawnfield::PlayTrivia(driver, script);
     pawnfield::PlayChallenge(driver, script);

@@ -12,6 +12,11 @@
 
 namespace pawnfield {
 
+namespace {
+// Names and scores are read from the back row: their capitals are a fortieth of the picture high, or more.
+constexpr double kSmallestLegible = 20;
+}  // namespace
+
 AudienceWindow::AudienceWindow(FSMainForm& form, SecondScreenForm& copy, FormWindows& windows, PictureCache& pictures,
                                Screens& screens)
     : FormWindow(form, windows, Qt::Window | Qt::FramelessWindowHint | Qt::WindowDoesNotAcceptFocus),
@@ -54,13 +59,15 @@ void AudienceWindow::Fill(FSMainForm& form) {
   ItemStyle rounded;
   rounded.Corner = 0.09;
   form.img.ForEach([&](Image& square) { screen_->Add(square, rounded); });
+  ItemStyle legible;
+  legible.SmallestSize = kSmallestLegible;
   rounded.Edge = 0.03;
   rounded.Corner = 0.18;
   for (std::size_t i = 0; i < 3; ++i) {
     screen_->Add(form.picPlayer[i], rounded);
     screen_->Add(form.ScoreBox(static_cast<int>(i) + 1), rounded);
-    screen_->Add(form.lblPlayer[i]);
-    screen_->Add(form.Label11[i]);
+    screen_->Add(form.lblPlayer[i], legible);
+    screen_->Add(form.Label11[i], legible);
   }
   screen_->Add(form.txtOptionalHeading);
   screen_->Add(form.lblDJCommand);

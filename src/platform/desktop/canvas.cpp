@@ -13,7 +13,6 @@ namespace pawnfield {
 
 namespace {
 
-constexpr double kSmallestSize = 6;
 // A picture under this many pixels is scaled as it is painted, so that the flip leaves no copies behind.
 constexpr int kCachedArea = 40000;
 
@@ -189,7 +188,7 @@ void Canvas::paintEvent(QPaintEvent* event) {
   QPainter painter(this);
   painter.setRenderHints(QPainter::Antialiasing | QPainter::SmoothPixmapTransform | QPainter::TextAntialiasing);
   if (backdrop_) {
-    backdrop_(painter, rect());
+    painter.drawPixmap(QPoint(), Backdrop());
   } else {
     painter.fillRect(event->rect(), Qt::black);
   }
@@ -198,6 +197,17 @@ void Canvas::paintEvent(QPaintEvent* event) {
       PaintItem(painter, *item);
     }
   }
+}
+
+// Painted once for each size: a gradient over a large display takes longer than all that stands on it.
+const QPixmap& Canvas::Backdrop() {
+  const QSize pixels = size() * devicePixelRatioF();
+  if (backdropPicture_.size() == pixels) return backdropPicture_;
+  backdropPicture_ = QPixmap(pixels);
+  backdropPicture_.setDevicePixelRatio(devicePixelRatioF());
+  QPainter painter(&backdropPicture_);
+  backdrop_(painter, rect());
+  return backdropPicture_;
 }
 
 void Canvas::PaintItem(QPainter& painter, Item& item) {
@@ -228,22 +238,48 @@ void Canvas::PaintPicture(QPainter& painter, Item& item, const QRectF& rect) {
   }
   const auto fill =
       item.style.PaintsGround || FillsItsPanel(item.control) ? PictureCache::Fill::Cover : PictureCache::Fill::Stretch;
-  painter.drawPixmap(rect.toRect().topLeft(), pictures_.Scaled(item.pictureKey, size, fill));
+  const QPixmap picture = pictures_.Scaled(item.pictureKey, size * devicePixelRatioF(), fill);
+  if (devicePixelRatioF() == 1) {
+    painter.drawPixmap(rect.toRect().topLeft(), picture);
+  } else {
+    painter.drawPixmap(rect.toRect(), picture, picture.rect());
+  }
+}
+
+void Canvas::LayOutText(Item& item) {
+  TextSource source;
+  if (!ReadText(item.control, source)) {
+    item.text.reset();
+    return;
+  }
+  if (item.text && item.textWidth == item.control.Width) return;
+  item.textWidth = item.control.Width;
+  const auto layOut = [&](double size, Breaks breaks) {
+    source.Typeface.Size = size;
+    item.text = std::make_unique<TextBlock>(source.Typeface, source.Caption, item.textWidth, item.style.Align, breaks);
+    return item.text->Height() <= item.control.Height && item.text->Width() <= item.textWidth + 1;
+  };
+  const double least = item.style.SmallestSize;
+  bool fits = layOut(source.Typeface.Size, Breaks::AtWords) || !item.style.ShrinkToFit;
+  while (!fits && source.Typeface.Size > least) {
+    fits = layOut(std::max(least, source.Typeface.Size - 2), Breaks::AtWords);
+  }
+  if (!fits && least > kLeastSize) layOut(least, Breaks::AnywhereIfNeeded);
+}
+
+double Canvas::LetterHeight(const Control& control) {
+  const auto found = items_.find(&control);
+  if (found == items_.end()) return 0;
+  LayOutText(*found->second);
+  return found->second->text ? found->second->text->LetterHeight() : 0;
 }
 
 void Canvas::PaintText(QPainter& painter, Item& item, const QRectF& rect) {
+  LayOutText(item);
   TextSource source;
-  if (!ReadText(item.control, source)) return;
-  if (!item.text || item.textWidth != item.control.Width) {
-    item.textWidth = item.control.Width;
-    item.text = std::make_unique<TextBlock>(source.Typeface, source.Caption, item.textWidth, item.style.Align);
-    while (item.style.ShrinkToFit && source.Typeface.Size > kSmallestSize &&
-           (item.text->Height() > item.control.Height || item.text->Width() > item.textWidth + 1)) {
-      source.Typeface.Size = std::max(kSmallestSize, source.Typeface.Size - 2);
-      item.text = std::make_unique<TextBlock>(source.Typeface, source.Caption, item.textWidth, item.style.Align);
-    }
-  }
+  if (!item.text || !ReadText(item.control, source)) return;
   painter.save();
+  if (item.style.SmallestSize > kLeastSize) painter.setClipRect(rect, Qt::IntersectClip);
   painter.translate(rect.topLeft());
   painter.scale(scale_, scale_);
   painter.setPen(ToQColor(source.Fore));

@@ -15,11 +15,16 @@ namespace pawnfield {
 
 class TextBlock;
 
+inline constexpr double kLeastSize = 6;
+
 // How one item is drawn where its model does not say.
 struct ItemStyle {
   Qt::Alignment Align = Qt::AlignCenter;
   // Texts that no rule has fitted are drawn smaller when they would not fit; fitted ones are drawn as told.
   bool ShrinkToFit = true;
+  // The smallest size in points to which it is shrunk; at more than the least there is, words are broken rather than
+  // made smaller, and what still does not fit is cut.
+  double SmallestSize = kLeastSize;
   // A panel paints its ground, and its picture covers it in the picture's own shape.
   bool PaintsGround = false;
   // A sign on a dark ground: keeps its shape, and only what is lighter than the board is seen of it.
@@ -46,6 +51,8 @@ class Canvas : public QWidget {
 
   // The control's rectangle in pixels of this widget.
   QRectF PixelRect(const Control& control) const;
+  // How high a capital of the control's text is painted, in twips; 0 for none.
+  double LetterHeight(const Control& control);
   // The front-most shown control at the point, or null.
   Control* At(const QPoint& point) const;
 
@@ -61,13 +68,16 @@ class Canvas : public QWidget {
   void Refresh(Item& item);
   void Order();
   QRectF FillRect(const Control& control) const;
+  const QPixmap& Backdrop();
   void PaintItem(QPainter& painter, Item& item);
   void PaintPicture(QPainter& painter, Item& item, const QRectF& rect);
+  void LayOutText(Item& item);
   void PaintText(QPainter& painter, Item& item, const QRectF& rect);
   void PlaceEmbedded();
 
   PictureCache& pictures_;
   std::function<void(QPainter&, const QRect&)> backdrop_;
+  QPixmap backdropPicture_;
   double logicalWidth_ = 1, logicalHeight_ = 1;
   double scale_ = 1;
   QPointF origin_;

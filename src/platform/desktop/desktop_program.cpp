@@ -15,6 +15,7 @@ DesktopProgram::DesktopProgram(const DesktopPlaces& places)
       show_(desktop_.platform),
       console_(show_.frmMain, desktop_.windows, pictures_, desktop_.screens),
       audience_(show_.frmFSMain, show_.frmSS, desktop_.windows, pictures_, desktop_.screens),
+      connectToProjector_(show_.frmConnectToProjector, desktop_.windows, pictures_),
       loading_(show_.frmLoading, desktop_.windows),
       splash_(show_.frmSplash, desktop_.windows),
       gameLoading_(show_.frmGameLoading, desktop_.windows),
@@ -30,8 +31,8 @@ DesktopProgram::~DesktopProgram() {
 }
 
 std::vector<FormWindow*> DesktopProgram::Windows() {
-  return {&console_,        &audience_,     &loading_,     &splash_,    &gameLoading_,
-          &gameInProgress_, &gameTypeHelp_, &playerNames_, &helpAbout_, &configKeys_};
+  return {&console_,        &audience_,     &connectToProjector_, &loading_,   &splash_,    &gameLoading_,
+          &gameInProgress_, &gameTypeHelp_, &playerNames_,        &helpAbout_, &configKeys_};
 }
 
 void PrepareApplication() {

@@ -4,6 +4,7 @@
 #include "engine/show.h"
 #include "platform/desktop/audience_window.h"
 #include "platform/desktop/config_keys_window.h"
+#include "platform/desktop/connect_to_projector_window.h"
 #include "platform/desktop/console_window.h"
 #include "platform/desktop/desktop_platform.h"
 #include "platform/desktop/help_about_window.h"
@@ -33,6 +34,7 @@ class DesktopProgram {
   Show show_;
   ConsoleWindow console_;
   AudienceWindow audience_;
+  ConnectToProjectorWindow connectToProjector_;
   LoadingWindow loading_;
   SplashWindow splash_;
   GameLoadingWindow gameLoading_;

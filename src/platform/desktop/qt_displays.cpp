@@ -34,6 +34,6 @@ void QtDisplays::RoundWindow(Form& form, int radius) {
   window->setMask(QRegion(outline.toFillPolygon().toPolygon()));
 }
 
-void QtDisplays::KeepAwake(bool) {}
+void QtDisplays::KeepAwake(bool awake) { awake ? inhibitor_.Hold() : inhibitor_.Release(); }
 
 }  // namespace pawnfield

@@ -2,6 +2,7 @@
 #pragma once
 
 #include "platform/desktop/screens.h"
+#include "platform/desktop/sleep_inhibitor.h"
 #include "platform/ports.h"
 
 class QWidget;
@@ -22,6 +23,7 @@ class QtDisplays : public Displays {
  private:
   Screens& screens_;
   WindowLookup windowOf_;
+  SleepInhibitor inhibitor_{QDBusConnection::sessionBus(), QDBusConnection::systemBus()};
 };
 
 }  // namespace pawnfield

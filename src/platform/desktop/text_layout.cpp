@@ -54,19 +54,22 @@ void SubstituteFonts() {
   QFont::insertSubstitution("MS Sans Serif", "Liberation Sans");
 }
 
-TextBlock::TextBlock(const Font& font, const std::string& text, double wrapWidth, Qt::Alignment alignment) {
+TextBlock::TextBlock(const Font& font, const std::string& text, double wrapWidth, Qt::Alignment alignment,
+                     Breaks breaks) {
   if (font.Size <= 0) return;
   const QFont reference = ReferenceFont(font);
   scale_ = font.Size * kTwipsPerPoint / kReferencePixels;
   layout_.setFont(reference);
   layout_.setText(WithLineSeparators(text));
   QTextOption option(alignment);
-  option.setWrapMode(QTextOption::WordWrap);
+  const bool atWords = breaks == Breaks::AtWords;
+  option.setWrapMode(atWords ? QTextOption::WordWrap : QTextOption::WrapAtWordBoundaryOrAnywhere);
   option.setUseDesignMetrics(true);
   layout_.setTextOption(option);
   layout_.setCacheEnabled(true);
   // A hair more than the widest word, so that rounding within the layout never breaks a word in two.
-  width_ = std::max(wrapWidth / scale_, WidestWord(layout_.text(), reference) + 1);
+  width_ = wrapWidth / scale_;
+  if (atWords) width_ = std::max(width_, WidestWord(layout_.text(), reference) + 1);
   layout_.beginLayout();
   for (QTextLine line = layout_.createLine(); line.isValid(); line = layout_.createLine()) {
     line.setLineWidth(width_);
@@ -75,6 +78,8 @@ TextBlock::TextBlock(const Font& font, const std::string& text, double wrapWidth
   }
   layout_.endLayout();
 }
+
+double TextBlock::LetterHeight() const { return QFontMetricsF(layout_.font()).capHeight() * scale_; }
 
 void TextBlock::Draw(QPainter& painter, const QPointF& at) const {
   painter.save();

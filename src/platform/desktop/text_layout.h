@@ -14,13 +14,18 @@ inline constexpr double kTwipsPerPoint = 20;
 
 // Makes the substitutes of fonts that this machine need not have known to the font system. Called once, at start.
 void SubstituteFonts();
+enum class Breaks { AtWords, AnywhereIfNeeded };
+
 // One text broken at words into lines of the wrap width. A word wider than that keeps its line to itself.
 class TextBlock {
  public:
-  TextBlock(const Font& font, const std::string& text, double wrapWidth, Qt::Alignment alignment = Qt::AlignHCenter);
+  TextBlock(const Font& font, const std::string& text, double wrapWidth, Qt::Alignment alignment = Qt::AlignHCenter,
+            Breaks breaks = Breaks::AtWords);
   // In twips.
   double Width() const { return width_ * scale_; }
   double Height() const { return height_ * scale_; }
+  // Of a capital.
+  double LetterHeight() const;
   // With the block's top left corner at the point; the painter's unit is the twip.
   void Draw(QPainter& painter, const QPointF& at) const;
 

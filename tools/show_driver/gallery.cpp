@@ -1,0 +1,142 @@
+#include "gallery.h"
+
+#include "config/settings.h"
+#include "engine/question_cycle.h"
+#include "engine/win_detection.h"
+#include "presentation/board_layout.h"
+#include "presentation/both_screens.h"
+
+namespace pawnfield {
+
+namespace {
+
+constexpr const char* kSet = "Gallery";
+constexpr const char* kLongNames[] = {"THE MAGNIFICENT SEVENTH GRADERS", "ANNE-MARIE FROM ST. PETERSBURG",
+                                      "WILHELMINA"};
+
+std::string LongQuestion() {
+  std::string text =
+      "Which of these inventors, who never finished school and sold newspapers on a railway train, held ";
+  text += "more than a thousand patents, lit up a whole street in Menlo Park on New Year's Eve, and is remembered ";
+  text += "above all for a lamp that burned";
+  while (text.size() < 255) text += " on";
+  return text.substr(0, 255) + "?";
+}
+
+void WriteSet(Show& show) {
+  const std::string media = show.AppPath("\\Trivia Sets\\Media\\");
+  const auto pictures = show.platform.files.List(media.substr(0, media.size() - 1), ".jpg");
+  const auto sounds = show.platform.files.List(media.substr(0, media.size() - 1), ".wav");
+  const std::string font = "T#Courier New#28#True#True#16777215#\r\n";
+  std::string bytes = "How many pieces stand on a chess board when a game begins?\r\nThirty-two\r\n" + font;
+  bytes += LongQuestion() + "\r\nThomas Alva Edison, the wizard of Menlo Park\r\n" + font;
+  if (!pictures.empty()) bytes += media + pictures[0] + "\r\nA picture\r\nP\r\n";
+  if (!sounds.empty()) bytes += media + sounds[0] + "\r\nA melody\r\nS\r\n";
+  for (int i = 0; i < 6; ++i) bytes += "What comes after " + std::to_string(i) + "?\r\nThe next\r\n" + font;
+  show.platform.files.Write(show.AppPath("\\Trivia Sets\\") + kSet + ".txt", bytes);
+}
+
+class Gallery {
+ public:
+  explicit Gallery(ShowDriver& driver) : driver_(driver), show_(driver.TheShow()), form_(show_.frmMain) {}
+  bool Worked() const { return worked_; }
+
+  void Boards() {
+    Do(driver_.Press("optGameType_0"));
+    for (int grid = 3; grid <= 5; ++grid) {
+      Do(driver_.Press(QString("optGridControl_%1").arg(grid - 3)));
+      Do(driver_.Press("btnPlayMode"));
+      driver_.TakePictures(QString("board-%1-empty").arg(grid));
+      for (int r = 0; r < grid; ++r) {
+        for (int c = 0; c < grid; ++c) SetSquarePicture(show_, r, c, form_.FaceA(1 + (r * 2 + c) % 3).Picture);
+      }
+      LightScoreBox(show_, 1 + grid % 3);
+      driver_.TakePictures(QString("board-%1-full").arg(grid));
+      Do(driver_.Press("btnStandbyMode"));
+    }
+  }
+
+  void Questions() {
+    Do(driver_.Press("optGameType_4"));
+    Do(driver_.Choose("cboList", kSet));
+    show_.state.HideQuestion = true;
+    show_.state.Animation = true;
+    Do(driver_.Press("btnStart"));
+    driver_.TakePictures("question-text");
+    Do(driver_.Press("btnSelectPlayer_1"));
+    driver_.TakePictures("cover");
+    Do(driver_.Press("btnQuestionIncorrect"));
+    driver_.Pause(300);
+    driver_.TakePictures("verdict-incorrect");
+    Next();
+    driver_.TakePictures("question-256-characters");
+    Do(driver_.Press("btnSelectPlayer_0"));
+    Do(driver_.Press("btnQuestionCorrect"));
+    driver_.Pause(300);
+    driver_.TakePictures("verdict-correct");
+    Next();
+    driver_.TakePictures("question-picture");
+    Next();
+    driver_.TakePictures("question-sound");
+    Do(driver_.Press("btnSkipQuestion"));
+    CheckQuestionsLeft(show_);
+    driver_.TakePictures("five-left");
+    Do(driver_.WaitFor([&] { return !form_.tmr5QuestionTimer.Enabled; }));
+    ShowBonus(show_);
+    driver_.TakePictures("bonus");
+    Do(driver_.WaitFor([&] { return !form_.tmrBonus.Enabled; }));
+  }
+
+  void Winners() {
+    for (int tied = 1; tied <= 3; ++tied) {
+      for (int player = 1; player <= 3; ++player) SetScore(show_, player, player <= tied ? "450" : "50");
+      Winner(QString("winner-%1").arg(tied));
+    }
+    for (int player = 1; player <= 3; ++player) {
+      SetPlayerName(show_, player, kLongNames[player - 1]);
+      SetScore(show_, player, "-999999");
+    }
+    HidePanel(show_, Panel::Standby);
+    driver_.TakePictures("long-names-and-scores");
+    Winner("winner-3-long-names");
+  }
+
+ private:
+  void Do(bool done) { worked_ = worked_ && done; }
+
+  void Next() {
+    Do(driver_.WaitFor([&] { return !form_.picCorrect.Visible; }));
+    if (form_.btnSkipQuestion.Enabled) Do(driver_.Press("btnSkipQuestion"));
+    form_.tmrAutoContinue.Enabled = false;
+    btnContinue_Click(show_);
+    driver_.Pause(200);
+  }
+
+  void Winner(const QString& name) {
+    HidePanel(show_, Panel::Standby);
+    GameOver(show_);
+    form_.tmrWinner.Enabled = false;
+    form_.tmrAnimate[1].Enabled = false;
+    form_.lblWinner.Visible = true;
+    driver_.TakePictures(name);
+    HidePanel(show_, Panel::Winner);
+  }
+
+  ShowDriver& driver_;
+  Show& show_;
+  MainForm& form_;
+  bool worked_ = true;
+};
+
+}  // namespace
+
+bool ShowGallery(ShowDriver& driver) {
+  WriteSet(driver.TheShow());
+  Gallery gallery(driver);
+  gallery.Boards();
+  gallery.Questions();
+  gallery.Winners();
+  return gallery.Worked();
+}
+
+}  // namespace pawnfield
