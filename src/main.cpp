@@ -4,8 +4,10 @@
 
 #include "engine/start_up.h"
 #include "platform/desktop/desktop_program.h"
+#include "platform/desktop/fitting_scale.h"
 
 int main(int argc, char** argv) {
+  pawnfield::FitScaleToMonitor(argc, argv);
   QApplication application(argc, argv);
   QApplication::setApplicationName("Pawnfield");
   pawnfield::PrepareApplication();

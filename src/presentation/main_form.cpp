@@ -103,6 +103,13 @@ void MainForm::SetCaptions() {
   btnUndo.Caption = "Undo";
   btnReset.Caption = "Reset";
   btnEndGame.Caption = "End Game";
+  // The key that does the same.
+  btnContinue.ToolTipText = "C";
+  btnNextPlayer.ToolTipText = "Ctrl+N";
+  btnSkipQuestion.ToolTipText = "Ctrl+S";
+  btnUndo.ToolTipText = "Ctrl+U";
+  btnQuestionCorrect.ToolTipText = "Y";
+  btnQuestionIncorrect.ToolTipText = "N";
   lblSelectPlayer.Caption = "Manually select player if buzzers are not connected";
   pawnfield::Caption(btnSelectPlayer, std::array{"1", "2", "3"});
   pawnfield::Caption(btnBuzzer, std::array{"1", "2", "3"});

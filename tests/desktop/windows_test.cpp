@@ -11,6 +11,7 @@
 
 #include "platform/desktop/bindings.h"
 #include "platform/desktop/desktop_program.h"
+#include "platform/desktop/fitting_scale.h"
 #include "platform/desktop/model_widgets.h"
 #include "platform/desktop/native_path.h"
 #include "presentation/board_layout.h"
@@ -57,17 +58,25 @@ TEST_F(WindowsTest, EveryControlThatActsHasAnAccessibleName) {
 }
 
 TEST_F(WindowsTest, NothingIsCutAtTheLeastSize) {
-  program_.Console().resize(1280, 760);
   program_.Console().show();
-  program_.Console().resize(1280, 760);
+  program_.Console().resize(program_.Console().minimumSize());
   QTest::qWait(50);
   for (const QAbstractButton* button : program_.Console().findChildren<QAbstractButton*>()) {
     if (!button->isVisible()) continue;
     const QRect shown = button->visibleRegion().boundingRect();
     EXPECT_EQ(shown, button->rect()) << button->objectName().toStdString();
+    EXPECT_LE(button->fontMetrics().horizontalAdvance(button->text()), button->width());
     const bool lamp = button->property("role") == "lamp";
     EXPECT_GE(button->height(), lamp ? 16 : 22) << button->objectName().toStdString();
   }
+}
+
+TEST(FittingScale, LowersOnlyWhatMakesTheConsoleLargerThanItsMonitor) {
+  EXPECT_EQ(FittingShare(1, 1280, 800), 1);
+  EXPECT_EQ(FittingShare(2, 3840, 2160), 1);
+  EXPECT_NEAR(1.5 * FittingShare(1.5, 1280, 800), 1.07, 0.02);
+  EXPECT_NEAR(2 * FittingShare(2, 1920, 1080), 1.44, 0.02);
+  EXPECT_NEAR(FittingShare(1, 1024, 768), 0.86, 0.01);
 }
 
 TEST_F(WindowsTest, ButtonsClickTheirModelsOnlyWhenReachable) {

@@ -6,6 +6,7 @@
 #include <QTextStream>
 
 #include "gallery.h"
+#include "platform/desktop/fitting_scale.h"
 #include "show_driver.h"
 
 namespace pawnfield {
@@ -92,6 +93,7 @@ void ShowForms(ShowDriver& driver, Script& script) {
 }  // namespace pawnfield
 
 int main(int argc, char** argv) {
+  pawnfield::FitScaleToMonitor(argc, argv);
   QApplication application(argc, argv);
   pawnfield::PrepareApplication();
   const QString folder = argc > 1 ? QString::fromLocal8Bit(argv[1]) : QString("show");
