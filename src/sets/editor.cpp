@@ -110,12 +110,13 @@ void PrepareForm(Show& show) {
   form.EditQuestionKind = "T";
   ClearEditorDisplay(show);
   ResetEditSet(show);
+  show.NumEditQuestions = 0;
   if (show.EditCurrentSet) {
     CopyGameSetToEdit(show);
     form.EditFileName = show.state.LoadedSetPath;
-    DisplayEditQuestion(show);
   }
   SetNumEditQuestions(show, show.NumEditQuestions);
+  if (show.EditCurrentSet) DisplayEditQuestion(show);
 }
 
 void FitPreview(Show& show) {

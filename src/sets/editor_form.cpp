@@ -24,6 +24,7 @@ EditorForm::EditorForm() : Form("frmEditor") {
   for (Control* panel : std::initializer_list<Control*>{&txtDisplayQuestion, &picQuestionPicture}) {
     panel->MoveTo(0, 0, kPreviewWidth, kPreviewHeight);
   }
+  frmSoundButtons.MoveTo(2620, 3090, 5000, 1500);
   imgQuestionPicture.Container = &picQuestionPicture;
   btnPlay.Container = &frmSoundButtons;
   btnStop.Container = &frmSoundButtons;

@@ -25,8 +25,9 @@ class EditorFixture : public ShowFixture {
     for (std::size_t i = 0; i < letters.size(); ++i) {
       record(i).QuestionText = letters.substr(i, 1) == " " ? "" : letters.substr(i, 1);
     }
+    if (letters.empty()) return;
     editor::SetNumEditQuestions(show(), static_cast<int>(letters.size()));
-    if (!letters.empty()) GoTo(1);
+    GoTo(1);
   }
   void GoTo(int number) {
     editor().EditQuestionNumber = number;

@@ -3,8 +3,10 @@
 // with "gallery" it brings up everything that the two screens can show.
 
 #include <QApplication>
+#include <QFile>
 #include <QTextStream>
 
+#include "editor_driver.h"
 #include "gallery.h"
 #include "platform/desktop/fitting_scale.h"
 #include "show_driver.h"
@@ -60,6 +62,40 @@ void PlayTrivia(ShowDriver& driver, Script& script) {
   driver.TakePictures("after-winner");
 }
 
+// The editor's forms in each kind of question, and the set that comes of it with a medium taken away.
+void WriteSet(ShowDriver& driver, Script& script) {
+  EditorDriver editor(driver);
+  const QString media = driver.AppFolder() + "/Trivia Sets/Media/";
+  QFile::copy(media + "Flag 1.jpg", media + "Gone.jpg");
+  editor.WhenShown("frmEditChoice", [&] { editor.TakePicture("frmEditChoice", "edit-choice"); });
+  const auto work = [&] {
+    editor.TakePicture("frmEditor", "editor-empty");
+    script.Do("write a text", editor.Write("Which planet has the shortest day?", "Jupiter (just under 10 hours)"));
+    editor.TakePicture("frmEditor", "editor-text");
+    script.Do("next", editor.Press("btnNext"));
+    editor.TakePicture("frmEditor", "editor-new-question");
+    script.Do("write a picture", editor.Write("", "France", "btnPicture", media + "Gone.jpg"));
+    editor.TakePicture("frmEditor", "editor-picture");
+    script.Do("next", editor.Press("btnNext"));
+    script.Do("write a sound", editor.Write("", "A tune", "btnSound", media + "Tune 1.mp3"));
+    editor.TakePicture("frmEditor", "editor-sound");
+    script.Do("next", editor.Press("btnNext"));
+    script.Do("write a long text", editor.Write(QString("A long question with many words ").repeated(9), "Yes"));
+    editor.TakePicture("frmEditor", "editor-long-text");
+    script.Do("save", editor.PressAndChoose("frmEditor", "btnSave", driver.AppFolder() + "/Trivia Sets/Written.txt"));
+  };
+  script.Do("edit", editor.WithNewSet(work));
+  QFile::remove(media + "Gone.jpg");
+  editor.WhenShown("frmDialog2", [&] {
+    editor.TakePicture("frmDialog2", "missing-media");
+    script.Do("repair", editor.PressAndChoose("frmDialog2", "btnRepair", media + "Flag 2.jpg"));
+    editor.TakePicture("frmDialog2", "missing-media-repaired");
+    script.Do("finish", editor.Press("frmDialog2", "btnFinished"));
+  });
+  script.Press("optGameType_2");
+  script.Do("choose the written set", driver.Choose("cboList", "Written"));
+}
+
 void PlayChallenge(ShowDriver& driver, Script& script) {
   script.Press("optGameType_0");
   driver.TakePictures("challenge-ready");
@@ -107,6 +143,7 @@ int main(int argc, char** argv) {
   } else if (what == "gallery") {
     script.Do("gallery", pawnfield::ShowGallery(driver));
   } else {
+    pawnfield::WriteSet(driver, script);
     pawnfield::PlayTrivia(driver, script);
     pawnfield::PlayChallenge(driver, script);
   }

@@ -163,4 +163,11 @@ void ShowDriver::TakePictures(const QString& name) {
   if (program_.Audience().grab().save(audience)) out << audience << '\n';
 }
 
+void ShowDriver::TakePicture(QWidget& window, const QString& name) {
+  Pause(120);
+  QDir().mkpath(folder_);
+  const QString file = QString("%1/%2-%3.png").arg(folder_).arg(++pictureCount_, 2, 10, QChar('0')).arg(name);
+  if (window.grab().save(file)) QTextStream(stdout) << file << '\n';
+}
+
 }  // namespace pawnfield

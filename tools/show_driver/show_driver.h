@@ -38,6 +38,11 @@ class ShowDriver {
   // open.
   bool PictureOfForm(const QString& form, const std::function<void()>& open);
 
+  // Saves NN-name.png of one window, and prints where it is.
+  void TakePicture(QWidget& window, const QString& name);
+  // Where the program's own files are, with the sets.
+  QString AppFolder() const { return folder_ + "/home" + "/app"; }
+
   Show& TheShow() { return program_.TheShow(); }
   DesktopProgram& Program() { return program_; }
 

@@ -14,6 +14,7 @@
 
 #include "platform/desktop/model_widgets.h"
 #include "platform/desktop/native_path.h"
+#include "platform/desktop/set_text_edit.h"
 #include "platform/desktop/windows_1252.h"
 
 namespace pawnfield {
@@ -297,6 +298,9 @@ std::unique_ptr<Mirror> MakeBinding(Control& control, QWidget& widget) {
     case ControlKind::ComboBox:
       return Make<ComboBinding, ModelComboBox, ComboBox>(control, widget);
     case ControlKind::TextBox:
+      if (auto* edit = qobject_cast<SetTextEdit*>(&widget)) {
+        return MakeSetTextBinding(static_cast<TextBox&>(control), *edit);
+      }
       return Make<TextBoxBinding, QLineEdit, TextBox>(control, widget);
     case ControlKind::Frame:
       return Make<FrameBinding, QWidget, Frame>(control, widget);

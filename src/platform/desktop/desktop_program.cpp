@@ -23,7 +23,10 @@ DesktopProgram::DesktopProgram(const DesktopPlaces& places)
       gameTypeHelp_(show_.frmGameTypeHelp, desktop_.windows),
       playerNames_(show_.frmPlayerNames, desktop_.windows),
       helpAbout_(show_.frmHelpAbout, desktop_.windows),
-      configKeys_(show_.frmConfigKeys, desktop_.windows) {}
+      configKeys_(show_.frmConfigKeys, desktop_.windows),
+      editor_(show_.frmEditor, desktop_.windows, pictures_),
+      editChoice_(show_.frmEditChoice, desktop_.windows),
+      missingMedia_(show_.frmDialog2, desktop_.windows) {}
 
 // The clock outlives the forms, whose timers must not be looked at any more.
 DesktopProgram::~DesktopProgram() {
@@ -31,8 +34,8 @@ DesktopProgram::~DesktopProgram() {
 }
 
 std::vector<FormWindow*> DesktopProgram::Windows() {
-  return {&console_,        &audience_,     &connectToProjector_, &loading_,   &splash_,    &gameLoading_,
-          &gameInProgress_, &gameTypeHelp_, &playerNames_,        &helpAbout_, &configKeys_};
+  return {&console_,      &audience_,    &connectToProjector_, &loading_,    &splash_, &gameLoading_, &gameInProgress_,
+          &gameTypeHelp_, &playerNames_, &helpAbout_,          &configKeys_, &editor_, &editChoice_,  &missingMedia_};
 }
 
 void PrepareApplication() {

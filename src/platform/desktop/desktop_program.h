@@ -7,6 +7,7 @@
 #include "platform/desktop/connect_to_projector_window.h"
 #include "platform/desktop/console_window.h"
 #include "platform/desktop/desktop_platform.h"
+#include "platform/desktop/editor_window.h"
 #include "platform/desktop/help_about_window.h"
 #include "platform/desktop/player_names_window.h"
 #include "platform/desktop/small_windows.h"
@@ -43,6 +44,9 @@ class DesktopProgram {
   PlayerNamesWindow playerNames_;
   HelpAboutWindow helpAbout_;
   ConfigKeysWindow configKeys_;
+  EditorWindow editor_;
+  EditChoiceWindow editChoice_;
+  MissingMediaWindow missingMedia_;
 };
 
 // What the application object needs before the first window: fonts, colours, number format.

@@ -2,7 +2,9 @@
 
 #include <QApplication>
 #include <QColorDialog>
+#include <QDir>
 #include <QFileDialog>
+#include <QFileInfo>
 #include <QFontDialog>
 #include <QMessageBox>
 #include <QTimer>
@@ -37,6 +39,22 @@ BoxAnswer AnswerOf(int button, BoxKind kind) {
   return kind == BoxKind::YesNo ? BoxAnswer::No : BoxAnswer::Cancel;
 }
 
+// The folder asked for, or where it is gone the nearest one above it; without any, the current one.
+QString StartFolder(const std::string& spelled) {
+  QString folder = NativePath(spelled);
+  if (folder.isEmpty() || QDir::isRelativePath(folder)) return QDir::currentPath();
+  while (!QFileInfo(folder).isDir() && !QDir(folder).isRoot()) folder = QFileInfo(folder).path();
+  return folder;
+}
+
+// Whether the path as the program keeps it names the file, or for a new one its folder, that was chosen: an accent in
+// two parts or a backslash in a name would be lost on the way.
+bool LeadsTo(const std::string& spelled, const QString& chosen, bool save) {
+  const QFileInfo kept(NativePath(spelled));
+  const QFileInfo meant(chosen);
+  return save ? kept.absolutePath() == meant.absolutePath() : kept.absoluteFilePath() == meant.absoluteFilePath();
+}
+
 }  // namespace
 
 QString FilterList(const std::string& filter) {
@@ -63,20 +81,23 @@ BoxAnswer QtDialogs::MessageBox(const std::string& text, const std::string& titl
 }
 
 std::string QtDialogs::ChooseFile(const FileDialogRequest& request) {
-  QFileDialog dialog(QApplication::activeWindow(), FromWindows1252(request.Title), NativePath(request.InitialFolder));
+  QFileDialog dialog(QApplication::activeWindow(), FromWindows1252(request.Title), StartFolder(request.InitialFolder));
   dialog.setAcceptMode(request.Save ? QFileDialog::AcceptSave : QFileDialog::AcceptOpen);
   dialog.setFileMode(request.Save ? QFileDialog::AnyFile : QFileDialog::ExistingFile);
   dialog.setOption(QFileDialog::DontConfirmOverwrite, !request.ConfirmsOverwrite);
   if (!request.Filter.empty()) dialog.setNameFilters(FilterList(request.Filter).split(";;"));
   if (!request.FileName.empty()) dialog.selectFile(FromWindows1252(request.FileName));
   dialog.setDefaultSuffix(FromWindows1252(request.DefaultExtension));
-  if (dialog.exec() != QDialog::Accepted || dialog.selectedFiles().isEmpty()) return "";
-  const auto spelled = SpelledPath(dialog.selectedFiles().first());
-  if (!spelled) {
-    MessageBox("The file's name or folder holds characters that can't be used here. Please rename it.", request.Title,
-               BoxKind::Plain);
-  }
-  return spelled.value_or("");
+  const bool accepted = dialog.exec() == QDialog::Accepted && !dialog.selectedFiles().isEmpty();
+  // The toolkit would keep the folders gone through for every dialog to come.
+  dialog.setHistory({});
+  if (!accepted) return "";
+  const QString chosen = dialog.selectedFiles().first();
+  const auto spelled = SpelledPath(chosen);
+  if (spelled && LeadsTo(*spelled, chosen, request.Save)) return *spelled;
+  MessageBox("The file's name or folder holds characters that can't be used here. Please rename it.", request.Title,
+             BoxKind::Plain);
+  return "";
 }
 
 std::optional<Font> QtDialogs::ChooseFont(const Font& start) {
@@ -86,8 +107,12 @@ std::optional<Font> QtDialogs::ChooseFont(const Font& start) {
   first.setItalic(start.Italic);
   bool chosen = false;
   const QFont font = QFontDialog::getFont(&chosen, first, QApplication::activeWindow());
+  if (!chosen) return std::nullopt;
   const auto name = ToWindows1252(font.family());
-  if (!chosen || !name) return std::nullopt;
+  if (!name) {
+    MessageBox("The font's name holds characters that can't be used here.", "Font", BoxKind::Plain);
+    return std::nullopt;
+  }
   return Font{*name, font.pointSizeF(), font.bold(), font.italic()};
 }
 

@@ -1,0 +1,130 @@
+// The set editor in its window: what its boxes take and refuse, how a set prints, and a set written, saved, loaded and
+// played in the real windows.
+
+#include <gtest/gtest.h>
+
+#include <QClipboard>
+#include <QDir>
+#include <QFile>
+#include <QGuiApplication>
+#include <QKeyEvent>
+#include <QTemporaryDir>
+#include <QTest>
+
+#include "editor_driver.h"
+#include "platform/desktop/set_text_edit.h"
+
+namespace pawnfield {
+namespace {
+
+class SetTextEditTest : public testing::Test {
+ protected:
+  SetTextEditTest() {
+    box_.MaxLength = 10;
+    binding_ = MakeSetTextBinding(box_, view_);
+    view_.show();
+  }
+  std::string AfterPaste(const QString& text) {
+    box_.Text = std::string();
+    QGuiApplication::clipboard()->setText(text);
+    view_.paste();
+    return box_.Text;
+  }
+
+  Form form_{"frmTest"};
+  TextBox box_{form_, "txtTest"};
+  SetTextEdit view_;
+  std::unique_ptr<Mirror> binding_;
+};
+
+TEST_F(SetTextEditTest, PastesKeepToTheCodePageTheLimitAndOneLine) {
+  const struct {
+    const char16_t* pasted;
+    const char* kept;
+    const char16_t* notice;
+  } cases[] = {
+      {u"caf\u00e9", "caf\xE9", u""},
+      {u"e\u0301e\u0301e\u0301e\u0301e\u0301e\u0301e\u0301e\u0301e\u0301e\u0301e\u0301",
+       "\xE9\xE9\xE9\xE9\xE9\xE9\xE9\xE9\xE9\xE9", u"Only 10 characters fit here. The rest was left out."},
+      {u"a\r\nb\nc", "a b c", u""},
+      {u"x\u00a0y", "x\xA0y", u""},
+      {u"\u20ac\u2019", "\x80\x92", u""},
+      {u"ok \u4e2d", "", u"\"\u4e2d\" (U+4E2D) can't be kept in a set file and was not taken."},
+      {u"\U0001F600", "", u"\"\U0001F600\" (U+1F600) can't be kept in a set file and was not taken."},
+      {u"a\u0007", "", u"U+0007 can't be kept in a set file and was not taken."},
+  };
+  for (const auto& each : cases) {
+    EXPECT_EQ(AfterPaste(QString::fromUtf16(each.pasted)), each.kept);
+    if (*each.notice != 0) {
+      EXPECT_EQ(view_.Notice(), QString::fromUtf16(each.notice));
+    }
+  }
+  box_.Text = "0123456789";
+  view_.selectAll();
+  QGuiApplication::clipboard()->setText("new");
+  view_.paste();
+  EXPECT_EQ(box_.Text.Get(), "new");
+}
+
+TEST_F(SetTextEditTest, TypingIsHeldToTheSame) {
+  QTest::keyClicks(&view_, "0123456789ab");
+  EXPECT_EQ(box_.Text.Get(), "0123456789");
+  QKeyEvent key(QEvent::KeyPress, 0, Qt::NoModifier, QString(QChar(0x03b1)));
+  box_.Text = "a";
+  QCoreApplication::sendEvent(&view_, &key);
+  QTest::keyClick(&view_, Qt::Key_Return);
+  EXPECT_EQ(box_.Text.Get(), "a");
+  EXPECT_TRUE(view_.Notice().contains("(U+03B1)"));
+}
+
+bool PlayedToTheWinner(ShowDriver& driver) {
+  MainForm& form = driver.TheShow().frmMain;
+  for (int square = 0; square < 9 && !form.picWinner.Visible; ++square) {
+    const auto asked = [&] { return form.btnQuestionCorrect.Visible && form.btnQuestionCorrect.Enabled; };
+    const auto ready = [&] { return form.btnContinue.Enabled || asked() || form.picWinner.Visible; };
+    if (!driver.WaitFor(ready, 15000)) return false;
+    if (form.btnContinue.Enabled) driver.Press("btnContinue");
+    if (!driver.WaitFor([&] { return asked() || form.picWinner.Visible; })) return false;
+    if (form.picWinner.Visible) break;
+    driver.Press("btnQuestionCorrect");
+    bool claimed = false;
+    driver.WaitFor([&] { return claimed = claimed || driver.PressSquare(square / 3, square % 3); });
+    if (!claimed) return false;
+  }
+  return driver.WaitFor([&] { return form.picWinner.Visible.Get(); }, 15000);
+}
+
+TEST(EditorShow, ASetIsWrittenSavedLoadedAndPlayedToTheWinner) {
+  QTemporaryDir folder;
+  ShowDriver driver(folder.path());
+  ASSERT_TRUE(driver.Start());
+  EditorDriver editor(driver);
+  const QString sets = driver.AppFolder() + "/Trivia Sets/";
+  const bool written = editor.WithNewSet([&] {
+    for (int i = 1; i <= 10; ++i) {
+      if (i == 2) {
+        EXPECT_TRUE(editor.Write("", "Answer 2", "btnPicture", sets + "Media/Flag 1.jpg"));
+      } else if (i == 3) {
+        EXPECT_TRUE(editor.Write("", "Answer 3", "btnSound", sets + "Media/Tune 1.mp3"));
+      } else {
+        EXPECT_TRUE(editor.Write(QString("Question %1?").arg(i), QString("Answer %1").arg(i)));
+      }
+      EXPECT_TRUE(i == 10 || editor.Press("btnNext")) << i;
+    }
+    EXPECT_TRUE(editor.PressAndChoose("frmEditor", "btnSave", sets + "Ten"));
+  });
+  ASSERT_TRUE(written);
+  EXPECT_TRUE(QFile::exists(sets + "Ten.txt"));
+  ASSERT_TRUE(driver.Press("optGameType_2"));
+  ASSERT_TRUE(driver.Press("optGridControl_0"));
+  ASSERT_TRUE(driver.Press("optGameEnds_0"));
+  ASSERT_TRUE(driver.Choose("cboList", "Ten"));
+  EXPECT_EQ(driver.TheShow().NumGameQuestions, 10);
+  ASSERT_TRUE(driver.Press("btnStart"));
+  EXPECT_TRUE(PlayedToTheWinner(driver));
+  EXPECT_TRUE(driver.TheShow().frmFSMain.picWinner.Visible);
+  EXPECT_EQ(driver.BoxTexts().size(), 1);
+}
+
+}  // namespace
+}  // namespace pawnfield
