@@ -29,8 +29,8 @@ bool KeyBridge::Hand(QWidget* focus, const QKeyEvent& key) {
   const auto bytes = ToWindows1252(key.text());
   if (!bytes || bytes->size() != 1) return false;
   form_.KeyPress(static_cast<unsigned char>(bytes->front()));
-  // A list would jump to the entry that begins with the letter.
-  return qobject_cast<QComboBox*>(focus) != nullptr && bytes->front() != ' ';
+  // A list would jump to the entry that begins with the letter; it keeps Tab, Enter and the blank that opens it.
+  return qobject_cast<QComboBox*>(focus) != nullptr && static_cast<unsigned char>(bytes->front()) > ' ';
 }
 
 }  // namespace pawnfield
