@@ -264,15 +264,17 @@ def bonus():
 
 
 def header():
-    size = (2048, 320)
-    image = vertical_gradient(size, "#1C2846", "#0E1424")
-    glow(image, "#34569E", radial_mask(size, (0.5, 0.0), 0.5), 1, 0.7)
-    for i in range(7):
-        for x in (120 + i * 84, 2048 - 120 - i * 84):
-            box = (x - 32, 128, x + 32, 192)
-            paint(image, "#4667B4", rounded_mask(size, box, 12, 5), 0.55 - i * 0.075)
-    paint(image, GOLD, rounded_mask(size, (0, 306, 2048, 320), 0), 0.85)
-    return finish(image, (1024, 160))
+    """The wordmark alone, so that the board's own ground shows around it."""
+    size = (3008, 320)
+    image = Image.new("RGB", size, 0)
+    mask = text_mask(size, (1504, 140), "PAWNFIELD", font("black", 190), 46)
+    shade(image, mask, "#FFE9B8", "#E39C22")
+    line = Image.new("L", size, 0)
+    ImageDraw.Draw(line).rectangle((0, 282, 3008, 292), fill=255)
+    paint(image, GOLD, line)
+    shown = ImageChops.lighter(mask, ImageChops.multiply(line, radial_mask(size, (0.5, 0.9), 0.5)))
+    image.putalpha(shown)
+    return finish(image, (1504, 160))
 
 
 def sound_panel():
@@ -302,26 +304,25 @@ def sound_panel():
 
 
 def verdict(correct):
+    """Its middle stays dark and empty: the words are written there."""
     size = (2048, 1152)
     colour = RIGHT if correct else WRONG
     bright = "#3FE08A" if correct else "#FF6167"
-    image = stage(size, colour, (0.5, 0.46), 0.85)
-    image = ImageChops.screen(image, rays(size, (1024, 500), 24, bright, 0.16))
+    image = stage(size, colour, (0.5, 0.2), 0.75)
+    image = ImageChops.screen(image, rays(size, (1024, 200), 24, bright, 0.14))
+    paint(image, "#05070D", rounded_mask(size, (-40, 400, 2088, 752), 0).filter(ImageFilter.GaussianBlur(40)), 0.86)
     disc = Image.new("L", size, 0)
-    ImageDraw.Draw(disc).ellipse((1024 - 340, 500 - 340, 1024 + 340, 500 + 340), fill=255)
-    glow(image, bright, disc, 60, 0.6)
+    ImageDraw.Draw(disc).ellipse((1024 - 150, 200 - 150, 1024 + 150, 200 + 150), fill=255)
+    glow(image, bright, disc, 40, 0.6)
     shade(image, disc, mix(bright, colour, 0.35), mix(colour, "#000000", 0.25))
     mark = Image.new("L", size, 0)
     draw = ImageDraw.Draw(mark)
     if correct:
-        stroke(draw, [(858, 516), (978, 634), (1196, 384)], 92)
+        stroke(draw, [(951, 207), (1004, 259), (1100, 149)], 40)
     else:
-        stroke(draw, [(890, 366), (1158, 634)], 92)
-        stroke(draw, [(1158, 366), (890, 634)], 92)
-    paint(image, "#04060C", ImageChops.offset(mark, 0, 12).filter(ImageFilter.GaussianBlur(14)), 0.5)
+        stroke(draw, [(965, 141), (1083, 259)], 40)
+        stroke(draw, [(1083, 141), (965, 259)], 40)
     paint(image, "#FFFFFF", mark)
-    title(image, (1024, 990), "CORRECT!" if correct else "INCORRECT", font("black", 150), "#FFFFFF",
-          mix("#FFFFFF", bright, 0.35), 12, bright)
     return finish(image, (1024, 576))
 
 
@@ -347,8 +348,9 @@ def cover():
             x, y = col * 176 - 32, row * 176 - 40
             grid.paste(255, (0, 0), rounded_mask(size, (x + 10, y + 10, x + 166, y + 166), 22, 4))
     paint(image, "#7FA0F0", ImageChops.multiply(grid, veil), 0.28)
-    paint(image, "#0A0F1C", radial_mask(size, (0.5, 0.5), 0.26), 0.6)
-    title(image, (1024, 566), "?", font("black", 760), "#FFE9B8", "#E39C22", 0, GOLD)
+    title(image, (1024, 215), "?", font("black", 290), "#FFE9B8", "#E39C22", 0, GOLD)
+    # The name and the question stand in the middle.
+    paint(image, "#0A0F1C", rounded_mask(size, (-40, 380, 2088, 790), 0).filter(ImageFilter.GaussianBlur(50)), 0.7)
     frame(image, GOLD, share=0.55)
     return finish(image, (1024, 576))
 
@@ -655,9 +657,10 @@ def main():
         image.convert("RGB").save(IMAGES / (name + ".bmp"))
     for kind, name in (("X", "X"), ("O", "O"), ("T", "T"), ("N", "Neutral")):
         cursor(kind).save(IMAGES / f"Cursor{name}.png", optimize=True)
+    header().save(IMAGES / "Header.png", optimize=True)
     exit_cross().save(IMAGES / "Exit.png", optimize=True)
     icon().save(ASSETS / "pawnfield.png", optimize=True)
-    for name, image in (("Standby", standby()), ("Bonus", bonus()), ("Header", header()), ("Sound", sound_panel()),
+    for name, image in (("Standby", standby()), ("Bonus", bonus()), ("Sound", sound_panel()),
                         ("Correct", verdict(True)), ("Incorrect", verdict(False)), ("FiveLeft", five_left()),
                         ("Cover", cover()), ("Winner", winner()),
                         ("Projector", projector_help())):

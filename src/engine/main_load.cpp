@@ -34,7 +34,7 @@ void SetDesignPictures(Show& show) {
   form.imgBkgnd.Picture = picture("Blank.bmp");
   form.imgStandardStandby.Picture = picture("Standby.jpg");
   form.imgStandardBonus.Picture = picture("Bonus.jpg");
-  form.imgStandardHeader.Picture = picture("Header.jpg");
+  form.imgStandardHeader.Picture = picture("Header.png");
   form.imgSound.Picture = picture("Sound.jpg");
   form.picWinner.Picture = picture("Winner.jpg");
   const std::array cursors{"CursorNeutral.png", "CursorX.png", "CursorO.png", "CursorT.png"};

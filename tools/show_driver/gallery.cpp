@@ -32,7 +32,7 @@ void WriteSet(Show& show) {
   bytes += LongQuestion() + "\r\nThomas Alva Edison, the wizard of Menlo Park\r\n" + font;
   if (!pictures.empty()) bytes += media + pictures[0] + "\r\nA picture\r\nP\r\n";
   if (!sounds.empty()) bytes += media + sounds[0] + "\r\nA melody\r\nS\r\n";
-  for (int i = 0; i < 6; ++i) bytes += "What comes after " + std::to_string(i) + "?\r\nThe next\r\n" + font;
+  for (int i = 0; i < 5; ++i) bytes += "What comes after " + std::to_string(i) + "?\r\nThe next\r\n" + font;
   show.platform.files.Write(show.AppPath("\\Trivia Sets\\") + kSet + ".txt", bytes);
 }
 
@@ -66,14 +66,12 @@ class Gallery {
     Do(driver_.Press("btnSelectPlayer_1"));
     driver_.TakePictures("cover");
     Do(driver_.Press("btnQuestionIncorrect"));
-    driver_.Pause(300);
-    driver_.TakePictures("verdict-incorrect");
+    Verdict("verdict-incorrect");
     Next();
     driver_.TakePictures("question-256-characters");
     Do(driver_.Press("btnSelectPlayer_0"));
     Do(driver_.Press("btnQuestionCorrect"));
-    driver_.Pause(300);
-    driver_.TakePictures("verdict-correct");
+    Verdict("verdict-correct");
     Next();
     driver_.TakePictures("question-picture");
     Next();
@@ -88,6 +86,8 @@ class Gallery {
   }
 
   void Winners() {
+    form_.tmrAutoContinue.Enabled = false;
+    for (const Panel panel : {Panel::Question, Panel::Standby}) HidePanel(show_, panel);
     for (int tied = 1; tied <= 3; ++tied) {
       for (int player = 1; player <= 3; ++player) SetScore(show_, player, player <= tied ? "450" : "50");
       Winner(QString("winner-%1").arg(tied));
@@ -96,13 +96,21 @@ class Gallery {
       SetPlayerName(show_, player, kLongNames[player - 1]);
       SetScore(show_, player, "-999999");
     }
-    HidePanel(show_, Panel::Standby);
     driver_.TakePictures("long-names-and-scores");
+    for (int player = 1; player <= 3; ++player) SetScore(show_, player, "450");
     Winner("winner-3-long-names");
   }
 
  private:
   void Do(bool done) { worked_ = worked_ && done; }
+
+  // Without its blinking.
+  void Verdict(const QString& name) {
+    form_.tmrAnimate[0].Enabled = false;
+    form_.lblRightWrong.Visible = true;
+    show_.frmFSMain.lblRightWrong.Visible = true;
+    driver_.TakePictures(name);
+  }
 
   void Next() {
     Do(driver_.WaitFor([&] { return !form_.picCorrect.Visible; }));

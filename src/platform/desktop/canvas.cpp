@@ -13,6 +13,8 @@ namespace pawnfield {
 
 namespace {
 
+// The share of their width to which letters may be narrowed.
+constexpr double kNarrowest = 0.6;
 // A picture under this many pixels is scaled as it is painted, so that the flip leaves no copies behind.
 constexpr int kCachedArea = 40000;
 
@@ -79,6 +81,8 @@ struct Canvas::Item : Mirror {
   // Laid out text, kept until caption, font or width changes.
   std::unique_ptr<TextBlock> text;
   double textWidth = 0;
+  // The share of their width that the letters have.
+  double squeeze = 1;
   // What the item covered when it was last looked at, empty when hidden.
   QRect covered;
 };
@@ -254,17 +258,25 @@ void Canvas::LayOutText(Item& item) {
   }
   if (item.text && item.textWidth == item.control.Width) return;
   item.textWidth = item.control.Width;
-  const auto layOut = [&](double size, Breaks breaks) {
-    source.Typeface.Size = size;
-    item.text = std::make_unique<TextBlock>(source.Typeface, source.Caption, item.textWidth, item.style.Align, breaks);
-    return item.text->Height() <= item.control.Height && item.text->Width() <= item.textWidth + 1;
-  };
   const double least = item.style.SmallestSize;
-  bool fits = layOut(source.Typeface.Size, Breaks::AtWords) || !item.style.ShrinkToFit;
+  // A name keeps a little room to its box.
+  const double room = item.control.Height * (least > kLeastSize ? 0.9 : 1);
+  const auto layOut = [&](double size, double squeeze, Breaks breaks) {
+    source.Typeface.Size = size;
+    item.squeeze = squeeze;
+    const double width = item.textWidth / squeeze;
+    item.text = std::make_unique<TextBlock>(source.Typeface, source.Caption, width, item.style.Align, breaks);
+    return item.text->Height() <= room && item.text->Width() <= width + 1;
+  };
+  bool fits = layOut(source.Typeface.Size, 1, Breaks::AtWords) || !item.style.ShrinkToFit;
   while (!fits && source.Typeface.Size > least) {
-    fits = layOut(std::max(least, source.Typeface.Size - 2), Breaks::AtWords);
+    fits = layOut(std::max(least, source.Typeface.Size - 2), 1, Breaks::AtWords);
   }
-  if (!fits && least > kLeastSize) layOut(least, Breaks::AnywhereIfNeeded);
+  if (least <= kLeastSize) return;
+  while (!fits && item.squeeze > kNarrowest) {
+    fits = layOut(least, std::max(kNarrowest, item.squeeze - 0.05), Breaks::AtWords);
+  }
+  if (!fits) layOut(least, kNarrowest, Breaks::AnywhereIfNeeded);
 }
 
 double Canvas::LetterHeight(const Control& control) {
@@ -279,13 +291,15 @@ void Canvas::PaintText(QPainter& painter, Item& item, const QRectF& rect) {
   TextSource source;
   if (!item.text || !ReadText(item.control, source)) return;
   painter.save();
-  if (item.style.SmallestSize > kLeastSize) painter.setClipRect(rect, Qt::IntersectClip);
   painter.translate(rect.topLeft());
-  painter.scale(scale_, scale_);
+  painter.scale(scale_ * item.squeeze, scale_);
   painter.setPen(ToQColor(source.Fore));
-  const double spareHeight =
-      item.style.Align.testFlag(Qt::AlignVCenter) ? item.control.Height - item.text->Height() : 0;
-  const double spareWidth = std::min(0.0, item.control.Width - item.text->Width());
+  const double width = item.control.Width / item.squeeze;
+  const double height =
+      item.style.SmallestSize > kLeastSize ? item.text->WholeLines(item.control.Height) : item.text->Height();
+  const double spareHeight = item.style.Align.testFlag(Qt::AlignVCenter) ? item.control.Height - height : 0;
+  const double spareWidth = std::min(0.0, width - item.text->Width());
+  if (height < item.text->Height()) painter.setClipRect(QRectF(0, spareHeight / 2, width, height), Qt::IntersectClip);
   item.text->Draw(painter, QPointF(spareWidth / 2, spareHeight / 2));
   painter.restore();
 }

@@ -22,8 +22,8 @@ struct ItemStyle {
   Qt::Alignment Align = Qt::AlignCenter;
   // Texts that no rule has fitted are drawn smaller when they would not fit; fitted ones are drawn as told.
   bool ShrinkToFit = true;
-  // The smallest size in points to which it is shrunk; at more than the least there is, words are broken rather than
-  // made smaller, and what still does not fit is cut.
+  // The smallest size in points to which it is shrunk. Where that is more than the least there is, letters are then
+  // made narrower, words broken at last, and lines that still don't fit left out.
   double SmallestSize = kLeastSize;
   // A panel paints its ground, and its picture covers it in the picture's own shape.
   bool PaintsGround = false;

@@ -79,6 +79,16 @@ TextBlock::TextBlock(const Font& font, const std::string& text, double wrapWidth
   layout_.endLayout();
 }
 
+double TextBlock::WholeLines(double height) const {
+  double whole = 0;
+  for (int i = 0; i < layout_.lineCount(); ++i) {
+    const QTextLine line = layout_.lineAt(i);
+    const double bottom = (line.y() + line.height()) * scale_;
+    if (bottom <= height) whole = bottom;
+  }
+  return whole;
+}
+
 double TextBlock::LetterHeight() const { return QFontMetricsF(layout_.font()).capHeight() * scale_; }
 
 void TextBlock::Draw(QPainter& painter, const QPointF& at) const {

@@ -24,6 +24,8 @@ class TextBlock {
   // In twips.
   double Width() const { return width_ * scale_; }
   double Height() const { return height_ * scale_; }
+  // Of the lines that fit into the given height whole.
+  double WholeLines(double height) const;
   // Of a capital.
   double LetterHeight() const;
   // With the block's top left corner at the point; the painter's unit is the twip.
