@@ -11,6 +11,7 @@
 #include "engine/win_detection.h"
 #include "media/sound_channels.h"
 #include "platform/text.h"
+#include "presentation/board_layout.h"
 #include "presentation/both_screens.h"
 
 namespace pawnfield {
@@ -38,21 +39,47 @@ std::optional<FlipConstants> FlipConstantsOf(int gridSize) {
   }
 }
 
+bool HasPiece(int player) { return player >= 1 && player <= 3; }
+
+// By the square's name or key, which both end in the row and the column.
+int OwnerOf(const Show& show, const std::string& key) {
+  const auto digit = [&](std::size_t fromEnd) { return static_cast<std::size_t>(key[key.size() - fromEnd] - '0'); };
+  return show.state.Board[digit(2)][digit(1)];
+}
+
+void PrepareFlip(Flip& flip, Timer& timer, Image* square) {
+  StopTurning(flip, timer);
+  flip.Square = square;
+  flip.RestTop = square->Top;
+  flip.RestHeight = square->Height;
+}
+
+// A claim that comes while the last one still flashes takes the flash along; the last square is left as it is at rest.
+void RestLastSquare(Show& show) {
+  const std::string& key = show.state.LastSquareKey;
+  if (!show.frmMain.tmrAnswer.Enabled || key.size() != 2) return;
+  const int owner = OwnerOf(show, key);
+  const Image& face = HasPiece(owner) ? show.frmMain.FaceA(owner) : show.frmMain.imgBkgnd;
+  SetSquarePicture(show, key[0] - '0', key[1] - '0', face.Picture);
+}
+
 void StartFlip(Show& show, int r, int c) {
   const auto constants = FlipConstantsOf(show.state.GridSize);
   Image* square = show.frmMain.img.At(r, c);
+  Timer& timer = show.frmMain.tmrFlipPlayerPiece;
+  Timer& fsTimer = show.frmFSMain.tmrFSFlipPlayerPiece;
   if (square != nullptr) {
-    show.flip.Square = square;
-    if (show.state.DualScreen) show.fsFlip.Square = show.frmFSMain.img.At(r, c);
+    PrepareFlip(show.flip, timer, square);
+    if (show.state.DualScreen) PrepareFlip(show.fsFlip, fsTimer, show.frmFSMain.img.At(r, c));
   }
   if (!constants) return;
   show.flip.Step = constants->Step;
   show.flip.FullHeight = constants->FullHeight;
-  show.frmMain.tmrFlipPlayerPiece.Enabled = true;
+  timer.Enabled = true;
   if (!show.state.DualScreen) return;
   show.fsFlip.Step = constants->FSStep;
   show.fsFlip.FullHeight = constants->FSFullHeight;
-  show.frmFSMain.tmrFSFlipPlayerPiece.Enabled = true;
+  fsTimer.Enabled = true;
 }
 
 // Adds what the lines through the square pay to PiecePoints.
@@ -94,7 +121,7 @@ std::string EdgeFace(Show& show) {
   }
 }
 
-bool FlipPlayerHasPiece(const Show& show) { return show.state.FlipPlayer >= 1 && show.state.FlipPlayer <= 3; }
+bool FlipPlayerHasPiece(const Show& show) { return HasPiece(show.state.FlipPlayer); }
 
 // One tick of a turning square; true when it has come back to its full size.
 bool TurnSquare(Show& show, Flip& flip) {
@@ -114,7 +141,9 @@ bool TurnSquare(Show& show, Flip& flip) {
   square.Top = square.Top - flip.Step / 2;
   if (square.Height <= flip.FullHeight) return false;
   flip.Larger = false;
-  square.Picture = FlipPlayerHasPiece(show) ? show.frmMain.FaceA(show.state.FlipPlayer).Picture.Get() : std::string();
+  // The flash of a claim before this one may have ended meanwhile and forgotten the player.
+  const int player = FlipPlayerHasPiece(show) ? show.state.FlipPlayer : OwnerOf(show, square.Name());
+  square.Picture = HasPiece(player) ? show.frmMain.FaceA(player).Picture.Get() : std::string();
   return true;
 }
 
@@ -168,6 +197,7 @@ void ClaimSquare(Show& show, int r, int c, const std::string& key) {
   state.PlacementOpen = false;
   state.GameInProgress = true;
   form.txtDJCommand.Visible = state.KeyControl;
+  RestLastSquare(show);
   StartFlip(show, r, c);
   state.LastSquareKey = key;
   state.FlipPlayer = state.CurrentPlayer;
@@ -206,6 +236,8 @@ void tmrAnswer_Timer(Show& show) {
   FlashSquare(show);
   if (++show.FlashCount < kFlashTicks) return;
   show.frmMain.tmrAnswer.Enabled = false;
+  // A flash that was handed on to a later claim can end on the lit face; it rests on the other one.
+  if (show.FlashToggle) FlashSquare(show);
   const bool over = IsGameOver(show, LineMade::No);
   if (over) {
     StopBackground(show);

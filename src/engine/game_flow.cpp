@@ -262,6 +262,7 @@ void btnEndGame_Click(Show& show) {
 }
 
 void fileClearAllScores_Click(Show& show) {
+  ForgetClaimedSquare(show);
   ResetScores(show);
   ClearBoardPictures(show);
   ClearBoardArray(show);

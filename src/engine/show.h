@@ -36,6 +36,9 @@ struct Flip {
   double FullHeight = 0;
   bool Larger = false;
   bool AtEdge = false;
+  // Where the square stands when it doesn't turn.
+  double RestTop = 0;
+  double RestHeight = 0;
 };
 
 // The square being typed: empty, a letter, or a letter and a digit. Row and Column are named as the typed halves are:

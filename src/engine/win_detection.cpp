@@ -4,6 +4,7 @@
 
 #include "engine/lines.h"
 #include "engine/options.h"
+#include "engine/set_choice.h"
 #include "engine/show.h"
 #include "media/sound_channels.h"
 #include "presentation/board_layout.h"
@@ -70,9 +71,7 @@ void tmrWinner_Timer(Show& show) {
   show.state.LoadedSetPath.clear();
   form.tmrWinner.Enabled = false;
   // What a line win's last flash started must not reach into standby: no next question, no verdict, options free.
-  form.tmrAutoContinue.Enabled = false;
-  form.btnQuestionCorrect.Visible = false;
-  form.btnQuestionIncorrect.Visible = false;
+  StopShowing(show);
   EnableOptions(show);
 }
 

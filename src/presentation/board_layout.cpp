@@ -162,6 +162,11 @@ void ResetGameBoard(Show& show) {
   MainForm& form = show.frmMain;
   GameState& state = show.state;
   state.CurrentQuestion = 0;
+  // A flash that ran on would draw on the cleared board and open the next turn of a game that is gone.
+  ForgetClaimedSquare(show);
+  form.tmrAnswer.Enabled = false;
+  show.FlashCount = 0;
+  state.FlipPlayer = 0;
   ResetScores(show);
   ResetPlayerNames(show);
   LightScoreBox(show, 0);
@@ -192,6 +197,23 @@ void ResetGameBoard(Show& show) {
   state.Lamp2 = kLampOff;
   state.Lamp3 = kLampOff;
   state.CurrentPlayer = 1;
+}
+
+void StopTurning(Flip& flip, Timer& timer) {
+  if (flip.Square == nullptr || !timer.Enabled) return;
+  timer.Enabled = false;
+  flip.Square->Top = flip.RestTop;
+  flip.Square->Height = flip.RestHeight;
+  flip.Larger = false;
+  flip.AtEdge = false;
+}
+
+void ForgetClaimedSquare(Show& show) {
+  StopTurning(show.flip, show.frmMain.tmrFlipPlayerPiece);
+  StopTurning(show.fsFlip, show.frmFSMain.tmrFSFlipPlayerPiece);
+  show.state.LastSquareKey.clear();
+  // The next flash begins with the lit face again.
+  show.FlashToggle = false;
 }
 
 void RemovePiece(Show& show, int r, int c) { SetSquarePicture(show, r, c, show.frmMain.imgBkgnd.Picture); }

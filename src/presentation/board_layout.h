@@ -4,7 +4,9 @@
 
 namespace pawnfield {
 
+struct Flip;
 struct Show;
+class Timer;
 
 // Rebuilds the console's grid with squares of w by h twips, n by n; empties the board.
 void MakeGameBoard(Show& show, int w, int h, int n);
@@ -23,6 +25,10 @@ void HideFSBoardControls(Show& show);
 void ShowOptionsOfType(Show& show);
 // The full reset: scores, names, pictures, buttons, phase flags, options shown by game type, standby.
 void ResetGameBoard(Show& show);
+// Puts the turning squares at rest and lets the flash draw no more, for a board that is cleared under them.
+void ForgetClaimedSquare(Show& show);
+// Puts the square that turns back to its full size, if one does.
+void StopTurning(Flip& flip, Timer& timer);
 // Makes one square look empty on both screens; nothing outside 0..5.
 void RemovePiece(Show& show, int r, int c);
 

@@ -81,6 +81,7 @@ void ScriptedDialogs::Act(const Step& step, ModalKind kind) {
 }
 
 BoxAnswer ScriptedDialogs::MessageBox(const std::string& text, const std::string& title, BoxKind kind) {
+  if (Instead != nullptr) return Instead->MessageBox(text, title, kind);
   boxes_.push_back({text, title, kind});
   Step step{Kind::Message, {}, BoxAnswer::Ok, {}};
   if (Take(Kind::Message, text, step)) {
@@ -92,24 +93,28 @@ BoxAnswer ScriptedDialogs::MessageBox(const std::string& text, const std::string
 }
 
 std::string ScriptedDialogs::ChooseFile(const FileDialogRequest& request) {
+  if (Instead != nullptr) return Instead->ChooseFile(request);
   requests_.push_back(request);
   Step step{Kind::File, {}, BoxAnswer::Ok, {}};
   return Take(Kind::File, request.Title, step) ? step.text : std::string();
 }
 
 std::optional<Font> ScriptedDialogs::ChooseFont(const Font& start) {
+  if (Instead != nullptr) return Instead->ChooseFont(start);
   FontStart = start;
   Step step{Kind::Typeface, {}, BoxAnswer::Ok, {}};
   return Take(Kind::Typeface, "", step) ? step.font : std::nullopt;
 }
 
 std::optional<Color> ScriptedDialogs::ChooseColor(Color start) {
+  if (Instead != nullptr) return Instead->ChooseColor(start);
   ColorStart = start;
   Step step{Kind::Tint, {}, BoxAnswer::Ok, {}};
   return Take(Kind::Tint, "", step) ? step.color : std::nullopt;
 }
 
 void ScriptedDialogs::ShowModal(Form& form) {
+  if (Instead != nullptr) return Instead->ShowModal(form);
   Step step{Kind::Form, {}, BoxAnswer::Ok, {}};
   const bool expected = Take(Kind::Form, form.Name(), step);
   form.Visible = true;

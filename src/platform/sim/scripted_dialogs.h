@@ -36,10 +36,12 @@ class ScriptedDialogs : public Dialogs {
   std::optional<Font> ChooseFont(const Font& start) override;
   std::optional<Color> ChooseColor(Color start) override;
   void ShowModal(Form& form) override;
-  ModalKind Modal() const override { return modal_; }
+  ModalKind Modal() const override { return Instead != nullptr ? Instead->Modal() : modal_; }
 
   const std::vector<ShownBox>& Boxes() const { return boxes_; }
   const std::vector<FileDialogRequest>& FileRequests() const { return requests_; }
+  // Answers in place of the script when it is set.
+  Dialogs* Instead = nullptr;
   // What the last dialog of each kind began with.
   Font FontStart;
   Color ColorStart = 0;

@@ -20,6 +20,8 @@ class VirtualClock : public Clock, public Mirror {
   // Fires what falls due within the next ms milliseconds, in due order; equal times in the order of starting. Timers
   // that are started on the way and fall due before the end fire too.
   void Advance(std::int64_t ms);
+  // A machine that sleeps: time goes on and nothing fires. What fell due meanwhile fires once at the next Advance.
+  void Sleep(std::int64_t ms) { now_ += ms; }
   // The timers that run now, in the order of starting.
   std::vector<const Timer*> Running() const;
 
