@@ -253,7 +253,7 @@ class HelpPages {
   virtual bool Open(const std::string& address) = 0;
 };
 
-// Folders without a trailing backslash, but for DataRoot, which the operator's data lies below.
+// Folders without a trailing backslash; the operator's data lies below DataRoot.
 struct Folders {
   std::string App;
   std::string DataRoot;

@@ -13,7 +13,7 @@
 #include <QTest>
 #include <csignal>
 
-#include "platform/desktop/desktop_folders.h"
+#include "platform/desktop/user_copy.h"
 #include "platform/desktop/linux_processes.h"
 #include "platform/desktop/mpv_channel.h"
 #include "platform/desktop/native_path.h"
@@ -272,18 +272,38 @@ TEST_F(ProcessesTest, ListsThisProcess) {
 
 using FoldersTest = FolderTest;
 
-TEST_F(FoldersTest, UserCopyKeepsWhatTheOperatorChanged) {
+TEST_F(FoldersTest, UserCopyFollowsTheShippedFilesAndKeepsTheOperators) {
   Make("shared/Images/a.bmp", "picture");
-  Make("shared/Trivia Sets/One.txt", "shipped");
-  MakeUserCopy(Native("shared"), Native("user"));
-  Make("user/Trivia Sets/One.txt", "edited");
-  Make("shared/Trivia Sets/Two.txt", "new");
-  MakeUserCopy(Native("shared"), Native("user"));
-  const QtFileSystem files;
-  EXPECT_EQ(files.Read(Spelled("\\user\\Trivia Sets\\One.txt")), "edited");
-  EXPECT_EQ(files.Read(Spelled("\\user\\Trivia Sets\\Two.txt")), "new");
-  EXPECT_EQ(files.Read(Spelled("\\user\\Images\\a.bmp")), "picture");
-  EXPECT_EQ(files.Read(Spelled("\\shared\\Trivia Sets\\One.txt")), "shipped");
+  Make("shared/Images/own.bmp", "picture");
+  Make("shared/Trivia Sets/Edited.txt", "first");
+  Make("shared/Trivia Sets/Removed.txt", "first");
+  Make("shared/Trivia Sets/Same.txt", "first");
+  QFile::setPermissions(Native("shared/Trivia Sets/Edited.txt"), QFile::ReadOwner);
+  UpdateUserCopy(Native("shared"), Native("user"));
+  Make("user/Images/own.bmp", "mine");
+  Make("user/Trivia Sets/Edited.txt", "edited");
+  Make("user/Trivia Sets/New.txt", "the operator's");
+  QFile::remove(Native("user/Trivia Sets/Removed.txt"));
+  QFile::remove(Native("user/Images/a.bmp"));
+  for (const char* version : {"second", "third"}) {
+    for (const char* set : {"Removed", "Same", "New", "Later"}) {
+      Make("shared/Trivia Sets/" + QString(set) + ".txt", version);
+    }
+    Make("shared/Images/own.bmp", version);
+    UpdateUserCopy(Native("shared"), Native("user"));
+    const QtFileSystem files;
+    const auto copy = [&](const std::string& path) {
+      const std::string file = Spelled("\\user\\" + path);
+      return files.CanOpen(file) ? files.Read(file) : "(none)";
+    };
+    EXPECT_EQ(copy("Images\\a.bmp"), "picture");
+    EXPECT_EQ(copy("Images\\own.bmp"), "mine");
+    EXPECT_EQ(copy("Trivia Sets\\Edited.txt"), "edited");
+    EXPECT_EQ(copy("Trivia Sets\\Removed.txt"), "(none)");
+    EXPECT_EQ(copy("Trivia Sets\\Same.txt"), version);
+    EXPECT_EQ(copy("Trivia Sets\\New.txt"), "the operator's");
+    EXPECT_EQ(copy("Trivia Sets\\Later.txt"), version);
+  }
 }
 
 TEST(DialogTest, FiltersAreTheToolkits) {

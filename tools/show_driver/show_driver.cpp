@@ -14,6 +14,7 @@
 #include "engine/start_up.h"
 #include "platform/desktop/model_widgets.h"
 #include "platform/desktop/native_path.h"
+#include "platform/desktop/user_copy.h"
 
 namespace pawnfield {
 
@@ -25,7 +26,8 @@ constexpr int kStartMs = 20000;
 DesktopPlaces PlacesBelow(const QString& folder) {
   DesktopPlaces places;
   const QString shared = NativePath(places.folders.App);
-  places.folders.App = SpelledPath(MakeUserCopy(shared, folder + "/app")).value_or("");
+  UpdateUserCopy(shared, folder + "/app");
+  places.folders.App = SpelledPath(folder + "/app").value_or("");
   places.folders.DataRoot = SpelledPath(folder + "/Ostara Show Kit Data").value_or("");
   places.configFolder = folder + "/config";
   places.runtimeFolder = folder + "/run";
