@@ -13,7 +13,6 @@
 #include <QTest>
 #include <csignal>
 
-#include "platform/desktop/user_copy.h"
 #include "platform/desktop/linux_processes.h"
 #include "platform/desktop/mpv_channel.h"
 #include "platform/desktop/native_path.h"
@@ -22,6 +21,7 @@
 #include "platform/desktop/qt_file_system.h"
 #include "platform/desktop/qt_readers.h"
 #include "platform/desktop/qt_settings_store.h"
+#include "platform/desktop/user_copy.h"
 #include "platform/desktop/windows_1252.h"
 
 namespace pawnfield {
