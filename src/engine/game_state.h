@@ -3,6 +3,7 @@
 
 #include <array>
 #include <string>
+#include <vector>
 
 namespace pawnfield {
 
@@ -27,6 +28,18 @@ struct ScreenStyle {
   bool FontBold = true;
   double BackColor = 0;
   double ForeColor = 16777215;
+};
+
+// A text that takes the header's place on both screens. Colours are decimal text, as in the file.
+struct OptionalHeader {
+  std::string HeaderText;
+  std::string HeaderFont;
+  int HeaderFontSize = 0;
+  bool HeaderFontBold = false;
+  bool HeaderFontItalic = false;
+  std::string HeaderForeColor;
+  std::string HeaderBackColor;
+  bool operator==(const OptionalHeader&) const = default;
 };
 
 struct GameState {
@@ -84,8 +97,18 @@ struct GameState {
   int MODPictureTimer = 5;
   int EventPlayerVolume = 75, KeyPressPlayerVolume = 75, SoundClipPlayerVolume = 75, BackgroundPlayerVolume = 75,
       CorrectIncorrectVolume = 75;
+  // The mode of the music: 0 none, 1 the music folder, 2 one file.
   int BackgroundMusic = 0;
   std::string BgMusicFileName;
+  // True while there is something to play. The folder's tracks; MusicIndex counts from 1, 0 is before the first.
+  bool MusicEnabled = false;
+  std::vector<std::string> MusicList;
+  int MusicIndex = 0;
+  // Only the first four are used. OptionalHeaderIndex is the next to show.
+  std::array<OptionalHeader, 6> OptionalHeaders;
+  bool OptionalHeadersOn = false;
+  int OptionalHeaderCount = 0;
+  int OptionalHeaderIndex = 0;
   bool FullScreenGameBoard = false;
   bool ZR650 = false;
   int LCDResolutions = 1;

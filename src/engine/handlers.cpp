@@ -16,6 +16,7 @@
 #include "engine/start_up.h"
 #include "engine/turn_order.h"
 #include "engine/win_detection.h"
+#include "media/media_handlers.h"
 #include "media/sound_channels.h"
 #include "presentation/audience_screen.h"
 #include "sets/editor_handlers.h"
@@ -170,7 +171,9 @@ std::vector<Form*> AllForms(Show& show) {
           &show.frmHelpAbout,
           &show.frmConfigKeys,
           &show.frmSS,
-          &show.frmConnectToProjector};
+          &show.frmConnectToProjector,
+          &show.frmSoundEffects,
+          &show.frmOptionalHeaders};
 }
 
 void AttachHandlers(Show& show) {
@@ -185,6 +188,7 @@ void AttachHandlers(Show& show) {
   AttachConfigKeysHandlers(show);
   BindSoundChannels(show);
   AttachAudienceHandlers(show);
+  AttachMediaHandlers(show);
   DisableWithoutHandler(show.frmMain);
   for (Menu* menu : {&show.frmMain.mnuFile, &show.frmMain.mnuHelp, &show.frmMain.mnuZR610}) menu->Enabled = true;
   for (Form* form : AllForms(show)) {

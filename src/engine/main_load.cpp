@@ -9,6 +9,8 @@
 #include "engine/game_flow.h"
 #include "engine/show.h"
 #include "engine/turn_order.h"
+#include "media/background_music.h"
+#include "media/optional_headers.h"
 #include "media/sound_channels.h"
 #include "media/sound_table.h"
 #include "platform/text.h"
@@ -186,22 +188,6 @@ void LoadRulesAndVolumes(Show& show) {
   state.BackgroundMusic = IntInRange(show, "BackgroundMusic", 0, 0, 2, 0);
 }
 
-// Music in mode 2 needs its file, in mode 1 at least one file of the music folder.
-void DecideOnMusic(Show& show) {
-  GameState& state = show.state;
-  const FileSystem& files = show.platform.files;
-  if (state.BackgroundMusic == 2) {
-    const bool there = !Trim(state.BgMusicFileName).empty() && files.CanOpen(state.BgMusicFileName);
-    if (!there) state.BackgroundMusic = 0;
-  } else if (state.BackgroundMusic == 1) {
-    const std::string folder = show.platform.folders.DataRoot + "\\BackgroundMusic";
-    if (files.List(folder, ".mp3").empty() && files.List(folder, ".wav").empty() &&
-        files.List(folder, ".wma").empty()) {
-      state.BackgroundMusic = 0;
-    }
-  }
-}
-
 void ShowIdleBoard(Show& show) {
   GameState& state = show.state;
   MainForm& form = show.frmMain;
@@ -287,9 +273,10 @@ void ShowConsole(Show& show) {
 
 void LoadMainForm(Show& show) {
   // Each step reports its own failure, so that one bad value or file leaves the rest of the load whole.
-  for (const auto step : {SetDesignPictures, CreateTransceiver, LoadRoutingAndPoints, StartForm, LoadScreenPictures,
-                          FillSetList, LoadGameOptions, LoadPlayOptions, LoadSounds, LoadRulesAndVolumes, DecideOnMusic,
-                          ShowIdleBoard, ShowAudience, LoadScreenSettings, ShowConsole, LoadPieces}) {
+  for (const auto step :
+       {SetDesignPictures, CreateTransceiver, LoadRoutingAndPoints, StartForm, LoadScreenPictures, FillSetList,
+        LoadGameOptions, LoadPlayOptions, LoadSounds, LoadRulesAndVolumes, DecideOnMusic, StartMusic,
+        LoadOptionalHeaders, ShowIdleBoard, ShowAudience, LoadScreenSettings, ShowConsole, LoadPieces}) {
     RunStep(show, step);
   }
   LightScoreBox(show, 0);

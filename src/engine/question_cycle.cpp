@@ -57,7 +57,7 @@ void ShowPictureQuestion(Show& show) {
 
 void ShowSoundQuestion(Show& show, const std::string& path) {
   ShowPanel(show, Panel::Sound);
-  if (show.state.BackgroundMusic != 0) PauseBackground(show);
+  if (show.state.MusicEnabled) PauseBackground(show);
   PlaySoundClip(show, path);
   OpenQuestion(show);
 }

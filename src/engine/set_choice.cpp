@@ -7,6 +7,7 @@
 #include "engine/question_cycle.h"
 #include "engine/show.h"
 #include "engine/turn_order.h"
+#include "media/background_music.h"
 #include "presentation/board_layout.h"
 #include "presentation/both_screens.h"
 #include "sets/file_dialogs.h"
@@ -51,6 +52,7 @@ void ReadySet(Show& show) {
   form.btnUndo.Enabled = false;
   ScanSetForMissingMedia(show);
   EnableOptions(show);
+  StartMusic(show);
   ReportPlayers(show, kWhite);
 }
 

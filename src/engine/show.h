@@ -12,6 +12,8 @@
 #include "controllers/press_state.h"
 #include "controllers/transceiver.h"
 #include "engine/game_state.h"
+#include "media/optional_headers_form.h"
+#include "media/sound_effects_form.h"
 #include "platform/ports.h"
 #include "presentation/config_keys_form.h"
 #include "presentation/connect_to_projector_form.h"
@@ -103,6 +105,8 @@ struct Show {
   PlayerNamesForm frmPlayerNames;
   HelpAboutForm frmHelpAbout;
   ConfigKeysForm frmConfigKeys;
+  SoundEffectsForm frmSoundEffects;
+  OptionalHeadersForm frmOptionalHeaders;
 
   // The path of a file of the program's folder, as in AppPath("\\Images\\scorebox.bmp").
   std::string AppPath(const std::string& tail) const { return platform.folders.App + tail; }

@@ -72,7 +72,6 @@ void BindSoundChannels(Show& show) {
   for (std::size_t i = 0; i < form.optSoundBank.Size(); ++i) {
     form.optSoundBank[i].OnClick = [&show, i] { optSoundBank_Click(show, i); };
   }
-  form.btnSounds.Enabled = false;
 }
 
 }  // namespace pawnfield

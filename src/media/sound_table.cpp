@@ -31,6 +31,10 @@ std::string SoundEntry(const Show& show, int row) {
 
 bool ParseSoundTable(const std::string& bytes, SoundBanks& banks) {
   banks = {};
+  return ReadSoundTable(bytes, banks);
+}
+
+bool ReadSoundTable(const std::string& bytes, SoundBanks& banks) {
   LineReader reader(bytes);
   return VisitEntries(banks, [&](std::string& entry) {
     const auto line = reader.Next();

@@ -22,6 +22,8 @@ std::string SoundEntry(const Show& show, int row);
 // The file's 102 lines, bank after bank, to the entries and back. False when lines are missing: their entries are
 // empty.
 bool ParseSoundTable(const std::string& bytes, SoundBanks& banks);
+// The same, and the entries whose lines are missing stay as they are.
+bool ReadSoundTable(const std::string& bytes, SoundBanks& banks);
 std::string FormatSoundTable(const SoundBanks& banks);
 
 // Reads Sounds.dat. False when it is missing or short; entries read so far stand, an absent file leaves the table

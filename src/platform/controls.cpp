@@ -132,6 +132,54 @@ void OptionButton::SelectInGroup() {
   Value = true;
 }
 
+Grid::Grid(Form& form, std::string name, int rows, int columns)
+    : Control(form, std::move(name), ControlKind::Grid),
+      rows_(rows),
+      columns_(columns),
+      cells_(static_cast<std::size_t>(rows) * static_cast<std::size_t>(columns)) {}
+
+std::string Grid::Cell(int row, int column) const {
+  if (row < 0 || row >= rows_ || column < 0 || column >= columns_) return "";
+  return cells_[static_cast<std::size_t>(row * columns_ + column)];
+}
+
+void Grid::SetCell(int row, int column, const std::string& text) {
+  if (row < 0 || row >= rows_ || column < 0 || column >= columns_) return;
+  std::string& cell = cells_[static_cast<std::size_t>(row * columns_ + column)];
+  if (cell == text) return;
+  cell = text;
+  Notify(PropertyId::List);
+}
+
+void Grid::SelectCell(int row, int column) {
+  Row = row;
+  Col = column;
+}
+
+void Grid::ClickCell(int row, int column) {
+  if (!IsReachable() || !IsBody(row, column)) return;
+  SelectCell(row, column);
+  Raise(OnClick, "_Click");
+}
+
+void Grid::DblClickCell(int row, int column) {
+  if (!IsReachable() || !IsBody(row, column)) return;
+  SelectCell(row, column);
+  Raise(OnDblClick, "_DblClick");
+}
+
+void Grid::DropFile(int row, int column, const std::string& path) {
+  if (!IsReachable() || !IsBody(row, column) || !OnDropFile) return;
+  SelectCell(row, column);
+  Raise([&] { OnDropFile(path); }, "_DropFile");
+}
+
+void Grid::PressKey(int keyCode, int keyAscii) {
+  if (!IsReachable()) return;
+  if (OnKeyDown) Raise([&] { OnKeyDown(keyCode); }, "_KeyDown");
+  if (OnKeyPress && keyAscii != 0) Raise([&] { OnKeyPress(keyAscii); }, "_KeyPress");
+}
+
 Timer::Timer(Form& form, std::string name) : Timer(form, std::move(name), 0) {}
 
 Timer::Timer(Form& form, std::string name, int interval, bool enabled)

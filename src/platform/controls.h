@@ -73,7 +73,9 @@ enum class ControlKind {
   Timer,
   Menu,
   Frame,
-  ProgressBar
+  ProgressBar,
+  Grid,
+  MediaPlayer
 };
 
 // Told of every change of a control that it is attached to.
@@ -299,6 +301,50 @@ class Frame : public Control {
 class ProgressBar : public Control {
  public:
   ProgressBar(Form& form, std::string name) : Control(form, std::move(name), ControlKind::ProgressBar) {}
+};
+
+// A table of texts with one selected cell. Row 0 and column 0 are its headings.
+class Grid : public Control {
+ public:
+  Grid(Form& form, std::string name, int rows, int columns);
+  int Rows() const { return rows_; }
+  int Columns() const { return columns_; }
+  // Empty outside the table; writing there does nothing.
+  std::string Cell(int row, int column) const;
+  void SetCell(int row, int column, const std::string& text);
+  void SelectCell(int row, int column);
+
+  // What a user does: each selects the cell first, and a heading takes none of it.
+  void ClickCell(int row, int column);
+  void DblClickCell(int row, int column);
+  void DropFile(int row, int column, const std::string& path);
+  // A key on the selected cell: by its key code, and then by its character where it has one.
+  void PressKey(int keyCode, int keyAscii);
+
+  Property<int> Row{*this, PropertyId::ListIndex, 1};
+  Property<int> Col{*this, PropertyId::ListIndex, 1};
+  // A text that stands for an empty cell.
+  std::string Placeholder;
+  std::function<void(int keyCode)> OnKeyDown;
+  std::function<void(int keyAscii)> OnKeyPress;
+  std::function<void(const std::string& path)> OnDropFile;
+
+ private:
+  bool IsBody(int row, int column) const { return row > 0 && row < rows_ && column > 0 && column < columns_; }
+  int rows_, columns_;
+  std::vector<std::string> cells_;
+};
+
+// What a form shows of a player: its file, its dress ("full" with controls, "none" without) and how it stands.
+class MediaPlayer : public Control {
+ public:
+  MediaPlayer(Form& form, std::string name) : Control(form, std::move(name), ControlKind::MediaPlayer) {}
+  Property<std::string> URL{*this, PropertyId::Picture};
+  Property<std::string> uiMode{*this, PropertyId::Text};
+  Property<bool> stretchToFit{*this, PropertyId::Value, false};
+  // 0..100; 1 stopped, 2 paused, 3 playing.
+  Property<int> Volume{*this, PropertyId::Value, 100};
+  Property<int> PlayState{*this, PropertyId::Value, 1};
 };
 
 class Menu : public Control {

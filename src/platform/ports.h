@@ -36,12 +36,19 @@ inline constexpr int kErrorPathNotFound = 76;
 inline constexpr int kErrorInvalidPicture = 481;
 inline constexpr int kErrorPrinter = 482;
 
+// A moment of the calendar, in the machine's own time zone.
+struct LocalTime {
+  int Year = 2000, Month = 1, Day = 1;
+  int Hour = 0, Minute = 0, Second = 0;
+};
+
 // Time: milliseconds of a clock that never goes back. Attach makes the clock the mirror of a form's timers, so that
 // they run while enabled; a detached form's timers stop.
 class Clock {
  public:
   virtual ~Clock() = default;
   virtual std::int64_t NowMs() const = 0;
+  virtual LocalTime Now() const = 0;
   virtual void Attach(Form& form) = 0;
   virtual void Detach(Form& form) = 0;
   // Holds the program for that long; no event reaches it meanwhile. What has changed is on the screens before it.
@@ -82,16 +89,28 @@ class Dialogs {
   virtual ModalKind Modal() const = 0;
 };
 
+enum class PlayState { Stopped = 1, Paused = 2, Playing = 3 };
+
 // One independent player. Assigning a path starts it; an empty path or no such file is silence without a message.
 class MediaChannel {
  public:
   virtual ~MediaChannel() = default;
   virtual void SetUrl(const std::string& path) = 0;
+  // Seconds from the start. A paused player goes on from there; a stopped one stays stopped.
   virtual void SetPosition(double seconds) = 0;
+  // Goes on after a pause; starts its file anew after a stop or the end.
+  virtual void Play() = 0;
   virtual void Stop() = 0;
   virtual void Pause() = 0;
   // 0..100.
   virtual void SetVolume(int volume) = 0;
+  // Seconds. The two are equal when a file has been played to its end and when nothing is loaded (both 0), and differ
+  // at any other time.
+  virtual double CurrentPosition() const = 0;
+  virtual double Duration() const = 0;
+
+  // Told of every change of state, by the program's wish or by the player's own controls.
+  std::function<void(PlayState state)> OnPlayStateChange;
 };
 
 // A per-user store of text values. Keys are compared without regard to case.
@@ -267,6 +286,8 @@ struct MediaChannels {
   MediaChannel& SoundClipPlayer;
   MediaChannel& CorrectIncorrectPlayer;
   MediaChannel& BackgroundPlayer;
+  // Shows video too: wherever a form's control of that name stands.
+  MediaChannel& MediaPlayer1;
 };
 
 // Everything the program is given at its start.

@@ -59,6 +59,9 @@ FSMainForm::FSMainForm() : Form("frmFSMain") {
   imgBonus.Container = &picBonus;
   imgSound.Container = &picSound;
   imgStandby.Container = &picStandby;
+  picMODVideo.Container = &picMOD;
+  MediaPlayer1.Container = &picMODVideo;
+  picImageResize[1].Container = &picMOD;
   lblPlayerName.Font = {"Segoe UI", 72, true, false};
   lblPlayerName.Height = 2400;
   lblWhatIsAnswer.Font = {"Segoe UI", 48, false, false};
@@ -90,6 +93,8 @@ void FSMainForm::Form_Resize() {
     panel->BringToFront();
   }
   picStandby.BringToFront();
+  picMODVideo.MoveTo(0, 0, picMOD.Width, picMOD.Height);
+  MediaPlayer1.MoveTo(0, 0, picMODVideo.Width, picMODVideo.Height);
   for (Image* fill : {&imgQuestionBackground, &imgCorrect, &imgBonus, &imgSound, &imgStandby}) {
     fill->MoveTo(0, 0, Width, Height);
   }

@@ -36,7 +36,8 @@ class FSMainForm : public Form {
   Image imgQuestionBackground{*this, "imgQuestionBackground"};
   ControlArray<Label, 5> lblQuestion{*this, "lblQuestion"};
   PictureBox picQuestionPicture{*this, "picQuestionPicture"};
-  ControlArray<Image, 1> picImageResize{*this, "picImageResize"};
+  // For a question, and for media on demand.
+  ControlArray<Image, 2> picImageResize{*this, "picImageResize"};
   PictureBox picHideQuestion{*this, "picHideQuestion"};
   Label lblPlayerName{*this, "lblPlayerName"};
   Label lblWhatIsAnswer{*this, "lblWhatIsAnswer"};
@@ -48,6 +49,8 @@ class FSMainForm : public Form {
   PictureBox picBonus{*this, "picBonus"};
   Image imgBonus{*this, "imgBonus"};
   PictureBox picMOD{*this, "picMOD"};
+  PictureBox picMODVideo{*this, "picMODVideo"};
+  MediaPlayer MediaPlayer1{*this, "MediaPlayer1"};
   PictureBox picSound{*this, "picSound"};
   Image imgSound{*this, "imgSound"};
   PictureBox picStandby{*this, "picStandby"};

@@ -55,6 +55,7 @@ void MainForm::SetCaptions() {
   fileClearAllScores.Caption = "&Clear All Scores";
   mnuFileOptions.Caption = "&Options";
   mnuFileAddPlayerNames.Caption = "Add Player &Names";
+  mnuFileOptionalHeaders.Caption = "Optional &Headers";
   mnuFileExit.Caption = "E&xit";
   mnuZR610.Caption = "ZR-610 System";
   mnuMapMF.Caption = "Map Player Controls";
@@ -131,6 +132,7 @@ void MainForm::SetCaptions() {
   lblGridCoords.Caption = "Type Grid\r\nCoordinates";
   fraAnswer.Caption = "Answer";
   btnPlay.Caption = "Play";
+  btnPlayVideo.Caption = ">";
   btnStop.Caption = "Stop";
   btnCorrect.Caption = "Correct";
   btnQuestionCorrect.Caption = "Correct";
@@ -153,6 +155,7 @@ void MainForm::PlaceControls() {
   fraSoundButtons.MoveTo(0, kPanelHeight - 735, kPanelWidth, 735);
   lblAnswer.MoveTo(0, 0, kPanelWidth, 900);
   imgHeader.MoveTo(0, 0, kPanelWidth, 750);
+  txtOptionalHeading.MoveTo(0, 0, kPanelWidth, 750);
 
   Contain(picQuestion, {&imgQuestionBackground});
   for (std::size_t i = 0; i < 5; ++i) {
@@ -160,6 +163,10 @@ void MainForm::PlaceControls() {
     lblQuestion[i].Font = {"Courier New", 28, true, true};
   }
   Contain(picQuestionPicture, {&picImageResize[0]});
+  Contain(picMOD, {&picMODVideo, &picMODPicture});
+  Contain(picMODVideo, {&MediaPlayer1, &btnPlayVideo, &btnStopVideo});
+  Contain(picMODPicture, {&picImageResize[1]});
+  picMOD_Resize();
   Contain(picSound, {&imgSound, &fraSoundButtons});
   Contain(fraSoundButtons, {&btnPlay, &btnStop});
   Contain(picBonus, {&imgBonus});
@@ -191,6 +198,13 @@ void MainForm::SetInitialStates() {
   Hide(shpStart, lblListLeftArrow, lblListRightArrow, btnQuestionCorrect, btnQuestionIncorrect);
   mnuZR610.Visible = false;
   Disable(btnSkipQuestion, btnNextPlayer, btnContinue, btnStart, btnUndo, btnReset, btnEndGame, btnCorrect);
+}
+
+void MainForm::picMOD_Resize() {
+  for (Control* part : {static_cast<Control*>(&MediaPlayer1), static_cast<Control*>(&picMODPicture),
+                        static_cast<Control*>(&picMODVideo)}) {
+    part->MoveTo(0, 0, picMOD.Width, picMOD.Height);
+  }
 }
 
 Label& MainForm::Score(int player) { return player == 1 ? lblP1Score : player == 2 ? lblP2Score : lblP3Score; }

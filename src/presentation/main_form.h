@@ -16,12 +16,15 @@ class MainForm : public Form {
   PictureBox& PlayerBox(int player);
   Image& FaceA(int player);
   Image& FaceB(int player);
+  // Gives the panels of media on demand the size of picMOD.
+  void picMOD_Resize();
 
   // Menus.
   Menu mnuFile{*this, "mnuFile"};
   Menu fileClearAllScores{*this, "fileClearAllScores"};
   Menu mnuFileOptions{*this, "mnuFileOptions"};
   Menu mnuFileAddPlayerNames{*this, "mnuFileAddPlayerNames"};
+  Menu mnuFileOptionalHeaders{*this, "mnuFileOptionalHeaders"};
   Menu mnuFileExit{*this, "mnuFileExit"};
   Menu mnuZR610{*this, "mnuZR610"};
   Menu mnuMapMF{*this, "mnuMapMF"};
@@ -130,7 +133,8 @@ class MainForm : public Form {
   Image imgQuestionBackground{*this, "imgQuestionBackground"};
   ControlArray<Label, 5> lblQuestion{*this, "lblQuestion"};
   PictureBox picQuestionPicture{*this, "picQuestionPicture"};
-  ControlArray<Image, 1> picImageResize{*this, "picImageResize"};
+  // For a question, and for media on demand.
+  ControlArray<Image, 2> picImageResize{*this, "picImageResize"};
   PictureBox picSound{*this, "picSound"};
   Image imgSound{*this, "imgSound"};
   Frame fraSoundButtons{*this, "fraSoundButtons"};
@@ -139,6 +143,11 @@ class MainForm : public Form {
   PictureBox picBonus{*this, "picBonus"};
   Image imgBonus{*this, "imgBonus"};
   PictureBox picMOD{*this, "picMOD"};
+  PictureBox picMODVideo{*this, "picMODVideo"};
+  MediaPlayer MediaPlayer1{*this, "MediaPlayer1"};
+  PictureBox picMODPicture{*this, "picMODPicture"};
+  Button btnPlayVideo{*this, "btnPlayVideo"};
+  Button btnStopVideo{*this, "btnStopVideo"};
   PictureBox picCorrect{*this, "picCorrect"};
   Image imgCorrect{*this, "imgCorrect"};
   Label lblRightWrong{*this, "lblRightWrong"};
@@ -171,7 +180,9 @@ class MainForm : public Form {
   Timer tmrFlipPlayerPiece{*this, "tmrFlipPlayerPiece", 10};
   Timer tmrWinner{*this, "tmrWinner", 5000};
   Timer tmrOptionalHeaders{*this, "tmrOptionalHeaders", 5000};
-  Timer tmrBGMusic{*this, "tmrBGMusic", 1000};
+  Timer tmrBGMusic{*this, "tmrBGMusic", 1000, true};
+  Timer tmrMODPicture{*this, "tmrMODPicture", 5000};
+  Timer tmrVideoDelay{*this, "tmrVideoDelay", 500};
   ControlArray<Timer, 2> tmrAnimate{*this, "tmrAnimate"};
 
  private:

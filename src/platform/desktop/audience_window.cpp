@@ -18,7 +18,7 @@ constexpr double kSmallestLegible = 20;
 }  // namespace
 
 AudienceWindow::AudienceWindow(FSMainForm& form, SecondScreenForm& copy, FormWindows& windows, PictureCache& pictures,
-                               Screens& screens)
+                               Screens& screens, MpvVideo& video)
     : FormWindow(form, windows, Qt::Window | Qt::FramelessWindowHint | Qt::WindowDoesNotAcceptFocus),
       copy_(copy),
       windows_(windows),
@@ -33,6 +33,7 @@ AudienceWindow::AudienceWindow(FSMainForm& form, SecondScreenForm& copy, FormWin
   BindForm();
   Fill(form);
   FillPanels(form);
+  screen_->AddVideo(form.MediaPlayer1, video);
   Bindings()->AddCanvas(*screen_);
   copy_.SetMirror(this);
   windows_.Add(copy_, *this);
@@ -76,12 +77,13 @@ void AudienceWindow::Fill(FSMainForm& form) {
 void AudienceWindow::FillPanels(FSMainForm& form) {
   ItemStyle panel;
   panel.PaintsGround = true;
-  for (PictureBox* box : {&form.picQuestion, &form.picQuestionPicture, &form.picHideQuestion, &form.picCorrect,
-                          &form.picWinner, &form.picBonus, &form.picMOD, &form.picSound, &form.picStandby}) {
+  for (PictureBox* box :
+       {&form.picQuestion, &form.picQuestionPicture, &form.picHideQuestion, &form.picCorrect, &form.picWinner,
+        &form.picBonus, &form.picMOD, &form.picMODVideo, &form.picSound, &form.picStandby}) {
     screen_->Add(*box, panel);
   }
-  for (Image* image : {&form.imgQuestionBackground, &form.picImageResize[0], &form.imgCorrect, &form.imgBonus,
-                       &form.imgSound, &form.imgStandby}) {
+  for (Image* image : {&form.imgQuestionBackground, &form.picImageResize[0], &form.picImageResize[1], &form.imgCorrect,
+                       &form.imgBonus, &form.imgSound, &form.imgStandby}) {
     screen_->Add(*image);
   }
   // A rule has fitted these, so they are drawn as told.

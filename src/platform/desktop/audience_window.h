@@ -9,12 +9,13 @@
 namespace pawnfield {
 
 class FSMainForm;
+class MpvVideo;
 struct SecondScreenForm;
 
 class AudienceWindow : public FormWindow {
  public:
   AudienceWindow(FSMainForm& form, SecondScreenForm& copy, FormWindows& windows, PictureCache& pictures,
-                 Screens& screens);
+                 Screens& screens, MpvVideo& video);
   ~AudienceWindow() override;
   Canvas& Screen() { return *screen_; }
 

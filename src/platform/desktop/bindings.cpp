@@ -11,7 +11,9 @@
 #include <QRadioButton>
 #include <QTimer>
 #include <QToolTip>
+#include <algorithm>
 
+#include "platform/desktop/grid_view.h"
 #include "platform/desktop/model_widgets.h"
 #include "platform/desktop/native_path.h"
 #include "platform/desktop/set_text_edit.h"
@@ -20,6 +22,9 @@
 namespace pawnfield {
 
 namespace {
+
+constexpr double kSmallestSample = 8;
+constexpr double kLargestSample = 24;
 
 QColor ToQColor(Color color) { return QColor(color & 0xFF, (color >> 8) & 0xFF, (color >> 16) & 0xFF); }
 
@@ -199,6 +204,10 @@ class TextBoxBinding : public Binding<TextBox, QLineEdit> {
     if (id == PropertyId::Selection) QTimer::singleShot(0, &widget, &QLineEdit::selectAll);
     const QString text = FromWindows1252(model.Text);
     if (widget.text() != text) widget.setText(text);
+    if (widget.property("showsLook").toBool()) {
+      ShowLook();
+      return;
+    }
     // Black is the design's own ground; any other colour is a sign to the operator.
     const QString sign = model.BackColor == kBlack ? QString() : ToQColor(model.BackColor).name();
     if (sign == sign_) return;
@@ -207,6 +216,21 @@ class TextBoxBinding : public Binding<TextBox, QLineEdit> {
     widget.setStyleSheet(sign.isEmpty()
                              ? QString()
                              : QString("border: 3px solid %1; color: %2;").arg(sign, bright ? "#FFE9A8" : "#E6EAF2"));
+  }
+  // The box is a sample of what its text will look like; larger letters would burst the dialog.
+  void ShowLook() {
+    const Font& font = model.Font;
+    const QString look =
+        QString(
+            "font-family: \"%1\"; font-size: %2pt; font-weight: %3; font-style: %4; color: %5; "
+            "background: %6; padding: 2px 8px;")
+            .arg(FromWindows1252(font.Name).remove('"'))
+            .arg(std::clamp(font.Size, kSmallestSample, kLargestSample))
+            .arg(font.Bold ? 700 : 400)
+            .arg(font.Italic ? "italic" : "normal", ToQColor(model.ForeColor).name(), ToQColor(model.BackColor).name());
+    if (look == sign_) return;
+    sign_ = look;
+    widget.setStyleSheet("QLineEdit { " + look + " }");
   }
   QString sign_;
 };
@@ -308,6 +332,8 @@ std::unique_ptr<Mirror> MakeBinding(Control& control, QWidget& widget) {
       return Make<PictureBinding<Image>, PictureFrame, Image>(control, widget);
     case ControlKind::PictureBox:
       return Make<PictureBinding<PictureBox>, PictureFrame, PictureBox>(control, widget);
+    case ControlKind::Grid:
+      return MakeGridBinding(static_cast<Grid&>(control), widget);
     case ControlKind::ProgressBar:
       return Make<ProgressBinding, QProgressBar, ProgressBar>(control, widget);
     default:

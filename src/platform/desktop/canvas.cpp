@@ -7,6 +7,8 @@
 #include <algorithm>
 #include <cmath>
 
+#include "platform/desktop/film.h"
+#include "platform/desktop/mpv_video.h"
 #include "platform/desktop/text_layout.h"
 
 namespace pawnfield {
@@ -108,6 +110,14 @@ void Canvas::Add(Control& control, const ItemStyle& style) {
   control.SetMirror(&added);
   ItemChanged(added, PropertyId::Picture);
   Order();
+}
+
+void Canvas::AddVideo(MediaPlayer& control, MpvVideo& video) {
+  Add(control);
+  video_ = &video;
+  connect(&video, &MpvVideo::FrameChanged, this, [this, &control] {
+    if (control.IsShown()) update(FillRect(control).toAlignedRect());
+  });
 }
 
 void Canvas::Embed(Control& control, QWidget& widget) {
@@ -220,6 +230,13 @@ void Canvas::PaintItem(QPainter& painter, Item& item) {
     const auto* box = dynamic_cast<PictureBox*>(&item.control);
     painter.fillRect(rect, box != nullptr ? ToQColor(box->BackColor) : QColor(Qt::black));
   }
+  if (item.control.Kind() == ControlKind::TextBox) {
+    painter.fillRect(rect, ToQColor(static_cast<TextBox&>(item.control).BackColor));
+  }
+  if (item.control.Kind() == ControlKind::MediaPlayer && video_ != nullptr) {
+    const bool hasFile = !static_cast<MediaPlayer&>(item.control).URL->empty();
+    PaintFilm(painter, rect, hasFile ? video_->Frame() : QImage());
+  }
   if (!item.pictureKey.isEmpty()) PaintPicture(painter, item, rect);
   PaintText(painter, item, PixelRect(item.control));
 }
@@ -315,9 +332,25 @@ void Canvas::resizeEvent(QResizeEvent*) {
 void Canvas::PlaceEmbedded() {
   for (const auto& [control, host] : embedded_) {
     host->setGeometry(PixelRect(*control).toRect());
-    host->setVisible(control->Container == nullptr || control->Container->IsShown());
+    host->setVisible((control->Container == nullptr || control->Container->IsShown()) && !IsCovered(*control));
     host->raise();
   }
+}
+
+// A panel in front paints over what stands behind it, which a widget would show through.
+bool Canvas::IsCovered(const Control& control) const {
+  const auto stands = [&](const Control& panel) {
+    for (const Control* c = &control; c != nullptr; c = c->Container) {
+      if (c == &panel) return true;
+    }
+    return false;
+  };
+  const Control* outer = &control;
+  while (outer->Container != nullptr) outer = outer->Container;
+  return std::any_of(order_.begin(), order_.end(), [&](const Item* item) {
+    const Control& panel = item->control;
+    return item->style.PaintsGround && panel.ZOrder > outer->ZOrder && panel.IsShown() && !stands(panel);
+  });
 }
 
 void Canvas::mousePressEvent(QMouseEvent* event) {

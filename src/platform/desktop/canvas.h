@@ -13,6 +13,7 @@
 
 namespace pawnfield {
 
+class MpvVideo;
 class TextBlock;
 
 inline constexpr double kLeastSize = 6;
@@ -45,6 +46,8 @@ class Canvas : public QWidget {
   void SetBackdrop(std::function<void(QPainter&, const QRect&)> paint) { backdrop_ = std::move(paint); }
   // Paints the control from now on, and in it everything that stands in it.
   void Add(Control& control, const ItemStyle& style = {});
+  // Shows the film at the control's place while it has a file.
+  void AddVideo(MediaPlayer& control, MpvVideo& video);
   bool Holds(const Control& control) const { return items_.count(&control) != 0; }
   // A widget that stands on the canvas at its control's place.
   void Embed(Control& control, QWidget& widget);
@@ -74,6 +77,7 @@ class Canvas : public QWidget {
   void LayOutText(Item& item);
   void PaintText(QPainter& painter, Item& item, const QRectF& rect);
   void PlaceEmbedded();
+  bool IsCovered(const Control& control) const;
 
   PictureCache& pictures_;
   std::function<void(QPainter&, const QRect&)> backdrop_;
@@ -86,6 +90,7 @@ class Canvas : public QWidget {
   // Back to front, containers before what stands in them.
   std::vector<Item*> order_;
   std::vector<std::pair<Control*, QWidget*>> embedded_;
+  MpvVideo* video_ = nullptr;
 };
 
 }  // namespace pawnfield

@@ -6,6 +6,7 @@
 
 #include "platform/desktop/ground.h"
 #include "platform/desktop/key_bridge.h"
+#include "platform/desktop/player_view.h"
 #include "presentation/main_form.h"
 #include "ui_frm_main.h"
 
@@ -17,7 +18,8 @@ constexpr double kPanelHeight = 5640;
 constexpr double kAnswerHeight = 900;
 }  // namespace
 
-ConsoleWindow::ConsoleWindow(MainForm& form, FormWindows& windows, PictureCache& pictures, Screens& screens)
+ConsoleWindow::ConsoleWindow(MainForm& form, FormWindows& windows, PictureCache& pictures, Screens& screens,
+                             MpvVideo& video)
     : FormWindow(form, windows), screens_(screens) {
   Ui::frmMain design;
   design.setupUi(this);
@@ -34,6 +36,7 @@ ConsoleWindow::ConsoleWindow(MainForm& form, FormWindows& windows, PictureCache&
   FillBoard(form);
   FillAnswer(form, pictures);
   board_->Embed(form.fraSoundButtons, *design.fraSoundButtons);
+  board_->Embed(form.MediaPlayer1, *new PlayerView(video, this));
   Bindings()->AddCanvas(*board_);
   Bindings()->AddCanvas(*answer_);
   HoldUnseen();
@@ -59,12 +62,13 @@ void ConsoleWindow::FillBoard(MainForm& form) {
   board_->Add(form.txtOptionalHeading);
   ItemStyle panel;
   panel.PaintsGround = true;
-  for (PictureBox* box : {&form.picQuestion, &form.picQuestionPicture, &form.picSound, &form.picBonus, &form.picMOD,
-                          &form.picCorrect, &form.picWinner, &form.picStandby}) {
+  for (PictureBox* box :
+       {&form.picQuestion, &form.picQuestionPicture, &form.picSound, &form.picBonus, &form.picMOD, &form.picMODVideo,
+        &form.picMODPicture, &form.picCorrect, &form.picWinner, &form.picStandby}) {
     board_->Add(*box, panel);
   }
-  for (Image* image : {&form.imgQuestionBackground, &form.picImageResize[0], &form.imgSound, &form.imgBonus,
-                       &form.imgCorrect, &form.imgStandby}) {
+  for (Image* image : {&form.imgQuestionBackground, &form.picImageResize[0], &form.picImageResize[1], &form.imgSound,
+                       &form.imgBonus, &form.imgCorrect, &form.imgStandby}) {
     board_->Add(*image);
   }
   // A rule has fitted these, so they are drawn as told.
@@ -89,7 +93,9 @@ void ConsoleWindow::HoldUnseen() {
                     // What only measures.
                     "lblQuestionAutoResize", "lblAnswerAutoResize", "lblWinnerResize", "picEntScreen",
                     // Tell of the game's state to what asks for it; a button that does nothing would only mislead.
-                    "btnCorrect", "btnEnableAllBuzzers"});
+                    "btnCorrect", "btnEnableAllBuzzers", "btnPlayVideo", "btnStopVideo",
+                    // The player's own widget shows it.
+                    "MediaPlayer1"});
 }
 
 void ConsoleWindow::ShowForm() {

@@ -8,10 +8,11 @@
 namespace pawnfield {
 
 class MainForm;
+class MpvVideo;
 
 class ConsoleWindow : public FormWindow {
  public:
-  ConsoleWindow(MainForm& form, FormWindows& windows, PictureCache& pictures, Screens& screens);
+  ConsoleWindow(MainForm& form, FormWindows& windows, PictureCache& pictures, Screens& screens, MpvVideo& video);
   Canvas& Board() { return *board_; }
   // Comes to the front, as asked by a second start of the program.
   void ComeForward();

@@ -15,7 +15,7 @@ DesktopPlatform::DesktopPlatform(const DesktopPlaces& places, std::function<void
       pages(places.manualFolder),
       platform{clock,
                dialogs,
-               {eventPlayer, keyPressPlayer, soundClipPlayer, correctIncorrectPlayer, backgroundPlayer},
+               {eventPlayer, keyPressPlayer, soundClipPlayer, correctIncorrectPlayer, backgroundPlayer, mediaPlayer1},
                settings,
                files,
                text,

@@ -8,7 +8,7 @@
 #include "platform/desktop/form_windows.h"
 #include "platform/desktop/hidapi_port.h"
 #include "platform/desktop/linux_processes.h"
-#include "platform/desktop/mpv_channel.h"
+#include "platform/desktop/mpv_video.h"
 #include "platform/desktop/qt_clock.h"
 #include "platform/desktop/qt_dialogs.h"
 #include "platform/desktop/qt_displays.h"
@@ -36,6 +36,7 @@ class DesktopPlatform {
   QtClock clock;
   QtDialogs dialogs;
   MpvChannel eventPlayer, keyPressPlayer, soundClipPlayer, correctIncorrectPlayer, backgroundPlayer;
+  MpvVideo mediaPlayer1;
   QtSettingsStore settings;
   QtFileSystem files;
   QtTextMeasurer text;

@@ -13,8 +13,8 @@ namespace pawnfield {
 DesktopProgram::DesktopProgram(const DesktopPlaces& places)
     : desktop_(places, [this] { console_.ComeForward(); }),
       show_(desktop_.platform),
-      console_(show_.frmMain, desktop_.windows, pictures_, desktop_.screens),
-      audience_(show_.frmFSMain, show_.frmSS, desktop_.windows, pictures_, desktop_.screens),
+      console_(show_.frmMain, desktop_.windows, pictures_, desktop_.screens, desktop_.mediaPlayer1),
+      audience_(show_.frmFSMain, show_.frmSS, desktop_.windows, pictures_, desktop_.screens, desktop_.mediaPlayer1),
       connectToProjector_(show_.frmConnectToProjector, desktop_.windows, pictures_),
       loading_(show_.frmLoading, desktop_.windows),
       splash_(show_.frmSplash, desktop_.windows),
@@ -26,7 +26,9 @@ DesktopProgram::DesktopProgram(const DesktopPlaces& places)
       configKeys_(show_.frmConfigKeys, desktop_.windows),
       editor_(show_.frmEditor, desktop_.windows, pictures_),
       editChoice_(show_.frmEditChoice, desktop_.windows),
-      missingMedia_(show_.frmDialog2, desktop_.windows) {}
+      missingMedia_(show_.frmDialog2, desktop_.windows),
+      soundEffects_(show_.frmSoundEffects, desktop_.windows),
+      optionalHeaders_(show_.frmOptionalHeaders, desktop_.windows) {}
 
 // The clock outlives the forms, whose timers must not be looked at any more.
 DesktopProgram::~DesktopProgram() {
@@ -34,8 +36,9 @@ DesktopProgram::~DesktopProgram() {
 }
 
 std::vector<FormWindow*> DesktopProgram::Windows() {
-  return {&console_,      &audience_,    &connectToProjector_, &loading_,    &splash_, &gameLoading_, &gameInProgress_,
-          &gameTypeHelp_, &playerNames_, &helpAbout_,          &configKeys_, &editor_, &editChoice_,  &missingMedia_};
+  return {&console_,        &audience_,     &connectToProjector_, &loading_,        &splash_,     &gameLoading_,
+          &gameInProgress_, &gameTypeHelp_, &playerNames_,        &helpAbout_,      &configKeys_, &editor_,
+          &editChoice_,     &missingMedia_, &soundEffects_,       &optionalHeaders_};
 }
 
 void PrepareApplication() {

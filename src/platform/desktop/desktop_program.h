@@ -9,8 +9,10 @@
 #include "platform/desktop/desktop_platform.h"
 #include "platform/desktop/editor_window.h"
 #include "platform/desktop/help_about_window.h"
+#include "platform/desktop/optional_headers_window.h"
 #include "platform/desktop/player_names_window.h"
 #include "platform/desktop/small_windows.h"
+#include "platform/desktop/sound_effects_window.h"
 
 namespace pawnfield {
 
@@ -47,6 +49,8 @@ class DesktopProgram {
   EditorWindow editor_;
   EditChoiceWindow editChoice_;
   MissingMediaWindow missingMedia_;
+  SoundEffectsWindow soundEffects_;
+  OptionalHeadersWindow optionalHeaders_;
 };
 
 // What the application object needs before the first window: fonts, colours, number format.

@@ -1,6 +1,7 @@
 #include "platform/desktop/qt_clock.h"
 
 #include <QApplication>
+#include <QDateTime>
 #include <QThread>
 #include <QTimer>
 #include <QWidget>
@@ -40,6 +41,12 @@ class QtClock::RunningTimer : public Mirror {
 
 QtClock::QtClock() { elapsed_.start(); }
 QtClock::~QtClock() = default;
+
+LocalTime QtClock::Now() const {
+  const QDateTime now = QDateTime::currentDateTime();
+  return {now.date().year(), now.date().month(),  now.date().day(),
+          now.time().hour(), now.time().minute(), now.time().second()};
+}
 
 void QtClock::Attach(Form& form) {
   for (Control* control : form.Controls()) {

@@ -16,6 +16,7 @@ class QtClock : public Clock {
   QtClock();
   ~QtClock() override;
   std::int64_t NowMs() const override { return elapsed_.elapsed(); }
+  LocalTime Now() const override;
   void Attach(Form& form) override;
   void Detach(Form& form) override;
   void Pause(int ms) override;

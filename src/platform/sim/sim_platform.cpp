@@ -20,6 +20,7 @@ void PutImages(SimFiles& files, const std::string& folder) {
 SimPlatform::SimPlatform(Folders where)
     : platform{clock,    dialogs,   media.Channels(), settings, files,    text,  pictures,
                displays, processes, random,           hid,      printing, pages, std::move(where)} {
+  media.Deck.Time = &clock;
   const std::string app = platform.folders.App;
   PutImages(files, app + "\\Images");
   files.PutFolder(app + "\\Trivia Sets");

@@ -11,6 +11,8 @@ namespace pawnfield {
 class VirtualClock : public Clock, public Mirror {
  public:
   std::int64_t NowMs() const override { return now_; }
+  // What the calendar says; it stands still while the clock runs.
+  LocalTime Now() const override { return Calendar; }
   void Attach(Form& form) override;
   void Detach(Form& form) override;
   // What falls due meanwhile fires at the next Advance.
@@ -24,6 +26,8 @@ class VirtualClock : public Clock, public Mirror {
   void Sleep(std::int64_t ms) { now_ += ms; }
   // The timers that run now, in the order of starting.
   std::vector<const Timer*> Running() const;
+
+  LocalTime Calendar{2026, 3, 1, 20, 0, 0};
 
  private:
   struct Entry {

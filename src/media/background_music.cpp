@@ -1,0 +1,91 @@
+#include "media/background_music.h"
+
+#include "engine/errors.h"
+#include "engine/show.h"
+#include "media/sound_channels.h"
+#include "platform/text.h"
+
+namespace pawnfield {
+
+namespace {
+
+constexpr std::size_t kMostTracks = 100;
+constexpr std::size_t kLongestPath = 256;
+constexpr std::size_t kExtensionLength = 4;
+
+bool IsTrack(const std::string& name) {
+  if (name.size() < kExtensionLength) return false;
+  const std::string extension = ToLower(name.substr(name.size() - kExtensionLength));
+  return extension == ".wav" || extension == ".mp3";
+}
+
+bool MusicFileIsThere(const Show& show) {
+  const std::string& path = show.state.BgMusicFileName;
+  return !Trim(path).empty() && show.platform.files.CanOpen(path);
+}
+
+void PlayTrack(Show& show, const std::string& path) {
+  show.platform.media.BackgroundPlayer.SetUrl(path);
+  show.platform.media.BackgroundPlayer.SetPosition(0);
+}
+
+void PlayNextOfFolder(Show& show) {
+  GameState& state = show.state;
+  const int count = static_cast<int>(state.MusicList.size());
+  if (count == 0) return;
+  state.MusicIndex = state.MusicIndex >= count ? 1 : state.MusicIndex + 1;
+  PlayTrack(show, state.MusicList[static_cast<std::size_t>(state.MusicIndex - 1)]);
+}
+
+}  // namespace
+
+bool LoadMusicList(Show& show) {
+  const std::string folder = show.platform.folders.DataRoot + "\\BackgroundMusic\\";
+  std::vector<std::string>& list = show.state.MusicList;
+  list.clear();
+  for (const std::string& name : show.platform.files.List(folder, "")) {
+    if (!IsTrack(name)) continue;
+    if (list.size() == kMostTracks) {
+      ReportError(show.platform.dialogs, RuntimeError(kErrorSubscript, "Subscript out of range"), "frmMain",
+                  "LoadMusicList", folder);
+      break;
+    }
+    list.push_back((folder + name).substr(0, kLongestPath));
+  }
+  return !list.empty();
+}
+
+void DecideOnMusic(Show& show) {
+  GameState& state = show.state;
+  state.MusicIndex = 0;
+  switch (state.BackgroundMusic) {
+    case kMusicFolderMode:
+      state.MusicEnabled = LoadMusicList(show);
+      break;
+    case kMusicFileMode:
+      state.MusicEnabled = MusicFileIsThere(show);
+      break;
+    default:
+      state.MusicEnabled = false;
+  }
+  if (!state.MusicEnabled) state.BackgroundMusic = 0;
+}
+
+void StartMusic(Show& show) {
+  if (show.state.MusicEnabled) show.frmMain.tmrBGMusic.Enabled = true;
+  RestartBackground(show);
+}
+
+void tmrBGMusic_Timer(Show& show) {
+  if (!show.state.MusicEnabled) return;
+  const MediaChannel& player = show.platform.media.BackgroundPlayer;
+  // Equal at the end of a track, and when nothing has been played yet.
+  if (player.CurrentPosition() != player.Duration()) return;
+  if (show.state.BackgroundMusic == kMusicFolderMode) PlayNextOfFolder(show);
+  if (show.state.BackgroundMusic == kMusicFileMode && MusicFileIsThere(show)) {
+    PlayTrack(show, show.state.BgMusicFileName);
+  }
+  RestartBackground(show);
+}
+
+}  // namespace pawnfield

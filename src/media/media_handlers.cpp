@@ -1,0 +1,18 @@
+#include "media/media_handlers.h"
+
+#include "engine/show.h"
+#include "media/background_music.h"
+#include "media/media_on_demand.h"
+#include "media/optional_headers.h"
+#include "media/sound_effects.h"
+
+namespace pawnfield {
+
+void AttachMediaHandlers(Show& show) {
+  show.frmMain.tmrBGMusic.OnTimer = [&show] { tmrBGMusic_Timer(show); };
+  AttachMediaOnDemandHandlers(show);
+  AttachSoundEffectsHandlers(show);
+  AttachOptionalHeadersHandlers(show);
+}
+
+}  // namespace pawnfield
