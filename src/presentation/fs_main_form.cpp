@@ -71,8 +71,8 @@ FSMainForm::FSMainForm() : Form("frmFSMain") {
   lblRightWrong.Height = 3600;
   lblWinner.Font = {"Segoe UI", 72, true, false};
   tmrAnimate[0].Interval = 200;
-  for (PictureBox* panel :
-       {&picQuestion, &picQuestionPicture, &picHideQuestion, &picCorrect, &picWinner, &picBonus, &picMOD, &picSound}) {
+  for (PictureBox* panel : {&picQuestion, &picQuestionPicture, &picHideQuestion, &picCorrect, &picWinner, &picBonus,
+                            &picMOD, &picMODVideo, &picSound}) {
     panel->Visible = false;
   }
   OnResize = [this] { Form_Resize(); };

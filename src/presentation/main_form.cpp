@@ -190,7 +190,7 @@ void MainForm::PlaceControls() {
 void MainForm::SetInitialStates() {
   tmrAnimate[0].Interval = 200;
   tmrAnimate[1].Interval = 200;
-  Hide(picQuestion, picQuestionPicture, picSound, picBonus, picMOD, picCorrect, picWinner);
+  Hide(picQuestion, picQuestionPicture, picSound, picBonus, picMOD, picMODVideo, picMODPicture, picCorrect, picWinner);
   Hide(imgBkgnd, imgXa, imgXb, imgOa, imgOb, imgTa, imgTb, imgStandardStandby, imgStandardBonus, imgStandardHeader);
   for (std::size_t i = 0; i < 4; ++i) imgCursor[i].Visible = false;
   for (std::size_t i = 1; i < 5; ++i) lblQuestion[i].Visible = false;

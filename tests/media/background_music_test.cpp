@@ -94,6 +94,7 @@ TEST_F(Music, AHundredTracksAreKeptAndTheRestIsTold) {
 }
 
 TEST_F(Music, ASoundQuestionPausesItAndACorrectAnswerBringsItBack) {
+  fixture.sim.files.Put("C:\\Pawnfield\\Sounds\\clip.wav", "sound");
   fixture.WriteSet("Mixed", {"C:\\Pawnfield\\Sounds\\clip.wav", "Next?"});
   Begin("1", {"a.mp3"});
   fixture.form().optGameType[2].Click();
