@@ -2,6 +2,7 @@
 
 #include <gtest/gtest.h>
 
+#include <QEvent>
 #include <QProcess>
 #include <QTemporaryDir>
 #include <QTimer>
@@ -59,6 +60,28 @@ class KeysShowTest : public testing::Test {
   MainForm& form_ = show_.frmMain;
   GameState& state_ = show_.state;
 };
+
+// Counts what is painted of a widget.
+class PaintCount : public QObject {
+ public:
+  explicit PaintCount(QWidget& widget) { widget.installEventFilter(this); }
+  bool eventFilter(QObject*, QEvent* event) override {
+    if (event->type() == QEvent::Paint) ++Paints;
+    return false;
+  }
+  int Paints = 0;
+};
+
+TEST_F(KeysShowTest, BothScreensArePaintedBeforeAPause) {
+  PaintCount board(driver_->Program().Console().Board()), audience(driver_->Program().Audience().Screen());
+  for (const bool shown : {false, true}) {
+    board.Paints = audience.Paints = 0;
+    form_.picStandby.Visible = show_.frmFSMain.picStandby.Visible = shown;
+    show_.platform.clock.Pause(1);
+    EXPECT_EQ(board.Paints, 1);
+    EXPECT_EQ(audience.Paints, 1);
+  }
+}
 
 TEST_F(KeysShowTest, TriviaModeAFromItsOptionsToTheWinner) {
   ASSERT_TRUE(Wait([this] { return form_.fraGridControl.Enabled.Get(); }));
