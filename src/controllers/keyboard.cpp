@@ -9,6 +9,7 @@
 #include "engine/question_cycle.h"
 #include "engine/show.h"
 #include "engine/turn_order.h"
+#include "media/media_on_demand.h"
 #include "platform/text.h"
 #include "presentation/both_screens.h"
 
@@ -113,6 +114,12 @@ void SquareKey(Show& show, int key) {
   }
 }
 
+// A letter brings up its row of the sound table, 9 for A to 34 for Z, also when a stage before has used it.
+void MediaKey(Show& show, int key) {
+  if (key >= 'A' && key <= 'Z') PlayKeyMedia(show, key - 'A' + 9);
+  if (key >= 'a' && key <= 'z') PlayKeyMedia(show, key - 'a' + 9);
+}
+
 }  // namespace
 
 void SelectControllerPlayer(Show& show, int group, int number) {
@@ -134,6 +141,7 @@ void ProcessKeyPress(Show& show, int keyAscii) {
   ControlKey(show, keyAscii);
   JudgingKey(show, keyAscii);
   SquareKey(show, keyAscii);
+  MediaKey(show, keyAscii);
 }
 
 }  // namespace pawnfield

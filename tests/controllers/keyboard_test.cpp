@@ -186,6 +186,26 @@ TEST(KeyboardTest, HeldRingInKeyCountsOnce) {
   EXPECT_EQ(keyboard.fixture.audience().lblPlayerName.Caption, "PLAYER 2");
 }
 
+TEST(KeyboardTest, LettersBringUpTheirMediaWhateverElseTheyDo) {
+  Keyboard keyboard(kTriviaModeA);
+  for (const std::size_t row : {9U, 11U, 33U, 34U}) {
+    const std::string path = "C:\\Pawnfield\\Sounds\\" + std::to_string(row) + ".wav";
+    keyboard.fixture.sim.files.Write(path, "sound");
+    keyboard.show.soundBanks[1][row] = path;
+  }
+  keyboard.Begin();
+  keyboard.show.state.KeyControl = false;
+  keyboard.fixture.sim.media.Log.clear();
+  keyboard.Type("AzYb@[`{c5");
+  std::string played;
+  for (const std::string& line : keyboard.fixture.sim.media.Log) {
+    if (line.starts_with("KeyPressPlayer url ")) played += line.substr(39) + " ";
+  }
+  EXPECT_EQ(played, "9.wav 34.wav 33.wav 11.wav ");
+  EXPECT_TRUE(keyboard.form.btnQuestionCorrect.Visible) << "keyboard control is off";
+  EXPECT_EQ(keyboard.form.txtDJCommand.Text, "A") << "the letter is a column as well";
+}
+
 struct KeypadCase {
   int SerialComm;
   // What the digit's pad is routed to.
