@@ -1,4 +1,5 @@
 // Any bytes load as a set; what was loaded survives being written and read again.
+#include <algorithm>
 #include <cstddef>
 #include <cstdint>
 #include <cstdlib>
@@ -37,6 +38,10 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
   std::string bytes = FormatSet(*read);
   Require(ParseSet(bytes, *again) == count);
   CheckWording(*read, *again, count);
+  // A repaired set is written without the records behind its end, and holds no more than the editor can make.
+  Require(ParseSet(FormatQuestions(*read), *again) == std::min(count, kSetCapacity - 1));
+  CheckWording(*read, *again, std::min(count, kSetCapacity - 1));
+  ParseSet(bytes, *again);
   for (int round = 1; round < kRoundsToSettle; ++round) {
     bytes = FormatSet(*again);
     ParseSet(bytes, *again);

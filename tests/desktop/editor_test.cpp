@@ -3,15 +3,22 @@
 
 #include <gtest/gtest.h>
 
+#include <QApplication>
 #include <QClipboard>
 #include <QDir>
 #include <QFile>
-#include <QGuiApplication>
+#include <QFileDialog>
 #include <QKeyEvent>
+#include <QLineEdit>
+#include <QPrinter>
 #include <QTemporaryDir>
 #include <QTest>
+#include <QTimer>
 
 #include "editor_driver.h"
+#include "platform/desktop/native_path.h"
+#include "platform/desktop/qt_dialogs.h"
+#include "platform/desktop/qt_printing.h"
 #include "platform/desktop/set_text_edit.h"
 
 namespace pawnfield {
@@ -75,6 +82,73 @@ TEST_F(SetTextEditTest, TypingIsHeldToTheSame) {
   QTest::keyClick(&view_, Qt::Key_Return);
   EXPECT_EQ(box_.Text.Get(), "a");
   EXPECT_TRUE(view_.Notice().contains("(U+03B1)"));
+}
+
+PrintDocument LongQuestions(int count) {
+  PrintDocument document{"Long Questions", {{"Long Questions", " "}}};
+  for (int i = 1; i <= count; ++i) {
+    const std::string words = QString("long words of question %1 ").arg(i).repeated(10).toStdString().substr(0, 250);
+    document.Blocks.push_back({std::to_string(i) + ". " + words, "Answer " + std::to_string(i), " "});
+  }
+  return document;
+}
+
+int PagesOf(const QString& file) {
+  QFile pdf(file);
+  EXPECT_TRUE(pdf.open(QIODevice::ReadOnly));
+  return static_cast<int>(pdf.readAll().count("/Type /Page\n"));
+}
+
+TEST(PrintTest, PagesBreakBetweenQuestionsAndCopiesBeginAnew) {
+  const QTemporaryDir folder;
+  const auto print = [&](const PrintDocument& document, int copies) {
+    QPrinter printer(QPrinter::HighResolution);
+    printer.setOutputFileName(folder.filePath("set.pdf"));
+    PaintDocument(printer, document, copies);
+    return PagesOf(folder.filePath("set.pdf"));
+  };
+  EXPECT_EQ(print(LongQuestions(1), 1), 1);
+  EXPECT_EQ(print(LongQuestions(1), 3), 3);
+  const int pages = print(LongQuestions(100), 1);
+  EXPECT_GT(pages, 5);
+  EXPECT_LT(pages, 12);
+  // One block longer than a page is carried on, and nothing of it is lost.
+  EXPECT_GT(print({"T", {{"T", " "}, PrintBlock(100, "a line")}}, 1), 1);
+  QPrinter nowhere(QPrinter::HighResolution);
+  nowhere.setOutputFileName(folder.filePath("none/set.pdf"));
+  EXPECT_THROW(PaintDocument(nowhere, LongQuestions(1), 1), RuntimeError);
+}
+
+// Answers the file dialog that is open by a press of Escape, and tells where it began.
+QString WhereItBegins(QtDialogs& dialogs, const FileDialogRequest& request) {
+  QString folder;
+  QTimer::singleShot(200, qApp, [&] {
+    auto* dialog = qobject_cast<QFileDialog*>(QApplication::activeModalWidget());
+    if (dialog == nullptr) return;
+    folder = dialog->directory().path() + '|' + dialog->findChild<QLineEdit*>("fileNameEdit")->text() + '|' +
+             dialog->nameFilters().join(';');
+    EXPECT_LE(dialog->history().size(), 1);
+    dialog->reject();
+  });
+  EXPECT_EQ(dialogs.ChooseFile(request), "");
+  return folder;
+}
+
+TEST(FileDialogTest, BeginsWhereItIsToldAndRemembersNothing) {
+  const QTemporaryDir folder;
+  FormWindows windows;
+  QtDialogs dialogs(windows);
+  FileDialogRequest request;
+  request.Filter = "Game Sets(*.txt)|*.txt";
+  request.InitialFolder = *SpelledPath(folder.path());
+  request.FileName = "Quiz.txt";
+  const QString filter = "|Game Sets (*.txt)";
+  EXPECT_EQ(WhereItBegins(dialogs, request), folder.path() + "|Quiz.txt" + filter);
+  request.FileName.clear();
+  request.InitialFolder += "\\gone\\too";
+  EXPECT_EQ(WhereItBegins(dialogs, request), folder.path() + '|' + filter);
+  request.InitialFolder = "D:\\Shows";
+  EXPECT_EQ(WhereItBegins(dialogs, request), QDir::currentPath() + '|' + filter);
 }
 
 bool PlayedToTheWinner(ShowDriver& driver) {

@@ -38,6 +38,8 @@ Folders FindFolders() {
   Folders folders;
   folders.App = SpelledPath(app).value_or("");
   folders.DataRoot = SpelledPath(DataHome() + "/Ostara Show Kit Data").value_or("");
+  // Only a Windows says where it is installed.
+  folders.SystemDrive = qEnvironmentVariable("SystemDrive").toStdString();
   return folders;
 }
 

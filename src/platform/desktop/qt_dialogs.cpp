@@ -88,9 +88,9 @@ std::string QtDialogs::ChooseFile(const FileDialogRequest& request) {
   if (!request.Filter.empty()) dialog.setNameFilters(FilterList(request.Filter).split(";;"));
   if (!request.FileName.empty()) dialog.selectFile(FromWindows1252(request.FileName));
   dialog.setDefaultSuffix(FromWindows1252(request.DefaultExtension));
-  const bool accepted = dialog.exec() == QDialog::Accepted && !dialog.selectedFiles().isEmpty();
-  // The toolkit would keep the folders gone through for every dialog to come.
+  // The toolkit keeps the folders gone through for every dialog to come.
   dialog.setHistory({});
+  const bool accepted = dialog.exec() == QDialog::Accepted && !dialog.selectedFiles().isEmpty();
   if (!accepted) return "";
   const QString chosen = dialog.selectedFiles().first();
   const auto spelled = SpelledPath(chosen);
