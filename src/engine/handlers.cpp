@@ -1,6 +1,7 @@
 #include "engine/handlers.h"
 
 #include "config/help.h"
+#include "config/options_dialog.h"
 #include "controllers/companion.h"
 #include "controllers/config_keys.h"
 #include "controllers/keyboard.h"
@@ -173,7 +174,8 @@ std::vector<Form*> AllForms(Show& show) {
           &show.frmSS,
           &show.frmConnectToProjector,
           &show.frmSoundEffects,
-          &show.frmOptionalHeaders};
+          &show.frmOptionalHeaders,
+          &show.frmOptions};
 }
 
 void AttachHandlers(Show& show) {
@@ -186,6 +188,7 @@ void AttachHandlers(Show& show) {
   AttachEditorHandlers(show);
   AttachHelpHandlers(show);
   AttachConfigKeysHandlers(show);
+  AttachOptionsDialogHandlers(show);
   BindSoundChannels(show);
   AttachAudienceHandlers(show);
   AttachMediaHandlers(show);

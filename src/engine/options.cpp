@@ -16,9 +16,8 @@ void SetCommonOptions(MainForm& form, bool enabled) {
   for (std::size_t i = 0; i < 5; ++i) form.optGameType[i].Enabled = enabled;
   SetEnabled({&form.chkHideQuestion, &form.lblHidequestionOption, &form.chkExtKeyboardCtrl, &form.lblExtKeyboardCtrl,
               &form.chkAnimation, &form.lblShowAnimation, &form.chkIncorrectPenalty, &form.lblLose100Points,
-              &form.cboTimedResponse, &form.lblTimedResponse, &form.fileClearAllScores},
+              &form.cboTimedResponse, &form.lblTimedResponse, &form.fileClearAllScores, &form.mnuFileOptions},
              enabled);
-  form.mnuFileOptions.Enabled = enabled && form.mnuFileOptions.OnClick != nullptr;
 }
 
 }  // namespace

@@ -9,6 +9,7 @@
 #include <string>
 #include <vector>
 
+#include "config/options_form.h"
 #include "controllers/press_state.h"
 #include "controllers/transceiver.h"
 #include "engine/game_state.h"
@@ -107,6 +108,7 @@ struct Show {
   ConfigKeysForm frmConfigKeys;
   SoundEffectsForm frmSoundEffects;
   OptionalHeadersForm frmOptionalHeaders;
+  OptionsForm frmOptions;
 
   // The path of a file of the program's folder, as in AppPath("\\Images\\scorebox.bmp").
   std::string AppPath(const std::string& tail) const { return platform.folders.App + tail; }

@@ -4,6 +4,7 @@
 
 #include <QApplication>
 #include <QFile>
+#include <QTabWidget>
 #include <QTextStream>
 
 #include "editor_driver.h"
@@ -123,6 +124,12 @@ void ShowForms(ShowDriver& driver, Script& script) {
   picture("frmHelpAbout", form.mnuHelpAbout);
   picture("frmConfigKeys", form.btnEditKeyboardCtrl);
   picture("frmConnectToProjector", form.mnuHelpProjector);
+  picture("frmSoundEffects", form.btnSounds);
+  picture("frmOptionalHeaders", form.mnuFileOptionalHeaders);
+  for (const int tab : {0, 1}) {
+    driver.Form("frmOptions")->findChild<QTabWidget*>("SSTab1")->setCurrentIndex(tab);
+    picture("frmOptions", form.mnuFileOptions);
+  }
 }
 
 }  // namespace

@@ -118,6 +118,13 @@ bool ShowDriver::Choose(const QString& combo, const QString& item) {
   return box->currentText() == item || !box->view()->isVisible();
 }
 
+FormWindow* ShowDriver::Form(const QString& name) {
+  for (FormWindow* window : program_.Windows()) {
+    if (window->objectName() == name) return window;
+  }
+  return nullptr;
+}
+
 void ShowDriver::SaveForm(FormWindow& window) {
   QDir().mkpath(folder_);
   const QString path =
@@ -127,10 +134,7 @@ void ShowDriver::SaveForm(FormWindow& window) {
 
 bool ShowDriver::PictureOfForm(const QString& form, const std::function<void()>& open) {
   constexpr int kSettledMs = 300;
-  FormWindow* window = nullptr;
-  for (FormWindow* each : program_.Windows()) {
-    if (each->objectName() == form) window = each;
-  }
+  FormWindow* window = Form(form);
   if (window == nullptr) return false;
   bool opened = false;
   // A modal form stops the caller until it is closed, so its picture is taken from a timer.

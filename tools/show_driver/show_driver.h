@@ -34,6 +34,8 @@ class ShowDriver {
   // Saves NN-name-console.png and NN-name-audience.png, and prints where they are.
   void TakePictures(const QString& name);
 
+  // The window of that form, null when there is none.
+  FormWindow* Form(const QString& name);
   // Opens a form, saves NN-form.png of its window with the mouse away from it, and closes it. False when it did not
   // open.
   bool PictureOfForm(const QString& form, const std::function<void()>& open);

@@ -28,7 +28,8 @@ DesktopProgram::DesktopProgram(const DesktopPlaces& places)
       editChoice_(show_.frmEditChoice, desktop_.windows),
       missingMedia_(show_.frmDialog2, desktop_.windows),
       soundEffects_(show_.frmSoundEffects, desktop_.windows),
-      optionalHeaders_(show_.frmOptionalHeaders, desktop_.windows) {}
+      optionalHeaders_(show_.frmOptionalHeaders, desktop_.windows),
+      options_(show_.frmOptions, desktop_.windows) {}
 
 // The clock outlives the forms, whose timers must not be looked at any more.
 DesktopProgram::~DesktopProgram() {
@@ -36,9 +37,9 @@ DesktopProgram::~DesktopProgram() {
 }
 
 std::vector<FormWindow*> DesktopProgram::Windows() {
-  return {&console_,        &audience_,     &connectToProjector_, &loading_,        &splash_,     &gameLoading_,
-          &gameInProgress_, &gameTypeHelp_, &playerNames_,        &helpAbout_,      &configKeys_, &editor_,
-          &editChoice_,     &missingMedia_, &soundEffects_,       &optionalHeaders_};
+  return {&console_,        &audience_,     &connectToProjector_, &loading_,         &splash_,     &gameLoading_,
+          &gameInProgress_, &gameTypeHelp_, &playerNames_,        &helpAbout_,       &configKeys_, &editor_,
+          &editChoice_,     &missingMedia_, &soundEffects_,       &optionalHeaders_, &options_};
 }
 
 void PrepareApplication() {

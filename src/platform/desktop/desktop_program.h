@@ -10,6 +10,7 @@
 #include "platform/desktop/editor_window.h"
 #include "platform/desktop/help_about_window.h"
 #include "platform/desktop/optional_headers_window.h"
+#include "platform/desktop/options_window.h"
 #include "platform/desktop/player_names_window.h"
 #include "platform/desktop/small_windows.h"
 #include "platform/desktop/sound_effects_window.h"
@@ -51,6 +52,7 @@ class DesktopProgram {
   MissingMediaWindow missingMedia_;
   SoundEffectsWindow soundEffects_;
   OptionalHeadersWindow optionalHeaders_;
+  OptionsWindow options_;
 };
 
 // What the application object needs before the first window: fonts, colours, number format.

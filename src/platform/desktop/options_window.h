@@ -1,0 +1,15 @@
+// frmOptions' window with its two tabs.
+#pragma once
+
+#include "platform/desktop/form_window.h"
+
+namespace pawnfield {
+
+struct OptionsForm;
+
+class OptionsWindow : public FormWindow {
+ public:
+  OptionsWindow(OptionsForm& form, FormWindows& windows);
+};
+
+}  // namespace pawnfield
