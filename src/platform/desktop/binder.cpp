@@ -21,7 +21,8 @@ bool IsFormWidget(const QWidget& widget, const QWidget& window) {
   if (name.isEmpty() || name.startsWith("qt_") || name.startsWith("pnl")) return false;
   for (const QWidget* parent = widget.parentWidget(); parent != nullptr && parent != &window;
        parent = parent->parentWidget()) {
-    if (parent->inherits("QComboBox") || parent->inherits("QAbstractItemView")) return false;
+    if (parent->inherits("QComboBox") || parent->inherits("QAbstractItemView") || parent->inherits("QTabBar"))
+      return false;
   }
   return true;
 }
