@@ -16,6 +16,10 @@ bool MeasureStartUp();
 // the time that the console takes from the start of its load to its first paint.
 int RunStartUp(long long startedNs, const QString& folder);
 
+// What the audience's window costs at 1920x1080 and at 3840x2160: frames, a claim until both windows are painted, the
+// flip and standing still. False where there is no second monitor.
+bool MeasurePaints();
+
 // Fits a long question into both boxes with the desktop's own measurer, quickly and plainly.
 void MeasureFits();
 

@@ -22,5 +22,6 @@ int main(int argc, char** argv) {
   pawnfield::PrepareApplication();
   if (argc == 3) return pawnfield::RunStartUp(std::stoll(argv[1]), QString::fromLocal8Bit(argv[2]));
   pawnfield::MeasureFits();
-  return pawnfield::MeasureStartUp() ? 0 : 1;
+  const bool painted = pawnfield::MeasurePaints();
+  return pawnfield::MeasureStartUp() && painted ? 0 : 1;
 }

@@ -1,5 +1,7 @@
 #include "gallery.h"
 
+#include <QTextStream>
+
 #include "config/settings.h"
 #include "engine/question_cycle.h"
 #include "engine/win_detection.h"
@@ -28,7 +30,7 @@ void WriteSet(Show& show) {
   const auto pictures = show.platform.files.List(media.substr(0, media.size() - 1), ".jpg");
   const auto sounds = show.platform.files.List(media.substr(0, media.size() - 1), ".wav");
   const std::string font = "T#Courier New#28#True#True#16777215#\r\n";
-  std::string bytes = "How many pieces stand on a chess board when a game begins?\r\nThirty-two\r\n" + font;
+  std::string bytes = "How many pieces stand on the chess board when a game begins?\r\nThirty-two\r\n" + font;
   bytes += LongQuestion() + "\r\nThomas Alva Edison, the wizard of Menlo Park\r\n" + font;
   if (!pictures.empty()) bytes += media + pictures[0] + "\r\nA picture\r\nP\r\n";
   if (!sounds.empty()) bytes += media + sounds[0] + "\r\nA melody\r\nS\r\n";
@@ -63,12 +65,14 @@ class Gallery {
     show_.state.Animation = true;
     Do(driver_.Press("btnStart"));
     driver_.TakePictures("question-text");
+    TellLetters("a question of 60 characters", show_.frmFSMain.lblQuestion[0]);
     Do(driver_.Press("btnSelectPlayer_1"));
     driver_.TakePictures("cover");
     Do(driver_.Press("btnQuestionIncorrect"));
     Verdict("verdict-incorrect");
     Next();
     driver_.TakePictures("question-256-characters");
+    TellLetters("a question of 256 characters", show_.frmFSMain.lblQuestion[0]);
     Do(driver_.Press("btnSelectPlayer_0"));
     Do(driver_.Press("btnQuestionCorrect"));
     Verdict("verdict-correct");
@@ -88,6 +92,7 @@ class Gallery {
   void Winners() {
     form_.tmrAutoContinue.Enabled = false;
     for (const Panel panel : {Panel::Question, Panel::Standby}) HidePanel(show_, panel);
+    TellLetters("PLAYER 1", show_.frmFSMain.lblPlayer[0]);
     for (int tied = 1; tied <= 3; ++tied) {
       for (int player = 1; player <= 3; ++player) SetScore(show_, player, player <= tied ? "450" : "50");
       Winner(QString("winner-%1").arg(tied));
@@ -97,12 +102,19 @@ class Gallery {
       SetScore(show_, player, "-999999");
     }
     driver_.TakePictures("long-names-and-scores");
+    TellLetters("the longest name", show_.frmFSMain.lblPlayer[0]);
+    TellLetters("the longest score", show_.frmFSMain.Label11[0]);
     for (int player = 1; player <= 3; ++player) SetScore(show_, player, "450");
     Winner("winner-3-long-names");
   }
 
  private:
   void Do(bool done) { worked_ = worked_ && done; }
+
+  void TellLetters(const QString& what, const Control& label) {
+    const double height = driver_.Program().Audience().Screen().LetterHeight(label);
+    QTextStream(stdout) << "capitals of " << what << ": 1/" << show_.frmFSMain.Height / height << " of the picture\n";
+  }
 
   // Without its blinking.
   void Verdict(const QString& name) {

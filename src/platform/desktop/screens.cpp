@@ -11,7 +11,7 @@ namespace {
 // A change of monitors comes as a burst of signals, and the window manager has its say after it.
 constexpr int kSoonMs = 30;
 constexpr int kSettledMs = 600;
-constexpr int kRefreshMs = 100;
+constexpr int kRefreshMs = 250;
 }  // namespace
 
 Screens::Screens() {
