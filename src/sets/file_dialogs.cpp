@@ -23,7 +23,7 @@ std::string ShowFileDialog(Show& show, const FileDialogSpec& spec) {
   const bool hasFolder = spec.FileName.find('\\') != std::string::npos;
   request.InitialFolder = hasFolder ? ExtractFolder(spec.FileName) : spec.InitialFolder;
   request.FileName = hasFolder ? ExtractFileName(spec.FileName) : spec.FileName;
-  const std::string chosen = show.platform.dialogs.ChooseFile(request);
+  std::string chosen = show.platform.dialogs.ChooseFile(request);
   if (chosen.size() <= kLongestPath) return chosen;
   Tell(show, "Error with filename(s).");
   return "";
