@@ -74,8 +74,8 @@ TEST_F(WindowsTest, NothingIsCutAtTheLeastSize) {
 TEST(FittingScale, LowersOnlyWhatMakesTheConsoleLargerThanItsMonitor) {
   EXPECT_EQ(FittingShare(1, 1280, 800), 1);
   EXPECT_EQ(FittingShare(2, 3840, 2160), 1);
-  EXPECT_NEAR(1.5 * FittingShare(1.5, 1280, 800), 1.07, 0.02);
-  EXPECT_NEAR(2 * FittingShare(2, 1920, 1080), 1.44, 0.02);
+  EXPECT_NEAR(1.5 * FittingShare(1.5, 1280, 800), 1.02, 0.01);
+  EXPECT_NEAR(2 * FittingShare(2, 1920, 1080), 1.38, 0.01);
   EXPECT_NEAR(FittingShare(1, 1024, 768), 0.86, 0.01);
 }
 

@@ -10,7 +10,7 @@ namespace pawnfield {
 namespace {
 // The console's least size, and the frame around it.
 constexpr double kNeededWidth = 1190;
-constexpr double kNeededHeight = 750;
+constexpr double kNeededHeight = 782;
 constexpr const char* kFactor = "QT_SCALE_FACTOR";
 }  // namespace
 
