@@ -9,6 +9,8 @@ namespace {
 // Two thirds of the audience's screen: a text of the preview's largest size, 80, is shown there at its largest, 120.
 constexpr double kPreviewWidth = 10240;
 constexpr double kPreviewHeight = 7680;
+// The middle tone of the ground behind the audience's questions.
+constexpr Color kPreviewField = 0x441E12;
 
 }  // namespace
 
@@ -24,6 +26,7 @@ EditorForm::EditorForm() : Form("frmEditor") {
   for (Control* panel : std::initializer_list<Control*>{&txtDisplayQuestion, &picQuestionPicture}) {
     panel->MoveTo(0, 0, kPreviewWidth, kPreviewHeight);
   }
+  txtDisplayQuestion.BackColor = kPreviewField;
   frmSoundButtons.MoveTo(2620, 3090, 5000, 1500);
   imgQuestionPicture.Container = &picQuestionPicture;
   btnPlay.Container = &frmSoundButtons;

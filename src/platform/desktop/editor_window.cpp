@@ -22,7 +22,7 @@ constexpr int kToolHeight = 32;
 constexpr int kMoveHeight = 44;
 constexpr int kGap = 8;
 constexpr int kEdge = 16;
-constexpr int kPreviewUnit = 168;
+constexpr int kPreviewUnit = 180;
 
 template <typename Widget>
 Widget* Named(Widget* widget, const char* name) {
@@ -138,6 +138,7 @@ void EditorWindow::AddTools(QVBoxLayout& column) {
   AddButtons(row, kToolHeight, {"btnText", "btnPicture", "btnSound"});
   row.addSpacing(kEdge);
   AddButtons(row, kToolHeight, {"btnFont", "btnFontColor", "btnDefault"});
+  row.addSpacing(kEdge);
   row.addStretch();
   row.addWidget(MakeLabel("lblImport", "quiet"));
   row.addWidget(MakeButton("btnImport", kToolHeight));
