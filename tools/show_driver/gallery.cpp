@@ -46,6 +46,8 @@ class Gallery {
   void Boards() {
     Do(driver_.Press("optGameType_0"));
     for (int grid = 3; grid <= 5; ++grid) {
+      // The grid is offered again by a slow timer.
+      Do(driver_.WaitFor([&] { return form_.fraGridControl.Enabled.Get(); }));
       Do(driver_.Press(QString("optGridControl_%1").arg(grid - 3)));
       Do(driver_.Press("btnPlayMode"));
       driver_.TakePictures(QString("board-%1-empty").arg(grid));
