@@ -4,8 +4,10 @@
 #include "config/options_dialog.h"
 #include "controllers/companion.h"
 #include "controllers/config_keys.h"
+#include "controllers/detection.h"
 #include "controllers/keyboard.h"
 #include "controllers/ring_in.h"
+#include "controllers/zr610.h"
 #include "engine/board_play.h"
 #include "engine/errors.h"
 #include "engine/game_flow.h"
@@ -175,7 +177,9 @@ std::vector<Form*> AllForms(Show& show) {
           &show.frmConnectToProjector,
           &show.frmSoundEffects,
           &show.frmOptionalHeaders,
-          &show.frmOptions};
+          &show.frmOptions,
+          &show.frmMapMF,
+          &show.frmSetInterface};
 }
 
 void AttachHandlers(Show& show) {
@@ -189,6 +193,7 @@ void AttachHandlers(Show& show) {
   AttachHelpHandlers(show);
   AttachConfigKeysHandlers(show);
   AttachOptionsDialogHandlers(show);
+  AttachPressHandlers(show);
   BindSoundChannels(show);
   AttachAudienceHandlers(show);
   AttachMediaHandlers(show);

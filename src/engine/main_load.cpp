@@ -4,7 +4,9 @@
 
 #include "config/settings.h"
 #include "controllers/companion.h"
+#include "controllers/detection.h"
 #include "controllers/ring_in.h"
+#include "controllers/zr610.h"
 #include "engine/errors.h"
 #include "engine/game_flow.h"
 #include "engine/show.h"
@@ -274,9 +276,10 @@ void ShowConsole(Show& show) {
 void LoadMainForm(Show& show) {
   // Each step reports its own failure, so that one bad value or file leaves the rest of the load whole.
   for (const auto step :
-       {SetDesignPictures, CreateTransceiver, LoadRoutingAndPoints, StartForm, LoadScreenPictures, FillSetList,
-        LoadGameOptions, LoadPlayOptions, LoadSounds, LoadRulesAndVolumes, DecideOnMusic, StartMusic,
-        LoadOptionalHeaders, ShowIdleBoard, ShowAudience, LoadScreenSettings, ShowConsole, LoadPieces}) {
+       {SetDesignPictures, LoadInterfaceFile,   LoadZR610,          CreateTransceiver, LoadRoutingAndPoints,
+        StartForm,         LoadScreenPictures,  FillSetList,        LoadGameOptions,   LoadPlayOptions,
+        LoadSounds,        LoadRulesAndVolumes, DecideOnMusic,      StartMusic,        LoadOptionalHeaders,
+        ShowIdleBoard,     ShowAudience,        LoadScreenSettings, ShowConsole,       LoadPieces}) {
     RunStep(show, step);
   }
   LightScoreBox(show, 0);

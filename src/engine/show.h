@@ -22,6 +22,7 @@
 #include "presentation/help_about_form.h"
 #include "presentation/main_form.h"
 #include "presentation/player_names_form.h"
+#include "presentation/press_forms.h"
 #include "presentation/second_screen_form.h"
 #include "presentation/small_forms.h"
 #include "sets/editor_form.h"
@@ -103,6 +104,8 @@ struct Show {
   EditorForm frmEditor;
   EditChoiceForm frmEditChoice;
   MissingMediaForm frmDialog2;
+  MapMFForm frmMapMF;
+  SetInterfaceForm frmSetInterface;
   PlayerNamesForm frmPlayerNames;
   HelpAboutForm frmHelpAbout;
   ConfigKeysForm frmConfigKeys;

@@ -4,10 +4,10 @@
 
 #include "config/settings.h"
 #include "controllers/companion.h"
+#include "controllers/detection.h"
 #include "controllers/shared_key.h"
 #include "engine/errors.h"
 #include "engine/handlers.h"
-#include "engine/main_load.h"
 #include "engine/show.h"
 #include "platform/text.h"
 #include "presentation/audience_screen.h"
@@ -17,16 +17,10 @@ namespace pawnfield {
 
 namespace {
 
-constexpr int kManualMode = 6;
-
 // The audience screen is in use where a second monitor is; without one it would stand off the right edge.
 void ReadMonitors(Show& show) {
   FindAudiencePlace(show);
   show.state.DualScreen = HasSecondMonitor(show);
-}
-
-void ShowAudienceInManualMode(Show& show) {
-  if (show.state.DualScreen) ShowAudienceScreen(show, show.state.FSLeft);
 }
 
 }  // namespace
@@ -98,16 +92,6 @@ void tmrProgress_Timer(Show& show) {
   form.tmrSplash.Enabled = true;
 }
 
-void tmrSplash_Timer(Show& show) {
-  show.frmSplash.tmrSplash.Enabled = false;
-  show.platform.dialogs.MessageBox("No hardware was detected so you will be loaded in manual mode.", kAppTitle,
-                                   BoxKind::Plain);
-  show.state.SerialComm = kManualMode;
-  ShowAudienceInManualMode(show);
-  LoadMainForm(show);
-  show.frmSplash.Visible = false;
-}
-
 bool Form_QueryUnload(Show& show) {
   Displays& displays = show.platform.displays;
   displays.SetTopMost(show.frmMain, true);
@@ -130,9 +114,12 @@ void fileExit(Show& show) {
   RunGuarded(
       show.platform.dialogs, [&] { SaveAllSettings(show); }, "frmMain", "fileExit");
   ReportExit(show);
+  RunGuarded(
+      show.platform.dialogs, [&] { SaveInterfaceFile(show); }, "frmMain", "fileExit");
   show.dgTransceiver.reset();
   RunGuarded(
       show.platform.dialogs, [&] { UnloadAudienceScreen(show); }, "frmFSMain", "Form_Unload");
+  show.platform.serial.Close();
   for (Form* other : AllForms(show)) other->Visible = false;
   show.platform.processes.EndProgram();
 }

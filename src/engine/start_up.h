@@ -18,7 +18,6 @@ void PrepareDataFolders(Show& show);
 
 void tmrAlwaysLoaded_Timer(Show& show);
 void tmrProgress_Timer(Show& show);
-void tmrSplash_Timer(Show& show);
 
 // The close box's question; true lets the console close.
 bool Form_QueryUnload(Show& show);

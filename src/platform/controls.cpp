@@ -113,6 +113,12 @@ void ComboBox::Select(int index) {
   Raise(OnClick, "_Click");
 }
 
+void ListView::Select(int index) {
+  if (!IsReachable() || index < 0 || index >= static_cast<int>(ListItems->size())) return;
+  SelectedItem = index;
+  Raise(OnClick, "_Click");
+}
+
 void CheckBox::Click() {
   if (!IsReachable()) return;
   Value = Value == 0 ? 1 : 0;

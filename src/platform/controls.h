@@ -75,7 +75,8 @@ enum class ControlKind {
   Frame,
   ProgressBar,
   Grid,
-  MediaPlayer
+  MediaPlayer,
+  ListView
 };
 
 // Told of every change of a control that it is attached to.
@@ -296,6 +297,19 @@ class Frame : public Control {
  public:
   Frame(Form& form, std::string name) : Control(form, std::move(name), ControlKind::Frame) {}
   Property<std::string> Caption{*this, PropertyId::Caption};
+};
+
+// Rows of texts under column headings, with one row selected.
+class ListView : public Control {
+ public:
+  using Row = std::vector<std::string>;
+  ListView(Form& form, std::string name) : Control(form, std::move(name), ControlKind::ListView) {}
+  // A user picks a row by its index; runs the handler when the list can be reached.
+  void Select(int index);
+  std::vector<std::string> ColumnHeaders;
+  Property<std::vector<Row>> ListItems{*this, PropertyId::List};
+  // -1 for nothing selected.
+  Property<int> SelectedItem{*this, PropertyId::ListIndex, -1};
 };
 
 class ProgressBar : public Control {

@@ -35,6 +35,7 @@ inline constexpr int kErrorPathAccess = 75;
 inline constexpr int kErrorPathNotFound = 76;
 inline constexpr int kErrorInvalidPicture = 481;
 inline constexpr int kErrorPrinter = 482;
+inline constexpr int kErrorInvalidPort = 8002;
 
 // A moment of the calendar, in the machine's own time zone.
 struct LocalTime {
@@ -55,7 +56,7 @@ class Clock {
   virtual void Pause(int ms) = 0;
 };
 
-enum class BoxKind { Plain, Critical, YesNoCancel, YesNo };
+enum class BoxKind { Plain, Critical, YesNoCancel, YesNo, Exclamation };
 enum class BoxAnswer { Ok, Yes, No, Cancel };
 
 enum class ModalKind { None, Box, Window };
@@ -204,6 +205,8 @@ class Processes {
   virtual bool StartHelper(const std::string& name, const std::string& argument) = 0;
   // Ends the message loop once the present event is done.
   virtual void EndProgram() = 0;
+  // Starts the program of that file in a maximised window with the focus, and doesn't wait for it.
+  virtual void Start(const std::string& path) = 0;
 };
 
 struct HidDevice {
@@ -253,6 +256,40 @@ class Printing {
   virtual std::optional<int> ChoosePrinter() = 0;
   // Prints on the printer chosen last, each copy from a new page. RuntimeError 482 when it can't.
   virtual void Print(const PrintDocument& document, int copies) = 0;
+};
+
+// A serial port of the machine as the system lists it: the texts that tell which adapter it belongs to.
+struct SerialDevice {
+  std::string DeviceID;
+  std::string Description;
+  std::string Caption;
+};
+
+// No handshaking; RTS is on while the port is open.
+struct SerialSettings {
+  int Baud = 9600;
+  char Parity = 'n';
+  int DataBits = 8;
+  int StopBits = 1;
+};
+
+enum class SerialEvent { Received, Lost };
+
+// One serial line, told of from the message loop.
+class SerialPort {
+ public:
+  virtual ~SerialPort() = default;
+  // The ports present, in the system's order.
+  virtual std::vector<SerialDevice> Enumerate() const = 0;
+  // Opens the port of that number with nothing in its buffers. RuntimeError when it can't be opened.
+  virtual void Open(int number, const SerialSettings& settings) = 0;
+  virtual bool PortOpen() const = 0;
+  virtual void Close() = 0;
+  // Takes all that has arrived.
+  virtual std::string Input() = 0;
+  virtual std::size_t InBufferCount() const = 0;
+  // Bytes have arrived, or the device is gone; the latter may be told many times until the port is closed.
+  std::function<void(SerialEvent)> OnComm;
 };
 
 class RandomSource {
@@ -305,6 +342,7 @@ struct Platform {
   HidPort& hid;
   Printing& printing;
   HelpPages& pages;
+  SerialPort& serial;
   Folders folders;
 };
 

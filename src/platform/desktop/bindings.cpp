@@ -6,11 +6,13 @@
 #include <QColor>
 #include <QFocusEvent>
 #include <QGroupBox>
+#include <QHeaderView>
 #include <QLineEdit>
 #include <QProgressBar>
 #include <QRadioButton>
 #include <QTimer>
 #include <QToolTip>
+#include <QTreeWidget>
 #include <algorithm>
 
 #include "platform/desktop/grid_view.h"
@@ -278,6 +280,44 @@ class ProgressBinding : public Binding<ProgressBar, QProgressBar> {
   }
 };
 
+class ListViewBinding : public Binding<ListView, QTreeWidget> {
+ public:
+  ListViewBinding(ListView& list, QTreeWidget& view) : Binding(list, view) {
+    QStringList headers;
+    for (const std::string& header : model.ColumnHeaders) headers.append(FromWindows1252(header));
+    widget.setHeaderLabels(headers);
+    widget.setRootIsDecorated(false);
+    widget.setUniformRowHeights(true);
+    widget.setAllColumnsShowFocus(true);
+    ShowOwn(PropertyId::List);
+    QObject::connect(&widget, &QTreeWidget::currentItemChanged, &widget, [this] { Picked(); });
+  }
+
+ private:
+  void Picked() {
+    if (showing_) return;
+    model.Select(widget.indexOfTopLevelItem(widget.currentItem()));
+    ShowOwn(PropertyId::ListIndex);
+  }
+  void ShowOwn(PropertyId) override {
+    const auto& rows = model.ListItems.Get();
+    showing_ = true;
+    while (widget.topLevelItemCount() > static_cast<int>(rows.size())) delete widget.takeTopLevelItem(0);
+    while (widget.topLevelItemCount() < static_cast<int>(rows.size())) new QTreeWidgetItem(&widget);
+    for (int row = 0; row < widget.topLevelItemCount(); ++row) ShowRow(*widget.topLevelItem(row), rows, row);
+    widget.setCurrentItem(widget.topLevelItem(model.SelectedItem));
+    widget.scrollToItem(widget.currentItem());
+    showing_ = false;
+  }
+  static void ShowRow(QTreeWidgetItem& item, const std::vector<ListView::Row>& rows, int row) {
+    const ListView::Row& texts = rows[static_cast<std::size_t>(row)];
+    for (std::size_t column = 0; column < texts.size(); ++column) {
+      item.setText(static_cast<int>(column), FromWindows1252(texts[column]));
+    }
+  }
+  bool showing_ = false;
+};
+
 class ActionBinding : public Mirror {
  public:
   ActionBinding(Menu& menu, QAction& action) : menu_(menu), action_(action) {
@@ -336,6 +376,8 @@ std::unique_ptr<Mirror> MakeBinding(Control& control, QWidget& widget) {
       return MakeGridBinding(static_cast<Grid&>(control), widget);
     case ControlKind::ProgressBar:
       return Make<ProgressBinding, QProgressBar, ProgressBar>(control, widget);
+    case ControlKind::ListView:
+      return Make<ListViewBinding, QTreeWidget, ListView>(control, widget);
     default:
       return nullptr;
   }

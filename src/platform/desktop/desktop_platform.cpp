@@ -13,6 +13,7 @@ DesktopPlatform::DesktopPlatform(const DesktopPlaces& places, std::function<void
       processes(places.runtimeFolder, std::move(onActivate),
                 {QCoreApplication::applicationDirPath(), NativePath(places.folders.App)}),
       pages(places.manualFolder),
+      serial(places.serialAdapters),
       platform{clock,
                dialogs,
                {eventPlayer, keyPressPlayer, soundClipPlayer, correctIncorrectPlayer, backgroundPlayer, mediaPlayer1},
@@ -26,6 +27,7 @@ DesktopPlatform::DesktopPlatform(const DesktopPlaces& places, std::function<void
                hid,
                printing,
                pages,
+               serial,
                places.folders} {}
 
 }  // namespace pawnfield

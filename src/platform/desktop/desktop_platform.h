@@ -15,6 +15,7 @@
 #include "platform/desktop/qt_file_system.h"
 #include "platform/desktop/qt_printing.h"
 #include "platform/desktop/qt_readers.h"
+#include "platform/desktop/qt_serial_port.h"
 #include "platform/desktop/qt_settings_store.h"
 
 namespace pawnfield {
@@ -25,6 +26,7 @@ struct DesktopPlaces {
   QString configFolder = ConfigFolder();
   QString runtimeFolder = RuntimeFolder();
   QString manualFolder = ManualFolder();
+  std::function<std::vector<SerialAdapter>()> serialAdapters = FindSerialAdapters;
 };
 
 class DesktopPlatform {
@@ -47,6 +49,7 @@ class DesktopPlatform {
   HidapiPort hid;
   QtPrinting printing;
   DesktopPages pages;
+  QtSerialPort serial;
   Platform platform;
 };
 

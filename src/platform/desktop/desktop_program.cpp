@@ -29,17 +29,21 @@ DesktopProgram::DesktopProgram(const DesktopPlaces& places)
       missingMedia_(show_.frmDialog2, desktop_.windows),
       soundEffects_(show_.frmSoundEffects, desktop_.windows),
       optionalHeaders_(show_.frmOptionalHeaders, desktop_.windows),
-      options_(show_.frmOptions, desktop_.windows) {}
+      options_(show_.frmOptions, desktop_.windows),
+      mapMF_(show_.frmMapMF, desktop_.windows),
+      setInterface_(show_.frmSetInterface, desktop_.windows) {}
 
-// The clock outlives the forms, whose timers must not be looked at any more.
+// The clock and the serial line outlive the forms, whose timers must not be looked at any more.
 DesktopProgram::~DesktopProgram() {
+  desktop_.serial.OnComm = {};
   for (Form* form : AllForms(show_)) desktop_.clock.Detach(*form);
 }
 
 std::vector<FormWindow*> DesktopProgram::Windows() {
   return {&console_,        &audience_,     &connectToProjector_, &loading_,         &splash_,     &gameLoading_,
           &gameInProgress_, &gameTypeHelp_, &playerNames_,        &helpAbout_,       &configKeys_, &editor_,
-          &editChoice_,     &missingMedia_, &soundEffects_,       &optionalHeaders_, &options_};
+          &editChoice_,     &missingMedia_, &soundEffects_,       &optionalHeaders_, &options_,    &mapMF_,
+          &setInterface_};
 }
 
 void PrepareApplication() {

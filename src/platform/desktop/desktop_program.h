@@ -12,6 +12,7 @@
 #include "platform/desktop/optional_headers_window.h"
 #include "platform/desktop/options_window.h"
 #include "platform/desktop/player_names_window.h"
+#include "platform/desktop/press_windows.h"
 #include "platform/desktop/small_windows.h"
 #include "platform/desktop/sound_effects_window.h"
 
@@ -53,6 +54,8 @@ class DesktopProgram {
   SoundEffectsWindow soundEffects_;
   OptionalHeadersWindow optionalHeaders_;
   OptionsWindow options_;
+  MapMFWindow mapMF_;
+  SetInterfaceWindow setInterface_;
 };
 
 // What the application object needs before the first window: fonts, colours, number format.

@@ -8,6 +8,7 @@
 #include <QProcess>
 #include <algorithm>
 
+#include "platform/desktop/native_path.h"
 #include "platform/desktop/windows_1252.h"
 
 namespace pawnfield {
@@ -91,6 +92,13 @@ bool LinuxProcesses::StartHelper(const std::string& name, const std::string& arg
     return helper.startDetached();
   }
   return false;
+}
+
+// The window manager gives a new program the focus; whether its window is maximised is its own affair here.
+void LinuxProcesses::Start(const std::string& path) {
+  const QString program = NativePath(path);
+  if (QProcess::startDetached(program, {}, QFileInfo(program).path())) return;
+  throw RuntimeError(kErrorPathAccess, "The program can't be started: " + path);
 }
 
 void LinuxProcesses::EndProgram() {

@@ -26,6 +26,7 @@ class LinuxProcesses : public Processes {
   // "PadBridge.exe" is an executable "PadBridge" here. It is given the text in UTF-8, and its output goes nowhere.
   bool StartHelper(const std::string& name, const std::string& argument) override;
   void EndProgram() override;
+  void Start(const std::string& path) override;
 
  private:
   QString SocketPath() const { return runtimeFolder_ + "/pawnfield.socket"; }

@@ -33,7 +33,7 @@ QMessageBox::StandardButtons ButtonsOf(BoxKind kind) {
 
 // Closing the box without a choice is the most careful of the answers it offers.
 BoxAnswer AnswerOf(int button, BoxKind kind) {
-  if (kind == BoxKind::Plain || kind == BoxKind::Critical) return BoxAnswer::Ok;
+  if (kind == BoxKind::Plain || kind == BoxKind::Critical || kind == BoxKind::Exclamation) return BoxAnswer::Ok;
   if (button == QMessageBox::Yes) return BoxAnswer::Yes;
   if (button == QMessageBox::No) return BoxAnswer::No;
   return kind == BoxKind::YesNo ? BoxAnswer::No : BoxAnswer::Cancel;
@@ -74,6 +74,7 @@ BoxAnswer QtDialogs::MessageBox(const std::string& text, const std::string& titl
   box.setWindowTitle(FromWindows1252(title));
   box.setTextFormat(Qt::PlainText);
   box.setText(FromWindows1252(text).replace("\r\n", "\n"));
+  if (kind == BoxKind::Exclamation) box.setIcon(QMessageBox::Warning);
   if (kind == BoxKind::Critical) box.setIcon(QMessageBox::Critical);
   if (kind == BoxKind::YesNo || kind == BoxKind::YesNoCancel) box.setIcon(QMessageBox::Question);
   box.setStandardButtons(ButtonsOf(kind));

@@ -72,6 +72,7 @@ class SimProcesses : public Processes {
   void Activate(std::int64_t id) override { Activated.push_back(id); }
   bool StartHelper(const std::string& name, const std::string& argument) override;
   void EndProgram() override { Ended = true; }
+  void Start(const std::string& path) override { Started.push_back(path); }
 
   bool AlreadyRuns = false;
   // The program that lies beside this one, empty for none, and the arguments that it was started with.
@@ -80,6 +81,7 @@ class SimProcesses : public Processes {
   std::vector<ProcessInfo> Others;
   std::vector<std::int64_t> Activated;
   bool Ended = false;
+  std::vector<std::string> Started;
 };
 
 // Notes what was opened, in order.

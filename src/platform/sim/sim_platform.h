@@ -8,6 +8,7 @@
 #include "platform/sim/sim_devices.h"
 #include "platform/sim/sim_files.h"
 #include "platform/sim/sim_hid.h"
+#include "platform/sim/sim_serial.h"
 #include "platform/sim/virtual_clock.h"
 
 namespace pawnfield {
@@ -29,6 +30,7 @@ struct SimPlatform {
   SimHid hid{clock};
   SimPrinter printing;
   SimPages pages;
+  SimSerial serial;
   Platform platform;
 };
 

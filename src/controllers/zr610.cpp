@@ -1,0 +1,224 @@
+#include "controllers/zr610.h"
+
+#include <algorithm>
+#include <cctype>
+#include <memory>
+#include <utility>
+
+#include "controllers/detection.h"
+#include "controllers/pad_map.h"
+#include "controllers/ring_in.h"
+#include "engine/errors.h"
+#include "engine/judging.h"
+#include "engine/question_cycle.h"
+#include "engine/show.h"
+#include "platform/text.h"
+
+namespace pawnfield {
+
+namespace {
+
+constexpr const char* kAdapterProduct = "7523";
+constexpr const char* kInitialized = "ZR-610 System initialized";
+constexpr const char* kUnplugged =
+    "The ZR-610 System was unplugged. Plug it in again and choose Reconnect in the ZR-610 System menu.";
+constexpr int kPadFrame = 253;
+constexpr int kKeyFrame = 180;
+constexpr int kHeldFramesPollMs = 15;
+
+// The byte at a place of the frame, counted from 1.
+int FrameByte(const std::string& frame, std::size_t place) {
+  if (place > frame.size()) throw RuntimeError(kErrorInvalidArgument, "Invalid procedure call or argument");
+  return static_cast<unsigned char>(frame[place - 1]);
+}
+
+// High byte first, of as many of its three bytes as the frame holds.
+std::int32_t PadIdentity(const std::string& frame) {
+  std::int32_t id = 0;
+  for (std::size_t place = 6; place <= 8 && place <= frame.size(); ++place) id = id << 8 | FrameByte(frame, place);
+  return id;
+}
+
+void Tell(Show& show, const std::string& text) {
+  show.platform.dialogs.MessageBox(text, kAppTitle, BoxKind::Exclamation);
+}
+
+void PressPad(Show& show, std::int32_t id) {
+  if (IsFormVisible(show, show.frmMapMF.Name())) {
+    MapID(show, id);
+    return;
+  }
+  const int slot = LookupPad(show.presses.MFMap, id);
+  if (slot == 0) {
+    Tell(show, "An unmapped controller has been detected. Please remap your controllers before proceeding.");
+  } else if (slot >= 4) {
+    Tell(show,
+         "This game only uses 3 player controls. A controller outside of this range has been used and will be "
+         "ignored.");
+  } else {
+    const Button& button = show.frmMain.btnSelectPlayer[static_cast<std::size_t>(slot - 1)];
+    if (button.Visible && button.Enabled) btnSelectPlayer_Click(show, slot - 1);
+  }
+}
+
+// The host unit's keys: 2 and 5 judge incorrect, 3 and 6 correct, and 2 goes on when there is nothing to judge.
+void PressHostKey(Show& show, int key) {
+  MainForm& form = show.frmMain;
+  const bool incorrect = key == 2 || key == 5;
+  if (incorrect && form.btnQuestionIncorrect.Visible) {
+    HandleIncorrect(show);
+  } else if (key == 2 && form.btnContinue.Visible && form.btnContinue.Enabled) {
+    btnContinue_Click(show);
+  } else if ((key == 3 || key == 6) && form.btnQuestionCorrect.Visible) {
+    HandleCorrect(show);
+  }
+}
+
+// A broken frame is told once; a line that carries one carries many.
+void ProcessGuarded(Show& show, const std::string& frame) {
+  try {
+    ProcessZR610Frame(show, frame);
+  } catch (const RuntimeError& error) {
+    if (error.Number() == kErrorInvalidArgument && std::exchange(show.presses.BrokenFrameTold, true)) return;
+    ReportError(show.platform.dialogs, error, show.frmMain.Name(), "mscZR610_OnComm");
+  }
+}
+
+void TakeFrames(Show& show) {
+  SerialPort& port = show.platform.serial;
+  do {
+    show.presses.RxBuffer.Add(port.Input());
+    while (const auto frame = show.presses.RxBuffer.Next()) ProcessGuarded(show, *frame);
+  } while (port.InBufferCount() > 0);
+}
+
+// The adapter is gone, and its port would report that without end.
+void LoseLine(Show& show) {
+  if (!show.platform.serial.PortOpen()) return;
+  show.platform.serial.Close();
+  show.frmMain.lblStatusBar.Caption = kUnplugged;
+}
+
+// Takes up the frames that a message box held back.
+void HeldFrames_Timer(Show& show) {
+  if (show.platform.dialogs.Modal() == ModalKind::Box) return;
+  show.presses.HeldFrames->SetEnabled(false);
+  TakeFrames(show);
+}
+
+template <typename Handler>
+void OnClick(Show& show, Control& control, Handler handler) {
+  control.OnClick = [&show, handler] { handler(show); };
+}
+
+}  // namespace
+
+int PortNumber(const std::string& caption) {
+  std::size_t first = caption.size();
+  if (caption.ends_with(')')) {
+    first = caption.size() - std::min<std::size_t>(caption.size(), 2);
+  } else {
+    while (first > 0 && std::isdigit(static_cast<unsigned char>(caption[first - 1]))) --first;
+  }
+  const double number = LeadingNumber(caption.substr(first));
+  constexpr double kLargest = 32767;
+  return number >= 0 && number <= kLargest ? static_cast<int>(number) : 0;
+}
+
+bool IsZR610Adapter(const SerialDevice& device) {
+  return device.DeviceID.find(kAdapterProduct) != std::string::npos && !device.Description.empty();
+}
+
+int FindZR610Port(const SerialPort& port) {
+  int found = -1;
+  for (const SerialDevice& device : port.Enumerate()) {
+    if (IsZR610Adapter(device)) found = PortNumber(device.Caption);
+  }
+  return found;
+}
+
+void LoadZR610(Show& show) {
+  PressState& presses = show.presses;
+  presses.CommPortNumber = FindZR610Port(show.platform.serial);
+  presses.ZR610Present = presses.CommPortNumber > -1;
+  if (!presses.ZR610Present) return;
+  OpenZR610Port(show);
+  LoadMF(show);
+}
+
+void OpenZR610Port(Show& show) { show.platform.serial.Open(show.presses.CommPortNumber, SerialSettings{}); }
+
+void mscZR610_OnComm(Show& show, SerialEvent event) {
+  if (event == SerialEvent::Lost) {
+    LoseLine(show);
+  } else if (show.platform.dialogs.Modal() == ModalKind::Box) {
+    if (!show.presses.HeldFrames->Enabled()) show.presses.HeldFrames->SetEnabled(true);
+  } else {
+    TakeFrames(show);
+  }
+}
+
+void ProcessZR610Frame(Show& show, const std::string& frame) {
+  switch (FrameByte(frame, 5)) {
+    case kPadFrame:
+      PressPad(show, PadIdentity(frame));
+      break;
+    case kKeyFrame:
+      PressHostKey(show, FrameByte(frame, 6));
+      break;
+    default:
+      break;
+  }
+}
+
+void mnuReconnectMF_Click(Show& show) {
+  SerialPort& port = show.platform.serial;
+  if (port.PortOpen()) port.Close();
+  show.presses.CommPortNumber = FindZR610Port(port);
+  if (show.presses.CommPortNumber < 0) {
+    Tell(show, "Unable to find a ZR-610 device. Please check connections and retry.");
+    return;
+  }
+  OpenZR610Port(show);
+  if (show.frmMain.lblStatusBar.Caption == kUnplugged) show.frmMain.lblStatusBar.Caption = kInitialized;
+}
+
+void mTestK7Controllers_Click(Show& show) {
+  show.presses.CommPortNumber = FindZR610Port(show.platform.serial);
+  if (show.presses.CommPortNumber >= 0) {
+    const BoxAnswer answer = show.platform.dialogs.MessageBox(
+        "A ZR-610 system has been detected. Would you like to begin using this instead?", kAppTitle,
+        BoxKind::YesNoCancel);
+    if (answer == BoxAnswer::Yes) LoadMF(show);
+    if (answer != BoxAnswer::No) return;
+  }
+  const std::string path = show.AppPath("\\ZR640Tester.exe");
+  if (show.platform.files.CanOpen(path)) {
+    show.platform.processes.Start(path);
+  } else {
+    Tell(show, "For some reason the file: \r\n" + path + "\r\ncannot be found.");
+  }
+}
+
+void AttachPressHandlers(Show& show) {
+  MainForm& form = show.frmMain;
+  OnClick(show, form.mnuMapMF, mnuMapMF_Click);
+  OnClick(show, form.mnuReconnectMF, mnuReconnectMF_Click);
+  OnClick(show, form.mTestK7Controllers, mTestK7Controllers_Click);
+  OnClick(show, show.frmMapMF.cmdOK, cmdOK_Click);
+  OnClick(show, show.frmMapMF.cmdCancel, cmdCancel_Click);
+  OnClick(show, show.frmSetInterface.btnOK, frmSetInterface_btnOK_Click);
+  OnClick(show, show.frmSetInterface.btnCancel, frmSetInterface_btnCancel_Click);
+  const auto guard = [&show](const std::function<void()>& handler, const std::string&, const std::string&) {
+    show.frmMain.Dispatch(handler, "mscZR610_OnComm");
+  };
+  show.presses.HeldFrames = std::make_unique<SelfTimer>(
+      show.platform.clock, [&show](double) { HeldFrames_Timer(show); }, guard);
+  show.presses.HeldFrames->SetEnabled(false);
+  show.presses.HeldFrames->SetInterval(kHeldFramesPollMs);
+  show.platform.serial.OnComm = [&show](SerialEvent event) {
+    show.frmMain.Dispatch([&show, event] { mscZR610_OnComm(show, event); }, "mscZR610_OnComm");
+  };
+}
+
+}  // namespace pawnfield
