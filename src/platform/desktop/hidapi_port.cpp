@@ -1,8 +1,9 @@
 #include "platform/desktop/hidapi_port.h"
 
-#include <QFile>
-#include <QFileInfo>
 #include <algorithm>
+#include <filesystem>
+#include <fstream>
+#include <iterator>
 #include <memory>
 
 #include "platform/hid_descriptor.h"
@@ -18,10 +19,9 @@ DeviceList ListDevices(int vendor) {
 }
 
 // The library of Debian's age tells no report lengths, so they are taken from the descriptor that the kernel shows.
-std::string ReportDescriptor(const char* path) {
-  const QString name = QFileInfo(QString::fromLocal8Bit(path)).fileName();
-  QFile file("/sys/class/hidraw/" + name + "/device/report_descriptor");
-  return file.open(QIODevice::ReadOnly) ? file.readAll().toStdString() : std::string();
+std::string ReportDescriptor(const std::filesystem::path& device) {
+  std::ifstream file("/sys/class/hidraw" / device.filename() / "device/report_descriptor", std::ios::binary);
+  return {std::istreambuf_iterator<char>(file), {}};
 }
 
 }  // namespace
