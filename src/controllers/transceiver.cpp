@@ -131,6 +131,8 @@ std::size_t Transceiver::WritePacket(const std::string& packet) {
   if (packet.size() > lengths_.Output) throw RuntimeError(kErrorInvalidArgument, "Invalid procedure call or argument");
   std::string report = packet;
   report.resize(lengths_.Output);
+  // What led to the packet is seen before it goes out.
+  clock_.Pause(0);
   const std::size_t written = port_.Write(report);
   clock_.Pause(kPacketPauseMs);
   return written;

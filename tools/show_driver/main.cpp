@@ -130,6 +130,10 @@ void ShowForms(ShowDriver& driver, Script& script) {
     driver.Form("frmOptions")->findChild<QTabWidget*>("SSTab1")->setCurrentIndex(tab);
     picture("frmOptions", form.mnuFileOptions);
   }
+  picture("frmMapMF", form.mnuMapMF);
+  Show& show = driver.TheShow();
+  script.Do("frmSetInterface",
+            driver.PictureOfForm("frmSetInterface", [&] { show.platform.dialogs.ShowModal(show.frmSetInterface); }));
 }
 
 }  // namespace
