@@ -13,6 +13,7 @@
 #include "engine/question_cycle.h"
 #include "engine/show.h"
 #include "platform/text.h"
+#include "presentation/both_screens.h"
 
 namespace pawnfield {
 
@@ -43,6 +44,14 @@ void Tell(Show& show, const std::string& text) {
   show.platform.dialogs.MessageBox(text, kAppTitle, BoxKind::Exclamation);
 }
 
+// The operator may give the question to another player by hand; a pad that comes second may not.
+bool QuestionIsHeld(const Show& show) {
+  const bool held = show.state.CurrentPlayer >= 1 && show.state.CurrentPlayer <= 3;
+  const bool open = PanelVisible(show, Panel::Question) || PanelVisible(show, Panel::QuestionPicture) ||
+                    PanelVisible(show, Panel::Sound);
+  return show.state.GameType == kTriviaModeC && held && open;
+}
+
 void PressPad(Show& show, std::int32_t id) {
   if (IsFormVisible(show, show.frmMapMF.Name())) {
     MapID(show, id);
@@ -57,7 +66,7 @@ void PressPad(Show& show, std::int32_t id) {
          "ignored.");
   } else {
     const Button& button = show.frmMain.btnSelectPlayer[static_cast<std::size_t>(slot - 1)];
-    if (button.Visible && button.Enabled) btnSelectPlayer_Click(show, slot - 1);
+    if (button.Visible && button.Enabled && !QuestionIsHeld(show)) btnSelectPlayer_Click(show, slot - 1);
   }
 }
 
