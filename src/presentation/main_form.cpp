@@ -58,7 +58,7 @@ void MainForm::SetCaptions() {
   mnuFileOptionalHeaders.Caption = "Optional &Headers";
   mnuFileExit.Caption = "E&xit";
   mnuZR610.Caption = "ZR-610 System";
-  mnuMapMF.Caption = "Map Player Controls";
+  mnuMapMF.Caption = "Map Players";
   mnuReconnectMF.Caption = "Reconnect";
   mTestK7Controllers.Caption = "Test Controllers";
   mnuHelp.Caption = "&Help";
