@@ -19,6 +19,7 @@ HelpAboutForm::HelpAboutForm() : Form("frmHelpAbout") {
   } used[] = {
       {"Qt 6", "GNU LGPL 3"},
       {"libmpv", "GNU GPL 2 or later"},
+      {"hidapi", "BSD licence of three clauses"},
       {"Inter, Comic Neue, Liberation fonts", "SIL Open Font License 1.1"},
   };
   std::string names, licences;
