@@ -1,0 +1,144 @@
+// The wired pads on a real serial line: a pseudo-terminal whose far side the test works.
+#include <fcntl.h>
+#include <gtest/gtest.h>
+#include <pty.h>
+#include <unistd.h>
+
+#include <QTemporaryDir>
+#include <QTest>
+#include <array>
+
+#include "controllers/detection.h"
+#include "engine/handlers.h"
+#include "platform/desktop/desktop_program.h"
+#include "platform/desktop/native_path.h"
+
+namespace pawnfield {
+namespace {
+
+using std::string_literals::operator""s;
+
+// The near side has a name, as an adapter has; closing the far side is pulling it out.
+class Line {
+ public:
+  Line() {
+    std::array<char, 64> name{};
+    if (openpty(&far_, &near_, name.data(), nullptr, nullptr) == 0) location_ = name.data();
+    fcntl(far_, F_SETFL, O_NONBLOCK);
+  }
+  ~Line() { Pull(); }
+  Line(const Line&) = delete;
+  Line& operator=(const Line&) = delete;
+
+  // Writes all of it, with the program running meanwhile.
+  void Write(const std::string& bytes) {
+    for (std::size_t done = 0; done < bytes.size();) {
+      const ssize_t count = write(far_, bytes.data() + done, bytes.size() - done);
+      if (count > 0) done += static_cast<std::size_t>(count);
+      if (count <= 0) QTest::qWait(1);
+    }
+  }
+  void Pull() {
+    for (int* side : {&near_, &far_}) {
+      if (*side >= 0) close(*side);
+      *side = -1;
+    }
+  }
+  SerialAdapter Adapter() const { return {{"USB\\VID_1a86&PID_7523", "USB Serial", "ttyUSB0"}, location_}; }
+
+ private:
+  int near_ = -1, far_ = -1;
+  QString location_;
+};
+
+std::string Pad(int id) { return "MF\0\4\xFD\0\0"s + static_cast<char>(id); }
+
+class SerialLineTest : public testing::Test {
+ protected:
+  SerialLineTest() : line_(std::make_unique<Line>()) {
+    AttachHandlers(show_);
+    tmrSplash_Timer(show_);
+    show_.presses.MFMap = {101, 102, 103};
+    form_.cboList.DropDown();
+    form_.cboList.Select(1);
+    form_.btnStart.Click();
+  }
+  DesktopPlaces Places() {
+    DesktopPlaces places;
+    places.folders.DataRoot = *SpelledPath(folder_.path() + "/data");
+    places.configFolder = folder_.path() + "/config";
+    places.runtimeFolder = folder_.path() + "/run";
+    places.serialAdapters = [this] {
+      return line_ ? std::vector<SerialAdapter>{line_->Adapter()} : std::vector<SerialAdapter>{};
+    };
+    return places;
+  }
+  bool RingsIn(int player) {
+    return QTest::qWaitFor([&] { return show_.state.CurrentPlayer == player; }, 3000);
+  }
+  void OpenAgain() {
+    form_.btnQuestionIncorrect.Click();
+    ASSERT_EQ(show_.state.CurrentPlayer, 0);
+  }
+
+  QTemporaryDir folder_;
+  std::unique_ptr<Line> line_;
+  DesktopProgram program_{Places()};
+  Show& show_ = program_.TheShow();
+  MainForm& form_ = show_.frmMain;
+};
+
+TEST_F(SerialLineTest, CutFramesNoiseAndTwoInOneRead) {
+  ASSERT_TRUE(show_.platform.serial.PortOpen());
+  line_->Write(Pad(101).substr(0, 3));
+  QTest::qWait(30);
+  EXPECT_EQ(show_.state.CurrentPlayer, 0);
+  line_->Write(Pad(101).substr(3));
+  EXPECT_TRUE(RingsIn(1));
+  OpenAgain();
+  line_->Write("\r\n\x11\x13\x03 noise"s + Pad(103) + Pad(102));
+  EXPECT_TRUE(RingsIn(3)) << "control characters are bytes like any other";
+  QTest::qWait(30);
+  EXPECT_EQ(show_.state.CurrentPlayer, 3) << "the second of two in one read is shut out";
+}
+
+TEST_F(SerialLineTest, AFloodOfNoiseFillsNothingAndTheNextFrameRingsIn) {
+  line_->Write(std::string(1 << 20, '\x5A'));
+  EXPECT_LT(show_.presses.RxBuffer.Waiting(), 140000u);
+  line_->Write(Pad(102));
+  EXPECT_TRUE(RingsIn(2));
+}
+
+TEST_F(SerialLineTest, APulledAdapterIsClosedOnceAndComesBackInTheSameQuestion) {
+  int lost = 0;
+  const auto onComm = show_.platform.serial.OnComm;
+  show_.platform.serial.OnComm = [&](SerialEvent event) {
+    if (event == SerialEvent::Lost) ++lost;
+    onComm(event);
+  };
+  line_->Pull();
+  EXPECT_TRUE(QTest::qWaitFor([&] { return !show_.platform.serial.PortOpen(); }, 3000));
+  QTest::qWait(100);
+  EXPECT_EQ(lost, 1);
+  EXPECT_NE(form_.lblStatusBar.Caption->find("was unplugged"), std::string::npos);
+  line_ = std::make_unique<Line>();
+  form_.mnuReconnectMF.Click();
+  ASSERT_TRUE(show_.platform.serial.PortOpen());
+  line_->Write(Pad(102));
+  EXPECT_TRUE(RingsIn(2));
+}
+
+TEST_F(SerialLineTest, WhatArrivesWhileTheProgramIsBusyIsTakenInOrder) {
+  for (int player : {2, 1, 3}) {
+    const std::string first = Pad(100 + player);
+    line_->Write(first + Pad(101) + Pad(102) + Pad(103));
+    QTest::qSleep(150);
+    EXPECT_TRUE(RingsIn(player));
+    QTest::qWait(30);
+    EXPECT_EQ(show_.state.CurrentPlayer, player);
+    OpenAgain();
+  }
+}
+
+}  // namespace
+}  // namespace pawnfield
