@@ -23,5 +23,6 @@ int main(int argc, char** argv) {
   if (argc == 3) return pawnfield::RunStartUp(std::stoll(argv[1]), QString::fromLocal8Bit(argv[2]));
   pawnfield::MeasureFits();
   const bool painted = pawnfield::MeasurePaints();
-  return pawnfield::MeasureStartUp() && painted ? 0 : 1;
+  const bool pressed = pawnfield::MeasurePresses();
+  return pawnfield::MeasureStartUp() && painted && pressed ? 0 : 1;
 }
