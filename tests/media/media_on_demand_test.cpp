@@ -66,6 +66,24 @@ TEST_F(MediaOnDemand, EmptyMissingAndOtherBanksDoNothing) {
   EXPECT_EQ(WhatPlays(), "S");
 }
 
+TEST_F(MediaOnDemand, EveryLetterKeyOfTheConsoleHasItsRow) {
+  for (int letter = 0; letter < 26; ++letter) {
+    const std::string path = "C:\\media\\" + std::to_string(letter) + ".wav";
+    fixture.sim.files.Put(path, "sound");
+    fixture.show().soundBanks[1][static_cast<std::size_t>(9 + letter)] = path;
+  }
+  for (int letter = 0; letter < 26; ++letter) {
+    for (const char first : {'A', 'a'}) {
+      fixture.sim.media.KeyPressPlayer.Url.clear();
+      fixture.form().KeyPress(first + letter);
+      EXPECT_EQ(fixture.sim.media.KeyPressPlayer.Url, "C:\\media\\" + std::to_string(letter) + ".wav");
+    }
+  }
+  fixture.sim.media.KeyPressPlayer.Url.clear();
+  for (const char key : {'@', '[', '`', '{', '5', '\r'}) fixture.form().KeyPress(key);
+  EXPECT_EQ(fixture.sim.media.KeyPressPlayer.Url, "");
+}
+
 TEST_F(MediaOnDemand, APictureFillsBothScreensForItsTime) {
   fixture.show().state.MODPictureTimer = 7;
   Press('P', "C:\\media\\wide.jpg", picture);

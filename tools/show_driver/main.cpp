@@ -1,15 +1,20 @@
 // Plays two short games in the real program on the present display and saves pictures of both screens at each phase.
-// Usage: pawnfield_show [FOLDER [forms|gallery]]; with "forms" it opens every form instead and saves a picture of each,
-// with "gallery" it brings up everything that the two screens can show.
+// Usage: pawnfield_show [FOLDER [forms|gallery|media]]; with "forms" it opens every form instead and saves a picture of
+// each, with "gallery" it brings up everything that the two screens can show, with "media" headers, a picture and a
+// film on demand.
 
 #include <QApplication>
 #include <QFile>
+#include <QFileInfo>
+#include <QProcess>
 #include <QTabWidget>
 #include <QTextStream>
 
 #include "editor_driver.h"
 #include "gallery.h"
+#include "media/media_on_demand.h"
 #include "platform/desktop/fitting_scale.h"
+#include "platform/desktop/native_path.h"
 #include "show_driver.h"
 
 namespace pawnfield {
@@ -113,6 +118,37 @@ void PlayChallenge(ShowDriver& driver, Script& script) {
   driver.TakePictures("square-half-typed");
 }
 
+void ShowMedia(ShowDriver& driver, Script& script, const QString& folder) {
+  Show& show = driver.TheShow();
+  MainForm& form = show.frmMain;
+  form.picStandby.Visible = false;
+  show.frmFSMain.picStandby.Visible = false;
+  show.state.OptionalHeaders[0] = {"Welcome to the Friday Quiz", "Comic Sans MS", 18, true, false, "65535", "5242880"};
+  show.state.OptionalHeaders[1] = {
+      "Tonight's prizes are given by the Corner Bakery", "Segoe UI", 16, false, true, "16777215", "4210688"};
+  show.state.OptionalHeaderCount = 2;
+  show.state.OptionalHeadersOn = true;
+  for (const char* name : {"header-one", "header-two"}) {
+    form.tmrOptionalHeaders.Fire();
+    driver.TakePictures(name);
+  }
+  show.soundBanks[1][9] = show.AppPath("\\Question Backgrounds\\7.jpg");
+  PlayKeyMedia(show, 9);
+  driver.TakePictures("picture-on-demand");
+  script.Do("the picture goes", driver.WaitFor([&] { return !form.picMOD.Visible; }, 8000));
+  const QString film = folder + "/film.mp4";
+  script.Do("make a film", QProcess::execute("ffmpeg", {"-v", "error", "-y", "-f", "lavfi", "-i",
+                                                        "testsrc2=size=960x540:rate=25:duration=8", "-f", "lavfi", "-i",
+                                                        "sine=duration=8", film}) == 0);
+  show.soundBanks[1][10] = SpelledPath(QFileInfo(film).absoluteFilePath()).value_or("");
+  PlayKeyMedia(show, 10);
+  script.Do("the film runs", driver.WaitFor([&] { return form.MediaPlayer1.PlayState == 3; }));
+  driver.Pause(1500);
+  driver.TakePictures("film-on-demand");
+  script.Do("the film ends", driver.WaitFor([&] { return !form.picMOD.Visible; }, 15000));
+  driver.TakePictures("after-the-film");
+}
+
 // Every form that the console opens, once.
 void ShowForms(ShowDriver& driver, Script& script) {
   MainForm& form = driver.TheShow().frmMain;
@@ -120,6 +156,8 @@ void ShowForms(ShowDriver& driver, Script& script) {
     script.Do(name, driver.PictureOfForm(name, [&] { opener.Click(); }));
   };
   picture("frmPlayerNames", form.mnuFileAddPlayerNames);
+  picture("frmSoundEffects", form.btnSounds);
+  picture("frmOptionalHeaders", form.mnuFileOptionalHeaders);
   picture("frmGameTypeHelp", form.btnGameTypeHelp);
   picture("frmHelpAbout", form.mnuHelpAbout);
   picture("frmConfigKeys", form.btnEditKeyboardCtrl);
@@ -153,6 +191,8 @@ int main(int argc, char** argv) {
     pawnfield::ShowForms(driver, script);
   } else if (what == "gallery") {
     script.Do("gallery", pawnfield::ShowGallery(driver));
+  } else if (what == "media") {
+    pawnfield::ShowMedia(driver, script, folder);
   } else {
     pawnfield::WriteSet(driver, script);
     pawnfield::PlayTrivia(driver, script);

@@ -64,7 +64,7 @@ void PlayerView::MakeBar() {
   row->setSpacing(8);
   play_ = MakeButton("pnlPlayerPlay", "Play or pause", *row);
   stop_ = MakeButton("pnlPlayerStop", "Stop", *row);
-  stop_->setIcon(style()->standardIcon(QStyle::SP_MediaStop));
+  stop_->setText(QChar(0x25A0));
   position_ = new QSlider(Qt::Horizontal);
   position_->setObjectName("pnlPlayerPosition");
   position_->setRange(0, kSteps);
@@ -99,7 +99,7 @@ void PlayerView::MakeBar() {
 void PlayerView::ShowState() {
   const double duration = video_.Duration();
   const double position = video_.CurrentPosition();
-  play_->setIcon(style()->standardIcon(video_.IsPaused() ? QStyle::SP_MediaPlay : QStyle::SP_MediaPause));
+  play_->setText(video_.IsPaused() ? QString(QChar(0x25B6)) : QString("II"));
   mute_->setIcon(style()->standardIcon(mute_->isChecked() ? QStyle::SP_MediaVolumeMuted : QStyle::SP_MediaVolume));
   if (!position_->isSliderDown()) {
     const QSignalBlocker blocker(position_);
