@@ -4,6 +4,8 @@
 #include <array>
 #include <utility>
 
+#include "controllers/pad_map.h"
+#include "controllers/transceiver.h"
 #include "engine/handlers.h"
 #include "engine/start_up.h"
 
@@ -23,9 +25,13 @@ constexpr std::array kWords = {"Ann",
                                "\"quoted\", ^ and ~",
                                "12345678901234567890"};
 
-// Errors that a changed world brings and the program is to tell of, and the editor's when its only question goes.
+// Errors that a changed world brings and the program is to tell of; the editor's when its only question goes; and those
+// of a remote beyond the tables, a broken frame, and a transceiver that takes no text.
 bool IsExpected(const std::string& text) {
-  if (text.find("Subscript out of range\r\nLocation: frmEditor\r\n") != std::string::npos) return true;
+  for (const char* told : {"Subscript out of range\r\nLocation: frmEditor\r\n", "Subscript out of range (remote",
+                           "Procedure: SendC2CInfo\r\n"}) {
+    if (text.find(told) != std::string::npos) return true;
+  }
   for (const int number : {kErrorFileNotFound, kErrorDiskFull, kErrorPathAccess, kErrorPathNotFound,
                            kErrorInvalidPicture, kErrorDeviceIo}) {
     if (text.find("Error Number: " + std::to_string(number) + "\r\n") != std::string::npos) return true;
@@ -83,7 +89,7 @@ std::string RandomSet(Chance& chance) {
 }  // namespace
 
 std::string Describe(const Action& action) {
-  static constexpr std::array kNames = {"click", "select", "type", "key", "wait", "sleep", "world"};
+  static constexpr std::array kNames = {"click", "select", "type", "key", "wait", "sleep", "world", "device"};
   return std::string(kNames[static_cast<std::size_t>(action.Kind)]) + " " + action.Form + " " + action.Target + " " +
          std::to_string(action.Value) + " seed " + std::to_string(action.Seed);
 }
@@ -161,9 +167,44 @@ MonkeyShow::MonkeyShow(std::uint32_t seed) : show_(sim_.platform) {
 
 void MonkeyShow::PutWorld(Chance& chance) {
   if (!chance.OneIn(4)) sim_.displays.Monitors = {{0, 0, 1280, 800}, {1280, 0, 3200, 1080}};
+  if (chance.OneIn(2)) sim_.hid.PlugTransceiver(kTransceiverShort);
+  if (chance.OneIn(2)) {
+    sim_.serial.Plug();
+    sim_.files.Put("C:\\Ostara Show Kit Data\\MFMap.dat", FormatPadMap({101, 102, 103}));
+  }
   for (int i = 0; i < 5; ++i) sim_.files.Put(kSets + std::to_string(i) + ".txt", RandomSet(chance));
   sim_.files.Put(std::string(kSets) + "there.jpg", SimPictures::PictureBytes(640, 480));
   sim_.files.Put(std::string(kSets) + "there.wav", "RIFF");
+}
+
+void MonkeyShow::ChangeMonitors(Chance& chance) {
+  static const std::array<std::vector<MonitorInfo>, 4> kSetUps = {std::vector<MonitorInfo>{{0, 0, 1280, 800}},
+                                                                  {{0, 0, 1280, 800}, {1280, 0, 3200, 1080}},
+                                                                  {{0, 0, 1280, 800}, {-1920, 0, 0, 1080}},
+                                                                  {{0, 0, 1920, 1080}, {0, -2160, 3840, 0}}};
+  sim_.displays.Change(kSetUps[chance.Below(kSetUps.size())]);
+}
+
+void MonkeyShow::UseDevice(const Action& action) {
+  Chance chance(static_cast<std::uint32_t>(action.Value));
+  const auto anyByte = [&chance] { return static_cast<char>(chance.Below(256)); };
+  if (action.Target == "press remote") {
+    const auto remote = static_cast<char>(chance.OneIn(10) ? anyByte() : static_cast<char>(1 + chance.Below(4)));
+    sim_.hid.Reports.push_back({'\0', chance.OneIn(20) ? anyByte() : '\0', remote});
+  } else if (action.Target == "press pad") {
+    const auto pad = static_cast<char>(100 + chance.Below(6));
+    sim_.serial.Feed(std::string("MF\0\4\xFD\0\0", 7) + pad);
+  } else if (action.Target == "noise") {
+    std::string noise;
+    for (std::size_t length = chance.Below(400); length > 0; --length) noise += anyByte();
+    sim_.serial.Feed(noise);
+    sim_.hid.Reports.push_back(noise.substr(0, 33));
+  } else if (action.Target == "monitors") {
+    ChangeMonitors(chance);
+  } else {
+    sim_.hid.Pull();
+    sim_.serial.Pull();
+  }
 }
 
 Form& MonkeyShow::FormNamed(const std::string& name) {
@@ -217,9 +258,13 @@ Action MonkeyShow::Choose(Chance& chance) {
     action = ChooseClick(chance);
   } else if (kind < 68) {
     action = ChooseChange(chance);
-  } else if (kind < 96) {
+  } else if (kind < 92) {
     action = {ActionKind::Wait, "", "", kWaits[chance.Below(kWaits.size())], 0};
-  } else if (kind < 97) {
+  } else if (kind < 98) {
+    static constexpr std::array kUses = {"press remote", "press pad", "press pad", "noise", "monitors", "pull"};
+    action = {ActionKind::Device, "", kUses[chance.Below(chance.OneIn(30) ? 6 : 5)],
+              static_cast<std::int64_t>(chance.Next()), 0};
+  } else if (kind < 99) {
     action = {ActionKind::Sleep, "", "", static_cast<std::int64_t>(chance.Below(12)) * 3600000, 0};
   } else {
     static constexpr std::array kChanges = {"lose picture", "lose sound", "find both",
@@ -277,6 +322,9 @@ void MonkeyShow::Perform(const Action& action) {
       break;
     case ActionKind::World:
       ChangeWorld(action);
+      break;
+    case ActionKind::Device:
+      UseDevice(action);
   }
 }
 

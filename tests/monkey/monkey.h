@@ -26,13 +26,13 @@ class Chance {
   std::mt19937 engine_;
 };
 
-enum class ActionKind { Click, Select, Type, Key, Wait, Sleep, World };
+enum class ActionKind { Click, Select, Type, Key, Wait, Sleep, World, Device };
 
 // Stands on its own, so that a list of actions means the same when some are left out. What can't be done is skipped.
 struct Action {
   ActionKind Kind = ActionKind::Wait;
   std::string Form;
-  // A control's name, a text to type after it ("txtPlayerName(0)=Ann"), or what happens to the world.
+  // A control's name, a text to type after it ("txtPlayerName(0)=Ann"), or what happens to the world or a device.
   std::string Target;
   std::int64_t Value = 0;
   // Decides what dialogs answer while this action runs.
@@ -79,6 +79,8 @@ class MonkeyShow {
   Action ChooseChange(Chance& chance);
   void Perform(const Action& action);
   void ChangeWorld(const Action& action);
+  void UseDevice(const Action& action);
+  void ChangeMonitors(Chance& chance);
   Form& FormNamed(const std::string& name);
 
   MonkeyDialogs dialogs_;
