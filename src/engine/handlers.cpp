@@ -148,14 +148,6 @@ void AttachExit(Show& show) {
   };
 }
 
-// Entries and buttons whose dialogs are not part of the program yet can be seen but not chosen.
-void DisableWithoutHandler(Form& form) {
-  for (Control* control : form.Controls()) {
-    const bool acts = control->Kind() == ControlKind::Menu || control->Kind() == ControlKind::Button;
-    if (acts && !control->OnClick) control->Enabled = false;
-  }
-}
-
 }  // namespace
 
 std::vector<Form*> AllForms(Show& show) {
@@ -197,8 +189,6 @@ void AttachHandlers(Show& show) {
   BindSoundChannels(show);
   AttachAudienceHandlers(show);
   AttachMediaHandlers(show);
-  DisableWithoutHandler(show.frmMain);
-  for (Menu* menu : {&show.frmMain.mnuFile, &show.frmMain.mnuHelp, &show.frmMain.mnuZR610}) menu->Enabled = true;
   for (Form* form : AllForms(show)) {
     form->Guard = [&show](const std::function<void()>& handler, const std::string& location,
                           const std::string& procedure) {

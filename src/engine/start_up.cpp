@@ -17,6 +17,9 @@ namespace pawnfield {
 
 namespace {
 
+// Of the windows without a frame, in pixels.
+constexpr int kCornerRadius = 10;
+
 // The audience screen is in use where a second monitor is; without one it would stand off the right edge.
 void ReadMonitors(Show& show) {
   FindAudiencePlace(show);
@@ -66,6 +69,7 @@ void Main(Show& show) {
     return;
   }
   if (ScanForSiblings(show, ScanMode::Tell)) return;
+  show.platform.displays.RoundWindow(show.frmLoading, kCornerRadius);
   show.frmLoading.Visible = true;
   RunGuarded(
       show.platform.dialogs, [&] { PrepareDataFolders(show); }, "modMain", "PrepareDataFolders");
@@ -77,6 +81,7 @@ void tmrAlwaysLoaded_Timer(Show& show) {
   show.frmAlwaysLoaded.tmrAlwaysLoaded.Enabled = false;
   show.frmLoading.Visible = false;
   show.frmSplash.imgBG.Picture = show.AppPath("\\Images\\Standby.jpg");
+  show.platform.displays.RoundWindow(show.frmSplash, kCornerRadius);
   show.frmSplash.Visible = true;
   show.frmSplash.tmrProgress.Enabled = true;
 }

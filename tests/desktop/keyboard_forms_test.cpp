@@ -76,7 +76,11 @@ class KeyboardForms : public testing::Test {
 TEST_F(KeyboardForms, TabReachesEveryControlOfTheDialogsAndItsFocusIsSeen) {
   for (Form* form : {static_cast<Form*>(&show_.frmPlayerNames), static_cast<Form*>(&show_.frmHelpAbout),
                      static_cast<Form*>(&show_.frmGameTypeHelp), static_cast<Form*>(&show_.frmGameInProgress),
-                     static_cast<Form*>(&show_.frmConfigKeys)}) {
+                     static_cast<Form*>(&show_.frmConfigKeys), static_cast<Form*>(&show_.frmEditor),
+                     static_cast<Form*>(&show_.frmEditChoice), static_cast<Form*>(&show_.frmDialog2),
+                     static_cast<Form*>(&show_.frmSoundEffects), static_cast<Form*>(&show_.frmOptionalHeaders),
+                     static_cast<Form*>(&show_.frmMapMF), static_cast<Form*>(&show_.frmSetInterface),
+                     static_cast<Form*>(&show_.frmConnectToProjector)}) {
     ExpectSeenAndReached(Open(*form));
     form->Visible = false;
   }

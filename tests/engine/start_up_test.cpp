@@ -4,6 +4,9 @@
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
+#include <set>
+
+#include "engine/handlers.h"
 #include "support/show_fixture.h"
 
 namespace pawnfield {
@@ -34,6 +37,24 @@ TEST(StartUp, TheSplashComesBeforeTheConsoleAndTakesItsTime) {
   EXPECT_EQ(fixture.show().state.SerialComm, 6);
   EXPECT_EQ(fixture.audience().Left, 1280 * 15);
   EXPECT_TRUE(fixture.audience().Visible);
+}
+
+TEST(StartUp, EveryButtonAndEntryOfEveryFormActs) {
+  ShowFixture fixture;
+  fixture.Start();
+  // The heads of menus, lamps, and buttons that stand for the video player's own.
+  const std::set<std::string> silent{"mnuFile",      "mnuHelp",      "mnuZR610",
+                                     "btnBuzzer(0)", "btnBuzzer(1)", "btnBuzzer(2)",
+                                     "btnPlayVideo", "btnStopVideo", "btnEnableAllBuzzers"};
+  for (Form* form : AllForms(fixture.show())) {
+    // Its answers are bound to each question.
+    if (form == &fixture.show().frmGameInProgress) continue;
+    for (const Control* control : form->Controls()) {
+      const bool acts = control->Kind() == ControlKind::Button || control->Kind() == ControlKind::Menu;
+      if (!acts || silent.contains(control->Name())) continue;
+      EXPECT_TRUE(control->OnClick) << form->Name() << " " << control->Name();
+    }
+  }
 }
 
 TEST(StartUp, OneMonitorMeansNoAudienceScreen) {
