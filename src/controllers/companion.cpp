@@ -86,7 +86,7 @@ std::string ReportText(const CompanionReport& report) {
 
 void SendC2CInfo(Show& show, int player) {
   GameState& state = show.state;
-  if (player < 1 || player > 3) return;
+  if (!IsPlayer(player)) return;
   if (Trim(state.C2CObject).size() < 3) state.C2CObject = kNoObject;
   const std::string text = ReportText(ReportOf(show, player));
   const std::size_t length = Trim(text).size();
@@ -104,7 +104,7 @@ void ReportPlayer(Show& show, int player, double color) {
   GameState& state = show.state;
   if (!state.TSSupport) return;
   state.C2CColor = color;
-  if (player >= 1 && player <= 3) state.C2CObject = std::to_string(kFirstBox + player - 1);
+  if (IsPlayer(player)) state.C2CObject = std::to_string(kFirstBox + player - 1);
   SendC2CInfo(show, player);
 }
 

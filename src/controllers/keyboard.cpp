@@ -26,9 +26,7 @@ constexpr int kCtrlZ = 26;
 constexpr int kNoColumn = 99;
 
 bool MayRingIn(const Show& show) {
-  const bool open = PanelVisible(show, Panel::Question) || PanelVisible(show, Panel::QuestionPicture);
-  const bool held = show.state.CurrentPlayer >= 1 && show.state.CurrentPlayer <= 3;
-  return open && !held && !PanelVisible(show, Panel::Standby);
+  return TextOrPictureVisible(show) && !IsPlayer(show.state.CurrentPlayer) && !PanelVisible(show, Panel::Standby);
 }
 
 void RingInKey(Show& show, int key) {
@@ -129,7 +127,7 @@ void SelectControllerPlayer(Show& show, int group, int number) {
   if (group == 2 && number == 0) controller = 20;
   if (controller == 0) return;
   const int player = show.state.Routing[static_cast<std::size_t>(controller)];
-  if (player < 1 || player > 3) return;
+  if (!IsPlayer(player)) return;
   btnSelectPlayer_Click(show, player - 1);
   if (!PublishesPlayers(show)) return;
   WriteSharedKey(show, std::to_string(9 + player), "PLAYER " + std::to_string(player));

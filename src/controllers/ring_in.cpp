@@ -16,11 +16,9 @@ namespace {
 
 constexpr std::int64_t kDebounceMs = 200;
 
-bool IsPlayer(int number) { return number >= 1 && number <= 3; }
-
 // Takes the press's time into the remote's debounce memory; false for a press that follows another too soon.
 bool PassesDebounce(PressState& presses, std::size_t remote, std::int64_t now) {
-  if (remote >= presses.LastPressTick.size()) throw RuntimeError(kErrorSubscript, "Subscript out of range");
+  if (remote >= presses.LastPressTick.size()) throw SubscriptError();
   std::int64_t& last = presses.LastPressTick[remote];
   if (last > 0 && now - last <= kDebounceMs) return false;
   last = now;
@@ -31,15 +29,14 @@ bool QuestionIsOpen(Show& show) {
   const MainForm& form = show.frmMain;
   const bool dialogUp = show.platform.dialogs.Modal() != ModalKind::None;
   if (!form.Visible || !form.Enabled || dialogUp || PanelVisible(show, Panel::Standby)) return false;
-  const bool shown = PanelVisible(show, Panel::Question) || PanelVisible(show, Panel::QuestionPicture);
-  return shown && !IsPlayer(show.state.CurrentPlayer);
+  return TextOrPictureVisible(show) && !IsPlayer(show.state.CurrentPlayer);
 }
 
 void PlayRingIn(Show& show, int player) { PlayEvent(show, SoundEntry(show, kSoundBuzzer1 + player - 1)); }
 
 void TakePress(Show& show, std::size_t remote) {
   if (!PassesDebounce(show.presses, remote, show.platform.clock.NowMs()) || !QuestionIsOpen(show)) return;
-  if (remote >= show.state.Routing.size()) throw RuntimeError(kErrorSubscript, "Subscript out of range");
+  if (remote >= show.state.Routing.size()) throw SubscriptError();
   const int player = show.state.Routing[remote];
   if (!IsPlayer(player)) return;
   AcceptRingIn(show, player, RingInSource::Wireless);
@@ -92,9 +89,7 @@ void AcceptRingIn(Show& show, int player, [[maybe_unused]] RingInSource source) 
 
 void btnSelectPlayer_Click(Show& show, int index) {
   if (index >= 0 && index <= 2) show.frmMain.imgDJEntry.Picture = show.frmMain.FaceA(index + 1).Picture;
-  const bool open = PanelVisible(show, Panel::Question) || PanelVisible(show, Panel::QuestionPicture) ||
-                    PanelVisible(show, Panel::Sound);
-  if (show.state.GameType != kTriviaModeC || !open) return;
+  if (show.state.GameType != kTriviaModeC || !QuestionVisible(show)) return;
   AcceptRingIn(show, index + 1, RingInSource::Other);
   ShowVerdictButtons(show, true, true);
 }

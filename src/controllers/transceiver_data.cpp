@@ -53,10 +53,8 @@ constexpr CodeTable MakeCodeTable() {
 
 constexpr CodeTable kCodeTable = MakeCodeTable();
 
-[[noreturn]] void ThrowSubscript() { throw RuntimeError(kErrorSubscript, "Subscript out of range"); }
-
 std::uint8_t ByteAt(const ReportBuffer& data, int index) {
-  if (static_cast<std::size_t>(index) >= data.size()) ThrowSubscript();
+  if (static_cast<std::size_t>(index) >= data.size()) throw SubscriptError();
   return data[static_cast<std::size_t>(index)];
 }
 
@@ -95,7 +93,7 @@ void TransceiverData::ParseShortReport(const ReportBuffer& data) {
 void TransceiverData::ParseLongReport(const ReportBuffer& data) {
   Remote = -1;
   const int length = ByteAt(data, 2);
-  if (length < 2) ThrowSubscript();
+  if (length < 2) throw SubscriptError();
   std::uint8_t check = 0;
   for (int i = 1; i <= length - 2; ++i) check = static_cast<std::uint8_t>(check ^ ByteAt(data, i));
   const bool sound = check == ByteAt(data, length - 1);

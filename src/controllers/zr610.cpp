@@ -12,6 +12,7 @@
 #include "engine/judging.h"
 #include "engine/question_cycle.h"
 #include "engine/show.h"
+#include "platform/attach.h"
 #include "platform/text.h"
 #include "presentation/both_screens.h"
 
@@ -46,10 +47,7 @@ void Tell(Show& show, const std::string& text) {
 
 // The operator may give the question to another player by hand; a pad that comes second may not.
 bool QuestionIsHeld(const Show& show) {
-  const bool held = show.state.CurrentPlayer >= 1 && show.state.CurrentPlayer <= 3;
-  const bool open = PanelVisible(show, Panel::Question) || PanelVisible(show, Panel::QuestionPicture) ||
-                    PanelVisible(show, Panel::Sound);
-  return show.state.GameType == kTriviaModeC && held && open;
+  return show.state.GameType == kTriviaModeC && IsPlayer(show.state.CurrentPlayer) && QuestionVisible(show);
 }
 
 void PressPad(Show& show, std::int32_t id) {
@@ -113,11 +111,6 @@ void HeldFrames_Timer(Show& show) {
   if (show.platform.dialogs.Modal() == ModalKind::Box) return;
   show.presses.HeldFrames->SetEnabled(false);
   TakeFrames(show);
-}
-
-template <typename Handler>
-void OnClick(Show& show, Control& control, Handler handler) {
-  control.OnClick = [&show, handler] { handler(show); };
 }
 
 }  // namespace

@@ -39,8 +39,6 @@ std::optional<FlipConstants> FlipConstantsOf(int gridSize) {
   }
 }
 
-bool HasPiece(int player) { return player >= 1 && player <= 3; }
-
 // By the square's name or key, which both end in the row and the column.
 int OwnerOf(const Show& show, const std::string& key) {
   const auto digit = [&](std::size_t fromEnd) { return static_cast<std::size_t>(key[key.size() - fromEnd] - '0'); };
@@ -59,7 +57,7 @@ void RestLastSquare(Show& show) {
   const std::string& key = show.state.LastSquareKey;
   if (!show.frmMain.tmrAnswer.Enabled || key.size() != 2) return;
   const int owner = OwnerOf(show, key);
-  const Image& face = HasPiece(owner) ? show.frmMain.FaceA(owner) : show.frmMain.imgBkgnd;
+  const Image& face = IsPlayer(owner) ? show.frmMain.FaceA(owner) : show.frmMain.imgBkgnd;
   SetSquarePicture(show, key[0] - '0', key[1] - '0', face.Picture);
 }
 
@@ -96,7 +94,7 @@ LineMade PayLines(Show& show, int r, int c) {
 
 void PayScore(Show& show) {
   const int player = show.state.CurrentPlayer;
-  if (player < 1 || player > 3) return;
+  if (!IsPlayer(player)) return;
   SetScore(show, player, NumberText(ScoreOf(show, player) + show.state.PiecePoints));
   ReportPlayer(show, player, kRed);
 }
@@ -121,8 +119,6 @@ std::string EdgeFace(Show& show) {
   }
 }
 
-bool FlipPlayerHasPiece(const Show& show) { return HasPiece(show.state.FlipPlayer); }
-
 // One tick of a turning square; true when it has come back to its full size.
 bool TurnSquare(Show& show, Flip& flip) {
   Image& square = *flip.Square;
@@ -142,13 +138,13 @@ bool TurnSquare(Show& show, Flip& flip) {
   if (square.Height <= flip.FullHeight) return false;
   flip.Larger = false;
   // The flash of a claim before this one may have ended meanwhile and forgotten the player.
-  const int player = FlipPlayerHasPiece(show) ? show.state.FlipPlayer : OwnerOf(show, square.Name());
-  square.Picture = HasPiece(player) ? show.frmMain.FaceA(player).Picture.Get() : std::string();
+  const int player = IsPlayer(show.state.FlipPlayer) ? show.state.FlipPlayer : OwnerOf(show, square.Name());
+  square.Picture = IsPlayer(player) ? show.frmMain.FaceA(player).Picture.Get() : std::string();
   return true;
 }
 
 void FlashSquare(Show& show) {
-  if (!FlipPlayerHasPiece(show) || show.state.LastSquareKey.size() != 2) return;
+  if (!IsPlayer(show.state.FlipPlayer) || show.state.LastSquareKey.size() != 2) return;
   const int player = show.state.FlipPlayer;
   Image& face = show.FlashToggle ? show.frmMain.FaceA(player) : show.frmMain.FaceB(player);
   show.FlashToggle = !show.FlashToggle;

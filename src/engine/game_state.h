@@ -122,6 +122,8 @@ struct GameState {
   std::string SetFolder;
 };
 
+// The numbers of players; a ring-in by a key can make CurrentPlayer another one.
+inline bool IsPlayer(int number) { return number >= 1 && number <= 3; }
 inline bool IsQuestionType(int gameType) { return gameType >= kTriviaModeA && gameType <= kTriviaModeC; }
 inline bool IsChallengeType(int gameType) { return gameType == kChallengeModeA || gameType == kChallengeModeB; }
 

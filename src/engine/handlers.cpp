@@ -21,30 +21,13 @@
 #include "engine/win_detection.h"
 #include "media/media_handlers.h"
 #include "media/sound_channels.h"
+#include "platform/attach.h"
 #include "presentation/audience_screen.h"
 #include "sets/editor_handlers.h"
 
 namespace pawnfield {
 
 namespace {
-
-using Handler = void (*)(Show&);
-using IndexedHandler = void (*)(Show&, int);
-
-void OnClick(Show& show, Control& control, Handler handler) {
-  control.OnClick = [&show, handler] { handler(show); };
-}
-
-void OnTimer(Show& show, Timer& timer, Handler handler) {
-  timer.OnTimer = [&show, handler] { handler(show); };
-}
-
-template <typename T, std::size_t N>
-void OnClick(Show& show, ControlArray<T, N>& controls, IndexedHandler handler) {
-  for (std::size_t i = 0; i < N; ++i) {
-    controls[i].OnClick = [&show, handler, i] { handler(show, static_cast<int>(i)); };
-  }
-}
 
 void AttachOptions(Show& show) {
   MainForm& form = show.frmMain;

@@ -62,7 +62,7 @@ void LiftCover(Show& show) {
 void TakePenalty(Show& show) {
   constexpr double kPenalty = 100;
   const int player = show.state.CurrentPlayer;
-  if (!show.state.IncorrectPenalty || player < 1 || player > 3) return;
+  if (!show.state.IncorrectPenalty || !IsPlayer(player)) return;
   SetScore(show, player, NumberText(ScoreOf(show, player) - kPenalty));
 }
 
@@ -76,7 +76,7 @@ void GiveTurnBack(Show& show, int lastPlayer) {
 void TakeBackClaim(Show& show) {
   GameState& state = show.state;
   const int player = state.LastPlayer;
-  if (player < 1 || player > 3) return;
+  if (!IsPlayer(player)) return;
   int& owner = state.Board[static_cast<std::size_t>(state.LastRow)][static_cast<std::size_t>(state.LastCol)];
   if (owner != player) return;
   // The other displays of the score catch up with its next change.

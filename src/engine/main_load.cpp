@@ -18,6 +18,7 @@
 #include "platform/text.h"
 #include "presentation/audience_screen.h"
 #include "presentation/audience_step.h"
+#include "presentation/board_labels.h"
 #include "presentation/board_layout.h"
 #include "presentation/both_screens.h"
 #include "sets/set_file.h"
@@ -43,11 +44,9 @@ void SetDesignPictures(Show& show) {
   form.picWinner.Picture = picture("Winner.jpg");
   const std::array cursors{"CursorNeutral.png", "CursorX.png", "CursorO.png", "CursorT.png"};
   for (std::size_t i = 0; i < cursors.size(); ++i) form.imgCursor[i].Picture = picture(cursors[i]);
-  const std::array columns{&form.imgA, &form.imgB, &form.imgC, &form.imgD, &form.imgE};
-  const std::array rows{&form.img1, &form.img2, &form.img3, &form.img4, &form.img5};
   for (std::size_t i = 0; i < 5; ++i) {
-    columns[i]->Picture = picture(std::string("Col") + static_cast<char>('A' + i) + ".png");
-    rows[i]->Picture = picture("Row" + std::to_string(i + 1) + ".png");
+    ColumnLabels(form)[i]->Picture = picture(std::string("Col") + static_cast<char>('A' + i) + ".png");
+    RowLabels(form)[i]->Picture = picture("Row" + std::to_string(i + 1) + ".png");
   }
   if (show.state.DualScreen) CopyDesignPictures(show);
 }

@@ -20,11 +20,6 @@ namespace pawnfield {
 
 namespace {
 
-const TriviaQuestion& QuestionAt(const Show& show, int index) {
-  if (index < 0 || index >= kSetCapacity) throw RuntimeError(kErrorSubscript, "Subscript out of range");
-  return show.GameSet[static_cast<std::size_t>(index)];
-}
-
 bool IsBlank(const std::string& field) { return field.empty() || field == " "; }
 
 Font FontOf(const TriviaQuestion& question) {
@@ -63,7 +58,7 @@ void ShowSoundQuestion(Show& show, const std::string& path) {
 }
 
 void ShowTextQuestion(Show& show) {
-  const TriviaQuestion& question = QuestionAt(show, show.state.CurrentQuestion);
+  const TriviaQuestion& question = RecordAt(show.GameSet, show.state.CurrentQuestion + 1);
   const std::string text = Trim(question.QuestionText);
   show.frmMain.lblQuestion[0].Font = FontOf(question);
   if (show.state.DualScreen) show.frmFSMain.lblQuestion[0].Font = FontOf(question);
@@ -92,7 +87,7 @@ void Advance(Show& show) {
   // The next question replaces the notice, which must not take the question down when its own time is up.
   if (show.frmMain.tmr5QuestionTimer.Enabled) tmr5QuestionTimer_Timer(show);
   ++show.state.CurrentQuestion;
-  const std::string text = Trim(QuestionAt(show, show.state.CurrentQuestion).QuestionText);
+  const std::string text = Trim(RecordAt(show.GameSet, show.state.CurrentQuestion + 1).QuestionText);
   show.frmMain.lblQuestion[0].Caption = text;
   if (show.state.DualScreen) show.frmFSMain.lblQuestion[0].Caption = text;
   ShowQuestion(show, show.state.CurrentQuestion);
@@ -108,7 +103,7 @@ void ShowVerdictButtons(Show& show, bool correct, bool incorrect) {
 }
 
 void ShowQuestion(Show& show, int index) {
-  const TriviaQuestion& question = QuestionAt(show, index);
+  const TriviaQuestion& question = RecordAt(show.GameSet, index + 1);
   const std::string text = Trim(question.QuestionText);
   SetQuestion(show, text, show.frmMain.lblQuestion);
   SetAnswer(show, Trim(question.AnswerText));

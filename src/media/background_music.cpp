@@ -46,8 +46,7 @@ bool LoadMusicList(Show& show) {
   for (const std::string& name : show.platform.files.List(folder, "")) {
     if (!IsTrack(name)) continue;
     if (list.size() == kMostTracks) {
-      ReportError(show.platform.dialogs, RuntimeError(kErrorSubscript, "Subscript out of range"), "frmMain",
-                  "LoadMusicList", folder);
+      ReportError(show.platform.dialogs, SubscriptError(), "frmMain", "LoadMusicList", folder);
       break;
     }
     list.push_back((folder + name).substr(0, kLongestPath));

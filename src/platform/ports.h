@@ -34,6 +34,9 @@ inline constexpr int kErrorDiskFull = 61;
 inline constexpr int kErrorPathAccess = 75;
 inline constexpr int kErrorPathNotFound = 76;
 inline constexpr int kErrorInvalidPicture = 481;
+
+// What an index outside its table raises.
+inline RuntimeError SubscriptError() { return {kErrorSubscript, "Subscript out of range"}; }
 inline constexpr int kErrorPrinter = 482;
 inline constexpr int kErrorInvalidPort = 8002;
 

@@ -4,6 +4,7 @@
 
 #include "engine/show.h"
 #include "media/question_pictures.h"
+#include "presentation/board_labels.h"
 #include "presentation/board_layout.h"
 #include "presentation/both_screens.h"
 #include "presentation/text_fitting.h"
@@ -90,9 +91,7 @@ void CopyVerdictAndWinner(Show& show) {
 // The cover is the audience's alone: it is up from a ring-in to its verdict.
 void CoverAnsweredQuestion(Show& show) {
   const int player = show.state.CurrentPlayer;
-  const bool open = PanelVisible(show, Panel::Question) || PanelVisible(show, Panel::QuestionPicture) ||
-                    PanelVisible(show, Panel::Sound);
-  const bool answering = open && player >= 1 && player <= 3 && show.frmMain.btnQuestionCorrect.Visible;
+  const bool answering = QuestionVisible(show) && IsPlayer(player) && show.frmMain.btnQuestionCorrect.Visible;
   const bool cover = answering && show.state.GameType == kTriviaModeC && show.state.HideQuestion;
   if (cover) {
     show.frmFSMain.lblPlayerName.Caption = show.frmMain.lblPlayer1[static_cast<std::size_t>(player - 1)].Caption;
@@ -105,11 +104,10 @@ void CoverAnsweredQuestion(Show& show) {
 void CopyDesignPictures(Show& show) {
   MainForm& form = show.frmMain;
   FSMainForm& audience = show.frmFSMain;
-  const std::array sources{&form.imgA, &form.imgB, &form.imgC, &form.imgD, &form.imgE,
-                           &form.img1, &form.img2, &form.img3, &form.img4, &form.img5};
-  const std::array targets{&audience.imgA, &audience.imgB, &audience.imgC, &audience.imgD, &audience.imgE,
-                           &audience.img1, &audience.img2, &audience.img3, &audience.img4, &audience.img5};
-  for (std::size_t i = 0; i < sources.size(); ++i) targets[i]->Picture = sources[i]->Picture;
+  for (std::size_t i = 0; i < 5; ++i) {
+    ColumnLabels(audience)[i]->Picture = ColumnLabels(form)[i]->Picture;
+    RowLabels(audience)[i]->Picture = RowLabels(form)[i]->Picture;
+  }
   audience.imgSound.Picture = form.imgSound.Picture;
   audience.picWinner.Picture = form.picWinner.Picture;
   audience.picHideQuestion.Picture = PicturePath(show, "\\Images\\Cover.jpg");

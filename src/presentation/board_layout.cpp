@@ -3,6 +3,7 @@
 #include <array>
 
 #include "engine/show.h"
+#include "presentation/board_labels.h"
 #include "presentation/both_screens.h"
 
 namespace pawnfield {
@@ -15,16 +16,6 @@ struct GridPlace {
 
 constexpr GridPlace kConsoleGrid{800, 815, 180, 30};
 constexpr GridPlace kAudienceGrid{2160, 1440, 60, 60};
-
-template <typename BoardForm>
-std::array<Image*, 6> ColumnLabels(BoardForm& form) {
-  return {&form.imgA, &form.imgB, &form.imgC, &form.imgD, &form.imgE, &form.imgF};
-}
-
-template <typename BoardForm>
-std::array<Image*, 6> RowLabels(BoardForm& form) {
-  return {&form.img1, &form.img2, &form.img3, &form.img4, &form.img5, &form.img6};
-}
 
 template <typename BoardForm>
 class GridBuilder {

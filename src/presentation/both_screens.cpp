@@ -46,6 +46,12 @@ void HidePanel(Show& show, Panel panel) { SetPanel(show, panel, false); }
 
 bool PanelVisible(const Show& show, Panel panel) { return PanelPair(const_cast<Show&>(show), panel).first->Visible; }
 
+bool TextOrPictureVisible(const Show& show) {
+  return PanelVisible(show, Panel::Question) || PanelVisible(show, Panel::QuestionPicture);
+}
+
+bool QuestionVisible(const Show& show) { return TextOrPictureVisible(show) || PanelVisible(show, Panel::Sound); }
+
 void SetScore(Show& show, int player, const std::string& text) {
   show.frmMain.Score(player).Caption = text;
   if (show.state.DualScreen) show.frmFSMain.Label11[static_cast<std::size_t>(player - 1)].Caption = text;

@@ -178,11 +178,7 @@ void CopyEditSetToGame(Show& show) {
   }
 }
 
-TriviaQuestion& ShownRecord(Show& show) {
-  const int number = show.frmEditor.EditQuestionNumber;
-  if (number < 1 || number > kSetCapacity) throw RuntimeError(kErrorSubscript, "Subscript out of range");
-  return show.EditSet[static_cast<std::size_t>(number - 1)];
-}
+TriviaQuestion& ShownRecord(Show& show) { return RecordAt(show.EditSet, show.frmEditor.EditQuestionNumber); }
 
 void DisplayEditQuestion(Show& show) {
   int& number = show.frmEditor.EditQuestionNumber;
@@ -191,7 +187,7 @@ void DisplayEditQuestion(Show& show) {
   ShowRecord(show);
   if (!outside) return;
   EnableEditorControls(show, true);
-  throw RuntimeError(kErrorSubscript, "Subscript out of range");
+  throw SubscriptError();
 }
 
 void ClearEditorDisplay(Show& show) {

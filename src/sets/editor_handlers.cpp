@@ -2,6 +2,7 @@
 
 #include "engine/show.h"
 #include "media/sound_channels.h"
+#include "platform/attach.h"
 #include "sets/editor.h"
 #include "sets/editor_files.h"
 #include "sets/editor_media.h"
@@ -15,10 +16,6 @@ using namespace editor;
 namespace {
 
 using Handler = void (*)(Show&);
-
-void OnClick(Show& show, Control& control, Handler handler) {
-  control.OnClick = [&show, handler] { handler(show); };
-}
 
 void OnClick(Show& show, Control& button, Control& entry, Handler handler) {
   OnClick(show, button, handler);

@@ -34,12 +34,7 @@ bool IsMissing(Show& show, TriviaQuestion& question) {
   return !FileExists(show, Trim(question.QuestionText));
 }
 
-TriviaQuestion& MissingRecord(Show& show) {
-  if (show.MissingQuestion < 1 || show.MissingQuestion > kSetCapacity) {
-    throw RuntimeError(kErrorSubscript, "Subscript out of range");
-  }
-  return show.GameSet[static_cast<std::size_t>(show.MissingQuestion - 1)];
-}
+TriviaQuestion& MissingRecord(Show& show) { return RecordAt(show.GameSet, show.MissingQuestion); }
 
 void PointDialogAt(CommonDialog& dialog, const std::string& path) {
   dialog.InitialFolder = ExtractFolder(path);

@@ -87,6 +87,11 @@ std::string NormalSetPath(const std::string& path) {
   return isText ? result : result + ".txt";
 }
 
+TriviaQuestion& RecordAt(TriviaSet& set, int number) {
+  if (number < 1 || number > kSetCapacity) throw SubscriptError();
+  return set[static_cast<std::size_t>(number - 1)];
+}
+
 void ResetGameSet(Show& show) {
   show.GameSet.fill({});
   for (auto& row : show.state.Board) row.fill(0);

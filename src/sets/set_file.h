@@ -22,6 +22,9 @@ std::string FormatQuestions(const TriviaSet& set);
 // Moves blank records one step towards the end, in a single pass.
 void CompactSet(TriviaSet& set);
 
+// The record of that number, 1 to 101; any other is the subscript error.
+TriviaQuestion& RecordAt(TriviaSet& set, int number);
+
 void ResetGameSet(Show& show);
 // Fills GameSet. False when the path is blank or the file can't be read, which is reported.
 bool LoadGameSet(Show& show, const std::string& path);

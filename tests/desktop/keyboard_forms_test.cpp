@@ -8,11 +8,9 @@
 #include <QComboBox>
 #include <QLineEdit>
 #include <QTabWidget>
-#include <QTemporaryDir>
 #include <QTest>
 
-#include "platform/desktop/desktop_program.h"
-#include "platform/desktop/native_path.h"
+#include "places.h"
 #include "platform/desktop/volume_slider_view.h"
 
 namespace pawnfield {
@@ -20,13 +18,6 @@ namespace {
 
 class KeyboardForms : public testing::Test {
  protected:
-  DesktopPlaces Places() const {
-    DesktopPlaces places;
-    places.folders.DataRoot = *SpelledPath(folder_.path() + "/data");
-    places.configFolder = folder_.path() + "/config";
-    places.runtimeFolder = folder_.path() + "/run";
-    return places;
-  }
   FormWindow& Window(Form& form) {
     for (FormWindow* window : program_.Windows()) {
       if (window->objectName() == QString::fromStdString(form.Name())) return *window;
@@ -69,7 +60,7 @@ class KeyboardForms : public testing::Test {
   }
 
   QTemporaryDir folder_;
-  DesktopProgram program_{Places()};
+  DesktopProgram program_{PlacesIn(folder_)};
   Show& show_ = program_.TheShow();
 };
 

@@ -4,14 +4,12 @@
 #include <pty.h>
 #include <unistd.h>
 
-#include <QTemporaryDir>
 #include <QTest>
 #include <array>
 
 #include "controllers/detection.h"
 #include "engine/handlers.h"
-#include "platform/desktop/desktop_program.h"
-#include "platform/desktop/native_path.h"
+#include "places.h"
 
 namespace pawnfield {
 namespace {
@@ -64,10 +62,7 @@ class SerialLineTest : public testing::Test {
     form_.btnStart.Click();
   }
   DesktopPlaces Places() {
-    DesktopPlaces places;
-    places.folders.DataRoot = *SpelledPath(folder_.path() + "/data");
-    places.configFolder = folder_.path() + "/config";
-    places.runtimeFolder = folder_.path() + "/run";
+    DesktopPlaces places = PlacesIn(folder_);
     places.serialAdapters = [this] {
       return line_ ? std::vector<SerialAdapter>{line_->Adapter()} : std::vector<SerialAdapter>{};
     };

@@ -5,15 +5,13 @@
 
 #include <QAbstractButton>
 #include <QLineEdit>
-#include <QTemporaryDir>
 #include <QTest>
 #include <QTimer>
 
+#include "places.h"
 #include "platform/desktop/bindings.h"
-#include "platform/desktop/desktop_program.h"
 #include "platform/desktop/fitting_scale.h"
 #include "platform/desktop/model_widgets.h"
-#include "platform/desktop/native_path.h"
 #include "presentation/board_layout.h"
 
 namespace pawnfield {
@@ -21,13 +19,6 @@ namespace {
 
 class WindowsTest : public testing::Test {
  protected:
-  DesktopPlaces Places() const {
-    DesktopPlaces places;
-    places.folders.DataRoot = *SpelledPath(folder_.path() + "/data");
-    places.configFolder = folder_.path() + "/config";
-    places.runtimeFolder = folder_.path() + "/run";
-    return places;
-  }
   template <typename T>
   T& Widget(const char* name) {
     auto* widget = program_.Console().findChild<T*>(name);
@@ -36,7 +27,7 @@ class WindowsTest : public testing::Test {
   }
 
   QTemporaryDir folder_;
-  DesktopProgram program_{Places()};
+  DesktopProgram program_{PlacesIn(folder_)};
   MainForm& form_ = program_.TheShow().frmMain;
 };
 

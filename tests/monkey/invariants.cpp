@@ -2,7 +2,7 @@
 
 #include <initializer_list>
 
-#include "presentation/both_screens.h"
+#include "support/screen_pairs.h"
 
 namespace pawnfield {
 
@@ -21,30 +21,20 @@ bool Animates(Show& show) {
 }
 
 // A claim takes the question's panels from the console; the audience keeps them until the verdict's or the next
-// question's own steps.
-bool MayOutlastClaim(const std::string& panel) {
-  return panel == "picQuestion" || panel == "picQuestionPicture" || panel == "picSound";
+// question's own steps. Scores have their own check. The random operator types over the boxes of the command and the
+// heading, which no key does in the real windows.
+bool MayDiffer(Show& show, const std::string& pair) {
+  if (pair.starts_with("score") || pair == "lblDJCommand" || pair == "heading") return true;
+  for (const char* panel : {"picQuestion", "picQuestionPicture", "picSound"}) {
+    if (pair == panel) return show.frmFSMain.Find(panel)->Visible;
+  }
+  return Animates(show) && pair.starts_with("img") && !pair.ends_with(".Visible");
 }
 
 std::string Pairs(Show& show) {
   if (!show.state.DualScreen) return {};
-  for (const char* panel :
-       {"picQuestion", "picQuestionPicture", "picSound", "picBonus", "picCorrect", "picWinner", "picStandby"}) {
-    const bool console = show.frmMain.Find(panel)->Visible;
-    const bool audience = show.frmFSMain.Find(panel)->Visible;
-    if (console != audience && !(audience && MayOutlastClaim(panel))) {
-      return std::string(panel) + " is on the " + (console ? "console" : "audience screen") + " only";
-    }
-  }
-  for (int r = 0; r < 6; ++r) {
-    for (int c = 0; c < 6; ++c) {
-      const Image& console = *show.frmMain.img.At(r, c);
-      const Image& audience = *show.frmFSMain.img.At(r, c);
-      if (console.Visible.Get() != audience.Visible.Get()) return console.Name() + " is visible on one screen only";
-      if (Animates(show)) continue;
-      const std::string fault = Differ("picture of " + console.Name(), console.Picture, audience.Picture);
-      if (!fault.empty()) return fault;
-    }
+  for (const std::string& pair : UnlikePairs(show)) {
+    if (!MayDiffer(show, pair)) return pair + " differs on the audience's screen";
   }
   return Differ("the winner's text", show.frmMain.lblWinner.Caption, show.frmFSMain.lblWinner.Caption);
 }
@@ -124,10 +114,6 @@ std::string Invariants::Scores(Show& show) {
     const auto index = static_cast<std::size_t>(player - 1);
     const std::string who = " of player " + std::to_string(player);
     const bool dual = show.state.DualScreen;
-    const std::string name = show.frmMain.lblPlayer1[index].Caption;
-    const std::string nameFault =
-        Differ("name" + who, name, dual ? show.frmFSMain.lblPlayer[index].Caption.Get() : name);
-    if (!nameFault.empty()) return nameFault;
     const std::string score = show.frmMain.Score(player).Caption;
     const std::string audience = dual ? show.frmFSMain.Label11[index].Caption.Get() : score;
     if (score == audience && score == show.frmMain.ScoreCopy(player).Caption.Get()) {

@@ -5,6 +5,7 @@
 #include <QTimer>
 #include <QWindow>
 
+#include "platform/desktop/board_items.h"
 #include "platform/desktop/ground.h"
 #include "platform/desktop/windows_1252.h"
 #include "presentation/fs_main_form.h"
@@ -50,18 +51,10 @@ AudienceWindow::~AudienceWindow() {
 void AudienceWindow::Fill(FSMainForm& form) {
   screen_->Add(form.imgBackground);
   screen_->Add(form.imgHeader);
-  ItemStyle sign;
-  sign.IsSign = true;
-  for (Image* image : {&form.imgA, &form.imgB, &form.imgC, &form.imgD, &form.imgE, &form.imgF, &form.img1, &form.img2,
-                       &form.img3, &form.img4, &form.img5, &form.img6}) {
-    screen_->Add(*image, sign);
-  }
-  screen_->Add(form.imgDJEntry);
-  ItemStyle rounded;
-  rounded.Corner = 0.09;
-  form.img.ForEach([&](Image& square) { screen_->Add(square, rounded); });
+  AddBoard(*screen_, form);
   ItemStyle legible;
   legible.SmallestSize = kSmallestLegible;
+  ItemStyle rounded;
   rounded.Edge = 0.03;
   rounded.Corner = 0.18;
   for (std::size_t i = 0; i < 3; ++i) {
@@ -86,12 +79,7 @@ void AudienceWindow::FillPanels(FSMainForm& form) {
                        &form.imgBonus, &form.imgSound, &form.imgStandby}) {
     screen_->Add(*image);
   }
-  // A rule has fitted these, so they are drawn as told.
-  ItemStyle fitted;
-  fitted.ShrinkToFit = false;
-  fitted.Align = Qt::AlignHCenter;
-  for (std::size_t i = 0; i < 5; ++i) screen_->Add(form.lblQuestion[i], fitted);
-  screen_->Add(form.lblWinner, fitted);
+  AddFittedTexts(*screen_, form);
   for (Label* label : {&form.lblPlayerName, &form.lblWhatIsAnswer, &form.lblRightWrong}) screen_->Add(*label);
 }
 

@@ -4,6 +4,7 @@
 #include <QPainter>
 #include <QScreen>
 
+#include "platform/desktop/board_items.h"
 #include "platform/desktop/ground.h"
 #include "platform/desktop/key_bridge.h"
 #include "platform/desktop/player_view.h"
@@ -49,16 +50,7 @@ void ConsoleWindow::FillBoard(MainForm& form) {
   board_->SetFillsDisplay(true);
   board_->SetBackdrop(PaintGround);
   board_->Add(form.imgHeader);
-  ItemStyle sign;
-  sign.IsSign = true;
-  for (Image* image : {&form.imgA, &form.imgB, &form.imgC, &form.imgD, &form.imgE, &form.imgF, &form.img1, &form.img2,
-                       &form.img3, &form.img4, &form.img5, &form.img6}) {
-    board_->Add(*image, sign);
-  }
-  board_->Add(form.imgDJEntry);
-  ItemStyle rounded;
-  rounded.Corner = 0.09;
-  form.img.ForEach([&](Image& square) { board_->Add(square, rounded); });
+  AddBoard(*board_, form);
   board_->Add(form.txtOptionalHeading);
   ItemStyle panel;
   panel.PaintsGround = true;
@@ -71,12 +63,7 @@ void ConsoleWindow::FillBoard(MainForm& form) {
                        &form.imgBonus, &form.imgCorrect, &form.imgStandby}) {
     board_->Add(*image);
   }
-  // A rule has fitted these, so they are drawn as told.
-  ItemStyle fitted;
-  fitted.ShrinkToFit = false;
-  fitted.Align = Qt::AlignHCenter;
-  for (std::size_t i = 0; i < 5; ++i) board_->Add(form.lblQuestion[i], fitted);
-  board_->Add(form.lblWinner, fitted);
+  AddFittedTexts(*board_, form);
   board_->Add(form.lblRightWrong);
 }
 

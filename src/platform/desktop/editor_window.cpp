@@ -30,14 +30,6 @@ Widget* Named(Widget* widget, const char* name) {
   return widget;
 }
 
-QPushButton* MakeButton(const char* name, int height, int width = 0) {
-  auto* button = Named(new QPushButton, name);
-  button->setMinimumHeight(height);
-  if (width > 0) button->setMinimumWidth(width);
-  button->setAutoDefault(true);
-  return button;
-}
-
 QLabel* MakeLabel(const char* name, const char* role = "") {
   auto* label = Named(new QLabel, name);
   label->setProperty("role", role);
@@ -74,16 +66,7 @@ QHBoxLayout* AddRow(QVBoxLayout& column) {
 }
 
 void AddButtons(QHBoxLayout& row, int height, std::initializer_list<const char*> names) {
-  for (const char* name : names) row.addWidget(MakeButton(name, height));
-}
-
-QVBoxLayout* MakeContent(QMainWindow& window, int edge) {
-  auto* content = Named(new QWidget, "pnlContent");
-  auto* column = new QVBoxLayout(content);
-  column->setContentsMargins(edge, edge, edge, edge);
-  column->setSpacing(12);
-  window.setCentralWidget(content);
-  return column;
+  for (const char* name : names) row.addWidget(MakeButton(name, QSize(0, height)));
 }
 
 // Keeps the preview in the proportions of the audience's screen, whatever the window's are.
@@ -141,7 +124,7 @@ void EditorWindow::AddTools(QVBoxLayout& column) {
   row.addSpacing(kEdge);
   row.addStretch();
   row.addWidget(MakeLabel("lblImport", "quiet"));
-  row.addWidget(MakeButton("btnImport", kToolHeight));
+  row.addWidget(MakeButton("btnImport", QSize(0, kToolHeight)));
 }
 
 void EditorWindow::AddQuestion(QVBoxLayout& column, PictureCache& pictures) {
@@ -191,7 +174,7 @@ void EditorWindow::AddNavigation(QVBoxLayout& column) {
   row.addSpacing(kEdge * 2);
   AddButtons(row, kMoveHeight, {"btnInsertQuestion", "btnDeleteQuestion"});
   row.addStretch();
-  row.addWidget(MakeButton("btnNext", kMoveHeight, 180));
+  row.addWidget(MakeButton("btnNext", QSize(180, kMoveHeight)));
   // What is written is followed by the next question.
   setTabOrder(findChild<QWidget*>("txtAnswer"), findChild<QWidget*>("btnNext"));
   setTabOrder(findChild<QWidget*>("btnNext"), findChild<QWidget*>("btnBack10"));
@@ -211,8 +194,8 @@ EditChoiceWindow::EditChoiceWindow(EditChoiceForm& form, FormWindows& windows) :
   column.addWidget(MakeLabel("lblPrompt"));
   QHBoxLayout& row = *AddRow(column);
   row.addStretch();
-  row.addWidget(MakeButton("btnCurrent", kMoveHeight, 140));
-  row.addWidget(MakeButton("New", kMoveHeight, 140));
+  row.addWidget(MakeButton("btnCurrent", QSize(140, kMoveHeight)));
+  row.addWidget(MakeButton("New", QSize(140, kMoveHeight)));
   BindForm();
 }
 
@@ -229,11 +212,11 @@ MissingMediaWindow::MissingMediaWindow(MissingMediaForm& form, FormWindows& wind
   location->setMinimumWidth(560);
   column.addWidget(location);
   QHBoxLayout& row = *AddRow(column);
-  row.addWidget(MakeButton("btnRepair", kMoveHeight, 130));
+  row.addWidget(MakeButton("btnRepair", QSize(130, kMoveHeight)));
   row.addWidget(MakeLabel("lblRecommended", "quiet"));
   row.addStretch();
-  row.addWidget(MakeButton("btnCancel", kMoveHeight, 130));
-  row.addWidget(MakeButton("btnFinished", kMoveHeight, 130));
+  row.addWidget(MakeButton("btnCancel", QSize(130, kMoveHeight)));
+  row.addWidget(MakeButton("btnFinished", QSize(130, kMoveHeight)));
   BindForm();
 }
 

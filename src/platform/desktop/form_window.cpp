@@ -4,11 +4,30 @@
 #include <QGuiApplication>
 #include <QPushButton>
 #include <QScreen>
+#include <QVBoxLayout>
 
 #include "platform/desktop/native_path.h"
 #include "platform/desktop/windows_1252.h"
 
 namespace pawnfield {
+
+QVBoxLayout* MakeContent(QMainWindow& window, int edge, int spacing) {
+  auto* content = new QWidget(&window);
+  content->setObjectName("pnlContent");
+  window.setCentralWidget(content);
+  auto* column = new QVBoxLayout(content);
+  column->setContentsMargins(edge, edge, edge, edge);
+  column->setSpacing(spacing);
+  return column;
+}
+
+QPushButton* MakeButton(const QString& name, const QSize& least) {
+  auto* button = new QPushButton;
+  button->setObjectName(name);
+  button->setMinimumSize(least);
+  button->setAutoDefault(true);
+  return button;
+}
 
 FormWindow::FormWindow(Form& form, FormWindows& windows, Qt::WindowFlags flags)
     : QMainWindow(nullptr, flags), form_(form), windows_(windows) {

@@ -9,6 +9,7 @@
 #include "platform/desktop/form_windows.h"
 
 class QPushButton;
+class QVBoxLayout;
 
 namespace pawnfield {
 
@@ -24,6 +25,10 @@ void SetUp(QMainWindow& window) {
   content->setObjectName("pnlContent");
   window.setCentralWidget(content);
 }
+
+// For a window that is laid out in code: its content as a column to fill, `edge` pixels inside the window's own edge.
+QVBoxLayout* MakeContent(QMainWindow& window, int edge, int spacing = 12);
+QPushButton* MakeButton(const QString& name, const QSize& least);
 
 class FormWindow : public QMainWindow, public Mirror {
  public:

@@ -17,17 +17,10 @@ namespace pawnfield {
 namespace {
 
 constexpr QSize kBoxSize(560, 56);
-constexpr int kButtonHeight = 34;
+constexpr QSize kButtonSize(100, 34);
 
-QPushButton* MakeButton(const QString& name, QWidget* parent) {
-  auto* button = new QPushButton(parent);
-  button->setObjectName(name);
-  button->setMinimumSize(100, kButtonHeight);
-  return button;
-}
-
-void AddLine(QGridLayout& lines, QWidget* parent, int index) {
-  auto* box = new QLineEdit(parent);
+void AddLine(QGridLayout& lines, int index) {
+  auto* box = new QLineEdit;
   box->setObjectName(QString("txtOptionalHeader_%1").arg(index));
   box->setMinimumSize(kBoxSize);
   box->setAlignment(Qt::AlignCenter);
@@ -36,7 +29,7 @@ void AddLine(QGridLayout& lines, QWidget* parent, int index) {
   lines.addWidget(box, index, 0);
   int column = 1;
   for (const char* name : {"btnOpt1Font_%1", "btnOpt1Fg_%1", "btnOpt1Bg_%1"}) {
-    lines.addWidget(MakeButton(QString(name).arg(index), parent), index, column++);
+    lines.addWidget(MakeButton(QString(name).arg(index), kButtonSize), index, column++);
   }
 }
 
@@ -44,23 +37,18 @@ void AddLine(QGridLayout& lines, QWidget* parent, int index) {
 
 OptionalHeadersWindow::OptionalHeadersWindow(OptionalHeadersForm& form, FormWindows& windows)
     : FormWindow(form, windows, kDialog) {
-  auto* content = new QWidget(this);
-  content->setObjectName("pnlContent");
-  setCentralWidget(content);
-  auto* column = new QVBoxLayout(content);
-  column->setContentsMargins(18, 14, 18, 18);
-  column->setSpacing(14);
+  QVBoxLayout* column = MakeContent(*this, 16, 14);
   auto* lines = new QGridLayout;
   lines->setSpacing(10);
   lines->setColumnStretch(0, 1);
-  for (int i = 0; i < 4; ++i) AddLine(*lines, content, i);
+  for (int i = 0; i < 4; ++i) AddLine(*lines, i);
   column->addLayout(lines);
   auto* base = new QHBoxLayout;
   base->setSpacing(8);
-  auto* check = new QCheckBox(content);
+  auto* check = new QCheckBox;
   check->setObjectName("chkBaseImage");
   check->setAccessibleName("Show base header");
-  auto* label = new ModelLabel(content);
+  auto* label = new ModelLabel;
   label->setObjectName("lblBaseImage");
   label->setProperty("clicks", "chkBaseImage");
   base->addWidget(check);
@@ -68,12 +56,12 @@ OptionalHeadersWindow::OptionalHeadersWindow(OptionalHeadersForm& form, FormWind
   column->addLayout(base);
   auto* row = new QHBoxLayout;
   row->setSpacing(10);
-  for (const char* name : {"btnOpen", "btnSave", "btnClearAll"}) row->addWidget(MakeButton(name, content));
+  for (const char* name : {"btnOpen", "btnSave", "btnClearAll"}) row->addWidget(MakeButton(name, kButtonSize));
   row->addStretch(1);
-  auto* ok = MakeButton("btnOk", content);
+  auto* ok = MakeButton("btnOk", kButtonSize);
   ok->setDefault(true);
   row->addWidget(ok);
-  row->addWidget(MakeButton("btnCancel", content));
+  row->addWidget(MakeButton("btnCancel", kButtonSize));
   column->addLayout(row);
   menuBar()->setObjectName("pnlMenuBar");
   auto* file = menuBar()->addMenu("");

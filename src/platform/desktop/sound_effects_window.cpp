@@ -15,44 +15,32 @@ namespace pawnfield {
 namespace {
 
 constexpr QSize kGridSize(860, 520);
-constexpr int kButtonHeight = 34;
-
-QPushButton* MakeButton(const char* name, QWidget* parent, QBoxLayout& row) {
-  auto* button = new QPushButton(parent);
-  button->setObjectName(name);
-  button->setMinimumSize(140, kButtonHeight);
-  button->setAutoDefault(false);
-  row.addWidget(button);
-  return button;
-}
+constexpr QSize kButtonSize(140, 34);
 
 }  // namespace
 
 SoundEffectsWindow::SoundEffectsWindow(SoundEffectsForm& form, FormWindows& windows)
     : FormWindow(form, windows, kDialog) {
-  auto* content = new QWidget(this);
-  content->setObjectName("pnlContent");
-  setCentralWidget(content);
-  auto* column = new QVBoxLayout(content);
-  column->setContentsMargins(18, 14, 18, 18);
-  column->setSpacing(12);
-  auto* note = new QLabel("Double-click a cell, or drop a file on it. Delete empties it, Enter plays it.", content);
+  QVBoxLayout* column = MakeContent(*this, 16);
+  auto* note = new QLabel("Double-click a cell, or drop a file on it. Delete empties it, Enter plays it.");
   note->setObjectName("pnlNote");
   note->setProperty("role", "note");
   column->addWidget(note);
-  auto* grid = new GridView(content);
+  auto* grid = new GridView(this);
   grid->setObjectName("Grid1");
   grid->setMinimumSize(kGridSize);
   column->addWidget(grid, 1);
   auto* row = new QHBoxLayout;
   row->setSpacing(10);
-  auto* preview = new QCheckBox("&Preview Sound Effects", content);
+  auto* preview = new QCheckBox("&Preview Sound Effects");
   preview->setObjectName("bPreview");
   row->addWidget(preview);
   row->addStretch(1);
-  MakeButton("btnImport", content, *row);
-  MakeButton("btnExport", content, *row);
-  MakeButton("btnSaveExit", content, *row);
+  for (const char* name : {"btnImport", "btnExport", "btnSaveExit"}) {
+    QPushButton* button = MakeButton(name, kButtonSize);
+    button->setAutoDefault(false);
+    row->addWidget(button);
+  }
   column->addLayout(row);
   menuBar()->setObjectName("pnlMenuBar");
   auto* file = menuBar()->addMenu("&File");

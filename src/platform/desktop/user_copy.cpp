@@ -71,7 +71,8 @@ bool UpdateFile(const QString& from, const QString& to, const QString& path, con
 
 void UpdateUserCopy(const QString& shared, const QString& userFolder) {
   QDir().mkpath(userFolder);
-  Manifest manifest = ReadManifest(userFolder);
+  const Manifest before = ReadManifest(userFolder);
+  Manifest manifest = before;
   QDirIterator files(shared, QDir::Files, QDirIterator::Subdirectories);
   while (files.hasNext()) {
     const QString from = files.next();
@@ -80,7 +81,7 @@ void UpdateUserCopy(const QString& shared, const QString& userFolder) {
     if (shipped.isEmpty()) continue;
     if (UpdateFile(from, userFolder + '/' + path, path, manifest.value(path), shipped)) manifest[path] = shipped;
   }
-  WriteManifest(userFolder, manifest);
+  if (manifest != before) WriteManifest(userFolder, manifest);
 }
 
 }  // namespace pawnfield
