@@ -1,14 +1,9 @@
 // Verdicts, points, skip and undo, by presses on the console.
-#include <gmock/gmock.h>
-#include <gtest/gtest.h>
-
 #include "presentation/both_screens.h"
 #include "support/game_player.h"
 
 namespace pawnfield {
 namespace {
-
-using testing::Contains;
 
 TEST(Judging, ScoreButtonsRefuseWhatLeavesTheLimitsAsAWhole) {
   struct Case {
@@ -31,120 +26,44 @@ TEST(Judging, ScoreButtonsRefuseWhatLeavesTheLimitsAsAWhole) {
       {"no number", "u22", "1000"},
       {"1000001", "d25", "1000000"},
   };
-  GamePlayer player({1, 2, 3, Ending::FinishRow, ""});
+  GamePlayer player("1 2 3 row");
   for (const Case& c : cases) {
-    MainForm& form = player.fixture().form();
-    SetScore(player.fixture().show(), 2, c.start);
-    const std::string step = c.step;
-    const auto index = static_cast<std::size_t>(step[2] - '0');
-    (step[0] == 'u' ? form.btnScore2Up[index] : form.btnScore2Dn[index]).Click();
-    EXPECT_EQ(form.lblP2Score.Caption.Get(), c.after) << c.start << " " << c.step;
-  }
-  EXPECT_EQ(player.fixture().form().lblP1Score.Caption, "0");
-}
-
-TEST(Judging, SkipLeavesTheTurnOnlyInTriviaModeA) {
-  for (const int gameType : {3, 4, 5}) {
-    GamePlayer player({gameType, 3, 3, Ending::FinishRow, ""});
-    player.Play(gameType == 5 ? "r2" : "+ 00 > -");
-    const int before = player.fixture().show().state.CurrentPlayer;
-    ASSERT_EQ(before, gameType == 3 ? 3 : 2);
-    player.Play("S");
-    EXPECT_EQ(player.fixture().show().state.CurrentPlayer, gameType == 3 ? 3 : 0) << gameType;
-    EXPECT_FALSE(player.fixture().audience().picHideQuestion.Visible) << gameType;
-    const int question = player.fixture().show().state.CurrentQuestion;
-    player.Play(">");
-    EXPECT_EQ(player.fixture().show().state.CurrentQuestion, question + 1) << gameType;
-    EXPECT_TRUE(player.fixture().form().picQuestion.Visible) << gameType;
+    SetScore(player.show(), 2, c.start);
+    player.Play(std::string(c.step) + " scores=0/" + c.after + "/0");
   }
 }
 
-TEST(Judging, UndoTakesBackTheBonusOfALineOnceAndGivesTheTurnBackInRoundRobin) {
-  struct Case {
-    GameSetup setup;
-    const char* script;
-    const char* scores;
-    int turn;
-  };
-  const Case cases[] = {
-      {{1, 2, 3, Ending::FullBoard, ""}, "00 10 01 11 02 U", "100 100 0", 1},
-      {{1, 3, 3, Ending::FullBoard, ""}, "00 U", "0 0 0", 1},
-      {{1, 3, 3, Ending::FullBoard, ""}, "00 01 02 U", "50 50 0", 3},
-      {{2, 3, 3, Ending::FullBoard, ""}, "00 N 01 U", "50 0 0", 2},
-      {{3, 2, 3, Ending::FullBoard, ""}, "+ 00 > + 01 U", "50 0 0", 2},
-      {{4, 2, 3, Ending::FullBoard, ""}, "+ 00 U", "0 0 0", 1},
-      {{5, 2, 3, Ending::FullBoard, ""}, "r2 + 00 U", "0 0 0", 0},
-      {{1, 2, 3, Ending::FullBoard, "0"}, "00 U", "0 0 0", 2},
-  };
-  for (const Case& c : cases) {
-    GamePlayer player(c.setup);
-    player.Play(c.script);
-    const std::string what = std::to_string(c.setup.GameType) + ": " + c.script;
-    EXPECT_EQ(player.fixture().Scores(), c.scores) << what;
-    EXPECT_EQ(player.fixture().show().state.CurrentPlayer, c.turn) << what;
-    const std::string board = player.Board();
-    player.fixture().form().btnUndo.Click();
-    EXPECT_EQ(player.Board(), board) << what << " undone twice";
-    EXPECT_EQ(player.fixture().Scores(), c.scores) << what << " undone twice";
-  }
-}
+const Story kJudging[] = {
+    {"SkipKeepsTheTurnInTriviaA", "3 3 3 row", "+ 00 > - turn=3 S turn=3 question=1 > question=2 picQuestion=up"},
+    {"SkipTakesTheTurnInTriviaB", "4 3 3 row", "+ 00 > - turn=2 S turn=0 question=1 > question=2 picQuestion=up"},
+    {"SkipLiftsTheCoverInTriviaC", "5 3 3 row",
+     "r2 turn=2 picHideQuestion'=up S turn=0 picHideQuestion'=- > question=1 picQuestion=up"},
+    {"UndoTakesBackTheBonusOfALine", "1 2 3 full", "00 10 01 11 02 U scores=100/100/0 turn=1 btnUndo=off"},
+    {"UndoGivesTheTurnBackToPlayer1", "1 3 3 full", "00 U scores=0/0/0 turn=1"},
+    {"UndoGivesTheTurnBackToPlayer3", "1 3 3 full", "00 01 02 U scores=50/50/0 turn=3"},
+    {"UndoLeavesTheTurnInChallengeB", "2 3 3 full", "00 N 01 U scores=50/0/0 turn=2"},
+    {"UndoGivesTheTurnBackInTriviaA", "3 2 3 full", "+ 00 > + 01 U scores=50/0/0 turn=2"},
+    {"UndoLeavesTheTurnInTriviaB", "4 2 3 full", "+ 00 U scores=0/0/0 turn=1"},
+    {"UndoGivesNobodyTheTurnInTriviaC", "5 2 3 full", "r2 + 00 U scores=0/0/0 turn=0"},
+    {"AClaimOfNoPointsCantBeUndone", "1 2 3 full 0", "11 U scores=0/0/0 turn=2 board=000/010/000"},
+    {"AVerdictSounds", "3 2 3 full", "- event=Incorrect.mp3 picCorrect=-"},
+    {"AnAnimatedVerdictStandsFourAndAHalfSeconds", "3 2 3 full a",
+     "+ verdict=Correct4swf.mp3 picCorrect=up lblRightWrong'=Correct! >200 lblRightWrong'=- "
+     ">4299 picCorrect=up lblRightWrong=Correct! >1 picCorrect'=-"},
+    {"TheValueOfASquareAndALineChangesAtOnce", "2 2 3 full", "00 cbxScore(0):10 cbxScore(1):2 01 02 scores=270/0/0"},
+};
 
-TEST(Judging, AClaimOfNoPointsCantBeUndone) {
-  GamePlayer player({2, 2, 3, Ending::FullBoard, "0"});
-  player.Play("11 U");
-  EXPECT_EQ(player.Board(), "000/010/000");
-}
+using JudgingStory = StoryTest;
+TEST_P(JudgingStory, GoesAsTold) { Play(); }
+INSTANTIATE_TEST_SUITE_P(Judging, JudgingStory, testing::ValuesIn(kJudging), StoryTest::Name);
 
 TEST(Judging, AnIncorrectVerdictCostsOnlyWhoHoldsTheQuestion) {
-  GamePlayer player({5, 3, 3, Ending::FullBoard, "p"});
-  MainForm& form = player.fixture().form();
-  player.Play("r2");
-  EXPECT_TRUE(player.fixture().audience().picHideQuestion.Visible);
-  EXPECT_EQ(player.fixture().audience().lblPlayerName.Caption, "PLAYER 2");
-  EXPECT_FALSE(form.btnBuzzer[0].Enabled);
-  form.lblP2Score.Caption = "-999950";
-  player.Play("-");
-  EXPECT_EQ(player.fixture().Scores(), "0 -1000050 0");
-  EXPECT_EQ(player.fixture().show().state.CurrentPlayer, 0);
-  EXPECT_FALSE(player.fixture().audience().picHideQuestion.Visible);
-  EXPECT_FALSE(form.btnQuestionCorrect.Visible);
-  for (std::size_t i = 0; i < 3; ++i) EXPECT_TRUE(form.btnBuzzer[i].Enabled);
-  EXPECT_TRUE(form.picQuestion.Visible);
-}
-
-TEST(Judging, VerdictsSoundOrShowAPictureThatGoesAfterFourAndAHalfSeconds) {
-  GamePlayer plain({3, 2, 3, Ending::FullBoard, ""});
-  plain.fixture().sim.media.Log.clear();
-  plain.Play("-");
-  EXPECT_THAT(plain.fixture().sim.media.Log, Contains("EventPlayer url C:\\Pawnfield\\Sound Effects\\Incorrect.mp3"));
-  EXPECT_FALSE(plain.fixture().form().picCorrect.Visible);
-
-  GamePlayer animated({3, 2, 3, Ending::FullBoard, "a"});
-  MainForm& form = animated.fixture().form();
-  animated.Play("+");
-  EXPECT_EQ(animated.fixture().sim.media.CorrectIncorrectPlayer.Url, "C:\\Pawnfield\\Sound Effects\\Correct4swf.mp3");
-  EXPECT_TRUE(form.picCorrect.Visible);
-  EXPECT_EQ(animated.fixture().audience().lblRightWrong.Caption, "Correct!");
-  animated.fixture().sim.clock.Advance(200);
-  EXPECT_FALSE(animated.fixture().audience().lblRightWrong.Visible);
-  animated.fixture().sim.clock.Advance(4299);
-  EXPECT_TRUE(form.picCorrect.Visible);
-  EXPECT_TRUE(form.lblRightWrong.Visible);
-  animated.fixture().sim.clock.Advance(1);
-  EXPECT_FALSE(form.picCorrect.Visible);
-  EXPECT_FALSE(animated.fixture().audience().picCorrect.Visible);
-}
-
-TEST(Judging, TheValueOfASquareChangesAtOnceAndIsSaved) {
-  GamePlayer player({2, 2, 3, Ending::FullBoard, ""});
-  MainForm& form = player.fixture().form();
-  player.Play("00");
-  form.cbxScore[0].Select(10);
-  form.cbxScore[1].Select(2);
-  player.Play("01 02");
-  EXPECT_EQ(player.fixture().Scores(), "270 0 0");
-  EXPECT_EQ(player.fixture().sim.settings.GetSetting("Pawnfield", "Settings", "Scoring", ""), "10");
-  EXPECT_EQ(player.fixture().sim.settings.GetSetting("Pawnfield", "Settings", "Bonus", ""), "2");
+  GamePlayer player("5 3 3 full p");
+  player.Play("r2 picHideQuestion'=up lblPlayerName'=PLAYER_2");
+  EXPECT_FALSE(player.form().btnBuzzer[0].Enabled);
+  player.form().lblP2Score.Caption = "-999950";
+  player.Play("- scores=0/-1000050/0 turn=0 picHideQuestion'=- btnQuestionCorrect=- picQuestion=up");
+  for (std::size_t i = 0; i < 3; ++i) EXPECT_TRUE(player.form().btnBuzzer[i].Enabled);
 }
 
 }  // namespace

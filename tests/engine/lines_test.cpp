@@ -5,99 +5,72 @@
 namespace pawnfield {
 namespace {
 
-// Boards are rows of owners parted by "/", '.' for a free square; '*' is the claim of player 1.
+using Check = LineResult (*)(const BoardArray&, const LineClaim&);
+struct Direction {
+  Check check;
+  int down, right;
+};
+constexpr Direction kDirections[] = {
+    {CheckRowLine, 0, 1}, {CheckColumnLine, 1, 0}, {CheckDiagonalLine, 1, 1}, {CheckAntiDiagonalLine, 1, -1}};
+
+// Rows of owners parted by "/", '.' for a free square, '*' for the claim of player 1. Each direction's points, of a
+// row, a column, a diagonal and an anti-diagonal; "-" where there is no line.
 struct LineCase {
   const char* what;
-  const char* board;
-  LineResult row, column, diagonal, anti;
+  std::string board;
+  const char* paid;
 };
-
-constexpr LineResult kNone{};
-constexpr LineResult kLine{50, true};
-
-struct Parsed {
-  BoardArray board{};
-  LineClaim claim;
-};
-
-Parsed Parse(const std::string& text) {
-  Parsed parsed;
-  std::size_t r = 0, c = 0;
-  for (const char square : text) {
-    if (square == '/') {
-      ++r;
-      c = 0;
-      continue;
-    }
-    parsed.board[r][c] = square == '.' ? 0 : square == '*' ? 1 : square - '0';
-    if (square == '*') parsed.claim = {static_cast<int>(r), static_cast<int>(c), 1, 0, 50};
-    ++c;
-  }
-  parsed.claim.GridSize = static_cast<int>(r) + 1;
-  return parsed;
-}
 
 const LineCase kLines[] = {
-    {"alone", "*../.../...", kNone, kNone, kNone, kNone},
-    {"two are no line", "*1./1../...", kNone, kNone, kNone, kNone},
-    {"row, claim at its left end", "*11/.../...", kLine, kNone, kNone, kNone},
-    {"row, claim at its right end", "..../..../.11*/....", kLine, kNone, kNone, kNone},
-    {"row, claim in the middle", ".1*1/..../..../....", kLine, kNone, kNone, kNone},
-    {"row of another is in the way", "*121./...../...../...../.....", kNone, kNone, kNone, kNone},
-    {"row of four pays once", "*111/..../..../....", kLine, kNone, kNone, kNone},
-    {"row of five joined in the middle pays once", "11*11/...../...../...../.....", kLine, kNone, kNone, kNone},
-    {"row does not wrap to the next", "..11/*.../..../....", kNone, kNone, kNone, kNone},
-    {"column, claim at the top", "..../.*../.1../.1..", kNone, kLine, kNone, kNone},
-    {"column, claim at the bottom", ".1./.1./.*.", kNone, kLine, kNone, kNone},
-    {"column, claim in the middle", "1../*../1..", kNone, kLine, kNone, kNone},
-    {"column with a gap", "1/./*", kNone, kNone, kNone, kNone},
-    {"diagonal downwards", "*../.1./..1", kNone, kNone, kLine, kNone},
-    {"diagonal upwards", "1..../.1.../..*../...../.....", kNone, kNone, kLine, kNone},
-    {"diagonal through the middle", "...../.1.../..*../...1./.....", kNone, kNone, kLine, kNone},
-    {"anti-diagonal of three from below", "..1/.1./*..", kNone, kNone, kNone, {200, true}},
-    {"anti-diagonal of three from above", "..*/.1./1..", kNone, kNone, kNone, {200, true}},
-    {"anti-diagonal of three, middle", "..1/.*./1..", kNone, kNone, kNone, {200, true}},
-    {"anti-diagonal of four pays 100", "...*/..1./.1../1...", kNone, kNone, kNone, {100, true}},
-    {"anti-diagonal of four from below pays 100", "...1/..1./.1../*...", kNone, kNone, kNone, {100, true}},
-    {"anti-diagonal of four joined inside pays as three", "...1/..*./.1../1...", kNone, kNone, kNone, {200, true}},
-    {"row and column at once", "*11/1../1..", kLine, kLine, kNone, kNone},
-    {"all four at once", "1.1.1/.111./11*11/.111./1.1.1", kLine, kLine, kLine, {200, true}},
+    {"two are no line", "*1./1../...", "- - - -"},
+    {"another is in the way", "*121./...../...../...../.....", "- - - -"},
+    {"a row of four pays once", "*111/..../..../....", "50 - - -"},
+    {"a row of five joined in the middle pays once", "11*11/...../...../...../.....", "50 - - -"},
+    {"a row does not wrap to the next", "..11/*.../..../....", "- - - -"},
+    {"a column with a gap", "1../.../*..", "- - - -"},
+    {"an anti-diagonal of four from above pays 100", "...*/..1./.1../1...", "- - - 100"},
+    {"an anti-diagonal of four from below pays 100", "...1/..1./.1../*...", "- - - 100"},
+    {"an anti-diagonal of four joined inside pays as three", "...1/..*./.1../1...", "- - - 200"},
+    {"row and column at once", "*11/1../1..", "50 50 - -"},
+    {"all four at once", "1.1.1/.111./11*11/.111./1.1.1", "50 50 50 200"},
 };
 
 TEST(Lines, EachDirectionPaysWhatItShould) {
   for (const LineCase& c : kLines) {
-    const Parsed parsed = Parse(c.board);
-    EXPECT_EQ(CheckRowLine(parsed.board, parsed.claim), c.row) << c.what;
-    EXPECT_EQ(CheckColumnLine(parsed.board, parsed.claim), c.column) << c.what;
-    EXPECT_EQ(CheckDiagonalLine(parsed.board, parsed.claim), c.diagonal) << c.what;
-    EXPECT_EQ(CheckAntiDiagonalLine(parsed.board, parsed.claim), c.anti) << c.what;
+    BoardArray board{};
+    const int grid = static_cast<int>(c.board.find('/'));
+    LineClaim claim;
+    std::size_t r = 0, col = 0;
+    for (const char square : c.board) {
+      if (square == '*') claim = {static_cast<int>(r), static_cast<int>(col), 1, grid, 50};
+      if (square != '/') board[r][col] = square == '.' ? 0 : square == '*' ? 1 : square - '0';
+      col = square == '/' ? 0 : col + 1;
+      if (square == '/') ++r;
+    }
+    std::string paid;
+    for (const Direction& direction : kDirections) {
+      const LineResult result = direction.check(board, claim);
+      paid += (paid.empty() ? "" : " ") + (result.Hit ? std::to_string(result.Points) : "-");
+    }
+    EXPECT_EQ(paid, c.paid) << c.what;
   }
 }
 
-// Every placement of three in a row on every grid must be found from each of its three squares.
+// Every placement of three in a row on every grid is found from each of its three squares, and pays.
 TEST(Lines, NoThreeIsMissedAnywhere) {
-  using Check = LineResult (*)(const BoardArray&, const LineClaim&);
-  const struct {
-    Check check;
-    int down, right;
-  } directions[] = {
-      {CheckRowLine, 0, 1}, {CheckColumnLine, 1, 0}, {CheckDiagonalLine, 1, 1}, {CheckAntiDiagonalLine, 1, -1}};
   for (const int grid : {3, 4, 5}) {
-    for (const auto& direction : directions) {
+    for (const Direction& direction : kDirections) {
       int lines = 0;
       for (int at = 0; at < grid * grid; ++at) {
-        BoardArray board{};
-        const auto inside = [&](int step) {
-          const int r = at / grid + step * direction.down, c = at % grid + step * direction.right;
-          if (r < 0 || r >= grid || c < 0 || c >= grid) return false;
-          board[static_cast<std::size_t>(r)][static_cast<std::size_t>(c)] = 2;
-          return true;
-        };
-        if (!inside(0) || !inside(1) || !inside(2)) continue;
+        const int row = at / grid, column = at % grid, lastColumn = column + 2 * direction.right;
+        if (row + 2 * direction.down >= grid || lastColumn < 0 || lastColumn >= grid) continue;
         ++lines;
-        for (int step = 0; step < 3; ++step) {
-          const LineClaim claim{at / grid + step * direction.down, at % grid + step * direction.right, 2, grid, 10};
-          EXPECT_TRUE(direction.check(board, claim).Hit) << grid << " from " << at << " at step " << step;
+        BoardArray board{};
+        for (int i = 0; i < 3; ++i) board.at(row + i * direction.down).at(column + i * direction.right) = 2;
+        const LineResult expected{direction.right < 0 ? 200 : 10, true};
+        for (int i = 0; i < 3; ++i) {
+          const LineClaim claim{row + i * direction.down, column + i * direction.right, 2, grid, 10};
+          EXPECT_EQ(direction.check(board, claim), expected) << grid << " from " << at << " at " << i;
         }
       }
       const bool straight = direction.down == 0 || direction.right == 0;
@@ -108,15 +81,10 @@ TEST(Lines, NoThreeIsMissedAnywhere) {
 
 TEST(Lines, FullBoardCountsOnlyTheGrid) {
   BoardArray board{};
-  for (std::size_t r = 0; r < 4; ++r) {
-    for (std::size_t c = 0; c < 4; ++c) board[r][c] = 3;
-  }
-  EXPECT_TRUE(IsBoardFull(board, 3));
-  EXPECT_TRUE(IsBoardFull(board, 4));
-  EXPECT_FALSE(IsBoardFull(board, 5));
+  for (std::size_t r = 0; r < 4; ++r) std::fill_n(board[r].begin(), 4, 3);
+  EXPECT_TRUE(IsBoardFull(board, 3) && IsBoardFull(board, 4) && !IsBoardFull(board, 5));
   board[3][3] = 0;
-  EXPECT_FALSE(IsBoardFull(board, 4));
-  EXPECT_TRUE(IsBoardFull(board, 3));
+  EXPECT_TRUE(IsBoardFull(board, 3) && !IsBoardFull(board, 4));
 }
 
 TEST(WinnerText, NamesTheLeadersWithTheEmptyRecordsInTheOrder) {
@@ -139,14 +107,12 @@ TEST(WinnerText, NamesTheLeadersWithTheEmptyRecordsInTheOrder) {
       {3, {0, 0, -10}, "Ann and /Bob and //Tie!"},
       {3, {70000, 40000, -40000}, "Ann/Wins!"},
   };
-  const std::array names{" Ann ", "Bob", "Cid"};
   for (const Case& c : cases) {
-    std::array<Standing, 4> standings;
-    for (std::size_t i = 0; i < static_cast<std::size_t>(c.players); ++i) standings[i] = {c.scores[i], names[i]};
-    std::string expected = "Game Over!/" + std::string(c.text);
-    for (std::size_t at = 0; (at = expected.find('/', at)) != std::string::npos; at += 2)
-      expected.replace(at, 1, "\r\n");
-    EXPECT_EQ(WinnerText(standings, c.players), expected) << c.text;
+    std::array<Standing, 4> standings{{{c.scores[0], " Ann "}, {c.scores[1], "Bob"}}};
+    if (c.players == 3) standings[2] = {c.scores[2], "Cid"};
+    std::string text = WinnerText(standings, c.players);
+    for (std::size_t at = 0; (at = text.find("\r\n", at)) != std::string::npos;) text.replace(at, 2, "/");
+    EXPECT_EQ(text, "Game Over!/" + std::string(c.text));
   }
 }
 

@@ -2,11 +2,11 @@
 #include "engine/start_up.h"
 
 #include <gmock/gmock.h>
-#include <gtest/gtest.h>
 
 #include <set>
 
 #include "engine/handlers.h"
+#include "support/seen.h"
 #include "support/show_fixture.h"
 
 namespace pawnfield {
@@ -15,28 +15,23 @@ namespace {
 using testing::ElementsAre;
 using testing::Pair;
 
-void Preset(ShowFixture& fixture, const char* key, const char* value) {
-  fixture.sim.settings.Preset("pawnfield", "settings", key, value);
-}
-
 TEST(StartUp, TheSplashComesBeforeTheConsoleAndTakesItsTime) {
   ShowFixture fixture;
+  const auto shown = [&] {
+    std::string names;
+    for (const Form* form : AllForms(fixture.show())) names += form->Visible ? form->Name() + " " : "";
+    return names;
+  };
   fixture.sim.dialogs.ExpectMessage("No hardware was detected so you will be loaded in manual mode.");
   Main(fixture.show());
-  EXPECT_TRUE(fixture.show().frmLoading.Visible);
-  EXPECT_FALSE(fixture.show().frmSplash.Visible);
-  fixture.sim.clock.Advance(50);
-  EXPECT_FALSE(fixture.show().frmLoading.Visible);
-  EXPECT_TRUE(fixture.show().frmSplash.Visible);
   // 8900 twips in steps of 500 are 18 ticks of 50 ms, then 5600 ms.
-  fixture.sim.clock.Advance(18 * 50 + 5599);
-  EXPECT_FALSE(fixture.form().Visible);
-  fixture.sim.clock.Advance(1);
-  EXPECT_TRUE(fixture.form().Visible);
-  EXPECT_FALSE(fixture.show().frmSplash.Visible);
+  const std::pair<int, const char*> cases[] = {
+      {0, "frmLoading "}, {50, "frmSplash "}, {18 * 50 + 5599, "frmSplash "}, {1, "frmMain frmFSMain frmSS "}};
+  for (const auto& [ms, forms] : cases) {
+    fixture.sim.clock.Advance(ms);
+    EXPECT_EQ(shown(), forms) << ms;
+  }
   EXPECT_EQ(fixture.show().state.SerialComm, 6);
-  EXPECT_EQ(fixture.audience().Left, 1280 * 15);
-  EXPECT_TRUE(fixture.audience().Visible);
 }
 
 TEST(StartUp, EveryButtonAndEntryOfEveryFormActs) {
@@ -57,80 +52,35 @@ TEST(StartUp, EveryButtonAndEntryOfEveryFormActs) {
   }
 }
 
-TEST(StartUp, OneMonitorMeansNoAudienceScreen) {
-  ShowFixture fixture(Screens::One);
-  fixture.Start();
-  EXPECT_FALSE(fixture.audience().Visible);
-  EXPECT_FALSE(fixture.show().state.DualScreen);
-}
-
 TEST(StartUp, SettingsReachTheControlsAndOddOnesTheirDefaults) {
   struct Case {
     const char* key;
     const char* value;
-    std::function<std::string(Show&)> read;
-    const char* expected;
+    const char* seen;
   };
-  const auto selected = [](auto& options) {
-    std::string which;
-    for (std::size_t i = 0; i < options.Size(); ++i) which += options[i].Value ? '1' : '0';
-    return which;
-  };
-  const auto gameType = [&](Show& s) { return selected(s.frmMain.optGameType); };
-  const auto grid = [&](Show& s) { return selected(s.frmMain.optGridControl) + std::to_string(s.state.GridCols); };
-  const auto players = [&](Show& s) { return selected(s.frmMain.optPlayers); };
-  const auto pause = [](Show& s) { return s.frmMain.cboAutoContinue.Text(); };
-  const auto response = [](Show& s) { return s.frmMain.cboTimedResponse.Text(); };
-  const auto scoring = [](Show& s) { return s.frmMain.cbxScore[0].Text(); };
-  const auto ending = [&](Show& s) { return selected(s.frmMain.optGameEnds); };
-  const auto keyCorrect = [](Show& s) { return s.state.KeyCorrect; };
-  const auto volume = [](Show& s) { return std::to_string(s.state.EventPlayerVolume); };
-  const auto routing = [](Show& s) { return std::to_string(s.state.Routing[7]); };
-  const auto penalty = [](Show& s) { return s.frmPlayerNames.cboPenaltyPoints.Text(); };
+  // Trivia Mode A alone starts with the board called shown.
   const Case cases[] = {
-      {"GameType", "2", gameType, "01000"},
-      {"GameType", "6", gameType, "10000"},
-      {"None", "", gameType, "00001"},
-      {"GridControl", "4", grid, "0104"},
-      {"GridControl", "6", grid, "0015"},
-      {"Players", "2", players, "10"},
-      {"Players", "1", players, "01"},
-      {"AutoContinue", "6", pause, "User Advances"},
-      {"AutoContinue", "5", pause, "5 Seconds"},
-      {"TimedResponse", "7", response, "7"},
-      {"None", "", response, "None"},
-      {"Scoring", "10", scoring, "100"},
-      {"None", "", scoring, "50"},
-      {"GameEnds", "True", ending, "10"},
-      {"None", "", ending, "01"},
-      {"KeyCorrect", " ", keyCorrect, "Y"},
-      {"KeyCorrect", "J", keyCorrect, "J"},
-      {"EventPlayerVolume", "101", volume, "75"},
-      {"EventPlayerVolume", "0", volume, "0"},
-      {"Routing7", "20", routing, "20"},
-      {"None", "", routing, "7"},
-      {"PenaltyPoints", "20", penalty, "20"},
+      {"GameType", "1", "optGameType(0)=1 offers=Start,PlayMode btnNextPlayer=off picStandby'=up turn=0"},
+      {"GameType", "2", "optGameType(1)=1 offers=Start,PlayMode btnNextPlayer=off picStandby'=up turn=0"},
+      {"GameType", "3", "optGameType(2)=1 offers=SelectGame,StandbyMode btnNextPlayer=off picStandby'=up turn=0"},
+      {"GameType", "4", "optGameType(3)=1 offers=SelectGame,PlayMode btnNextPlayer=off picStandby'=up turn=0"},
+      {"GameType", "5", "optGameType(4)=1 offers=SelectGame,PlayMode btnNextPlayer=- picStandby'=up turn=0"},
+      {"GameType", "6", "optGameType(0)=1 optGameType(4)=0"},
+      {"GridControl", "4", "optGridControl(1)=1 optGridControl(2)=0 imgD'= imgE'=-"},
+      {"GridControl", "6", "optGridControl(2)=1 imgE'="},
+      {"Players", "2", "optPlayers(0)=1 picPlayer(2)'=-"},
+      {"Players", "1", "optPlayers(1)=1 picPlayer(2)'=up"},
+      {"AutoContinue", "5", "cboAutoContinue=5_Seconds"},
+      {"TimedResponse", "7", "cboTimedResponse=7"},
+      {"Scoring", "10", "cbxScore(0)=100"},
+      {"GameEnds", "True", "optGameEnds(0)=1 optGameEnds(1)=0"},
+      {"None", "", "optGameType(4)=1 optPlayers(1)=1 cboTimedResponse=None cbxScore(0)=50 optGameEnds(1)=1"},
   };
   for (const Case& c : cases) {
     ShowFixture fixture;
-    Preset(fixture, c.key, c.value);
+    fixture.sim.settings.Preset("pawnfield", "settings", c.key, c.value);
     fixture.Start();
-    EXPECT_EQ(c.read(fixture.show()), c.expected) << c.key << "=" << c.value;
-  }
-}
-
-TEST(StartUp, TriviaModeAAloneStartsWithTheBoardCalledShown) {
-  for (const char* gameType : {"1", "2", "3", "4", "5"}) {
-    ShowFixture fixture;
-    Preset(fixture, "GameType", gameType);
-    fixture.Start();
-    const bool triviaA = std::string(gameType) == "3";
-    EXPECT_EQ(fixture.form().btnStandbyMode.Enabled, triviaA) << gameType;
-    EXPECT_EQ(fixture.form().btnPlayMode.Enabled, !triviaA) << gameType;
-    EXPECT_TRUE(fixture.audience().picStandby.Visible) << gameType;
-    EXPECT_EQ(fixture.form().btnStart.Enabled, gameType[0] <= '2') << gameType;
-    EXPECT_EQ(fixture.show().state.CurrentPlayer, 0) << gameType;
-    EXPECT_EQ(fixture.form().btnNextPlayer.Visible, gameType[0] != '5') << gameType;
+    ExpectSeen(fixture.show(), c.seen, std::string(c.key) + "=" + c.value);
   }
 }
 
@@ -138,9 +88,8 @@ TEST(StartUp, OwnScreenPicturesAreTakenOnlyWhenAllThreeAreThere) {
   for (const bool complete : {false, true}) {
     ShowFixture fixture;
     for (const char* name : {"pawnfield.bmp", "bonus.bmp", "header.bmp"}) {
-      if (complete || name[0] != 'h') {
-        fixture.sim.files.Put(std::string("C:\\Pawnfield\\") + name, SimPictures::PictureBytes(1024, 768));
-      }
+      if (!complete && name[0] == 'h') continue;
+      fixture.sim.files.Put(std::string("C:\\Pawnfield\\") + name, SimPictures::PictureBytes(1024, 768));
     }
     fixture.Start();
     EXPECT_EQ(fixture.audience().imgStandby.Picture == "C:\\Pawnfield\\pawnfield.bmp", complete);
@@ -150,7 +99,7 @@ TEST(StartUp, OwnScreenPicturesAreTakenOnlyWhenAllThreeAreThere) {
 
 TEST(StartUp, TheProgramRunsAloneInItsFamily) {
   struct Case {
-    const char* caption;
+    std::string caption;
     std::int64_t id;
     bool stops;
   };
@@ -162,10 +111,8 @@ TEST(StartUp, TheProgramRunsAloneInItsFamily) {
   for (const Case& c : cases) {
     ShowFixture fixture;
     fixture.sim.processes.Others = {{"init", 1}, {c.caption, c.id}};
-    if (c.stops) {
-      fixture.sim.dialogs.ExpectMessage(std::string(c.caption) +
-                                        " is already running. Please close that instance first.");
-    }
+    const std::string told = " is already running. Please close that instance first.";
+    if (c.stops) fixture.sim.dialogs.ExpectMessage(c.caption + told);
     Main(fixture.show());
     EXPECT_EQ(fixture.sim.processes.Ended, c.stops) << c.caption;
     EXPECT_EQ(fixture.sim.processes.Activated.size(), c.stops ? 1u : 0u) << c.caption;
@@ -180,19 +127,19 @@ TEST(StartUp, ASecondInstanceGivesWayToTheFirst) {
   Main(fixture.show());
   fixture.sim.clock.Advance(20000);
   EXPECT_THAT(fixture.sim.processes.Activated, ElementsAre(0));
-  EXPECT_TRUE(fixture.sim.processes.Ended);
-  EXPECT_FALSE(fixture.form().Visible);
+  EXPECT_TRUE(fixture.sim.processes.Ended && !fixture.form().Visible);
 }
 
 TEST(StartUp, OnlyMissingDataFoldersAreMadeAndAFailureIsTold) {
+  const std::string root = "C:\\Ostara Show Kit Data\\";
   ShowFixture fixture;
-  fixture.sim.files.Put("C:\\Ostara Show Kit Data\\Pawnfield\\keep.txt", "kept");
+  fixture.sim.files.Put(root + "Pawnfield\\keep.txt", "kept");
+  fixture.sim.files.Deny(root + "Pawnfield");
   PrepareDataFolders(fixture.show());
   for (const char* name :
-       {"Ostara Panel Pro 4", "Ostara Clash", "Pawnfield", "Ostara Wheelhouse", "Ostara Bargain", "BackgroundMusic"}) {
-    EXPECT_TRUE(fixture.sim.files.FolderExists(std::string("C:\\Ostara Show Kit Data\\") + name)) << name;
+       {"Ostara Panel Pro 4", "Ostara Clash", "Ostara Wheelhouse", "Ostara Bargain", "BackgroundMusic"}) {
+    EXPECT_TRUE(fixture.sim.files.FolderExists(root + name)) << name;
   }
-  EXPECT_EQ(fixture.sim.files.Read("C:\\Ostara Show Kit Data\\Pawnfield\\keep.txt"), "kept");
 
   ShowFixture denied;
   denied.sim.files.Deny("C:\\Ostara Show Kit Data");
@@ -205,7 +152,6 @@ TEST(Exit, OnlyYesEndsTheProgramAndSavesTheSettings) {
   for (const BoxAnswer answer : {BoxAnswer::Cancel, BoxAnswer::No, BoxAnswer::Yes}) {
     ShowFixture fixture;
     fixture.Start();
-    fixture.form().optGameType[1].Click();
     fixture.sim.displays.TopMost.clear();
     fixture.sim.dialogs.ExpectMessage("Are you sure you want to exit?", answer);
     fixture.form().mnuFileExit.Click();
@@ -213,13 +159,16 @@ TEST(Exit, OnlyYesEndsTheProgramAndSavesTheSettings) {
     EXPECT_THAT(fixture.sim.displays.TopMost, ElementsAre(Pair("frmMain", true), Pair("frmMain", false)));
     EXPECT_EQ(fixture.sim.processes.Ended, yes);
     EXPECT_EQ(fixture.form().Visible, !yes);
-    EXPECT_EQ(fixture.audience().Visible, !yes);
+    EXPECT_EQ(fixture.show().frmSS.Visible, !yes);
     EXPECT_EQ(fixture.form().tmrArrowsTimer.Enabled, !yes);
-    EXPECT_EQ(fixture.sim.settings.GetSetting("Pawnfield", "Settings", "GameType", "none"), yes ? "2" : "none");
+    EXPECT_EQ(fixture.sim.settings.GetSetting("Pawnfield", "Settings", "GameType", "none"), yes ? "5" : "none");
   }
 }
 
 TEST(Exit, WhatWasChosenComesBackAtTheNextStart) {
+  const char* const chosen =
+      "optGameType(3)=1 optPlayers(0)=1 optGridControl(1)=1 optGameEnds(0)=1 cboAutoContinue=User_Advances "
+      "chkIncorrectPenalty=1";
   ShowFixture first;
   first.Start();
   first.form().optGameType[3].Click();
@@ -228,19 +177,17 @@ TEST(Exit, WhatWasChosenComesBackAtTheNextStart) {
   first.form().optGameEnds[0].Click();
   first.form().cboAutoContinue.Select(3);
   first.form().chkIncorrectPenalty.Click();
+  ExpectSeen(first.show(), chosen, "when chosen");
   first.sim.dialogs.ExpectMessage("Are you sure", BoxAnswer::Yes);
   first.form().mnuFileExit.Click();
 
   ShowFixture second;
-  for (const auto& [key, value] : first.sim.settings.Writes) Preset(second, key.c_str(), value.c_str());
+  for (const auto& [key, value] : first.sim.settings.Writes) {
+    second.sim.settings.Preset("pawnfield", "settings", key, value);
+  }
   second.Start();
-  EXPECT_TRUE(second.form().optGameType[3].Value);
-  EXPECT_TRUE(second.form().optPlayers[0].Value);
-  EXPECT_TRUE(second.form().optGridControl[1].Value);
-  EXPECT_TRUE(second.form().optGameEnds[0].Value);
-  EXPECT_EQ(second.form().cboAutoContinue.Text(), "User Advances");
-  EXPECT_EQ(second.form().chkIncorrectPenalty.Value, 1);
-  EXPECT_EQ(second.show().state.IncorrectPenalty, true);
+  ExpectSeen(second.show(), chosen, "at the next start");
+  EXPECT_TRUE(second.show().state.IncorrectPenalty);
 }
 
 }  // namespace

@@ -20,38 +20,29 @@ TEST(Text, CaseChangesLeaveTheUpperHalfOfTheCodePageAlone) {
 }
 
 TEST(Text, PathPartsSplitAtTheLastBackslashAndTheFirstDot) {
-  EXPECT_EQ(ExtractFolder("C:\\Shows\\a.txt"), "C:\\Shows\\");
-  EXPECT_EQ(ExtractFileName("C:\\Shows\\a.txt"), "a.txt");
-  EXPECT_EQ(ExtractFolder("a.txt"), "");
-  EXPECT_EQ(ExtractFileName("a.txt"), "");
-  EXPECT_EQ(ExtractFileName("C:\\Shows\\"), "");
-  EXPECT_EQ(StripExtension("a.b.txt"), "a");
-  EXPECT_EQ(StripExtension("plain"), "plain");
-  EXPECT_EQ(StripExtension(".txt"), "");
+  struct Case {
+    const char* path;
+    const char* folder;
+    const char* name;
+    const char* stem;
+  };
+  const Case cases[] = {{"C:\\Shows\\a.b.txt", "C:\\Shows\\", "a.b.txt", "C:\\Shows\\a"},
+                        {"C:\\Shows\\", "C:\\Shows\\", "", "C:\\Shows\\"},
+                        {"a.txt", "", "", "a"},
+                        {".txt", "", "", ""}};
+  for (const Case& c : cases) {
+    EXPECT_EQ(ExtractFolder(c.path) + "|" + ExtractFileName(c.path) + "|" + StripExtension(c.path),
+              c.folder + std::string("|") + c.name + "|" + c.stem);
+  }
 }
 
 TEST(Text, TheNumberTestTakesWholeNumbersTextsOnly) {
-  const std::pair<const char*, std::optional<double>> cases[] = {{"1942", 1942},
-                                                                 {" 12 ", 12},
-                                                                 {"+5", 5},
-                                                                 {"-.5", -0.5},
-                                                                 {"12.", 12},
-                                                                 {"1e3", 1000},
-                                                                 {"1E-2", 0.01},
-                                                                 {"", std::nullopt},
-                                                                 {" ", std::nullopt},
-                                                                 {".", std::nullopt},
-                                                                 {"-", std::nullopt},
-                                                                 {"1 2", std::nullopt},
-                                                                 {"1e", std::nullopt},
-                                                                 {"e5", std::nullopt},
-                                                                 {"0x10", std::nullopt},
-                                                                 {"inf", std::nullopt},
-                                                                 {"nan", std::nullopt},
-                                                                 {"+-1", std::nullopt},
-                                                                 {"1,5", std::nullopt},
-                                                                 {"1e999", std::nullopt}};
-  for (const auto& [text, number] : cases) EXPECT_EQ(ParseNumber(text), number) << '[' << text << ']';
+  const std::pair<const char*, double> numbers[] = {{"1942", 1942}, {" 12 ", 12},  {"+5", 5},     {"-.5", -0.5},
+                                                    {"12.", 12},    {"1e3", 1000}, {"1E-2", 0.01}};
+  for (const auto& [text, number] : numbers) EXPECT_EQ(ParseNumber(text), number) << '[' << text << ']';
+  for (const char* text : {"", " ", ".", "-", "1 2", "1e", "e5", "0x10", "inf", "nan", "+-1", "1,5", "1e999"}) {
+    EXPECT_EQ(ParseNumber(text), std::nullopt) << '[' << text << ']';
+  }
 }
 
 TEST(Text, ALeadingNumberStopsWhereItEnds) {

@@ -1,118 +1,144 @@
 #include "support/game_player.h"
 
+#include <cctype>
+#include <map>
 #include <sstream>
 
 #include "engine/handlers.h"
 #include "support/screen_pairs.h"
+#include "support/seen.h"
 
 namespace pawnfield {
 
 namespace {
 
-constexpr int kFlashMs = 1000;
-constexpr int kPauseMs = 3000;
+using std::string_literals::operator""s;
 
-bool IsDigit(char c) { return c >= '0' && c <= '9'; }
+const std::map<char, std::string> kLetters{
+    {'+', "btnQuestionCorrect"}, {'-', "btnQuestionIncorrect"}, {'N', "btnNextPlayer"},
+    {'S', "btnSkipQuestion"},    {'C', "btnContinue"},          {'U', "btnUndo"},
+    {'E', "btnEndGame"},         {'H', "btnStandbyMode"},       {'V', "btnPlayMode"},
+    {'R', "btnReset"},           {'p', "chkIncorrectPenalty"},  {'a', "chkAnimation"},
+    {'m', "cboAutoContinue:3"},  {'0', "cbxScore(0):0"}};
 
-std::size_t Digit(char c) { return static_cast<std::size_t>(c - '0'); }
+bool IsDigit(char c) { return std::isdigit(static_cast<unsigned char>(c)) != 0; }
+
+std::string Indexed(const std::string& name, int index) { return name + "(" + std::to_string(index) + ")"; }
+
+// The control behind a step's short form; a longer one names it.
+std::string ControlOf(const std::string& step) {
+  if (step.size() == 1) return kLetters.at(step[0]);
+  if (step[0] == 'r' && step.size() == 2) return Indexed("btnSelectPlayer", step[1] - '1');
+  if (!IsDigit(step[1])) return step;
+  return Indexed("btnScore"s + step[1] + (step[0] == 'u' ? "Up" : "Dn"), step[2] - '0');
+}
+
+std::string FileName(const std::string& path) { return path.substr(path.rfind('\\') + 1); }
 
 }  // namespace
 
-GamePlayer::GamePlayer(const GameSetup& setup) : fixture_(setup.Monitors), gameType_(setup.GameType) {
-  fixture_.WriteNumberedSet("Long", 30);
+GamePlayer::GamePlayer(const std::string& setup, Screens monitors) : fixture_(monitors) {
+  int type = 0, players = 0, grid = 0;
+  std::string ending, options;
+  std::istringstream(setup) >> type >> players >> grid >> ending >> options;
+  const auto has = [&](char option) { return options.find(option) != std::string::npos; };
+  fixture_.WriteNumberedSet("Long", has('7') ? 7 : 30);
+  if (has('k')) fixture_.WriteSet("Long", {"Which one?", "C:\\Shows\\photo.jpg", "C:\\Shows\\clip.WAV"});
+  PrepareMachine(options);
   fixture_.Start();
   CheckEveryEvent();
-  SetOptions(setup);
-  if (setup.GameType >= 3) fixture_.ChooseSet("Long");
-  Press(fixture_.form().btnStart, "start");
+  Press(Indexed("optGameType", type - 1));
+  Press(Indexed("optPlayers", players - 2));
+  Press(Indexed("optGridControl", grid - 3));
+  Press(Indexed("optGameEnds", ending == "row" ? 0 : 1));
+  for (const char option : "pam0"s) {
+    if (has(option)) Press(kLetters.at(option));
+  }
+  if (has('i')) return;
+  if (type >= 3) fixture_.ChooseSet("Long");
+  Press("btnStart");
 }
 
-void GamePlayer::SetOptions(const GameSetup& setup) {
-  MainForm& form = fixture_.form();
-  Press(form.optGameType[static_cast<std::size_t>(setup.GameType - 1)], "game type");
-  Press(form.optPlayers[static_cast<std::size_t>(setup.Players - 2)], "players");
-  Press(form.optGridControl[static_cast<std::size_t>(setup.Grid - 3)], "grid");
-  Press(form.optGameEnds[setup.End == Ending::FinishRow ? 0 : 1], "ending");
-  const auto has = [&](char option) { return setup.Options.find(option) != std::string::npos; };
-  if (has('p')) Press(form.chkIncorrectPenalty, "penalty");
-  if (has('a')) Press(form.chkAnimation, "animation");
-  if (has('m')) form.cboAutoContinue.Select(3);
-  if (has('0')) form.cbxScore[0].Select(0);
+void GamePlayer::PrepareMachine(const std::string& options) {
+  for (const char* cursor : {"Neutral", "X", "O", "T"}) {
+    fixture_.sim.files.Put("C:\\Pawnfield\\Images\\Cursor"s + cursor + ".png", "");
+  }
+  fixture_.sim.files.Put("C:\\Shows\\photo.jpg", SimPictures::PictureBytes(800, 600));
+  fixture_.sim.files.Put("C:\\Shows\\clip.WAV", "sound");
+  wired_ = options.find('l') != std::string::npos;
+  if (wired_) {
+    fixture_.sim.serial.Plug();
+    fixture_.sim.files.Put("C:\\Ostara Show Kit Data\\MFMap.dat", FormatPadMap({101, 102, 103}));
+  } else if (options.find('w') != std::string::npos) {
+    fixture_.sim.hid.PlugTransceiver(kTransceiverShort);
+  }
 }
 
 void GamePlayer::Play(const std::string& script) {
   std::istringstream steps(script);
   for (std::string step; steps >> step;) {
-    step_ = step;
-    Step(step);
+    played_ += " " + step;
+    if (step == "[") {
+      std::string within;
+      std::getline(steps, within, ']');
+      fixture_.sim.dialogs.ExpectMessage("Are you sure", BoxAnswer::No, [this, within] { Play(within); });
+      form().mnuFileExit.Click();
+    } else {
+      Step(step);
+    }
   }
 }
 
 void GamePlayer::Step(const std::string& step) {
-  MainForm& form = fixture_.form();
-  if (step == ">") {
-    fixture_.sim.clock.Advance(kPauseMs);
+  const RecordedMedia& media = fixture_.sim.media;
+  const std::map<std::string, const RecordedChannel*> players{
+      {"event", &media.EventPlayer}, {"clip", &media.SoundClipPlayer}, {"verdict", &media.CorrectIncorrectPlayer}};
+  const auto player = players.find(step.substr(0, step.find('=')));
+  if (player != players.end()) {
+    EXPECT_EQ(player->first + "=" + FileName(player->second->Url), step) << "after" << played_;
+  } else if (step.find('=') != std::string::npos) {
+    ExpectSeen(show(), step, "after" + played_);
+  } else if (step[0] == '>') {
+    fixture_.sim.clock.Advance(step.size() == 1 ? 3000 : std::stoi(step.substr(1)));
   } else if (IsDigit(step[0])) {
-    fixture_.Claim(step[0] - '0', step[1] - '0');
-    fixture_.sim.clock.Advance(kFlashMs);
-    scoresAlike_ = true;
-  } else if (step[0] == 'r') {
-    Press(form.btnSelectPlayer[Digit(step[1]) - 1], step);
-  } else if (step[0] == 'u' || step[0] == 'd') {
-    Press(ScoreButton(step), step);
+    step.size() == 1 ? RingIn(step[0]) : Claim(step);
   } else {
     // An undo leaves the audience's score to the next change.
     if (step == "U") scoresAlike_ = false;
-    Press(ButtonOf(step[0]), step);
+    Press(ControlOf(step));
   }
 }
 
-Button& GamePlayer::ButtonOf(char letter) {
-  MainForm& form = fixture_.form();
-  switch (letter) {
-    case '+':
-      return form.btnQuestionCorrect;
-    case '-':
-      return form.btnQuestionIncorrect;
-    case 'N':
-      return form.btnNextPlayer;
-    case 'S':
-      return form.btnSkipQuestion;
-    case 'C':
-      return form.btnContinue;
-    case 'U':
-      return form.btnUndo;
-    case 'E':
-      return form.btnEndGame;
-    case 'H':
-      return form.btnStandbyMode;
-    default:
-      return form.btnPlayMode;
+void GamePlayer::Claim(const std::string& step) {
+  const int row = step[0] - '0', column = step[1] - '0';
+  step.ends_with('\'') ? fixture_.audience().img.At(row, column)->Click() : fixture_.Claim(row, column);
+  if (step.size() > 2) return;
+  fixture_.sim.clock.Advance(1000);
+  scoresAlike_ = true;
+}
+
+void GamePlayer::RingIn(char player) {
+  if (wired_) {
+    fixture_.sim.serial.Feed("MF\0\4\xFD\0\0"s + static_cast<char>(100 + player - '0'));
+  } else {
+    fixture_.sim.hid.Reports.push_back({'\0', '\0', static_cast<char>(player - '0')});
   }
 }
 
-Button& GamePlayer::ScoreButton(const std::string& step) {
-  MainForm& form = fixture_.form();
-  const std::size_t index = Digit(step[2]);
-  const bool up = step[0] == 'u';
-  switch (step[1]) {
-    case '1':
-      return up ? form.btnScore1Up[index] : form.btnScore1Dn[index];
-    case '2':
-      return up ? form.btnScore2Up[index] : form.btnScore2Dn[index];
-    default:
-      return up ? form.btnScore3Up[index] : form.btnScore3Dn[index];
+void GamePlayer::Press(const std::string& name) {
+  const std::size_t colon = name.find(':');
+  Control* control = form().Find(name.substr(0, colon));
+  ASSERT_TRUE(control != nullptr && control->IsReachable()) << name << " can't be pressed after" << played_;
+  if (colon == std::string::npos) {
+    control->Click();
+  } else {
+    dynamic_cast<ComboBox&>(*control).Select(std::stoi(name.substr(colon + 1)));
   }
-}
-
-void GamePlayer::Press(Control& control, const std::string& step) {
-  EXPECT_TRUE(control.IsReachable()) << control.Name() << " can't be pressed at step " << step;
-  control.Click();
 }
 
 // Every event of a form runs through its guard, timers too.
 void GamePlayer::CheckEveryEvent() {
-  for (Form* form : AllForms(fixture_.show())) {
+  for (Form* form : AllForms(show())) {
     form->Guard = [this, guard = form->Guard](const auto& handler, const auto& location, const auto& procedure) {
       guard(handler, location, procedure);
       ExpectBothScreensAlike(procedure);
@@ -121,37 +147,14 @@ void GamePlayer::CheckEveryEvent() {
 }
 
 void GamePlayer::ExpectBothScreensAlike(const std::string& event) {
-  Show& show = fixture_.show();
-  if (!show.state.DualScreen) return;
-  for (const std::string& pair : UnlikePairs(show)) {
-    // An undo leaves the audience's score to the next change.
+  if (!show().state.DualScreen) return;
+  for (const std::string& pair : UnlikePairs(show())) {
     if (!scoresAlike_ && pair.starts_with("score")) continue;
-    ADD_FAILURE() << pair << " differs after " << event << " at step " << step_;
+    ADD_FAILURE() << pair << " differs after " << event << " after" << played_;
   }
   const bool cursorPaired = event == "btnQuestionCorrect_Click" || event == "tmrWinner_Timer";
   if (!cursorPaired) return;
-  EXPECT_EQ(show.frmMain.MouseIcon.Get(), show.frmFSMain.MouseIcon.Get()) << "after " << event;
-}
-
-std::string GamePlayer::Winner() {
-  EXPECT_EQ(fixture_.form().lblWinner.Caption.Get(), fixture_.audience().lblWinner.Caption.Get());
-  std::string text;
-  for (const char c : fixture_.form().lblWinner.Caption.Get()) {
-    if (c != '\r') text += c == '\n' ? '/' : c;
-  }
-  return text;
-}
-
-std::string GamePlayer::Board() {
-  const int grid = fixture_.show().state.GridSize;
-  std::string text;
-  for (int r = 0; r < grid; ++r) {
-    if (r > 0) text += '/';
-    for (int c = 0; c < grid; ++c) {
-      text += std::to_string(fixture_.show().state.Board[static_cast<std::size_t>(r)][static_cast<std::size_t>(c)]);
-    }
-  }
-  return text;
+  EXPECT_EQ(form().MouseIcon.Get(), fixture_.audience().MouseIcon.Get()) << "after " << event;
 }
 
 }  // namespace pawnfield

@@ -1,53 +1,66 @@
 // Plays a game on the console from a short script, and checks after every event that the audience sees the same.
 #pragma once
 
+#include <ostream>
 #include <string>
 
 #include "support/show_fixture.h"
 
 namespace pawnfield {
 
-enum class Ending { FinishRow, FullBoard };
-
-struct GameSetup {
-  int GameType = 1;
-  int Players = 2;
-  int Grid = 3;
-  Ending End = Ending::FinishRow;
-  // Further options: "p" penalty on, "m" the user advances, "0" squares worth nothing, "a" animation on.
-  std::string Options;
-  Screens Monitors = Screens::Two;
-};
-
 class GamePlayer {
  public:
-  // Brings the show up, sets the options by the console's controls and presses Start.
-  explicit GamePlayer(const GameSetup& setup);
+  // Brings the show up, sets the options by the console's controls and presses Start. The setup is the game's
+  // type 1..5, the players, the grid, "row" or "full" for the ending, and letters: "p" penalty on, "m" the user
+  // advances, "0" squares worth nothing, "a" animation on, "7" a set of seven questions, "k" one whose second is a
+  // picture and whose third is a sound, "w" wireless remotes, "l" wired pads, "i" not started.
+  explicit GamePlayer(const std::string& setup, Screens monitors = Screens::Two);
 
-  // Steps, parted by blanks: "rc" claims a square and waits for its flash; "+" and "-" judge; "r1".."r3" ring in;
-  // N next player, S skip, C continue, U undo, E end game, H hide, V show; "u23" and "d23" press a score button of
-  // player 2, by its index; ">" lets 3 seconds pass.
+  // Steps and what is to be seen after them, parted by blanks:
+  //   12          claims row 1, column 2 and waits for its flash; 12! only claims, 12' by the audience's square
+  //   + - N S C U E H V R
+  //               judge, next player, skip, continue, undo, end game, hide and show the board, reset
+  //   r1 u23 d23  rings player 1 in by hand; presses the score button 3 of player 2
+  //   3           the press of remote or pad 3 arrives
+  //   [ ... ]     a message box comes up, and that happens before its answer
+  //   > >899      3 seconds pass, or so many milliseconds
+  //   btnStop cboAutoContinue:3
+  //               clicks any control, chooses that entry of any list
+  //   turn=2 picBonus'=up
+  //               is checked: Seen, or "event", "clip" and "verdict" for the last sound of these players
   void Play(const std::string& script);
 
   ShowFixture& fixture() { return fixture_; }
-  // The winner's text with "/" for each line break.
-  std::string Winner();
-  // Rows of owners, "102/..." with 0 for a free square.
-  std::string Board();
+  MainForm& form() { return fixture_.form(); }
+  Show& show() { return fixture_.show(); }
 
  private:
-  void SetOptions(const GameSetup& setup);
+  void PrepareMachine(const std::string& options);
   void Step(const std::string& step);
-  Button& ButtonOf(char letter);
-  Button& ScoreButton(const std::string& step);
-  void Press(Control& control, const std::string& step);
+  void Claim(const std::string& step);
+  void RingIn(char player);
+  void Press(const std::string& name);
   void CheckEveryEvent();
   void ExpectBothScreensAlike(const std::string& event);
 
   ShowFixture fixture_;
-  int gameType_;
+  bool wired_ = false;
   bool scoresAlike_ = true;
-  std::string step_ = "start";
+  std::string played_;
+};
+
+// A game or a part of one, with what is seen on its way.
+struct Story {
+  const char* name;
+  const char* setup;
+  const char* script;
+  friend void PrintTo(const Story& story, std::ostream* out) { *out << story.script; }
+};
+
+class StoryTest : public testing::TestWithParam<Story> {
+ public:
+  static void Play() { GamePlayer(GetParam().setup).Play(GetParam().script); }
+  static std::string Name(const testing::TestParamInfo<Story>& story) { return story.param.name; }
 };
 
 }  // namespace pawnfield
