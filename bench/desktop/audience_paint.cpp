@@ -8,6 +8,7 @@
 #include <chrono>
 #include <cstdio>
 #include <ctime>
+#include <tuple>
 
 #include "engine/main_load.h"
 #include "engine/start_up.h"
@@ -133,12 +134,15 @@ class PaintBench {
 
   // The ticks of one turning square after another, against the audience's paints.
   void MeasureFlip(const QString& mode) {
-    int ticks = 0;
+    int changes = 0;
     Timer& timer = show_.frmFSMain.tmrFSFlipPlayerPiece;
+    const Image& square = *show_.frmFSMain.img.At(2, 2);
+    const auto look = [&] { return std::make_tuple(square.Top.Get(), square.Height.Get(), square.Picture.Get()); };
     const auto plain = timer.OnTimer;
     timer.OnTimer = [&] {
-      ++ticks;
+      const auto before = look();
       plain();
+      if (look() != before) ++changes;
     };
     int paints = 0;
     double spent = 0;
@@ -151,15 +155,14 @@ class PaintBench {
       paints_.Reset();
       const double start = NowMs();
       while (timer.Enabled) QCoreApplication::processEvents(QEventLoop::WaitForMoreEvents);
-      QCoreApplication::processEvents();
       spent += NowMs() - start;
+      QTest::qWait(9);
       paints += paints_.Of(program_.Audience());
       form_.tmrAnswer.Interval = 150;
     }
     timer.OnTimer = plain;
-    std::printf("%s: %d ticks of the flip, %d paints, %.0f paints a second\n", qPrintable(mode), ticks, paints,
-                spent > 0 ? paints * 1000 / spent : 0);
     PrintMedian("FlipInterval/" + mode.toStdString(), {paints > 0 ? spent / paints : 1000});
+    PrintMedian("FlipPaintsPerChange/" + mode.toStdString(), {changes > 0 ? 1.0 * paints / changes : 0});
   }
 
   // A question is up and nothing moves.

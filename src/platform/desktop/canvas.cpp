@@ -207,7 +207,7 @@ void Canvas::paintEvent(QPaintEvent* event) {
     painter.fillRect(event->rect(), Qt::black);
   }
   for (Item* item : order_) {
-    if (item->control.IsShown() && FillRect(item->control).intersects(QRectF(event->rect()))) {
+    if (item->control.IsShown() && event->region().intersects(FillRect(item->control).toAlignedRect())) {
       PaintItem(painter, *item);
     }
   }

@@ -3,6 +3,7 @@
 #include <QGuiApplication>
 #include <QPainter>
 #include <QScreen>
+#include <QWindow>
 
 #include "platform/desktop/board_items.h"
 #include "platform/desktop/ground.h"
@@ -24,6 +25,12 @@ ConsoleWindow::ConsoleWindow(MainForm& form, FormWindows& windows, PictureCache&
     : FormWindow(form, windows), screens_(screens) {
   Ui::frmMain design;
   design.setupUi(this);
+  if (!WindowsHavePlaces()) {
+    // Nothing tells how much room a Wayland session leaves, and it may end a program whose maximised window is larger:
+    // the board gives way.
+    setMinimumSize(0, 0);
+    layout()->setSizeConstraint(QLayout::SetNoConstraint);
+  }
   // The frame that blinks around Start lies over nothing that must be hit.
   design.shpStart->setAttribute(Qt::WA_TransparentForMouseEvents);
   design.shpStart->raise();
@@ -88,13 +95,14 @@ void ConsoleWindow::HoldUnseen() {
 void ConsoleWindow::ShowForm() {
   if (const QScreen* screen = screens_.First()) setGeometry(screen->availableGeometry());
   showMaximized();
+  connect(windowHandle(), &QWindow::screenChanged, this, &ConsoleWindow::NoteHome, Qt::UniqueConnection);
   raise();
   activateWindow();
 }
 
 void ConsoleWindow::ReturnHome() {
   const QScreen* home = screens_.First();
-  if (!isVisible() || home == nullptr || home->geometry().contains(geometry().center())) return;
+  if (!WindowsHavePlaces() || !isVisible() || home == nullptr || home->geometry().contains(geometry().center())) return;
   const bool maximised = isMaximized();
   if (maximised) showNormal();
   setGeometry(home->availableGeometry());
@@ -103,7 +111,11 @@ void ConsoleWindow::ReturnHome() {
 
 void ConsoleWindow::moveEvent(QMoveEvent* event) {
   FormWindow::moveEvent(event);
-  const QScreen* screen = QGuiApplication::screenAt(geometry().center());
+  NoteHome();
+}
+
+void ConsoleWindow::NoteHome() {
+  const QScreen* screen = WindowsHavePlaces() ? QGuiApplication::screenAt(geometry().center()) : this->screen();
   if (isVisible() && screen != nullptr) screens_.MoveHome(*screen);
 }
 

@@ -25,6 +25,8 @@ class ConsoleWindow : public FormWindow {
   void FillBoard(MainForm& form);
   void FillAnswer(MainForm& form, PictureCache& pictures);
   void HoldUnseen();
+  // Takes the monitor that the operator has put the console on for the console's own.
+  void NoteHome();
   // Back to its own monitor, when a change of the monitors has left it on another one.
   void ReturnHome();
 

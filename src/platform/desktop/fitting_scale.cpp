@@ -5,6 +5,8 @@
 #include <algorithm>
 #include <vector>
 
+#include "platform/desktop/screens.h"
+
 namespace pawnfield {
 
 namespace {
@@ -26,7 +28,8 @@ void FitScaleToMonitor(int argc, char** argv) {
     std::vector<char*> options(argv, argv + argc + 1);
     const QGuiApplication probe(argc, options.data());
     const QScreen* screen = QGuiApplication::primaryScreen();
-    if (screen == nullptr) return;
+    // In a Wayland session the toolkit paints wrongly at a factor that is not whole.
+    if (screen == nullptr || !WindowsHavePlaces()) return;
     const double ratio = screen->devicePixelRatio();
     const QSizeF pixels = QSizeF(screen->availableGeometry().size()) * ratio;
     share = FittingShare(ratio, qRound(pixels.width()), qRound(pixels.height()));

@@ -14,6 +14,8 @@ constexpr int kSettledMs = 600;
 constexpr int kRefreshMs = 250;
 }  // namespace
 
+bool WindowsHavePlaces() { return !QGuiApplication::platformName().startsWith("wayland"); }
+
 Screens::Screens() {
   for (const auto& [timer, wait] : {std::pair{&soon_, kSoonMs}, {&settled_, kSettledMs}}) {
     timer->setSingleShot(true);

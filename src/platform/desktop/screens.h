@@ -10,6 +10,9 @@
 
 namespace pawnfield {
 
+// False in a Wayland session, where a window knows its screen but not its place on it.
+bool WindowsHavePlaces();
+
 class Screens : public QObject {
  public:
   Screens();
