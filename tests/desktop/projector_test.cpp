@@ -133,6 +133,11 @@ TEST_F(ProjectorTest, FollowsAChangeOfModeAndOfThePrimaryMonitor) {
     EXPECT_TRUE(WithinASecond([] { return Console().isActiveWindow(); }));
     driver_->Pause(700);
   }
+  for (const bool onTop : {false, true}) {
+    driver_->TheShow().platform.displays.SetTopMost(driver_->TheShow().frmSS, onTop);
+    driver_->Pause(100);
+    EXPECT_TRUE(AudienceSeenAt({1280, 0, 1920, 1080})) << "on top: " << onTop;
+  }
 }
 
 }  // namespace
