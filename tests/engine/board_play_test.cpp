@@ -1,62 +1,31 @@
 // A claim from the click to the resting piece, tick by tick, and the cycle that follows it.
 #include "engine/board_play.h"
 
-#include "platform/text.h"
 #include "support/game_player.h"
-#include "support/seen.h"
 
 namespace pawnfield {
 namespace {
 
-TEST(BoardPlay, ThePieceTurnsOnItsMiddleAndComesBackToItsFullSize) {
-  struct Case {
-    const char* setup;
-    const char* console;
-    const char* audience;
-  };
-  const Case cases[] = {
-      {"2 2 3 full", "1155 900 645 390 135 390 645 900 1155 ", "1609 1208 807 406 5 406 807 1208 "},
-      {"2 2 4 full", "915 705 495 285 75 285 495 705 915 ", "1287 966 645 324 3 324 645 966 "},
-      {"2 2 5 full", "750 585 420 255 90 255 420 585 750 ", "1072 804 536 268 0 268 536 804 "},
-  };
-  for (const Case& c : cases) {
-    GamePlayer player(c.setup);
-    Image& square = *player.form().img.At(1, 2);
-    Image& twin = *player.fixture().audience().img.At(1, 2);
-    const double middle = square.Top + square.Height / 2, twinMiddle = twin.Top + twin.Height / 2;
-    std::string console = NumberText(square.Height) + " ", audience;
-    player.Play("12!");
-    for (int tick = 0; tick < 20; ++tick) {
-      player.Play(">10");
-      if (tick < 8) console += NumberText(square.Height) + " ";
-      if (tick < 8) audience += NumberText(twin.Height) + " ";
-      EXPECT_DOUBLE_EQ(square.Top + square.Height / 2, middle);
-      EXPECT_DOUBLE_EQ(twin.Top + twin.Height / 2, twinMiddle);
-    }
-    EXPECT_EQ(console, c.console);
-    EXPECT_EQ(audience, c.audience);
-  }
-}
-
-TEST(BoardPlay, TheFlashShowsBothFacesSixTimesAndRestsOnTheFirst) {
-  // Only the piece of player 2 has no second face while it turns.
-  const std::pair<const char*, const char*> cases[] = {{"00!", "Xb Xa Xb Xa Xb Xa Xb Xa Xa "},
-                                                       {"N 00!", "Oa Oa Ob Oa Ob Oa Ob Oa Oa "},
-                                                       {"N N 00!", "Tb Ta Tb Ta Tb Ta Tb Ta Ta "}};
-  for (const auto& [script, faces] : cases) {
-    GamePlayer player("2 3 3 full");
-    player.Play(script);
-    std::string seen;
-    for (const char* pause : {">50", ">50", ">50", ">150", ">150", ">150", ">150", ">150", ">150"}) {
-      player.Play(pause);
-      const std::string face = Seen(player.show(), "img00");
-      seen += face.substr(0, 1) + face.substr(5, 1) + " ";
-    }
-    EXPECT_EQ(seen, faces);
-  }
-}
-
 const Story kBoardPlay[] = {
+    {"APieceTurnsOnItsMiddleOnA3x3Board", "2 2 3 full",
+     "12! >10 img12.Height=900 img12.Top=3312.5 img12.Height'=1609 img12.Top'=5780.5 >30 img12.Height=135 "
+     "img12.Height'=406 >40 img12.Height=1155 img12.Top=3185 tmrFlipPlayerPiece=off >20 img12.Height'=2010 "
+     "img12.Top'=5580"},
+    {"APieceTurnsOnItsMiddleOnA4x4Board", "2 2 4 full",
+     "12! >10 img12.Height=705 img12.Top=2810 img12.Height'=1287 img12.Top'=4936.5 >30 img12.Height=75 "
+     "img12.Height'=324 >40 img12.Height=915 img12.Top=2705 tmrFlipPlayerPiece=off >20 img12.Height'=1608 "
+     "img12.Top'=4776"},
+    {"APieceTurnsOnItsMiddleOnA5x5Board", "2 2 5 full",
+     "12! >10 img12.Height=585 img12.Top=2457.5 img12.Height'=1072 img12.Top'=4374 >30 img12.Height=90 "
+     "img12.Height'=268 >40 img12.Height=750 img12.Top=2375 tmrFlipPlayerPiece=off >20 img12.Height'=1340 "
+     "img12.Top'=4240"},
+    {"TheFlashShowsBothFacesSixTimesAndRestsOnTheFirst", "2 3 3 full",
+     "00! >50 img00=X-100b.bmp >50 img00=X-100a.bmp >50 img00=X-100b.bmp >150 img00=X-100a.bmp >150 img00=X-100b.bmp "
+     ">150 img00=X-100a.bmp >150 img00=X-100b.bmp >150 tmrAnswer=off img00=X-100a.bmp >150 img00=X-100a.bmp"},
+    {"ThePieceOfPlayer2HasNoSecondFaceWhileItTurns", "2 3 3 full",
+     "N 00! >50 img00=O-100a.bmp >50 img00=O-100a.bmp >50 img00=O-100b.bmp >150 img00=O-100a.bmp"},
+    {"ThePieceOfPlayer3", "2 3 3 full",
+     "N N 00! >50 img00=T-100b.bmp >50 img00=T-100a.bmp >50 img00=T-100b.bmp >150 img00=T-100a.bmp"},
     {"OnlyAnOpenBoardTakesAClaimFromEitherScreen", "2 2 3 full",
      "22' board=000/000/001 00! >899 00! board=000/000/001 >1 00! board=100/000/001 event=Pawn.Wav"},
     {"ABonusStandsThreeSecondsAndThenTheGameGoesOn", "2 2 3 full",

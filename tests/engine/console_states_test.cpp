@@ -37,35 +37,19 @@ const Story kStates[] = {
     {"AChangeOfGridOrPlayersActsAtOnce", "1 3 5 full",
      "00 44 H V turn=3 optPlayers(0) turn=1 picP3Score=- picPlayer(2)'=- fraGridControl=off "
      "R optGameType(0) >2000 optGridControl(0) board=000/000/000 img03=- imgD'=- img4=- turn=1"},
-    {"TheStatusTextSkipsTheStepFromThreeToOne", "2 3 3 full",
-     "N N lblStatusBar=Player_3_Selected! N turn=1 lblStatusBar=Player_3_Selected!"},
+    {"AChangeOfTypeInARunningGameIsAsked", "2 2 3 full",
+     "00 optGameType(1) optGameType(3)@frmGameInProgress { btnCancel } optGameType(1)=1 optGameType(3)=0 "
+     "board=100/000/000 scores=50/0/0 optGameType(3)@frmGameInProgress { btnReset } optGameType(3)=1 "
+     "board=000/000/000 picStandby=up btnStart=off"},
+    {"TheTurnHasItsColourAndTheStatusTextSkipsTheStepFromThreeToOne", "2 3 3 full",
+     "N N lblStatusBar=Player_3_Selected! lblP3Score.BackColor=255 lblP1Score.BackColor=65535 "
+     "txtDJCommand.BackColor=65280 N turn=1 lblStatusBar=Player_3_Selected!"},
     {"TheStatusTextTellsTheStepFromTwoToOne", "2 2 3 full", "N N turn=1 lblStatusBar=Player_1_Selected!"},
 };
 
 using ConsoleStates = StoryTest;
 TEST_P(ConsoleStates, AreAsTold) { Play(); }
 INSTANTIATE_TEST_SUITE_P(Stories, ConsoleStates, testing::ValuesIn(kStates), StoryTest::Name);
-
-TEST(Console, ColoursTheTurn) {
-  GamePlayer player("2 3 3 full");
-  player.Play("N N");
-  EXPECT_EQ(player.form().lblP3Score.BackColor, kRed);
-  EXPECT_EQ(player.form().lblP1Score.BackColor, kYellow);
-  EXPECT_EQ(player.form().txtDJCommand.BackColor, kGreen);
-}
-
-TEST(Console, AsksBeforeAChangeOfTypeInARunningGame) {
-  GamePlayer player("2 2 3 full");
-  GameInProgressForm& box = player.show().frmGameInProgress;
-  const auto ask = [&](const std::function<void()>& answer, const std::string& after) {
-    player.fixture().sim.dialogs.ExpectForm("frmGameInProgress", answer);
-    player.Play("optGameType(3) " + after);
-  };
-  player.Play("00 optGameType(1)");
-  ask([&] { box.btnCancel.Click(); }, "optGameType(1)=1 optGameType(3)=0 board=100/000/000 scores=50/0/0");
-  ask([&] { box.Unload(); }, "optGameType(1)=1 board=100/000/000");
-  ask([&] { box.btnReset.Click(); }, "optGameType(3)=1 board=000/000/000 picStandby=up btnStart=off");
-}
 
 TEST(Console, ClearsARunningGameForANewSetEvenWhenItsChoiceIsCancelled) {
   GamePlayer player("3 2 3 full m");

@@ -2,6 +2,9 @@
 
 #include <gtest/gtest.h>
 
+#include <algorithm>
+#include <sstream>
+
 namespace pawnfield {
 namespace {
 
@@ -88,31 +91,28 @@ TEST(Lines, FullBoardCountsOnlyTheGrid) {
 }
 
 TEST(WinnerText, NamesTheLeadersWithTheEmptyRecordsInTheOrder) {
-  struct Case {
-    int players;
-    std::array<long long, 3> scores;
-    const char* text;
-  };
-  const Case cases[] = {
-      {2, {100, 50, 0}, "Ann/Wins!"},
-      {2, {50, 100, 0}, "Bob/Wins!"},
-      {2, {100, 100, 0}, "Ann and /Bob/Tie!"},
-      {2, {0, 0, 0}, "Ann and /Bob and //Tie!"},
-      {2, {-50, -100, 0}, " and //Tie!"},
-      {2, {-50, 20, 0}, "Bob/Wins!"},
-      {3, {10, 30, 20}, "Bob/Wins!"},
-      {3, {10, 30, 30}, "Bob and /Cid/Tie!"},
-      {3, {40, 40, 40}, "Ann and /Bob and /Cid/Tie!"},
-      {3, {-10, -10, -10}, "/Wins!"},
-      {3, {0, 0, -10}, "Ann and /Bob and //Tie!"},
-      {3, {70000, 40000, -40000}, "Ann/Wins!"},
-  };
-  for (const Case& c : cases) {
-    std::array<Standing, 4> standings{{{c.scores[0], " Ann "}, {c.scores[1], "Bob"}}};
-    if (c.players == 3) standings[2] = {c.scores[2], "Cid"};
-    std::string text = WinnerText(standings, c.players);
-    for (std::size_t at = 0; (at = text.find("\r\n", at)) != std::string::npos;) text.replace(at, 2, "/");
-    EXPECT_EQ(text, "Game Over!/" + std::string(c.text));
+  const std::array names{" Ann ", "Bob", "Cid"};
+  const std::pair<const char*, const char*> cases[] = {{"100 50", "Ann/Wins!"},
+                                                       {"50 100", "Bob/Wins!"},
+                                                       {"100 100", "Ann and /Bob/Tie!"},
+                                                       {"0 0", "Ann and /Bob and //Tie!"},
+                                                       {"-50 -100", " and //Tie!"},
+                                                       {"-50 20", "Bob/Wins!"},
+                                                       {"10 30 20", "Bob/Wins!"},
+                                                       {"10 30 30", "Bob and /Cid/Tie!"},
+                                                       {"40 40 40", "Ann and /Bob and /Cid/Tie!"},
+                                                       {"-10 -10 -10", "/Wins!"},
+                                                       {"0 0 -10", "Ann and /Bob and //Tie!"},
+                                                       {"70000 40000 -40000", "Ann/Wins!"}};
+  for (const auto& [scores, winner] : cases) {
+    std::array<Standing, 4> standings;
+    std::size_t players = 0;
+    std::istringstream in(scores);
+    for (long long score = 0; in >> score; ++players) standings[players] = {score, names.at(players)};
+    std::string text = WinnerText(standings, static_cast<int>(players));
+    text.erase(std::remove(text.begin(), text.end(), '\r'), text.end());
+    std::replace(text.begin(), text.end(), '\n', '/');
+    EXPECT_EQ(text, "Game Over!/" + std::string(winner)) << scores;
   }
 }
 

@@ -7,38 +7,31 @@ namespace {
 
 const Story kGames[] = {
     {"ChallengeA_RowEndsTheGame", "1 2 3 row",
-     "00 11 01 22 02 scores=200/100/0 board=111/020/002 "
-     "winner=Game_Over!/PLAYER_1/Wins!"},
+     "00 11 01 22 02 scores=200/100/0 board=111/020/002 winner=Game_Over!/PLAYER_1/Wins!"},
     {"ChallengeA_LineEndsTheGameButPointsWinIt", "1 2 3 row",
-     "00 11 01 u23 u23 22 02 scores=200/300/0 board=111/020/002 "
-     "winner=Game_Over!/PLAYER_2/Wins!"},
+     "00 11 01 u23 u23 22 02 scores=200/300/0 board=111/020/002 winner=Game_Over!/PLAYER_2/Wins!"},
     {"ChallengeA_TakenSquareCostsNoTurn", "1 3 3 row",
-     "00 00 01 N 11 E scores=100/50/0 board=120/010/000 "
-     "winner=Game_Over!/PLAYER_1/Wins!"},
+     "00 00 01 N 11 E scores=100/50/0 board=120/010/000 winner=Game_Over!/PLAYER_1/Wins!"},
     {"ChallengeA_ThreePlayersUndoAndTie", "1 3 5 full",
      "22 33 U 44 00 E scores=50/50/50 board=30000/00000/00100/00000/00002 "
      "winner=Game_Over!/PLAYER_1_and_/PLAYER_2_and_/PLAYER_3/Tie!"},
     {"ChallengeA_TwoPlayersAtZeroTieWithAnEmptyThird", "1 2 3 row 0",
-     "11 E scores=0/0/0 board=000/010/000 "
-     "winner=Game_Over!/PLAYER_1_and_/PLAYER_2_and_//Tie!"},
+     "11 E scores=0/0/0 board=000/010/000 winner=Game_Over!/PLAYER_1_and_/PLAYER_2_and_//Tie!"},
     {"ChallengeB_FullBoardOf4x4", "2 3 4 full",
      "00 01 02 03 N 10 11 12 13 N 20 21 22 23 N 30 31 32 33 scores=600/300/300 board=1111/2222/3333/1111 "
      "winner=Game_Over!/PLAYER_1/Wins!"},
     {"ChallengeB_StandbyKeepsTheGame", "2 2 3 row",
-     "00 H V 11 H V N 01 N 22 scores=200/50/0 board=120/010/001 "
-     "winner=Game_Over!/PLAYER_1/Wins!"},
+     "00 H V 11 H V N 01 N 22 scores=200/50/0 board=120/010/001 winner=Game_Over!/PLAYER_1/Wins!"},
     {"TriviaA_WrongAnswersPassTheTurnAndCost100", "3 2 5 row p",
      "+ 00 > - + 11 > + 04 > - + 13 > + 22 scores=100/0/0 board=10002/01020/00100/00000/00000 "
      "winner=Game_Over!/PLAYER_1/Wins!"},
     {"TriviaA_UndoGivesTheTurnBack", "3 2 4 row",
-     "+ 00 U 33 > + 32 E scores=50/50/0 board=0000/0000/0000/0021 "
-     "winner=Game_Over!/PLAYER_1_and_/PLAYER_2/Tie!"},
+     "+ 00 U 33 > + 32 E scores=50/50/0 board=0000/0000/0000/0021 winner=Game_Over!/PLAYER_1_and_/PLAYER_2/Tie!"},
     {"TriviaB_FullBoardWithASkip", "4 3 3 full",
      "+ 11 > + 00 > - + 02 > S > N + 20 > - + 22 > + 10 > + 12 > - + 01 > + 21 scores=350/150/50 board=122/111/321 "
      "winner=Game_Over!/PLAYER_1/Wins!"},
     {"TriviaB_UserAdvances", "4 2 4 row m",
-     "+ 00 C + 01 > C - > + 12 C - + 02 scores=200/50/0 board=1110/0020/0000/0000 "
-     "winner=Game_Over!/PLAYER_1/Wins!"},
+     "+ 00 C + 01 > C - > + 12 C - + 02 scores=200/50/0 board=1110/0020/0000/0000 winner=Game_Over!/PLAYER_1/Wins!"},
     {"TriviaC_BonusOf300AndTheWrongRingInOpensAgain", "5 3 4 row",
      "r3 + 03 > r1 - r3 + 21 > r2 + 00 > r3 + 10 > r3 + 11 > r3 + 12 scores=0/50/500 board=2003/3330/0300/0000 "
      "winner=Game_Over!/PLAYER_3/Wins!"},

@@ -107,17 +107,14 @@ TEST(AudienceScreen, HasTheNoticeInASizeOfItsOwnWheneverItComes) {
     GamePlayer player("4 2 4 full m7", screens);
     player.Play("+ 00 C + 01");
     player.fixture().sim.displays.Change(kTwo);
-    EXPECT_EQ(player.fixture().audience().lblQuestion[0].Font->Size, 60);
+    player.Play("lblQuestion(0).Font'=60");
   }
 }
 
 TEST(AudienceScreen, HelpToConnectAProjectorIsRoundedAndClosesByItsCross) {
-  ShowFixture fixture;
-  fixture.Start();
-  ConnectToProjectorForm& help = fixture.show().frmConnectToProjector;
-  fixture.sim.dialogs.ExpectForm("frmConnectToProjector", [&] { help.imgExit.Click(); });
-  fixture.form().mnuHelpProjector.Click();
-  EXPECT_EQ(fixture.sim.displays.Rounded["frmConnectToProjector"], 10);
+  GamePlayer player("1 2 3 full i");
+  player.Play("mnuHelpProjector@frmConnectToProjector { imgExit }");
+  EXPECT_EQ(player.fixture().sim.displays.Rounded["frmConnectToProjector"], 10);
 }
 
 TEST(AudienceScreen, SleepIsHeldOffFromStartToStandbyAndExit) {

@@ -24,8 +24,10 @@ class GamePlayer {
   //   3           the press of remote or pad 3 arrives
   //   [ ... ]     a message box comes up, and that happens before its answer
   //   > >899      3 seconds pass, or so many milliseconds
-  //   btnStop cboAutoContinue:3
-  //               clicks any control, chooses that entry of any list
+  //   btnStop cboAutoContinue:3 txtPlayerName(0):Ann_B
+  //               clicks any control, chooses that entry of a list, types "Ann B"
+  //   mnuOpen@frmOpened { ... }
+  //               opens a form, in which that happens, to its end
   //   turn=2 picBonus'=up
   //               is checked: Seen, or "event", "clip" and "verdict" for the last sound of these players
   void Play(const std::string& script);
@@ -36,6 +38,7 @@ class GamePlayer {
 
  private:
   void PrepareMachine(const std::string& options);
+  void PlayInForm(const std::string& opener, const std::string& name, const std::string& script);
   void Step(const std::string& step);
   void Claim(const std::string& step);
   void RingIn(char player);
@@ -44,6 +47,8 @@ class GamePlayer {
   void ExpectBothScreensAlike(const std::string& event);
 
   ShowFixture fixture_;
+  // The form that steps go to.
+  Form* shown_ = &fixture_.form();
   bool wired_ = false;
   bool scoresAlike_ = true;
   std::string played_;
@@ -54,7 +59,7 @@ struct Story {
   const char* name;
   const char* setup;
   const char* script;
-  friend void PrintTo(const Story& story, std::ostream* out) { *out << story.script; }
+  friend void PrintTo(const Story& story, std::ostream* out) { *out << story.name; }
 };
 
 class StoryTest : public testing::TestWithParam<Story> {

@@ -6,85 +6,49 @@ namespace pawnfield {
 
 namespace {
 
-class Pairs {
- public:
-  template <typename T>
-  void Same(const std::string& name, const T& console, const T& audience) {
-    if (!(console == audience)) unlike.push_back(name);
-  }
-  std::vector<std::string> unlike;
-};
+// Pairs by one name, or by the console's and the audience's.
+const std::string kPictures =
+    "imgA imgB imgC imgD imgE img1 img2 img3 img4 img5 imgStandby imgBonus imgHeader imgSound imgQuestionBackground "
+    "imgCorrect lblRightWrong lblWinner ";
+const std::string kContents =
+    "lblPlayer1(0):lblPlayer(0) lblPlayer1(1):lblPlayer(1) lblPlayer1(2):lblPlayer(2) lblP1Score:Label11(0) "
+    "lblP2Score:Label11(1) lblP3Score:Label11(2) picPlayer1:picPlayer(0) picPlayer2:picPlayer(1) "
+    "picPlayer3:picPlayer(2) txtDJCommand:lblDJCommand txtOptionalHeading ";
+const std::string kPanels =
+    "picQuestion picQuestionPicture picSound picBonus picCorrect picWinner picStandby picMOD picPlayer1:picPlayer(0) "
+    "picPlayer2:picPlayer(1) picPlayer3:picPlayer(2) picPlayer1:lblPlayer(0) picPlayer2:lblPlayer(1) "
+    "picPlayer3:lblPlayer(2) picPlayer1:Label11(0) picPlayer2:Label11(1) picPlayer3:Label11(2) ";
 
-void CompareBoard(Show& show, Pairs& pairs) {
-  const bool turning = show.frmMain.tmrFlipPlayerPiece.Enabled || show.frmFSMain.tmrFSFlipPlayerPiece.Enabled;
-  show.frmMain.img.ForEach([&](Image& square) {
-    const Control* twin = show.frmFSMain.Find(square.Name());
-    pairs.Same(square.Name() + ".Visible", square.Visible.Get(), twin->Visible.Get());
-    if (!turning) pairs.Same(square.Name(), square.Picture.Get(), static_cast<const Image*>(twin)->Picture.Get());
-  });
-}
-
-void CompareImages(Show& show, Pairs& pairs) {
-  for (const char* name : {"imgA", "imgB", "imgC", "imgD", "imgE", "img1", "img2", "img3", "img4", "img5", "imgStandby",
-                           "imgBonus", "imgHeader", "imgSound", "imgQuestionBackground", "imgCorrect"}) {
-    const auto* console = static_cast<const Image*>(show.frmMain.Find(name));
-    const auto* audience = static_cast<const Image*>(show.frmFSMain.Find(name));
-    pairs.Same(name, console->Picture.Get(), audience->Picture.Get());
-    pairs.Same(name + std::string(".Visible"), console->Visible.Get(), audience->Visible.Get());
-  }
-}
-
-void ComparePlayers(Show& show, Pairs& pairs) {
-  for (std::size_t i = 0; i < 3; ++i) {
-    const int player = static_cast<int>(i) + 1;
-    const std::string number = std::to_string(player);
-    const PictureBox& box = show.frmMain.PlayerBox(player);
-    pairs.Same("name " + number, show.frmMain.lblPlayer1[i].Caption.Get(), show.frmFSMain.lblPlayer[i].Caption.Get());
-    pairs.Same("score " + number, show.frmMain.Score(player).Caption.Get(), show.frmFSMain.Label11[i].Caption.Get());
-    pairs.Same("box " + number, box.Picture.Get(), show.frmFSMain.picPlayer[i].Picture.Get());
-    for (const Control* part : {static_cast<const Control*>(&show.frmFSMain.picPlayer[i]),
-                                static_cast<const Control*>(&show.frmFSMain.lblPlayer[i]),
-                                static_cast<const Control*>(&show.frmFSMain.Label11[i])}) {
-      pairs.Same(part->Name() + ".Visible", box.Visible.Get(), part->Visible.Get());
-    }
-  }
-}
-
-void ComparePanels(Show& show, Pairs& pairs) {
-  for (const char* panel : {"picQuestion", "picQuestionPicture", "picSound", "picBonus", "picCorrect", "picWinner",
-                            "picStandby", "picMOD", "lblRightWrong", "lblWinner"}) {
-    pairs.Same(panel, show.frmMain.Find(panel)->Visible.Get(), show.frmFSMain.Find(panel)->Visible.Get());
-  }
-  MainForm& console = show.frmMain;
-  FSMainForm& audience = show.frmFSMain;
-  if (console.picQuestion.Visible) {
-    pairs.Same("lblQuestion(0)", console.lblQuestion[0].Caption.Get(), audience.lblQuestion[0].Caption.Get());
-    pairs.Same("outline", console.lblQuestion[1].Visible.Get(), audience.lblQuestion[1].Visible.Get());
-  }
-  if (console.picQuestionPicture.Visible) {
-    pairs.Same("picture", console.picImageResize[0].Picture.Get(), audience.picImageResize[0].Picture.Get());
-  }
-  pairs.Same("verdict", console.lblRightWrong.Caption.Get(), audience.lblRightWrong.Caption.Get());
-  if (console.picWinner.Visible) {
-    pairs.Same("winner", console.lblWinner.Caption.Get(), audience.lblWinner.Caption.Get());
-  }
-  pairs.Same("lblDJCommand", console.txtDJCommand.Text.Get(), audience.lblDJCommand.Caption.Get());
-  pairs.Same("heading", console.txtOptionalHeading.Text.Get(), audience.txtOptionalHeading.Text.Get());
-}
-
-void DescribeFont(std::ostream& out, const Font& font) {
-  out << ' ' << font.Name << ' ' << font.Size << ' ' << font.Bold << font.Italic;
-}
+std::string Visible(const Control& control) { return control.Visible ? "visible" : "hidden"; }
 
 }  // namespace
 
+std::string Content(const Control& control) {
+  if (const auto* label = dynamic_cast<const Label*>(&control)) return label->Caption;
+  if (const auto* text = dynamic_cast<const TextBox*>(&control)) return text->Text;
+  if (const auto* image = dynamic_cast<const Image*>(&control)) return image->Picture;
+  if (const auto* box = dynamic_cast<const PictureBox*>(&control)) return box->Picture;
+  return "";
+}
+
 std::vector<std::string> UnlikePairs(Show& show) {
-  Pairs pairs;
-  CompareBoard(show, pairs);
-  CompareImages(show, pairs);
-  ComparePlayers(show, pairs);
-  ComparePanels(show, pairs);
-  return pairs.unlike;
+  std::vector<std::string> unlike;
+  const auto compare = [&](const std::string& pairs, std::string (*what)(const Control&), const char* property) {
+    std::istringstream in(pairs);
+    for (std::string pair; in >> pair;) {
+      const Control* console = show.frmMain.Find(pair.substr(0, pair.find(':')));
+      const Control* audience = show.frmFSMain.Find(pair.substr(pair.find(':') + 1));
+      if (what(*console) != what(*audience)) unlike.push_back(audience->Name() + property);
+    }
+  };
+  const bool turning = show.frmMain.tmrFlipPlayerPiece.Enabled || show.frmFSMain.tmrFSFlipPlayerPiece.Enabled;
+  std::string squares;
+  show.frmMain.img.ForEach([&](const Image& square) { squares += square.Name() + " "; });
+  const bool question = show.frmMain.picQuestion.Visible;
+  compare(squares + kPictures + kPanels + (question ? "lblQuestion(1)" : ""), Visible, ".Visible");
+  compare((turning ? "" : squares) + kPictures + kContents + (question ? "lblQuestion(0)" : ""), Content, "");
+  if (show.frmMain.picQuestionPicture.Visible) compare("picImageResize(0)", Content, "");
+  return unlike;
 }
 
 std::vector<std::string> Appearance(const Form& form) {
@@ -92,17 +56,15 @@ std::vector<std::string> Appearance(const Form& form) {
   for (const Control* control : form.Controls()) {
     if (control->Kind() == ControlKind::Timer || !control->IsShown()) continue;
     std::ostringstream out;
-    out << control->Name() << ' ' << control->Left << ' ' << control->Top << ' ' << control->Width << ' '
-        << control->Height;
+    out << control->Name();
+    for (const double twips : {control->Left.Get(), control->Top.Get(), control->Width.Get(), control->Height.Get()})
+      out << ' ' << twips;
+    out << ' ' << Content(*control);
     if (const auto* label = dynamic_cast<const Label*>(control)) {
-      out << ' ' << label->Caption.Get() << ' ' << label->ForeColor;
-      DescribeFont(out, label->Font);
-    } else if (const auto* image = dynamic_cast<const Image*>(control)) {
-      out << ' ' << image->Picture.Get();
+      const Font& font = label->Font;
+      out << ' ' << label->ForeColor << ' ' << font.Name << ' ' << font.Size << ' ' << font.Bold << font.Italic;
     } else if (const auto* box = dynamic_cast<const PictureBox*>(control)) {
-      out << ' ' << box->Picture.Get() << ' ' << box->BackColor;
-    } else if (const auto* text = dynamic_cast<const TextBox*>(control)) {
-      out << ' ' << text->Text.Get();
+      out << ' ' << box->BackColor;
     }
     lines.push_back(out.str());
   }

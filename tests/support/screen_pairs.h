@@ -8,8 +8,10 @@
 
 namespace pawnfield {
 
-// Names the pairs of which the audience's half differs from the console's; empty when both screens agree. Squares are
-// left out while a piece turns, which each screen does by itself.
+// A control's text or its picture's path, whether it can be seen or not.
+std::string Content(const Control& control);
+// Names the audience's controls that differ from the console's, with ".Visible" behind when that does; empty when both
+// screens agree. Squares are left out while a piece turns, which each screen does by itself.
 std::vector<std::string> UnlikePairs(Show& show);
 // One line for each control of the form that can be seen: its place and what it shows.
 std::vector<std::string> Appearance(const Form& form);

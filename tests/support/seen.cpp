@@ -2,7 +2,11 @@
 
 #include <gtest/gtest.h>
 
+#include <algorithm>
 #include <sstream>
+
+#include "platform/text.h"
+#include "support/screen_pairs.h"
 
 namespace pawnfield {
 
@@ -23,8 +27,6 @@ std::string Plain(const std::string& text) {
   return plain;
 }
 
-std::string FileName(const std::string& path) { return path.substr(path.rfind('\\') + 1); }
-
 std::string Reachable(const Form& form, const std::string& names) {
   std::string reachable;
   std::istringstream in(names);
@@ -43,6 +45,15 @@ std::string Board(const GameState& state) {
   return rows;
 }
 
+std::string PropertyOf(const Control& control, const std::string& name) {
+  const auto* label = dynamic_cast<const Label*>(&control);
+  if (name == "Top") return NumberText(control.Top);
+  if (name == "Height") return NumberText(control.Height);
+  if (name == "Enabled") return control.Enabled ? "yes" : "no";
+  if (label == nullptr) return NumberText(dynamic_cast<const TextBox&>(control).BackColor);
+  return NumberText(name == "Font" ? label->Font->Size : label->BackColor.Get());
+}
+
 }  // namespace
 
 std::string Look(const Control& control) {
@@ -53,34 +64,48 @@ std::string Look(const Control& control) {
   if (control.Kind() == ControlKind::Timer) return onOff(control.Enabled);
   if (!control.IsShown()) return "-";
   if (control.Kind() == ControlKind::Button) return onOff(control.IsReachable());
-  if (const auto* label = dynamic_cast<const Label*>(&control)) return Plain(label->Caption);
-  if (const auto* text = dynamic_cast<const TextBox*>(&control)) return Plain(text->Text);
-  if (const auto* image = dynamic_cast<const Image*>(&control)) return FileName(image->Picture);
-  return control.Enabled ? "up" : "off";
+  const bool panel = control.Kind() == ControlKind::PictureBox || control.Kind() == ControlKind::Frame;
+  if (panel) return control.Enabled ? "up" : "off";
+  const std::string content = Plain(Content(control));
+  return control.Kind() == ControlKind::Image ? content.substr(content.rfind('\\') + 1) : content;
 }
 
-std::string Seen(Show& show, const std::string& name) {
-  MainForm& form = show.frmMain;
-  const auto score = [&](int player) { return form.Score(player).Caption.Get(); };
-  if (name == "turn") return std::to_string(show.state.CurrentPlayer);
-  if (name == "question") return std::to_string(show.state.CurrentQuestion);
+std::string Seen(Show& show, const std::string& name, const Form& form) {
+  MainForm& main = show.frmMain;
+  const GameState& state = show.state;
+  const auto score = [&](int player) { return main.Score(player).Caption.Get(); };
+  const auto player = [&](std::size_t i) { return main.lblPlayer1[i].Caption.Get(); };
+  const auto pays = [](bool penalty, const char* number) { return std::string(penalty ? number : "-"); };
+  if (name == "turn") return std::to_string(state.CurrentPlayer);
+  if (name == "question") return std::to_string(state.CurrentQuestion);
   if (name == "scores") return score(1) + "/" + score(2) + "/" + score(3);
-  if (name == "board") return Board(show.state);
-  if (name == "winner") return Plain(form.lblWinner.Caption);
-  if (name == "offers") return Reachable(form, kButtons);
-  if (name == "options") return Reachable(form, kOptions);
+  if (name == "names") return Plain(player(0) + "/" + player(1) + "/" + player(2));
+  if (name == "board") return Board(state);
+  if (name == "winner") return Plain(main.lblWinner.Caption);
+  if (name == "offers") return Reachable(main, kButtons);
+  if (name == "options") return Reachable(main, kOptions);
+  if (name == "penalties") {
+    return pays(state.Player1Penalty, "1") + pays(state.Player2Penalty, "2") + pays(state.Player3Penalty, "3") + "/" +
+           std::to_string(state.PenaltyPoints);
+  }
   const bool audience = name.ends_with('\'');
-  const Form& owner = audience ? static_cast<const Form&>(show.frmFSMain) : form;
-  const Control* control = owner.Find(audience ? name.substr(0, name.size() - 1) : name);
-  return control == nullptr ? "no such control" : Look(*control);
+  const std::string whole = audience ? name.substr(0, name.size() - 1) : name;
+  const std::size_t dot = std::min(whole.find('.'), whole.size());
+  const Control* control = (audience ? show.frmFSMain : form).Find(whole.substr(0, dot));
+  if (control == nullptr) return "no such control";
+  return dot == whole.size() ? Look(*control) : PropertyOf(*control, whole.substr(dot + 1));
 }
 
-void ExpectSeen(Show& show, const std::string& states, const std::string& when) {
+void ExpectSeen(Show& show, const std::string& states, const std::string& when, const Form& form) {
   std::istringstream in(states);
   for (std::string state; in >> state;) {
     const std::string name = state.substr(0, state.find('='));
-    EXPECT_EQ(name + "=" + Seen(show, name), state) << when;
+    EXPECT_EQ(name + "=" + Seen(show, name, form), state) << when;
   }
+}
+
+void ExpectSeen(Show& show, const std::string& states, const std::string& when) {
+  ExpectSeen(show, states, when, show.frmMain);
 }
 
 }  // namespace pawnfield
