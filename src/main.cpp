@@ -11,7 +11,9 @@ int main(int argc, char** argv) {
   QApplication application(argc, argv);
   QApplication::setApplicationName("Pawnfield");
   pawnfield::PrepareApplication();
-  pawnfield::DesktopProgram program;
+  const pawnfield::DesktopPlaces places;
+  pawnfield::DesktopProgram program(places);
+  if (places.copyFailure) pawnfield::ReportCopyFailure(program.TheShow().platform.dialogs, *places.copyFailure);
   pawnfield::Main(program.TheShow());
   return QApplication::exec();
 }

@@ -37,18 +37,19 @@ void ClampResolution(GameState& state) {
   if (state.LCDResolutions < 1 || state.LCDResolutions > 3) state.LCDResolutions = 1;
 }
 
-// Writes settings by the type of their value.
+// Collects settings by the type of their value.
 class Saver {
  public:
-  explicit Saver(Show& show) : show_(show) {}
-  void operator()(const std::string& key, int value) { SaveSetting(show_, key, std::to_string(value)); }
-  void operator()(const std::string& key, bool value) { SaveSetting(show_, key, BooleanText(value)); }
-  void operator()(const std::string& key, double value) { SaveSetting(show_, key, NumberText(value)); }
-  void operator()(const std::string& key, const std::string& value) { SaveSetting(show_, key, value); }
+  void operator()(const std::string& key, int value) { settings_.push_back({key, std::to_string(value)}); }
+  void operator()(const std::string& key, bool value) { settings_.push_back({key, BooleanText(value)}); }
+  void operator()(const std::string& key, double value) { settings_.push_back({key, NumberText(value)}); }
+  void operator()(const std::string& key, const std::string& value) { settings_.push_back({key, value}); }
   void operator()(const std::string& key, const char*) = delete;
 
+  void Finish(SettingsStore& store) const { store.SaveSettings(kAppTitle, kSection, settings_); }
+
  private:
-  Show& show_;
+  std::vector<Setting> settings_;
 };
 
 void SaveGameOptions(const GameState& state, Saver& save) {
@@ -143,7 +144,7 @@ void LoadScreenSettings(Show& show) {
 void SaveAllSettings(Show& show) {
   GameState& state = show.state;
   ClampResolution(state);
-  Saver save(show);
+  Saver save;
   for (int remote = 1; remote <= kRoutingCount; ++remote) {
     save("Routing" + std::to_string(remote), state.Routing[static_cast<std::size_t>(remote)]);
   }
@@ -157,6 +158,7 @@ void SaveAllSettings(Show& show) {
   save("BackGroundMusic", state.BackgroundMusic);
   save("BgMusicFileName", state.BgMusicFileName);
   save("LCDScreensTop", state.LCDScreensTop);
+  save.Finish(show.platform.settings);
 }
 
 }  // namespace pawnfield

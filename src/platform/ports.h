@@ -117,6 +117,11 @@ class MediaChannel {
   std::function<void(PlayState state)> OnPlayStateChange;
 };
 
+// A key and its value.
+struct Setting {
+  std::string Key, Value;
+};
+
 // A per-user store of text values. Keys are compared without regard to case.
 class SettingsStore {
  public:
@@ -125,6 +130,11 @@ class SettingsStore {
                                  const std::string& fallback) const = 0;
   virtual void SaveSetting(const std::string& application, const std::string& section, const std::string& key,
                            const std::string& value) = 0;
+  // Saves all of them, in their order; a store that can keeps either all or none.
+  virtual void SaveSettings(const std::string& application, const std::string& section,
+                            const std::vector<Setting>& settings) {
+    for (const auto& [key, value] : settings) SaveSetting(application, section, key, value);
+  }
 };
 
 // Files. Each failure is a RuntimeError with the number of its kind.

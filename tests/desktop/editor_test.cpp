@@ -104,7 +104,7 @@ TEST(PrintTest, PagesBreakBetweenQuestionsAndCopiesBeginAnew) {
   const auto print = [&](const PrintDocument& document, int copies) {
     QPrinter printer(QPrinter::HighResolution);
     printer.setOutputFileName(folder.filePath("set.pdf"));
-    PaintDocument(printer, document, copies);
+    PrintOn(printer, document, copies);
     return PagesOf(folder.filePath("set.pdf"));
   };
   EXPECT_EQ(print(LongQuestions(1), 1), 1);
@@ -116,7 +116,7 @@ TEST(PrintTest, PagesBreakBetweenQuestionsAndCopiesBeginAnew) {
   EXPECT_GT(print({"T", {{"T", " "}, PrintBlock(100, "a line")}}, 1), 1);
   QPrinter nowhere(QPrinter::HighResolution);
   nowhere.setOutputFileName(folder.filePath("none/set.pdf"));
-  EXPECT_THROW(PaintDocument(nowhere, LongQuestions(1), 1), RuntimeError);
+  EXPECT_THROW(PrintOn(nowhere, LongQuestions(1), 1), RuntimeError);
 }
 
 // Answers the file dialog that is open by a press of Escape, and tells where it began.

@@ -26,13 +26,13 @@ QString DataHome() { return QStandardPaths::writableLocation(QStandardPaths::Gen
 
 }  // namespace
 
-Folders FindFolders() {
+Folders FindFolders(std::optional<CopyFailure>& failure) {
   QString app = ProgramFolder();
   const bool writable = QFileInfo(app).isWritable() && QFileInfo(app + '/' + kSetsFolder).isWritable();
   if (!writable) {
     const QString shared = app;
     app = DataHome() + "/Pawnfield";
-    UpdateUserCopy(shared, app);
+    failure = UpdateUserCopy(shared, app);
   }
   QDir().mkpath(DataHome());
   Folders folders;

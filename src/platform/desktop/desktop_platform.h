@@ -2,6 +2,7 @@
 #pragma once
 
 #include <functional>
+#include <optional>
 
 #include "platform/desktop/desktop_folders.h"
 #include "platform/desktop/desktop_pages.h"
@@ -22,7 +23,8 @@ namespace pawnfield {
 
 // Where things lie; the defaults are the machine's own places.
 struct DesktopPlaces {
-  Folders folders = FindFolders();
+  std::optional<CopyFailure> copyFailure{};
+  Folders folders = FindFolders(copyFailure);
   QString configFolder = ConfigFolder();
   QString runtimeFolder = RuntimeFolder();
   QString manualFolder = ManualFolder();

@@ -40,7 +40,13 @@ bool LinuxProcesses::AnotherInstanceRuns() {
   lock_ = std::make_unique<QLockFile>(runtimeFolder_ + "/pawnfield.lock");
   // Only a lock whose process is gone is stale, however old it is.
   lock_->setStaleLockTime(0);
-  if (!lock_->tryLock() && lock_->error() == QLockFile::LockFailedError) return true;
+  qint64 owner = 0;
+  QString host, program;
+  bool locked = lock_->tryLock();
+  // A mark that names nobody was left by a program that ended amid its making, unless its maker holds it still.
+  if (!locked && !lock_->getLockInfo(&owner, &host, &program) && lock_->removeStaleLockFile())
+    locked = lock_->tryLock();
+  if (!locked && lock_->error() == QLockFile::LockFailedError) return true;
   Listen();
   return false;
 }

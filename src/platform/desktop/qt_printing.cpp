@@ -1,11 +1,14 @@
 #include "platform/desktop/qt_printing.h"
 
 #include <QApplication>
+#include <QBuffer>
 #include <QPainter>
+#include <QPdfWriter>
 #include <QPrintDialog>
 #include <QTextLayout>
 #include <vector>
 
+#include "platform/desktop/whole_file.h"
 #include "platform/desktop/windows_1252.h"
 
 namespace pawnfield {
@@ -49,13 +52,13 @@ Paragraph Wrap(const std::string& text, const QFont& font, double indent, QPaint
 
 class PrintedPages {
  public:
-  PrintedPages(QPrinter& printer, QPainter& painter) : printer_(printer), painter_(painter) {}
+  PrintedPages(QPagedPaintDevice& device, QPainter& painter) : device_(device), painter_(painter) {}
 
   void Add(const PrintBlock& block, bool isTitle) {
     std::vector<Paragraph> paragraphs;
     double height = 0;
     for (std::size_t i = 0; i < block.size(); ++i) {
-      const double indent = i == 1 && !isTitle ? kIndentPoints * printer_.resolution() / 72 : 0;
+      const double indent = i == 1 && !isTitle ? kIndentPoints * device_.logicalDpiX() / 72 : 0;
       const QFont font = PrintFont(isTitle && i == 0 ? kTitlePoints : kTextPoints, i == 0);
       paragraphs.push_back(Wrap(block[i], font, indent, painter_));
       // The blank line that closes a block may fall off the page.
@@ -67,7 +70,7 @@ class PrintedPages {
   }
 
   void BreakPage() {
-    printer_.newPage();
+    device_.newPage();
     y_ = 0;
   }
 
@@ -89,7 +92,7 @@ class PrintedPages {
     }
   }
 
-  QPrinter& printer_;
+  QPagedPaintDevice& device_;
   QPainter& painter_;
   double y_ = 0;
 };
@@ -110,22 +113,38 @@ std::optional<int> QtPrinting::ChoosePrinter() {
 
 void QtPrinting::Print(const PrintDocument& document, int copies) {
   if (!printer_) throw RuntimeError(kErrorPrinter, "Printer error");
-  PaintDocument(*printer_, document, copies);
+  PrintOn(*printer_, document, copies);
 }
 
-void PaintDocument(QPrinter& printer, const PrintDocument& document, int copies) {
-  printer.setDocName(FromWindows1252(document.Title));
-  printer.setPageMargins(QMarginsF(kMarginMm, kMarginMm, kMarginMm, kMarginMm), QPageLayout::Millimeter);
+void PrintOn(QPrinter& printer, const PrintDocument& document, int copies) {
+  const QString file = printer.outputFileName();
+  if (printer.outputFormat() == QPrinter::NativeFormat || file.isEmpty()) {
+    printer.setDocName(FromWindows1252(document.Title));
+    PaintDocument(printer, document, copies);
+    if (printer.printerState() == QPrinter::Error) throw RuntimeError(kErrorPrinter, "Printer error");
+    return;
+  }
+  // The toolkit writes a file as it goes and keeps silent about a disk that is full; so the pages are made in memory.
+  QBuffer bytes;
+  bytes.open(QIODevice::WriteOnly);
+  QPdfWriter writer(&bytes);
+  writer.setResolution(printer.resolution());
+  writer.setPageLayout(printer.pageLayout());
+  writer.setTitle(FromWindows1252(document.Title));
+  PaintDocument(writer, document, copies);
+  ReplaceFile(file, {bytes.data().constData(), static_cast<std::size_t>(bytes.size())});
+}
+
+void PaintDocument(QPagedPaintDevice& device, const PrintDocument& document, int copies) {
+  device.setPageMargins(QMarginsF(kMarginMm, kMarginMm, kMarginMm, kMarginMm), QPageLayout::Millimeter);
   QPainter painter;
-  if (!painter.begin(&printer)) throw RuntimeError(kErrorPrinter, "Printer error");
-  PrintedPages pages(printer, painter);
+  if (!painter.begin(&device)) throw RuntimeError(kErrorPrinter, "Printer error");
+  PrintedPages pages(device, painter);
   for (int copy = 0; copy < copies; ++copy) {
     if (copy > 0) pages.BreakPage();
     for (std::size_t i = 0; i < document.Blocks.size(); ++i) pages.Add(document.Blocks[i], i == 0);
   }
-  if (!painter.end() || printer.printerState() == QPrinter::Error) {
-    throw RuntimeError(kErrorPrinter, "Printer error");
-  }
+  if (!painter.end()) throw RuntimeError(kErrorPrinter, "Printer error");
 }
 
 }  // namespace pawnfield

@@ -17,8 +17,11 @@ class QtPrinting : public Printing {
   std::unique_ptr<QPrinter> printer_;
 };
 
+// Prints on paper, or puts the pages in the place of the printer's output file as a whole.
+void PrintOn(QPrinter& printer, const PrintDocument& document, int copies);
+
 // The pages of a document: the title large, blocks one below the other, and a page begun before a block that would not
 // end on the present one. A block longer than a page is split between its lines.
-void PaintDocument(QPrinter& printer, const PrintDocument& document, int copies);
+void PaintDocument(QPagedPaintDevice& device, const PrintDocument& document, int copies);
 
 }  // namespace pawnfield

@@ -1,25 +1,36 @@
 #include "platform/desktop/qt_settings_store.h"
 
 #include <QDir>
-#include <QSettings>
+#include <QFile>
+#include <cerrno>
 
+#include "platform/desktop/ini_text.h"
+#include "platform/desktop/whole_file.h"
 #include "platform/desktop/windows_1252.h"
 
 namespace pawnfield {
 
 namespace {
 
-// The stored key that differs from the wanted one in case only, or the wanted one.
-QString StoredKey(const QSettings& settings, const QString& wanted) {
-  if (settings.contains(wanted)) return wanted;
-  for (const QString& key : settings.allKeys()) {
-    if (key.compare(wanted, Qt::CaseInsensitive) == 0) return key;
+// The stored name that differs from the wanted one in case only, or the wanted one.
+template <typename Value>
+QString StoredName(const QMap<QString, Value>& values, const std::string& name) {
+  const QString wanted = FromWindows1252(name);
+  if (values.contains(wanted)) return wanted;
+  for (const QString& stored : values.keys()) {
+    if (stored.compare(wanted, Qt::CaseInsensitive) == 0) return stored;
   }
   return wanted;
 }
 
-QString KeyPath(const std::string& section, const std::string& key) {
-  return FromWindows1252(section) + '/' + FromWindows1252(key);
+// Nothing where there is no such file; an error where there is one that can't be read.
+IniValues ReadIni(const QString& path) {
+  QFile file(path);
+  if (!file.exists()) return {};
+  if (!file.open(QFile::ReadOnly)) throw FileError(EACCES);
+  const QByteArray bytes = file.readAll();
+  if (file.error() != QFileDevice::NoError) throw FileError(EIO);
+  return ParseIni(bytes);
 }
 
 }  // namespace
@@ -30,19 +41,23 @@ QString QtSettingsStore::FileOf(const std::string& application) const {
 
 std::string QtSettingsStore::GetSetting(const std::string& application, const std::string& section,
                                         const std::string& key, const std::string& fallback) const {
-  const QSettings settings(FileOf(application), QSettings::IniFormat);
-  const QString stored = StoredKey(settings, KeyPath(section, key));
-  if (!settings.contains(stored)) return fallback;
-  return ToWindows1252(settings.value(stored).toString()).value_or(fallback);
+  try {
+    const IniValues values = ReadIni(FileOf(application));
+    const auto entries = values.value(StoredName(values, section));
+    const QString stored = StoredName(entries, key);
+    return entries.contains(stored) ? ToWindows1252(entries[stored]).value_or(fallback) : fallback;
+  } catch (const RuntimeError&) {
+    return fallback;
+  }
 }
 
-void QtSettingsStore::SaveSetting(const std::string& application, const std::string& section, const std::string& key,
-                                  const std::string& value) {
+void QtSettingsStore::SaveSettings(const std::string& application, const std::string& section,
+                                   const std::vector<Setting>& settings) {
   QDir().mkpath(folder_);
-  QSettings settings(FileOf(application), QSettings::IniFormat);
-  settings.setValue(StoredKey(settings, KeyPath(section, key)), FromWindows1252(value));
-  settings.sync();
-  if (settings.status() != QSettings::NoError) throw RuntimeError(kErrorPathAccess, "Path/File access error");
+  IniValues values = ReadIni(FileOf(application));
+  auto& entries = values[StoredName(values, section)];
+  for (const auto& [key, value] : settings) entries[StoredName(entries, key)] = FromWindows1252(value);
+  ReplaceFile(FileOf(application), FormatIni(values).toStdString());
 }
 
 }  // namespace pawnfield

@@ -14,9 +14,13 @@ class QtSettingsStore : public SettingsStore {
 
   std::string GetSetting(const std::string& application, const std::string& section, const std::string& key,
                          const std::string& fallback) const override;
-  // On the disk when it returns; RuntimeError 75 when that can't be.
+  // On the disk when it returns, as a whole; a RuntimeError when that can't be.
+  void SaveSettings(const std::string& application, const std::string& section,
+                    const std::vector<Setting>& settings) override;
   void SaveSetting(const std::string& application, const std::string& section, const std::string& key,
-                   const std::string& value) override;
+                   const std::string& value) override {
+    SaveSettings(application, section, {{key, value}});
+  }
 
  private:
   QString FileOf(const std::string& application) const;

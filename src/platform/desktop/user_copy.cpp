@@ -6,7 +6,10 @@
 #include <QFile>
 #include <QFileInfo>
 #include <QMap>
-#include <QSaveFile>
+
+#include "engine/errors.h"
+#include "platform/desktop/native_path.h"
+#include "platform/desktop/whole_file.h"
 
 namespace pawnfield {
 
@@ -36,24 +39,38 @@ Manifest ReadManifest(const QString& userFolder) {
   return manifest;
 }
 
-void WriteManifest(const QString& userFolder, const Manifest& manifest) {
-  QSaveFile file(ManifestPath(userFolder));
-  if (!file.open(QFile::WriteOnly)) return;
+QByteArray FormatManifest(const Manifest& manifest) {
+  QByteArray bytes;
   for (auto entry = manifest.begin(); entry != manifest.end(); ++entry) {
-    file.write(entry.value() + ' ' + entry.key().toUtf8() + '\n');
+    bytes += entry.value() + ' ' + entry.key().toUtf8() + '\n';
   }
-  file.commit();
+  return bytes;
 }
 
-// Whole or not at all, and writable whatever the shipped file is.
-bool CopyWhole(const QString& from, const QString& to) {
-  QDir().mkpath(QFileInfo(to).path());
-  QFile source(from);
-  QSaveFile target(to);
-  if (!source.open(QFile::ReadOnly) || !target.open(QFile::WriteOnly)) return false;
-  const QByteArray content = source.readAll();
-  return target.write(content) == content.size() && target.commit();
-}
+// Writes files until all is done, and keeps the first failure.
+class Copier {
+ public:
+  bool Write(const QString& path, const QByteArray& bytes) {
+    try {
+      QDir().mkpath(QFileInfo(path).path());
+      ReplaceFile(path, {bytes.data(), static_cast<std::size_t>(bytes.size())});
+      return true;
+    } catch (const RuntimeError& error) {
+      if (!First) First = CopyFailure{error, path};
+      return false;
+    }
+  }
+
+  // Writable whatever the shipped file is.
+  bool Copy(const QString& from, const QString& to) {
+    QFile source(from);
+    if (!source.open(QFile::ReadOnly)) return false;
+    const QByteArray bytes = source.readAll();
+    return source.error() == QFileDevice::NoError && Write(to, bytes);
+  }
+
+  std::optional<CopyFailure> First;
+};
 
 bool WasRemovedByOperator(const QString& path, const QByteArray& known) {
   return !known.isEmpty() && path.startsWith("Trivia Sets/");
@@ -61,16 +78,16 @@ bool WasRemovedByOperator(const QString& path, const QByteArray& known) {
 
 // True when the user's file now is, or may be left as, what the manifest is to say.
 bool UpdateFile(const QString& from, const QString& to, const QString& path, const QByteArray& known,
-                const QByteArray& shipped) {
-  if (!QFileInfo::exists(to)) return WasRemovedByOperator(path, known) || CopyWhole(from, to);
+                const QByteArray& shipped, Copier& copier) {
+  if (!QFileInfo::exists(to)) return WasRemovedByOperator(path, known) || copier.Copy(from, to);
   if (known.isEmpty() || known == shipped || Digest(to) != known) return true;
-  return CopyWhole(from, to);
+  return copier.Copy(from, to);
 }
 
 }  // namespace
 
-void UpdateUserCopy(const QString& shared, const QString& userFolder) {
-  QDir().mkpath(userFolder);
+std::optional<CopyFailure> UpdateUserCopy(const QString& shared, const QString& userFolder) {
+  Copier copier;
   const Manifest before = ReadManifest(userFolder);
   Manifest manifest = before;
   QDirIterator files(shared, QDir::Files, QDirIterator::Subdirectories);
@@ -79,9 +96,16 @@ void UpdateUserCopy(const QString& shared, const QString& userFolder) {
     const QString path = QDir(shared).relativeFilePath(from);
     const QByteArray shipped = Digest(from);
     if (shipped.isEmpty()) continue;
-    if (UpdateFile(from, userFolder + '/' + path, path, manifest.value(path), shipped)) manifest[path] = shipped;
+    if (UpdateFile(from, userFolder + '/' + path, path, manifest.value(path), shipped, copier)) {
+      manifest[path] = shipped;
+    }
   }
-  if (manifest != before) WriteManifest(userFolder, manifest);
+  if (manifest != before) copier.Write(ManifestPath(userFolder), FormatManifest(manifest));
+  return copier.First;
+}
+
+void ReportCopyFailure(Dialogs& dialogs, const CopyFailure& failure) {
+  ReportError(dialogs, failure.Error, "modMain", "UpdateUserCopy", SpelledPath(failure.File).value_or(""));
 }
 
 }  // namespace pawnfield

@@ -1,0 +1,18 @@
+// Files that are the old one or the new one, whatever happens while they are written.
+#pragma once
+
+#include <QString>
+#include <string_view>
+
+#include "platform/ports.h"
+
+namespace pawnfield {
+
+// The error that a failed call of the operating system means, with the words of its number.
+RuntimeError FileError(int systemError);
+
+// Puts the bytes in the file's place, on the disk when it returns. After a RuntimeError the old file is there unharmed
+// and nothing beside it. What a process left that was killed amid a write goes with the next write of the same file.
+void ReplaceFile(const QString& path, std::string_view bytes);
+
+}  // namespace pawnfield
