@@ -7,6 +7,7 @@
 
 #include "config/settings.h"
 #include "controllers/zr610.h"
+#include "engine/errors.h"
 #include "engine/main_load.h"
 #include "engine/show.h"
 #include "platform/text.h"
@@ -160,7 +161,10 @@ void frmSetInterface_Load(Show& show) {
 void frmSetInterface_btnOK_Click(Show& show) {
   show.state.ZR650 = false;
   show.state.SerialComm = kKeypadSharedKey;
-  SaveSetting(show, "SerialComm", std::to_string(kKeypadSharedKey));
+  // A choice that can't be kept is told, and the console comes up all the same.
+  RunGuarded(
+      show.platform.dialogs, [&] { SaveSetting(show, "SerialComm", std::to_string(kKeypadSharedKey)); },
+      show.frmSetInterface.Name(), "btnOK_Click");
   show.frmMain.Visible = true;
   ShowAudienceAt(show, show.state.FSLeft);
   show.frmSetInterface.Unload();

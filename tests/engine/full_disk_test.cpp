@@ -1,0 +1,35 @@
+// A setting that can't be kept is told, and what the operator asked for happens all the same.
+#include <gtest/gtest.h>
+
+#include "../support/show_fixture.h"
+#include "controllers/detection.h"
+#include "media/optional_headers.h"
+
+namespace pawnfield {
+namespace {
+
+TEST(FullDisk, HeadersComeUpThoughTheirSettingIsNotKept) {
+  ShowFixture fixture;
+  fixture.Start();
+  OptionalHeadersForm& form = fixture.show().frmOptionalHeaders;
+  fixture.sim.settings.FailSaves = 1;
+  fixture.sim.dialogs.ExpectForm("frmOptionalHeaders", [&] {
+    form.txtOptionalHeader[0].Text = "Welcome";
+    fixture.sim.dialogs.ExpectMessage("Procedure: btnOk_Click");
+    form.btnOk.Click();
+  });
+  ShowOptionalHeaders(fixture.show());
+  EXPECT_TRUE(fixture.show().state.OptionalHeadersOn);
+  EXPECT_TRUE(fixture.sim.files.CanOpen("C:\\Ostara Show Kit Data\\Headers.txt"));
+}
+
+TEST(FullDisk, TheConsoleComesUpThoughTheInterfaceIsNotKept) {
+  ShowFixture fixture;
+  fixture.sim.settings.FailSaves = 1;
+  fixture.sim.dialogs.ExpectMessage("Procedure: btnOK_Click");
+  frmSetInterface_btnOK_Click(fixture.show());
+  EXPECT_TRUE(fixture.form().Visible);
+}
+
+}  // namespace
+}  // namespace pawnfield
