@@ -1,0 +1,77 @@
+#include "snapshot.h"
+
+#include <QDir>
+#include <QDirIterator>
+#include <QFile>
+
+namespace pawnfield::faults {
+
+namespace {
+
+bool IsWholePage(const QByteArray& bytes) {
+  const QByteArray mark = "startxref\n";
+  const auto place = bytes.lastIndexOf(mark);
+  if (!bytes.startsWith("%PDF-") || !bytes.trimmed().endsWith("%%EOF") || place < 0) return false;
+  const auto from = place + mark.size();
+  const auto table = bytes.mid(from, bytes.indexOf('\n', from) - from).toLongLong();
+  return bytes.mid(table, 4) == "xref";
+}
+
+}  // namespace
+
+Snapshot Take(const QString& folder, const QStringList& files) {
+  Snapshot snapshot;
+  for (const QString& name : files) {
+    QFile file(folder + '/' + name);
+    if (file.open(QFile::ReadOnly)) snapshot[name] = file.readAll();
+  }
+  return snapshot;
+}
+
+Verdict JudgeFiles(const Snapshot& now, const Snapshot& before, const Snapshot& after) {
+  if (now == after) return Verdict::New;
+  if (now == before) return Verdict::Old;
+  for (const QString& name : (QStringList(before.keys()) + after.keys() + now.keys())) {
+    const bool isOld = now.contains(name) == before.contains(name) && now.value(name) == before.value(name);
+    const bool isNew = now.contains(name) == after.contains(name) && now.value(name) == after.value(name);
+    if (!isOld && !isNew) return Verdict::Torn;
+  }
+  return Verdict::Between;
+}
+
+Verdict JudgeCopy(const Snapshot& now, const Snapshot& before, const Snapshot& after) {
+  constexpr const char* kList = "Shipped.lst";
+  Snapshot files = now;
+  const QByteArray list = files.take(kList);
+  const QList<QByteArray> known = (before.value(kList) + after.value(kList)).split('\n');
+  for (const QByteArray& line : list.split('\n')) {
+    if (!known.contains(line)) return Verdict::Torn;
+  }
+  const bool settled = list == before.value(kList) || list == after.value(kList);
+  if (settled) return JudgeFiles(now, before, after);
+  Snapshot old = before, fresh = after;
+  old.remove(kList);
+  fresh.remove(kList);
+  return JudgeFiles(files, old, fresh) == Verdict::Torn ? Verdict::Torn : Verdict::Between;
+}
+
+Verdict JudgePages(const Snapshot& now, const Snapshot& before, const Snapshot& after) {
+  if (now == before) return Verdict::Old;
+  if (now.isEmpty() || !IsWholePage(now.first())) return Verdict::Torn;
+  const auto distance = [&](const Snapshot& other) {
+    return qAbs(now.first().size() - (other.isEmpty() ? 0 : other.first().size()));
+  };
+  return distance(after) <= distance(before) ? Verdict::New : Verdict::Old;
+}
+
+QStringList Strays(const QString& folder, const QStringList& wanted) {
+  QStringList strays;
+  QDirIterator files(folder, QDir::Files | QDir::Hidden, QDirIterator::Subdirectories);
+  while (files.hasNext()) {
+    const QString name = QDir(folder).relativeFilePath(files.next());
+    if (!wanted.contains(name)) strays << name;
+  }
+  return strays;
+}
+
+}  // namespace pawnfield::faults
