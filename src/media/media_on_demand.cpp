@@ -25,6 +25,21 @@ std::string Ending(const std::string& name, std::size_t length) {
   return name.size() < length ? name : name.substr(name.size() - length);
 }
 
+// The file is the console's, and so is the moment of it.
+void ShowVideoOnAudience(Show& show) {
+  const MediaPlayer& player = show.frmMain.MediaPlayer1;
+  FSMainForm& audience = show.frmFSMain;
+  audience.picMODVideo.Visible = true;
+  audience.picImageResize[1].Visible = false;
+  audience.picMOD.Visible = true;
+  audience.MediaPlayer1.stretchToFit = true;
+  audience.MediaPlayer1.URL = player.URL.Get();
+  audience.MediaPlayer1.uiMode = std::string("none");
+  // The sound comes once, from the console's player.
+  audience.MediaPlayer1.Volume = 0;
+  audience.MediaPlayer1.PlayState = player.PlayState;
+}
+
 void PlayVideo(Show& show, const std::string& path) {
   MainForm& form = show.frmMain;
   MediaChannel& player = show.platform.media.MediaPlayer1;
@@ -35,16 +50,7 @@ void PlayVideo(Show& show, const std::string& path) {
   form.MediaPlayer1.uiMode = std::string("full");
   player.SetUrl(path);
   player.SetPosition(0);
-  if (!show.state.DualScreen) return;
-  FSMainForm& audience = show.frmFSMain;
-  audience.picMODVideo.Visible = true;
-  audience.picImageResize[1].Visible = false;
-  audience.picMOD.Visible = true;
-  audience.MediaPlayer1.stretchToFit = true;
-  audience.MediaPlayer1.URL = path;
-  audience.MediaPlayer1.uiMode = std::string("none");
-  // The sound comes once, from the console's player.
-  audience.MediaPlayer1.Volume = 0;
+  if (show.state.DualScreen) ShowVideoOnAudience(show);
 }
 
 void MoveTo(Image& image, const FittedPicture& place) {
@@ -112,6 +118,22 @@ void MODImageResize(Show& show, const std::string& path) {
   const PictureBox& frame = show.frmMain.picMODPicture;
   MoveTo(show.frmMain.picImageResize[1],
          FitPictureInFrame(show.platform.pictures.Size(path), frame.Width, frame.Height));
+}
+
+void BringMediaInStep(Show& show) {
+  const MainForm& form = show.frmMain;
+  show.frmFSMain.picMOD.Visible = false;
+  if (!form.picMOD.Visible) return;
+  if (form.picMODVideo.Visible) {
+    ShowVideoOnAudience(show);
+    return;
+  }
+  if (!form.picMODPicture.Visible) return;
+  try {
+    ShowMODPicOnAudience(show, form.picImageResize[1].Picture);
+  } catch (const RuntimeError&) {
+    // The file has gone since the console took it, and the board beneath is better than an empty frame.
+  }
 }
 
 void tmrMODPicture_Timer(Show& show) {

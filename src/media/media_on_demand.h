@@ -19,6 +19,9 @@ bool ShowMODPic(Show& show, const std::string& path);
 // Fits the picture into picMODPicture. RuntimeError 53 or 481 when it can't be read.
 void MODImageResize(Show& show, const std::string& path);
 
+// Gives an audience screen that comes up in the middle what the console has up, a running video at the same frame.
+void BringMediaInStep(Show& show);
+
 void tmrMODPicture_Timer(Show& show);
 void tmrVideoDelay_Timer(Show& show);
 // The operator's player has stopped, paused or gone on: the audience's copy follows, and a stop takes both away.

@@ -3,6 +3,7 @@
 #include <array>
 
 #include "engine/show.h"
+#include "media/media_on_demand.h"
 #include "media/question_pictures.h"
 #include "presentation/board_labels.h"
 #include "presentation/board_layout.h"
@@ -134,6 +135,7 @@ void BringAudienceInStep(Show& show) {
                             Panel::Winner, Panel::Standby}) {
     PanelVisible(show, panel) ? ShowPanel(show, panel) : HidePanel(show, panel);
   }
+  BringMediaInStep(show);
 }
 
 }  // namespace pawnfield

@@ -5,6 +5,8 @@
 #include <QDir>
 #include <QFile>
 #include <QProcess>
+#include <QPushButton>
+#include <QSlider>
 #include <QStandardPaths>
 #include <QTemporaryDir>
 #include <QTest>
@@ -16,6 +18,7 @@
 #include "media/sound_channels.h"
 #include "platform/desktop/desktop_platform.h"
 #include "platform/desktop/native_path.h"
+#include "platform/desktop/player_view.h"
 #include "sound_rig.h"
 
 namespace pawnfield {
@@ -203,6 +206,23 @@ TEST_F(HeardTest, EveryKindOfMediaPlays) {
     player.Stop();
     EXPECT_TRUE(QTest::qWaitFor([&] { return !show_->frmMain.picMOD.Visible; })) << kind;
   }
+}
+
+TEST_F(HeardTest, ThePlayersOwnControlsAreHeard) {
+  PlayerView view(platform_->mediaPlayer1, nullptr);
+  platform_->mediaPlayer1.SetUrl(Tone(kKeys));
+  auto* volume = view.findChild<QSlider*>("pnlPlayerVolume");
+  auto* mute = view.findChild<QPushButton*>("pnlPlayerMute");
+  for (const auto& [value, level] : {std::pair{100, kFull}, {50, kFull / 2}, {0, 0.0}, {100, kFull}}) {
+    volume->setValue(value);
+    EXPECT_NEAR(LevelSoon(kKeys, level), level, 0.03) << value;
+  }
+  mute->click();
+  EXPECT_NEAR(LevelSoon(kKeys, 0), 0, 0.03);
+  mute->click();
+  EXPECT_NEAR(LevelSoon(kKeys, kFull), kFull, 0.03);
+  view.findChild<QPushButton*>("pnlPlayerPlay")->click();
+  EXPECT_NEAR(LevelSoon(kKeys, 0), 0, 0.03) << "paused";
 }
 
 TEST_F(HeardTest, FilmsThatCannotBeShownGoAway) {

@@ -201,16 +201,29 @@ Control* Canvas::At(const QPoint& point) const {
 void Canvas::paintEvent(QPaintEvent* event) {
   QPainter painter(this);
   painter.setRenderHints(QPainter::Antialiasing | QPainter::SmoothPixmapTransform | QPainter::TextAntialiasing);
-  if (backdrop_) {
+  const QRectF area = event->rect();
+  const std::size_t lowest = LowestSeen(area);
+  if (lowest == 0 && backdrop_) {
     painter.drawPixmap(QPoint(), Backdrop());
-  } else {
-    painter.fillRect(event->rect(), Qt::black);
+  } else if (lowest == 0) {
+    painter.fillRect(area, Qt::black);
   }
-  for (Item* item : order_) {
-    if (item->control.IsShown() && event->region().intersects(FillRect(item->control).toAlignedRect())) {
-      PaintItem(painter, *item);
+  for (std::size_t i = lowest; i < order_.size(); ++i) {
+    const Control& control = order_[i]->control;
+    if (control.IsShown() && event->region().intersects(FillRect(control).toAlignedRect())) {
+      PaintItem(painter, *order_[i]);
     }
   }
+}
+
+// What lies beneath a ground that covers the whole area isn't painted: a film's frame would cost the board with it.
+std::size_t Canvas::LowestSeen(const QRectF& area) const {
+  for (std::size_t i = order_.size(); i > 0; --i) {
+    const Item& item = *order_[i - 1];
+    const bool opaque = item.style.PaintsGround || item.control.Kind() == ControlKind::MediaPlayer;
+    if (opaque && item.control.IsShown() && FillRect(item.control).contains(area)) return i - 1;
+  }
+  return 0;
 }
 
 // Painted once for each size: a gradient over a large display takes longer than all that stands on it.

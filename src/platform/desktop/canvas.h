@@ -78,6 +78,7 @@ class Canvas : public QWidget {
   void PaintText(QPainter& painter, Item& item, const QRectF& rect);
   void PlaceEmbedded();
   bool IsCovered(const Control& control) const;
+  std::size_t LowestSeen(const QRectF& area) const;
 
   PictureCache& pictures_;
   std::function<void(QPainter&, const QRect&)> backdrop_;

@@ -6,12 +6,17 @@
 
 namespace pawnfield {
 
-inline void PaintFilm(QPainter& painter, const QRectF& area, const QImage& frame) {
-  painter.fillRect(area, Qt::black);
-  if (frame.isNull()) return;
-  QRectF place(QPointF(), QSizeF(frame.size()).scaled(area.size(), Qt::KeepAspectRatio));
+// Where a film of that size stands in the area.
+inline QRectF FilmPlace(const QRectF& area, const QSizeF& frame) {
+  QRectF place(QPointF(), frame.scaled(area.size(), Qt::KeepAspectRatio));
   place.moveCenter(area.center());
-  painter.drawImage(place, frame);
+  return place;
+}
+
+inline void PaintFilm(QPainter& painter, const QRectF& area, const QImage& frame) {
+  const QRectF place = FilmPlace(area, frame.size());
+  if (frame.isNull() || !place.contains(area)) painter.fillRect(area, Qt::black);
+  if (!frame.isNull()) painter.drawImage(place, frame);
 }
 
 }  // namespace pawnfield

@@ -42,6 +42,8 @@ QPushButton* MakeButton(const char* name, const char* tip, QHBoxLayout& row) {
 
 PlayerView::PlayerView(MpvVideo& video, QWidget* parent) : QWidget(parent), video_(video) {
   setObjectName("pnlPlayer");
+  // The film and the bar cover it, so that no frame needs what stands behind.
+  setAttribute(Qt::WA_OpaquePaintEvent);
   MakeBar();
   connect(&video_, &MpvVideo::FrameChanged, this, [this] { update(FilmRect()); });
   auto* refresh = new QTimer(this);

@@ -1,0 +1,154 @@
+// A film on demand in the real windows, on a projector that comes and goes meanwhile. What runs is read from the
+// screens themselves.
+
+#include <gtest/gtest.h>
+
+#include <QFile>
+#include <QGuiApplication>
+#include <QProcess>
+#include <QPushButton>
+#include <QScreen>
+#include <QSlider>
+#include <QTemporaryDir>
+
+#include "counted_film.h"
+#include "media/media_on_demand.h"
+#include "platform/desktop/native_path.h"
+#include "show_driver.h"
+
+namespace pawnfield {
+namespace {
+
+constexpr int kFilmSeconds = 20;
+constexpr int kPictureKey = 'P' - 56, kFilmKey = 'F' - 56;
+
+// The program starts with one monitor.
+class MediaShowTest : public testing::Test {
+ protected:
+  static void SetUpTestSuite() {
+    Xrandr("--output DUMMY1 --off");
+    folder_ = new QTemporaryDir;
+    driver_ = new ShowDriver(folder_->path());
+    ready_ = driver_->Start() && MakeCountedFilm(Film(), kFilmSeconds) && driver_->Press("optGameType_0") &&
+             driver_->Press("btnStart");
+    TheShow().soundBanks[1][kFilmKey] = *SpelledPath(Film());
+    TheShow().soundBanks[1][kPictureKey] = TheShow().AppPath("\\Question Backgrounds\\7.jpg");
+  }
+  static void TearDownTestSuite() {
+    delete driver_;
+    delete folder_;
+    Xrandr("--output DUMMY1 --mode 1920x1080 --pos 1280x0");
+  }
+  void SetUp() override { ASSERT_TRUE(ready_); }
+  void TearDown() override {
+    PressPlayer("pnlPlayerStop");
+    EXPECT_TRUE(WaitFor([] { return !Console().picMOD.Visible && !Audience().picMOD.Visible; }));
+  }
+
+  static bool Xrandr(const QString& arguments) { return QProcess::execute("xrandr", arguments.split(' ')) == 0; }
+  static bool Plug() { return Xrandr("--output DUMMY1 --mode 1920x1080 --pos 1280x0"); }
+  static bool Unplug() { return Xrandr("--output DUMMY1 --off"); }
+  static QString Film() { return folder_->path() + "/film.mp4"; }
+  static Show& TheShow() { return driver_->TheShow(); }
+  static MainForm& Console() { return TheShow().frmMain; }
+  static FSMainForm& Audience() { return TheShow().frmFSMain; }
+  static bool WaitFor(const std::function<bool()>& condition) { return driver_->WaitFor(condition); }
+  static void PressPlayer(const char* button) { driver_->Program().Console().findChild<QPushButton*>(button)->click(); }
+  // The frames on the console and on the audience's screen, from one look at the whole desktop.
+  static std::pair<int, int> Seen() {
+    const QImage desktop = QGuiApplication::primaryScreen()->grabWindow(0, 0, 0, 3200, 1080).toImage();
+    return {CountedFrame(desktop, ConsoleFilm(driver_->Program().Console())),
+            CountedFrame(desktop, AudienceFilm(driver_->Program().Audience()))};
+  }
+  static bool FilmRunsOnBoth() {
+    return WaitFor([] {
+      const auto [console, audience] = Seen();
+      return console > 0 && console == audience;
+    });
+  }
+  static void PlayFilm() {
+    ASSERT_TRUE(driver_->Type({"f"}));
+    ASSERT_TRUE(WaitFor([] { return Seen().first > 0; }));
+  }
+
+  static inline QTemporaryDir* folder_ = nullptr;
+  static inline ShowDriver* driver_ = nullptr;
+  static inline bool ready_ = false;
+};
+
+TEST_F(MediaShowTest, ARunningFilmComesToAScreenThatIsPluggedIn) {
+  PlayFilm();
+  EXPECT_FALSE(TheShow().state.DualScreen);
+  ASSERT_TRUE(Plug());
+  EXPECT_TRUE(FilmRunsOnBoth());
+  ASSERT_TRUE(Unplug());
+  EXPECT_TRUE(WaitFor([] { return !driver_->Program().Audience().isVisible(); }));
+  const int before = Seen().first;
+  ASSERT_TRUE(Plug());
+  EXPECT_TRUE(FilmRunsOnBoth());
+  EXPECT_GT(Seen().first, before);
+}
+
+TEST_F(MediaShowTest, TheOperatorsControlsAreSeenOnBothScreens) {
+  PlayFilm();
+  EXPECT_TRUE(FilmRunsOnBoth());
+  PressPlayer("pnlPlayerPlay");
+  EXPECT_TRUE(WaitFor([] { return Audience().MediaPlayer1.PlayState == 2; }));
+  driver_->Pause(100);
+  const auto held = Seen();
+  EXPECT_EQ(held.first, held.second);
+  driver_->Pause(300);
+  EXPECT_EQ(Seen(), held) << "paused";
+  auto* position = driver_->Program().Console().findChild<QSlider*>("pnlPlayerPosition");
+  position->setSliderPosition(500);
+  emit position->actionTriggered(QAbstractSlider::SliderMove);
+  const std::pair middle(kFilmSeconds / 2 * kCountedFramesPerSecond, kFilmSeconds / 2 * kCountedFramesPerSecond);
+  EXPECT_TRUE(WaitFor([&] { return Seen() == middle; })) << Seen().first << ' ' << Seen().second;
+  PressPlayer("pnlPlayerPlay");
+  EXPECT_TRUE(WaitFor([&] { return Seen().first > middle.first && FilmRunsOnBoth(); }));
+}
+
+TEST_F(MediaShowTest, AFilmWhoseFileIsRemovedPlaysOnAndItsKeyIsSilentThen) {
+  const QString kept = Film() + ".kept";
+  PlayFilm();
+  ASSERT_TRUE(QFile::rename(Film(), kept));
+  const int before = Seen().first;
+  EXPECT_TRUE(WaitFor([&] { return Seen().first > before + kCountedFramesPerSecond; }));
+  PressPlayer("pnlPlayerStop");
+  EXPECT_TRUE(WaitFor([] { return !Console().picMOD.Visible; }));
+  ASSERT_TRUE(driver_->Type({"f"}));
+  EXPECT_FALSE(Console().picMOD.Visible);
+  ASSERT_TRUE(QFile::rename(kept, Film()));
+}
+
+TEST_F(MediaShowTest, ADamagedFilmShowsWhatItHasAndGoes) {
+  const QString damaged = folder_->path() + "/damaged.mpg";
+  ASSERT_TRUE(MakeCountedFilm(damaged, 3));
+  QFile file(damaged);
+  ASSERT_TRUE(file.open(QIODevice::ReadWrite));
+  ASSERT_TRUE(file.seek(file.size() / 3));
+  file.write(QByteArray(static_cast<int>(file.size() / 3), '\x5A'));
+  file.close();
+  TheShow().soundBanks[1]['D' - 56] = *SpelledPath(damaged);
+  PlayKeyMedia(TheShow(), 'D' - 56);
+  EXPECT_TRUE(FilmRunsOnBoth());
+  EXPECT_TRUE(driver_->WaitFor([] { return !Console().picMOD.Visible && !Audience().picMOD.Visible; }, 6000));
+  PlayFilm();
+}
+
+TEST_F(MediaShowTest, KeysDuringAFilmReplaceItOrLeaveItAndTheShowGoesOn) {
+  PlayFilm();
+  const int before = Seen().first;
+  ASSERT_TRUE(driver_->Type({"f"}));
+  EXPECT_TRUE(WaitFor([&] { return Seen().first >= 0 && Seen().first < before + 3; })) << "the film starts anew";
+  EXPECT_TRUE(FilmRunsOnBoth());
+  ASSERT_TRUE(driver_->Type({"a"}));
+  EXPECT_TRUE(FilmRunsOnBoth());
+  EXPECT_EQ(Console().txtDJCommand.Text.Get(), "A") << "half a square is typed";
+  ASSERT_TRUE(driver_->Type({"p"}));
+  EXPECT_TRUE(Audience().picImageResize[1].IsShown());
+  EXPECT_FALSE(Audience().picMODVideo.IsShown() || Console().picMODVideo.IsShown());
+}
+
+}  // namespace
+}  // namespace pawnfield
