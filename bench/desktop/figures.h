@@ -27,4 +27,12 @@ bool MeasurePresses();
 // Fits a long question into both boxes with the desktop's own measurer, quickly and plainly.
 void MeasureFits();
 
+// How far the audience's picture of a film is from the operator's during a minute and at its end. False when the film
+// did not run.
+bool MeasureFilm();
+
+// How long a play of the ring-in clip takes to its first sample on a sink of the run's own, beside the plainest player
+// that the machine has. False where a sound server or a player is missing, or a play was not heard.
+bool MeasureSoundStart();
+
 }  // namespace pawnfield

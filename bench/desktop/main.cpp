@@ -17,12 +17,26 @@ void PrintMedian(const std::string& name, std::vector<double> milliseconds) {
 
 }  // namespace pawnfield
 
+// Usage: pawnfield_desktop_bench [MEASURE...], each of fits, paints, presses, sound, film and
+// start; all without one.
 int main(int argc, char** argv) {
   QApplication application(argc, argv);
   pawnfield::PrepareApplication();
-  if (argc == 3) return pawnfield::RunStartUp(std::stoll(argv[1]), QString::fromLocal8Bit(argv[2]));
-  pawnfield::MeasureFits();
-  const bool painted = pawnfield::MeasurePaints();
-  const bool pressed = pawnfield::MeasurePresses();
-  return pawnfield::MeasureStartUp() && painted && pressed ? 0 : 1;
+  const QStringList words = QApplication::arguments().mid(1);
+  if (words.size() == 2 && words[0].toLongLong() > 0) return pawnfield::RunStartUp(words[0].toLongLong(), words[1]);
+  using Measure = std::pair<const char*, bool (*)()>;
+  bool all = true;
+  for (const auto& [name, measure] : {Measure{"fits",
+                                              [] {
+                                                pawnfield::MeasureFits();
+                                                return true;
+                                              }},
+                                      {"paints", pawnfield::MeasurePaints},
+                                      {"presses", pawnfield::MeasurePresses},
+                                      {"sound", pawnfield::MeasureSoundStart},
+                                      {"film", pawnfield::MeasureFilm},
+                                      {"start", pawnfield::MeasureStartUp}}) {
+    if (words.isEmpty() || words.contains(name)) all = measure() && all;
+  }
+  return all ? 0 : 1;
 }
