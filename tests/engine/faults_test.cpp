@@ -1,6 +1,6 @@
 // What goes wrong with files in mid-show is told once, and the show runs on.
-#include "support/game_player.h"
 #include "support/seen.h"
+#include "support/show_fixture.h"
 
 namespace pawnfield {
 namespace {
@@ -20,7 +20,7 @@ class Faults : public testing::Test {
     fixture.form().btnQuestionCorrect.Click();
     fixture.Claim(row, column);
     fixture.sim.clock.Advance(5000);
-    ExpectSeen(fixture.show(), seen, "after the square");
+    ExpectSeen(fixture.show(), seen, " the square");
   }
   ShowFixture fixture;
 };
@@ -31,7 +31,7 @@ TEST_F(Faults, BrokenAndMissingMediaAreToldAndTheGameGoesOn) {
   fixture.Start();
   fixture.sim.dialogs.ExpectForm("frmDialog2", [&] { fixture.show().frmDialog2.btnCancel.Click(); });
   Play("Media", "", "An untrapped error has occurred.  Please make a ");
-  ExpectSeen(fixture.show(), "btnQuestionCorrect=on", "after the broken picture");
+  ExpectSeen(fixture.show(), "btnQuestionCorrect=on", " the broken picture");
   fixture.sim.dialogs.ExpectMessage("File not found:");
   PlaySquare(0, 0, "question=1");
   PlaySquare(1, 0, "question=2 picSound=up");
@@ -57,7 +57,7 @@ TEST_F(Faults, AColourThatIsNoNumberLeavesTheQuestionUpBehindItsMessage) {
   fixture.sim.files.Write("C:\\Pawnfield\\Trivia Sets\\Odd.txt", "Which?\r\nThis\r\nT#Arial#28#True#True#blue#\r\n");
   fixture.Start();
   Play("Odd", "", "Error Number: 13");
-  ExpectSeen(fixture.show(), "picQuestion=up picQuestion'=up btnQuestionCorrect=on", "after the odd colour");
+  ExpectSeen(fixture.show(), "picQuestion=up picQuestion'=up btnQuestionCorrect=on", " the odd colour");
 }
 
 TEST_F(Faults, SettingsThatCannotBeSavedAreToldAndTheProgramEnds) {

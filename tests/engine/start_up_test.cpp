@@ -77,7 +77,7 @@ TEST(StartUp, SettingsReachTheControlsAndOddOnesTheirDefaults) {
     ShowFixture fixture;
     fixture.sim.settings.Preset("pawnfield", "settings", c.key, c.value);
     fixture.Start();
-    ExpectSeen(fixture.show(), c.seen, std::string(c.key) + "=" + c.value);
+    ExpectSeen(fixture.show(), c.seen, std::string(" ") + c.key + "=" + c.value);
   }
 }
 
@@ -175,7 +175,7 @@ TEST(Exit, WhatWasChosenComesBackAtTheNextStart) {
     second.sim.settings.Preset("pawnfield", "settings", key, value);
   }
   second.Start();
-  ExpectSeen(second.show(), chosen, "at the next start");
+  ExpectSeen(second.show(), chosen, " the next start");
   EXPECT_TRUE(second.show().state.IncorrectPenalty);
 }
 

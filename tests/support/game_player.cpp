@@ -112,7 +112,7 @@ void GamePlayer::Step(const std::string& step) {
   if (player != players.end()) {
     EXPECT_EQ(player->first + "=" + FileName(player->second->Url), step) << "after" << played_;
   } else if (step.find('=') != std::string::npos) {
-    ExpectSeen(show(), step, "after" + played_, *shown_);
+    ExpectSeen(show(), step, played_, shown_);
   } else if (step[0] == '>') {
     fixture_.sim.clock.Advance(step.size() == 1 ? 3000 : std::stoi(step.substr(1)));
   } else if (IsDigit(step[0])) {

@@ -29,7 +29,7 @@ class GamePlayer {
   //   mnuOpen@frmOpened { ... }
   //               opens a form, in which that happens, to its end
   //   turn=2 picBonus'=up
-  //               is checked: Seen, or "event", "clip" and "verdict" for the last sound of these players
+  //               is checked as ExpectSeen tells, and "event", "clip" and "verdict" for the last sound of each
   void Play(const std::string& script);
 
   ShowFixture& fixture() { return fixture_; }

@@ -54,8 +54,6 @@ std::string PropertyOf(const Control& control, const std::string& name) {
   return NumberText(name == "Font" ? label->Font->Size : label->BackColor.Get());
 }
 
-}  // namespace
-
 std::string Look(const Control& control) {
   const auto onOff = [](bool on) { return on ? "on" : "off"; };
   if (const auto* box = dynamic_cast<const CheckBox*>(&control)) return std::to_string(box->Value);
@@ -96,16 +94,14 @@ std::string Seen(Show& show, const std::string& name, const Form& form) {
   return dot == whole.size() ? Look(*control) : PropertyOf(*control, whole.substr(dot + 1));
 }
 
-void ExpectSeen(Show& show, const std::string& states, const std::string& when, const Form& form) {
+}  // namespace
+
+void ExpectSeen(Show& show, const std::string& states, const std::string& when, const Form* form) {
   std::istringstream in(states);
   for (std::string state; in >> state;) {
     const std::string name = state.substr(0, state.find('='));
-    EXPECT_EQ(name + "=" + Seen(show, name, form), state) << when;
+    EXPECT_EQ(name + "=" + Seen(show, name, form != nullptr ? *form : show.frmMain), state) << "after" << when;
   }
-}
-
-void ExpectSeen(Show& show, const std::string& states, const std::string& when) {
-  ExpectSeen(show, states, when, show.frmMain);
 }
 
 }  // namespace pawnfield
