@@ -18,7 +18,7 @@ TEST(ScriptedDialogs, FailWhenTheScriptAndTheProgramDisagree) {
   const Case cases[] = {
       {"unexpected message", [](auto&) {}, quit},
       {"expected message \"Save\"", [](auto& d) { d.ExpectMessage("Save"); }, quit},
-      {"expected file dialog", [](auto& d) { d.ExpectFile("a.txt"); }, quit},
+      {"expected file dialog", [](auto& d) { d.ExpectFile("Quit"); }, quit},
       {"nothing asked for", [](auto& d) { d.ExpectFile("a.txt"); }, [](auto&) {}},
       {"left open", [](auto& d) { d.ExpectForm("frmSample", [] {}); }, [&](auto& d) { d.ShowModal(form); }},
   };
