@@ -5,6 +5,7 @@
 
 #include <QFile>
 #include <QGuiApplication>
+#include <QPainter>
 #include <QProcess>
 #include <QPushButton>
 #include <QScreen>
@@ -106,6 +107,34 @@ TEST_F(MediaShowTest, TheOperatorsControlsAreSeenOnBothScreens) {
   EXPECT_TRUE(WaitFor([&] { return Seen() == middle; })) << Seen().first << ' ' << Seen().second;
   PressPlayer("pnlPlayerPlay");
   EXPECT_TRUE(WaitFor([&] { return Seen().first > middle.first && FilmRunsOnBoth(); }));
+}
+
+TEST_F(MediaShowTest, APictureIsWholeAndAsLargeAsTheAudiencesScreenLetsIt) {
+  ASSERT_TRUE(Plug());
+  ASSERT_TRUE(WaitFor([] { return driver_->Program().Audience().isVisible(); }));
+  // An edge of its own colour tells that nothing of the picture is cut off.
+  const struct {
+    QSize picture;
+    QRect seen;
+  } table[] = {{{320, 180}, {0, 0, 1920, 1080}}, {{320, 240}, {240, 0, 1440, 1080}}, {{90, 180}, {690, 0, 540, 1080}}};
+  for (const auto& row : table) {
+    QImage picture(row.picture, QImage::Format_RGB32);
+    picture.fill(Qt::red);
+    QPainter(&picture).fillRect(picture.rect().adjusted(10, 10, -10, -10), Qt::green);
+    const QString file = folder_->path() + QString("/%1.bmp").arg(row.picture.width() * 1000 + row.picture.height());
+    ASSERT_TRUE(picture.save(file));
+    TheShow().soundBanks[1][kPictureKey] = *SpelledPath(file);
+    ASSERT_TRUE(driver_->Type({"p"}));
+    const QImage seen = driver_->Program().Audience().Screen().grab().toImage();
+    const QRect inside = row.seen.adjusted(3, 3, -3, -3);
+    for (const QPoint corner : {inside.topLeft(), inside.bottomRight()}) {
+      EXPECT_EQ(seen.pixelColor(corner), QColor(Qt::red)) << row.picture.width() << " wide";
+    }
+    EXPECT_EQ(seen.pixelColor(inside.center()), QColor(Qt::green));
+    EXPECT_EQ(seen.pixelColor(std::max(0, row.seen.left() - 3), 500),
+              QColor(row.seen.left() > 0 ? Qt::black : Qt::red));
+  }
+  Console().tmrMODPicture.Fire();
 }
 
 TEST_F(MediaShowTest, AFilmWhoseFileIsRemovedPlaysOnAndItsKeyIsSilentThen) {

@@ -132,9 +132,18 @@ void ShowMedia(ShowDriver& driver, Script& script, const QString& folder) {
     form.tmrOptionalHeaders.Fire();
     driver.TakePictures(name);
   }
+  const auto make = [&](const QString& picture, const QString& file) {
+    script.Do("make " + file, QProcess::execute("ffmpeg", {"-v", "error", "-y", "-f", "lavfi", "-i", picture,
+                                                           "-frames:v", "1", folder + '/' + file}) == 0);
+    return SpelledPath(QFileInfo(folder + '/' + file).absoluteFilePath()).value_or("");
+  };
   show.soundBanks[1][9] = show.AppPath("\\Question Backgrounds\\7.jpg");
-  PlayKeyMedia(show, 9);
-  driver.TakePictures("picture-on-demand");
+  show.soundBanks[1][11] = make("testsrc2=size=500x900", "tall.jpg");
+  show.soundBanks[1][12] = make("smptehdbars=size=320x240", "small.bmp");
+  for (const int key : {9, 11, 12}) {
+    PlayKeyMedia(show, key);
+    driver.TakePictures("picture-on-demand");
+  }
   script.Do("the picture goes", driver.WaitFor([&] { return !form.picMOD.Visible; }, 8000));
   const QString film = folder + "/film.mp4";
   script.Do("make a film", QProcess::execute("ffmpeg", {"-v", "error", "-y", "-f", "lavfi", "-i",

@@ -75,10 +75,13 @@ void AudienceWindow::FillPanels(FSMainForm& form) {
         &form.picBonus, &form.picMOD, &form.picMODVideo, &form.picSound, &form.picStandby}) {
     screen_->Add(*box, panel);
   }
-  for (Image* image : {&form.imgQuestionBackground, &form.picImageResize[0], &form.picImageResize[1], &form.imgCorrect,
-                       &form.imgBonus, &form.imgSound, &form.imgStandby}) {
+  for (Image* image :
+       {&form.imgQuestionBackground, &form.imgCorrect, &form.imgBonus, &form.imgSound, &form.imgStandby}) {
     screen_->Add(*image);
   }
+  ItemStyle fitted;
+  fitted.Grows = true;
+  for (Image* image : {&form.picImageResize[0], &form.picImageResize[1]}) screen_->Add(*image, fitted);
   AddFittedTexts(*screen_, form);
   for (Label* label : {&form.lblPlayerName, &form.lblWhatIsAnswer, &form.lblRightWrong}) screen_->Add(*label);
 }

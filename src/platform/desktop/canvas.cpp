@@ -116,7 +116,7 @@ void Canvas::AddVideo(MediaPlayer& control, MpvVideo& video) {
   Add(control);
   video_ = &video;
   connect(&video, &MpvVideo::FrameChanged, this, [this, &control] {
-    if (control.IsShown()) update(FillRect(control).toAlignedRect());
+    if (control.IsShown()) update(FillRect(*items_.at(&control)).toAlignedRect());
   });
 }
 
@@ -146,7 +146,7 @@ void Canvas::ItemChanged(Item& item, PropertyId id) {
 void Canvas::Refresh(Item& item) {
   const QRect before = item.covered;
   // An edge of two pixels takes in what smoothing and slanted letters add.
-  item.covered = item.control.IsShown() ? FillRect(item.control).toAlignedRect().adjusted(-2, -2, 2, 2) : QRect();
+  item.covered = item.control.IsShown() ? FillRect(item).toAlignedRect().adjusted(-2, -2, 2, 2) : QRect();
   update(before);
   update(item.covered);
 }
@@ -181,8 +181,20 @@ QRectF Canvas::PixelRect(const Control& control) const {
   return {origin_.x() + left * scale_, origin_.y() + top * scale_, control.Width * scale_, control.Height * scale_};
 }
 
-QRectF Canvas::FillRect(const Control& control) const {
+// What overruns the layout stays as it is.
+QRectF Canvas::Grown(const QRectF& rect) const {
+  if (rect.isEmpty()) return rect;
+  const QSizeF grown = rect.size().scaled(QSizeF(size()), Qt::KeepAspectRatio);
+  if (grown.width() < rect.width()) return rect;
+  QRectF place(QPointF(), grown);
+  place.moveCenter(QRectF(this->rect()).center());
+  return place;
+}
+
+QRectF Canvas::FillRect(const Item& item) const {
+  const Control& control = item.control;
   QRectF rect = PixelRect(control);
+  if (item.style.Grows) return Grown(rect);
   if (fillsDisplay_ && control.Width >= logicalWidth_ && control.Height >= logicalHeight_) return QRectF(this->rect());
   // Slanted outline copies and negative margins may reach past a label's box.
   if (control.Kind() == ControlKind::Label) rect.adjust(-rect.height() * 0.1, 0, rect.height() * 0.1, 0);
@@ -209,8 +221,8 @@ void Canvas::paintEvent(QPaintEvent* event) {
     painter.fillRect(area, Qt::black);
   }
   for (std::size_t i = lowest; i < order_.size(); ++i) {
-    const Control& control = order_[i]->control;
-    if (control.IsShown() && event->region().intersects(FillRect(control).toAlignedRect())) {
+    const Item& item = *order_[i];
+    if (item.control.IsShown() && event->region().intersects(FillRect(item).toAlignedRect())) {
       PaintItem(painter, *order_[i]);
     }
   }
@@ -221,7 +233,7 @@ std::size_t Canvas::LowestSeen(const QRectF& area) const {
   for (std::size_t i = order_.size(); i > 0; --i) {
     const Item& item = *order_[i - 1];
     const bool opaque = item.style.PaintsGround || item.control.Kind() == ControlKind::MediaPlayer;
-    if (opaque && item.control.IsShown() && FillRect(item.control).contains(area)) return i - 1;
+    if (opaque && item.control.IsShown() && FillRect(item).contains(area)) return i - 1;
   }
   return 0;
 }
@@ -238,7 +250,7 @@ const QPixmap& Canvas::Backdrop() {
 }
 
 void Canvas::PaintItem(QPainter& painter, Item& item) {
-  const QRectF rect = FillRect(item.control);
+  const QRectF rect = FillRect(item);
   if (item.style.PaintsGround) {
     const auto* box = dynamic_cast<PictureBox*>(&item.control);
     painter.fillRect(rect, box != nullptr ? ToQColor(box->BackColor) : QColor(Qt::black));

@@ -28,6 +28,8 @@ struct ItemStyle {
   double SmallestSize = kLeastSize;
   // A panel paints its ground, and its picture covers it in the picture's own shape.
   bool PaintsGround = false;
+  // A fitted picture takes the room that the display has beyond the layout, in its own shape.
+  bool Grows = false;
   // A sign on a dark ground: keeps its shape, and only what is lighter than the board is seen of it.
   bool IsSign = false;
   // Cuts the picture's dark corners: the edge and the corner's radius as shares of its height.
@@ -70,7 +72,8 @@ class Canvas : public QWidget {
   void ItemChanged(Item& item, PropertyId id);
   void Refresh(Item& item);
   void Order();
-  QRectF FillRect(const Control& control) const;
+  QRectF FillRect(const Item& item) const;
+  QRectF Grown(const QRectF& rect) const;
   const QPixmap& Backdrop();
   void PaintItem(QPainter& painter, Item& item);
   void PaintPicture(QPainter& painter, Item& item, const QRectF& rect);
