@@ -8,36 +8,13 @@
 #include "controllers/transceiver.h"
 #include "engine/handlers.h"
 #include "engine/start_up.h"
+#include "monkey/random_world.h"
 
 namespace pawnfield {
 
 namespace {
 
 constexpr const char* kSets = "C:\\Pawnfield\\Trivia Sets\\";
-constexpr std::array kWords = {"Ann",
-                               "",
-                               "PLAYER 2",
-                               "A very long name of a team that nobody could ever read aloud",
-                               "C2",
-                               "0",
-                               "100",
-                               "\xe4\xf6\xfc",
-                               "\"quoted\", ^ and ~",
-                               "12345678901234567890"};
-
-// Errors that a changed world brings and the program is to tell of; the editor's when its only question goes; and those
-// of a remote beyond the tables, a broken frame, and a transceiver that takes no text.
-bool IsExpected(const std::string& text) {
-  for (const char* told : {"Subscript out of range\r\nLocation: frmEditor\r\n", "Subscript out of range (remote",
-                           "Procedure: SendC2CInfo\r\n"}) {
-    if (text.find(told) != std::string::npos) return true;
-  }
-  for (const int number : {kErrorFileNotFound, kErrorDiskFull, kErrorPathAccess, kErrorPathNotFound,
-                           kErrorInvalidPicture, kErrorDeviceIo}) {
-    if (text.find("Error Number: " + std::to_string(number) + "\r\n") != std::string::npos) return true;
-  }
-  return false;
-}
 
 // The exit ends the run; btnCorrect is worked by the program and has no button in the window.
 bool IsLeftAlone(const Control& control) { return control.Name() == "mnuFileExit" || control.Name() == "btnCorrect"; }
@@ -61,29 +38,6 @@ std::vector<Control*> ReachableOfKind(Form& form, ControlKind kind) {
     if (control->Kind() == kind && control->IsReachable()) controls.push_back(control);
   }
   return controls;
-}
-
-// What moves a show on; a hand that only strays would seldom finish a game.
-bool MovesOn(const Control& control) {
-  static constexpr std::array kNames = {"btnStart",    "btnSelectGame", "btnQuestionCorrect", "btnQuestionIncorrect",
-                                        "btnContinue", "btnPlayMode"};
-  return control.Name().starts_with("img") || control.Name().starts_with("btnSelectPlayer") ||
-         std::any_of(kNames.begin(), kNames.end(), [&](const char* name) { return control.Name() == name; });
-}
-
-std::string RandomSet(Chance& chance) {
-  static constexpr std::array kEnds = {
-      "T#Courier New#28#True#True#16777215#", "T#Comic Sans MS#8#False#False#65535#", "P", "S", "T", "X"};
-  std::string bytes;
-  const std::size_t count = chance.OneIn(4) ? chance.Below(102) : chance.Below(12);
-  for (std::size_t i = 0; i < count; ++i) {
-    const std::string end = kEnds[chance.OneIn(2) ? 0 : chance.Below(kEnds.size())];
-    std::string question = "Question " + std::to_string(i) + "?";
-    if (end == "P") question = chance.OneIn(2) ? ".\\there.jpg" : ".\\missing.jpg";
-    if (end == "S") question = chance.OneIn(2) ? ".\\there.wav" : "C:\\missing.wav";
-    bytes += question + "\r\n" + "Answer" + "\r\n" + end + "\r\n";
-  }
-  return chance.OneIn(10) ? bytes.substr(0, bytes.size() / 2) : bytes;
 }
 
 }  // namespace
@@ -118,7 +72,7 @@ std::optional<Color> MonkeyDialogs::ChooseColor(Color start) {
 }
 
 BoxAnswer MonkeyDialogs::MessageBox(const std::string& text, const std::string&, BoxKind kind) {
-  if (text.starts_with("An untrapped error") && !IsExpected(text)) errors_.push_back(text);
+  if (text.starts_with("An untrapped error") && !IsExpectedError(text)) errors_.push_back(text);
   LetTimePass(ModalKind::Box);
   const std::size_t pick = chance_.Below(3);
   if (kind == BoxKind::YesNo) return pick == 0 ? BoxAnswer::No : BoxAnswer::Yes;
@@ -219,7 +173,8 @@ Action MonkeyShow::ChooseClick(Chance& chance) {
   Form& form = onAudience ? static_cast<Form&>(show_.frmFSMain) : show_.frmMain;
   std::vector<Control*> controls = ControlsThatAct(form);
   if (!chance.OneIn(3)) {
-    const auto moving = std::stable_partition(controls.begin(), controls.end(), [](Control* c) { return MovesOn(*c); });
+    const auto moving =
+        std::stable_partition(controls.begin(), controls.end(), [](Control* c) { return MovesOn(c->Name()); });
     if (moving != controls.begin()) controls.erase(moving, controls.end());
   }
   if (controls.empty()) return {};

@@ -1,14 +1,11 @@
 #include "soak/desktop/window_hands.h"
 
 #include <QAction>
-#include <QApplication>
+#include <QCoreApplication>
 #include <QKeyEvent>
-#include <QMessageBox>
 #include <QTimer>
+#include <cctype>
 
-#include "controllers/ring_in.h"
-#include "controllers/self_timer.h"
-#include "engine/handlers.h"
 #include "platform/desktop/binder.h"
 
 namespace pawnfield {
@@ -18,19 +15,11 @@ namespace {
 constexpr int kLookAtFormMs = 700;
 
 // "img23" is the square of row 2 and column 3.
-bool IsSquare(const std::string& name) { return name.size() == 5 && name.starts_with("img") && std::isdigit(name[3]); }
-
-}  // namespace
-
-WindowHands::WindowHands(ShowDriver& driver) : driver_(driver), hid_(driver.TheShow().platform.clock) {
-  Show& show = driver.TheShow();
-  hid_.PlugTransceiver(kTransceiverShort);
-  show.dgTransceiver = std::make_unique<Transceiver>(
-      hid_, show.platform.clock, [&show](const TransceiverData& data) { dgTransceiver_OnButtonPressed(show, data); },
-      SelfTimer::GuardFunction());
+bool IsSquare(const std::string& name) {
+  return name.size() == 5 && name.starts_with("img") && std::isdigit(static_cast<unsigned char>(name[3])) != 0;
 }
 
-WindowHands::~WindowHands() { driver_.TheShow().dgTransceiver.reset(); }
+}  // namespace
 
 bool WindowHands::Press(Control& control) {
   const std::string& name = control.Name();
@@ -66,13 +55,6 @@ void WindowHands::Type(char key) {
   QWidget* focus = console.focusWidget() != nullptr ? console.focusWidget() : &console;
   QKeyEvent press(QEvent::KeyPress, Qt::Key_A + key - 'a', Qt::NoModifier, QString(QLatin1Char(key)));
   QCoreApplication::sendEvent(focus, &press);
-}
-
-void WindowHands::PressRemote(int remote) { hid_.Reports.push_back({'\0', '\0', static_cast<char>(remote)}); }
-
-void WindowHands::Wait(int ms) {
-  driver_.Pause(ms);
-  hid_.Writes = {};
 }
 
 }  // namespace pawnfield

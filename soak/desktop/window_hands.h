@@ -1,7 +1,7 @@
 // The long show's hands on the real windows: mouse and keys, and a transceiver that is handed its reports.
 #pragma once
 
-#include "platform/sim/sim_hid.h"
+#include "handed_transceiver.h"
 #include "show_driver.h"
 #include "soak/operator.h"
 
@@ -9,19 +9,18 @@ namespace pawnfield {
 
 class WindowHands : public Hands {
  public:
-  explicit WindowHands(ShowDriver& driver);
-  ~WindowHands() override;
+  explicit WindowHands(ShowDriver& driver) : driver_(driver), transceiver_(driver.TheShow()) {}
 
   bool Press(Control& control) override;
   bool Choose(ComboBox& list, const std::string& item) override;
   bool Visit(Control& opener) override;
   void Type(char key) override;
-  void PressRemote(int remote) override;
-  void Wait(int ms) override;
+  void PressRemote(int remote) override { transceiver_.Press(remote); }
+  void Wait(int ms) override { driver_.Pause(ms); }
 
  private:
   ShowDriver& driver_;
-  SimHid hid_;
+  HandedTransceiver transceiver_;
 };
 
 }  // namespace pawnfield

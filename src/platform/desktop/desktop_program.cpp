@@ -4,11 +4,29 @@
 #include <QFile>
 #include <QStyleFactory>
 #include <clocale>
+#ifdef __GLIBC__
+#include <malloc.h>
+#endif
 
 #include "engine/handlers.h"
 #include "platform/desktop/text_layout.h"
 
 namespace pawnfield {
+
+namespace {
+
+// Pictures of a whole screen and the players' short-lived threads would leave the C library's heap full of holes, which
+// the process kept for good. So large blocks go back to the system when they are freed, and all threads share two
+// heaps.
+void KeepMemoryFlat() {
+#ifdef __GLIBC__
+  constexpr int kLargeBlock = 1024 * 1024;
+  mallopt(M_MMAP_THRESHOLD, kLargeBlock);
+  mallopt(M_ARENA_MAX, 2);
+#endif
+}
+
+}  // namespace
 
 DesktopProgram::DesktopProgram(const DesktopPlaces& places)
     : desktop_(places, [this] { console_.ComeForward(); }),
@@ -47,6 +65,7 @@ std::vector<FormWindow*> DesktopProgram::Windows() {
 }
 
 void PrepareApplication() {
+  KeepMemoryFlat();
   // The player reads numbers in the C form, and the application object has just set the user's.
   setlocale(LC_NUMERIC, "C");
   SubstituteFonts();

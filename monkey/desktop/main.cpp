@@ -1,0 +1,59 @@
+// Runs the random operator on the real windows: pawnfield_window_monkey SEED ACTIONS [LOG]. Needs a display with two
+// monitors. The seed decides what he tries; how the machine keeps time decides the rest, so that a run need not repeat.
+// A failing run prints its seed and the last actions; the log has them all, after a crash too.
+#include <QApplication>
+#include <QDesktopServices>
+#include <QFile>
+#include <QProcess>
+#include <cstdio>
+#include <cstdlib>
+
+#include "monkey/desktop/window_monkey.h"
+
+namespace {
+
+using namespace pawnfield;
+
+// In the place of the system's browser.
+class NoBrowser : public QObject {
+  Q_OBJECT
+ public slots:
+  void Open(const QUrl&) {}
+};
+
+int Work(std::uint32_t seed, int actions, QFile& log) {
+  Chance chance(seed);
+  World world(chance);
+  DesktopProgram program(world.Places());
+  WindowMonkey monkey(program, world, chance, log);
+  const QString broken = monkey.Run(actions);
+  std::printf("seed %u, %d actions, %d checks: %s\n", seed, actions, monkey.Checks(),
+              broken.isEmpty() ? "all held" : qPrintable(broken));
+  if (broken.isEmpty()) return 0;
+  for (const QString& action : monkey.LastActions()) std::printf("  %s\n", qPrintable(action));
+  return 1;
+}
+
+}  // namespace
+
+int main(int argc, char** argv) {
+  if (argc < 3) {
+    std::fprintf(stderr, "usage: pawnfield_window_monkey SEED ACTIONS [LOG]\n");
+    return 2;
+  }
+  QFile log(argc > 3 ? argv[3] : "");
+  if (argc > 3 && !log.open(QIODevice::WriteOnly)) return 2;
+  // What a dialog writes in the user's home by itself.
+  const QTemporaryDir home;
+  qputenv("HOME", home.path().toLocal8Bit());
+  QApplication application(argc, argv);
+  PrepareApplication();
+  NoBrowser browser;
+  for (const char* scheme : {"http", "https", "file"}) QDesktopServices::setUrlHandler(scheme, &browser, "Open");
+  const int status = Work(static_cast<std::uint32_t>(std::strtoul(argv[1], nullptr, 10)), std::atoi(argv[2]), log);
+  for (const char* scheme : {"http", "https", "file"}) QDesktopServices::unsetUrlHandler(scheme);
+  QProcess::execute("xrandr", {"--output", "DUMMY1", "--mode", "1920x1080", "--pos", "1280x0"});
+  return status;
+}
+
+#include "main.moc"

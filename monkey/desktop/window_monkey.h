@@ -1,0 +1,63 @@
+// A random operator of the real windows: does one thing after another, by real events, to whatever is visible and
+// enabled, and checks between two of them what must always hold.
+#pragma once
+
+#include <QElapsedTimer>
+#include <QFile>
+#include <QObject>
+#include <QPointer>
+#include <deque>
+
+#include "monkey/chance.h"
+#include "monkey/desktop/heartbeat.h"
+#include "monkey/desktop/random_hand.h"
+#include "monkey/desktop/world.h"
+#include "monkey/invariants.h"
+
+namespace pawnfield {
+
+// Beside what holds for every show: the message loop is never silent for more than two seconds, and the audience's
+// window never lies over the console's monitor.
+class WindowMonkey : public QObject {
+ public:
+  // Writes each action to the log before it is done, where that is open.
+  WindowMonkey(DesktopProgram& program, World& world, Chance& chance, QFile& log);
+
+  // From the program's entry to so many actions later. What was broken, empty when all held.
+  QString Run(int actions);
+  const std::deque<QString>& LastActions() const { return last_; }
+  int Checks() const { return checks_; }
+
+ private:
+  // One action in whatever loop runs: what opens a dialog has not ended when the next one begins.
+  void Tick();
+  void Act();
+  void ActOnProgram();
+  void ActInModal(QWidget& modal);
+  void ReadBox(QWidget& box);
+  // True when nothing is open any more.
+  bool CloseAll();
+  void Check();
+  QString WhatIsBroken();
+  QString AudienceInTheWay();
+  int NextPause();
+  void Note(const QString& action);
+  void Fail(const QString& what);
+
+  DesktopProgram& program_;
+  Show& show_;
+  World& world_;
+  Chance& chance_;
+  QFile& log_;
+  RandomHand hand_;
+  Invariants invariants_;
+  Heartbeat heart_;
+  QElapsedTimer sinceMonitors_;
+  std::deque<QString> last_;
+  QString broken_;
+  QPointer<QWidget> read_;
+  int left_ = 0, depth_ = 0, closing_ = 0, checks_ = 0;
+  bool up_ = false, ended_ = false;
+};
+
+}  // namespace pawnfield
