@@ -8,7 +8,7 @@ namespace pawnfield {
 
 bool IsExpectedError(const std::string& text) {
   for (const char* told : {"Subscript out of range\r\nLocation: frmEditor\r\n", "Subscript out of range (remote",
-                           "Procedure: SendC2CInfo\r\n"}) {
+                           "Procedure: SendC2CInfo\r\n", "Procedure: btnImportSoundFiles\r\n"}) {
     if (text.find(told) != std::string::npos) return true;
   }
   for (const int number : {kErrorFileNotFound, kErrorDiskFull, kErrorPathAccess, kErrorPathNotFound,

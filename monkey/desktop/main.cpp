@@ -27,8 +27,9 @@ int Work(std::uint32_t seed, int actions, QFile& log) {
   DesktopProgram program(world.Places());
   WindowMonkey monkey(program, world, chance, log);
   const QString broken = monkey.Run(actions);
-  std::printf("seed %u, %d actions, %d checks: %s\n", seed, actions, monkey.Checks(),
-              broken.isEmpty() ? "all held" : qPrintable(broken));
+  const auto& came = monkey.Came();
+  std::printf("seed %u, %d actions, %d checks, %d questions, %d squares, %d winners: %s\n", seed, actions, came.Checks,
+              came.Questions, came.Claims, came.Winners, broken.isEmpty() ? "all held" : qPrintable(broken));
   if (broken.isEmpty()) return 0;
   for (const QString& action : monkey.LastActions()) std::printf("  %s\n", qPrintable(action));
   return 1;

@@ -7,6 +7,7 @@
 #include <QScreen>
 #include <QTimer>
 #include <QWindow>
+#include <algorithm>
 
 #include "engine/start_up.h"
 #include "monkey/random_world.h"
@@ -60,7 +61,7 @@ void WindowMonkey::Fail(const QString& what) {
 
 int WindowMonkey::NextPause() {
   const std::size_t kind = chance_.Below(100);
-  const std::size_t most = kind < 70 ? 10 : kind < 95 ? 80 : kind < 99 ? 400 : 3000;
+  const std::size_t most = kind < 60 ? 20 : kind < 90 ? 150 : kind < 98 ? 800 : 4000;
   return static_cast<int>(chance_.Below(most));
 }
 
@@ -190,8 +191,23 @@ QString WindowMonkey::WhatIsBroken() {
   return AudienceInTheWay();
 }
 
+void WindowMonkey::CountProgress() {
+  const MainForm& form = show_.frmMain;
+  const bool question = form.picQuestion.Visible || form.picQuestionPicture.Visible || form.picSound.Visible;
+  int claimed = 0;
+  for (const auto& row : show_.state.Board)
+    claimed += static_cast<int>(std::count_if(row.begin(), row.end(), [](int owner) { return owner != 0; }));
+  ++came_.Checks;
+  if (question && !question_) ++came_.Questions;
+  if (form.picWinner.Visible && !winner_) ++came_.Winners;
+  if (claimed > claimed_) came_.Claims += claimed - claimed_;
+  question_ = question;
+  winner_ = form.picWinner.Visible;
+  claimed_ = claimed;
+}
+
 void WindowMonkey::Check() {
-  ++checks_;
+  CountProgress();
   const QString fault = WhatIsBroken();
   if (!fault.isEmpty()) Fail(fault);
   // From here on, so that what timers do until the next action is seen too.

@@ -26,7 +26,11 @@ class WindowMonkey : public QObject {
   // From the program's entry to so many actions later. What was broken, empty when all held.
   QString Run(int actions);
   const std::deque<QString>& LastActions() const { return last_; }
-  int Checks() const { return checks_; }
+  // How far he came: checks, questions asked, squares claimed and games won.
+  struct Progress {
+    int Checks = 0, Questions = 0, Claims = 0, Winners = 0;
+  };
+  const Progress& Came() const { return came_; }
 
  private:
   // One action in whatever loop runs: what opens a dialog has not ended when the next one begins.
@@ -38,6 +42,7 @@ class WindowMonkey : public QObject {
   // True when nothing is open any more.
   bool CloseAll();
   void Check();
+  void CountProgress();
   QString WhatIsBroken();
   QString AudienceInTheWay();
   int NextPause();
@@ -56,7 +61,10 @@ class WindowMonkey : public QObject {
   std::deque<QString> last_;
   QString broken_;
   QPointer<QWidget> read_;
-  int left_ = 0, depth_ = 0, closing_ = 0, checks_ = 0;
+  int left_ = 0, depth_ = 0, closing_ = 0;
+  Progress came_;
+  bool question_ = false, winner_ = false;
+  int claimed_ = 0;
   bool up_ = false, ended_ = false;
 };
 
