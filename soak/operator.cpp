@@ -104,9 +104,10 @@ void Operator::Judge(int step) {
   }
 }
 
-void Operator::BringUpMedia(int step) {
-  hands_.Type("qrs"[step / 25 % 3]);
-  ++media_;
+void Operator::BringUpMedia() {
+  hands_.Type("qrs"[media_++ % 3]);
+  hands_.Wait(1000);
+  if (form_.picMODVideo.IsShown() && show_.platform.media.MediaPlayer1.CurrentPosition() > 0) ++films_;
   // A film ends by itself; a key and a picture need no waiting.
   for (int i = 0; i < kFilmMs / 500 && form_.picMODVideo.IsShown(); ++i) hands_.Wait(500);
 }
@@ -116,8 +117,8 @@ void Operator::Step(int step) {
     hands_.Press(form_.btnPlayMode);
   } else if (step % 40 == 39) {
     hands_.Press(form_.btnStandbyMode);
-  } else if (step % 25 == 12) {
-    BringUpMedia(step);
+  } else if (step % 20 == 12) {
+    BringUpMedia();
   } else if (step % 30 == 17 && form_.btnUndo.IsReachable()) {
     hands_.Press(form_.btnUndo);
   } else if (form_.picQuestion.Visible || form_.picQuestionPicture.Visible || form_.picSound.Visible) {

@@ -45,6 +45,8 @@ class Operator {
   int Games() const { return games_; }
   int Claims() const { return claims_; }
   int MediaPlayed() const { return media_; }
+  // Films that were seen to run.
+  int Films() const { return films_; }
   // Games that went to their winner.
   int Winners() const { return winners_; }
 
@@ -52,7 +54,7 @@ class Operator {
   void SetUp(int game);
   void Step(int step);
   void Judge(int step);
-  void BringUpMedia(int step);
+  void BringUpMedia();
   void VisitForm(int game);
   void WaitForIdle();
   Image* FreeSquare(int step);
@@ -61,7 +63,7 @@ class Operator {
   MainForm& form_;
   Hands& hands_;
   Pace pace_;
-  int games_ = 0, claims_ = 0, media_ = 0, winners_ = 0;
+  int games_ = 0, claims_ = 0, media_ = 0, films_ = 0, winners_ = 0;
 };
 
 }  // namespace pawnfield

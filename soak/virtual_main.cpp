@@ -129,7 +129,9 @@ int main(int argc, char** argv) {
                   person.Games());
     gauge.Read(moment);
   }
-  std::printf("%d games, %d of them to their winner, %d squares claimed, %d media on demand, %d error boxes\n",
-              person.Games(), person.Winners(), person.Claims(), person.MediaPlayed(), dialogs.Errors);
+  std::printf(
+      "%d games, %d of them to their winner, %d squares claimed, %d media on demand, %d films of them, %d error "
+      "boxes\n",
+      person.Games(), person.Winners(), person.Claims(), person.MediaPlayed(), person.Films(), dialogs.Errors);
   return gauge.TellVerdict() && person.Winners() == person.Games() && dialogs.Errors == 0 ? 0 : 1;
 }

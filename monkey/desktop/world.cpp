@@ -12,7 +12,7 @@
 
 #include "monkey/random_world.h"
 #include "platform/desktop/native_path.h"
-#include "platform/desktop/user_copy.h"
+#include "show_driver.h"
 
 namespace pawnfield {
 
@@ -49,9 +49,7 @@ void SerialLine::Feed(const std::string& bytes) {
   [[maybe_unused]] const ssize_t taken = write(far_, bytes.data(), bytes.size());
 }
 
-World::World(Chance& chance) {
-  const QString shared = NativePath(FindFolders().App);
-  UpdateUserCopy(shared, folder_.path() + "/app");
+World::World(Chance& chance) : places_(PlacesBelow(folder_.path())) {
   QDir::setCurrent(folder_.path());
   for (int i = 0; i < kSetCount; ++i) WriteFile(Sets() + QString("%1.txt").arg(i), RandomSet(chance));
   PutMedia();
@@ -62,11 +60,7 @@ World::World(Chance& chance) {
 }
 
 DesktopPlaces World::Places() {
-  DesktopPlaces places;
-  places.folders.App = SpelledPath(folder_.path() + "/app").value_or("");
-  places.folders.DataRoot = SpelledPath(folder_.path() + "/Ostara Show Kit Data").value_or("");
-  places.configFolder = folder_.path() + "/config";
-  places.runtimeFolder = folder_.path() + "/run";
+  DesktopPlaces places = places_;
   places.serialAdapters = [this] {
     return line_ ? std::vector<SerialAdapter>{line_->Adapter()} : std::vector<SerialAdapter>{};
   };

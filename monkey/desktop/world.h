@@ -50,6 +50,7 @@ class World {
   void PutMedia();
 
   QTemporaryDir folder_;
+  DesktopPlaces places_;
   std::unique_ptr<SerialLine> line_;
   std::unique_ptr<HandedTransceiver> transceiver_;
 };

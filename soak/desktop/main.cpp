@@ -68,10 +68,12 @@ class LongShow {
       if (IsHeard(rig_, hands)) ++heard;
     }
     std::printf(
-        "%d games, %d of them to their winner, %d squares claimed, %d media on demand, heard at %d of %d "
+        "%d games, %d of them to their winner, %d squares claimed, %d media on demand, %d films of them, heard at %d "
+        "of %d "
         "readings, %d error boxes\n",
-        person.Games(), person.Winners(), person.Claims(), person.MediaPlayed(), heard, minutes, Errors());
-    return gauge.TellVerdict() && heard == minutes && Errors() == 0;
+        person.Games(), person.Winners(), person.Claims(), person.MediaPlayed(), person.Films(), heard, minutes,
+        Errors());
+    return gauge.TellVerdict() && person.Films() > 0 && heard == minutes && Errors() == 0;
   }
 
  private:

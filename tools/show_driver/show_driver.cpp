@@ -23,6 +23,8 @@ namespace {
 constexpr int kStepMs = 20;
 constexpr int kStartMs = 20000;
 
+}  // namespace
+
 DesktopPlaces PlacesBelow(const QString& folder) {
   DesktopPlaces places;
   const QString shared = NativePath(places.folders.App);
@@ -33,8 +35,6 @@ DesktopPlaces PlacesBelow(const QString& folder) {
   places.runtimeFolder = folder + "/run";
   return places;
 }
-
-}  // namespace
 
 ShowDriver::ShowDriver(const QString& workFolder)
     : folder_(QDir(workFolder).absolutePath()), program_(PlacesBelow(folder_ + "/home")) {

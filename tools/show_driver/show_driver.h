@@ -9,6 +9,9 @@
 
 namespace pawnfield {
 
+// All that the program writes, below one folder, with a copy of the assets of the source tree to work on.
+DesktopPlaces PlacesBelow(const QString& folder);
+
 class ShowDriver {
  public:
   // All that the program writes goes below the folder; the assets are the ones of the source tree.
