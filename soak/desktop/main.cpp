@@ -81,6 +81,7 @@ class LongShow {
   void FillPictureCache(Hands& hands) {
     Show& show = driver_.TheShow();
     const std::string folder = show.AppPath("\\Question Backgrounds");
+    HidePanel(show, Panel::Standby);
     ShowPanel(show, Panel::Question);
     for (const std::string& name : show.platform.files.List(folder, ".jpg")) {
       show.frmMain.imgQuestionBackground.Picture = folder + "\\" + name;
@@ -88,6 +89,7 @@ class LongShow {
       hands.Wait(100);
     }
     HidePanel(show, Panel::Question);
+    ShowPanel(show, Panel::Standby);
   }
   int Errors() const { return static_cast<int>(driver_.BoxTexts().filter("An untrapped error").size()); }
 
