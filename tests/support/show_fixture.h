@@ -31,6 +31,15 @@ class ShowFixture {
     sim.clock.Advance(10000);
   }
 
+  void Preset(const std::string& key, const std::string& value) {
+    sim.settings.Preset("Pawnfield", "Settings", key, value);
+  }
+
+  void Exit() {
+    sim.dialogs.ExpectMessage("Are you sure you want to exit?", BoxAnswer::Yes);
+    form().mnuFileExit.Click();
+  }
+
   void WriteSet(const std::string& name, const std::vector<std::string>& questions) {
     std::string bytes;
     for (const std::string& question : questions) {
