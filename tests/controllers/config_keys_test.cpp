@@ -1,69 +1,62 @@
 // frmConfigKeys: which letters it takes, and what its buttons keep.
-#include <gtest/gtest.h>
-
 #include "../support/show_fixture.h"
 
 namespace pawnfield {
 namespace {
 
-struct LettersCase {
-  const char* What;
-  // What is typed into the two boxes, in this order, and what they show then.
-  const char *First, *Second, *Shown;
-};
-
-class ConfigKeys : public ::testing::TestWithParam<LettersCase> {
+class ConfigKeys : public ShowFixture, public testing::Test {
  protected:
   void Open(const std::function<void(ConfigKeysForm&)>& act) {
-    fixture.sim.dialogs.ExpectForm("frmConfigKeys", [&] { act(fixture.show().frmConfigKeys); });
-    fixture.form().btnEditKeyboardCtrl.Click();
+    sim.dialogs.ExpectForm("frmConfigKeys", [&] { act(show().frmConfigKeys); });
+    form().btnEditKeyboardCtrl.Click();
   }
-  std::string Kept() { return fixture.show().state.KeyCorrect + fixture.show().state.KeyIncorrect; }
-  ShowFixture fixture;
+  std::string Kept() { return show().state.KeyCorrect + show().state.KeyIncorrect; }
 };
 
-TEST_P(ConfigKeys, TakesTwoDifferentLetters) {
-  const LettersCase& row = GetParam();
-  fixture.Start();
-  Open([&](ConfigKeysForm& form) {
-    form.txtKey[0].Type(row.First);
-    form.txtKey[1].Type(row.Second);
-    EXPECT_EQ(form.txtKey[0].Text.Get() + "|" + form.txtKey[1].Text.Get(), row.Shown) << row.What;
-    form.btnCancel.Click();
-  });
-  EXPECT_EQ(Kept(), "YN");
+TEST_F(ConfigKeys, TakesTwoDifferentLetters) {
+  // What is typed into the two boxes, in this order, and what they show then.
+  const std::tuple<const char*, const char*, const char*, const char*> cases[] = {
+      {"as typed", "r", "W", "r|W"},
+      {"the ends of the alphabet", "A", "z", "A|z"},
+      {"no digit and no sign", "7", "[", "|"},
+      {"no accents", "\xE9", "`", "|"},
+      {"no brace", "{", "@", "|"},
+      {"the other box holds it", "q", "Q", "q|"},
+      {"it meets the letter kept there", "n", "w", "|w"},
+      {"a blank is left alone", " ", "", " |"}};
+  Start();
+  for (const auto& [what, first, second, shown] : cases) {
+    Open([&, typed = std::pair(first, second), wanted = shown](ConfigKeysForm& keys) {
+      keys.txtKey[0].Type(typed.first);
+      keys.txtKey[1].Type(typed.second);
+      EXPECT_EQ(keys.txtKey[0].Text.Get() + "|" + keys.txtKey[1].Text.Get(), wanted);
+      keys.btnCancel.Click();
+    });
+    EXPECT_EQ(Kept(), "YN") << what;
+  }
 }
 
-INSTANTIATE_TEST_SUITE_P(Letters, ConfigKeys,
-                         ::testing::Values(LettersCase{"as typed", "r", "W", "r|W"},
-                                           LettersCase{"the ends of the alphabet", "A", "z", "A|z"},
-                                           LettersCase{"no digit and no sign", "7", "[", "|"},
-                                           LettersCase{"no accents", "\xE9", "`", "|"},
-                                           LettersCase{"the other box holds it", "q", "Q", "q|"},
-                                           LettersCase{"it meets the letter kept there", "n", "w", "|w"},
-                                           LettersCase{"a blank is left alone", " ", "", " |"}));
-
 TEST_F(ConfigKeys, FinishedKeepsTheLettersAndTheConsoleGoesOnWithYAndN) {
-  fixture.WriteNumberedSet("Keys", 20);
-  fixture.Start();
-  Open([](ConfigKeysForm& form) {
-    form.txtKey[0].Type("R");
-    form.btnFinished.Click();
+  WriteNumberedSet("Keys", 20);
+  Start();
+  Open([](ConfigKeysForm& keys) {
+    keys.txtKey[0].Type("R");
+    keys.btnFinished.Click();
   });
-  EXPECT_EQ(Kept(), "RN");
-  Open([](ConfigKeysForm& form) {
-    EXPECT_EQ(form.txtKey[0].Text, "R");
-    form.btnKeyDefaults.Click();
-    form.btnCancel.Click();
+  Open([](ConfigKeysForm& keys) {
+    EXPECT_EQ(keys.txtKey[0].Text, "R");
+    keys.btnKeyDefaults.Click();
+    EXPECT_EQ(keys.txtKey[0].Text, "Y");
+    keys.btnCancel.Click();
   });
   EXPECT_EQ(Kept(), "RN") << "the defaults were not finished";
-  fixture.form().optGameType[2].Click();
-  fixture.ChooseSet("Keys");
-  fixture.form().btnStart.Click();
-  fixture.form().KeyPress('r');
-  EXPECT_TRUE(fixture.form().btnQuestionCorrect.Visible);
-  fixture.form().KeyPress('y');
-  EXPECT_FALSE(fixture.form().btnQuestionCorrect.Visible);
+  form().optGameType[2].Click();
+  ChooseSet("Keys");
+  form().btnStart.Click();
+  form().KeyPress('r');
+  EXPECT_TRUE(form().btnQuestionCorrect.Visible);
+  form().KeyPress('y');
+  EXPECT_FALSE(form().btnQuestionCorrect.Visible);
 }
 
 }  // namespace

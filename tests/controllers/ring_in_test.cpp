@@ -1,8 +1,6 @@
 // Presses of the wireless remotes: the gates they pass, the debounce and the routing.
 #include "controllers/ring_in.h"
 
-#include <gtest/gtest.h>
-
 #include <algorithm>
 
 #include "../support/show_fixture.h"
@@ -10,128 +8,92 @@
 namespace pawnfield {
 namespace {
 
-class RingIn : public ::testing::Test {
+class RingIn : public ShowFixture, public testing::Test {
  protected:
-  void StartGame(int gameType = kTriviaModeC) {
-    fixture.WriteNumberedSet("Presses", 20);
-    fixture.Start();
-    fixture.sim.hid.PlugTransceiver();
-    CreateTransceiver(fixture.show());
-    fixture.form().optGameType[static_cast<std::size_t>(gameType - 1)].Click();
-    fixture.ChooseSet("Presses");
-    fixture.form().btnStart.Click();
+  void StartGame() {
+    WriteNumberedSet("Presses", 20);
+    Start();
+    sim.hid.PlugTransceiver();
+    CreateTransceiver(show());
+    ChooseSet("Presses");
+    form().btnStart.Click();
   }
-
-  // A press as the device reports it, and time for the next poll.
-  void Press(int remote) {
+  // A press as the device reports it, and time for the next poll; gives the player who holds the question then.
+  int Press(int remote) {
     constexpr int kAnswerA = 4;
     const int wire = remote % 10 == 0 ? remote - 10 : remote;
-    fixture.sim.hid.Reports.push_back(BuildPacket({static_cast<char>(wire), kAnswerA, '\0', '\0'}, 0));
-    fixture.sim.clock.Advance(30);
+    sim.hid.Reports.push_back(BuildPacket({static_cast<char>(wire), kAnswerA, '\0', '\0'}, 0));
+    sim.clock.Advance(30);
+    return show().state.CurrentPlayer;
   }
-
-  int Holder() { return fixture.show().state.CurrentPlayer; }
-  std::size_t Lights() { return fixture.sim.hid.Writes.size(); }
-
-  ShowFixture fixture;
 };
 
 TEST_F(RingIn, TheFirstPressWinsIsLitAndHeardTwice) {
   StartGame();
-  fixture.sim.media.Log.clear();
-  Press(2);
-  EXPECT_EQ(Holder(), 2);
-  EXPECT_EQ(fixture.audience().picPlayer[1].Picture, "C:\\Pawnfield\\images\\scoreboxred.bmp");
-  EXPECT_EQ(fixture.audience().lblPlayerName.Caption, "PLAYER 2");
-  EXPECT_EQ(std::count(fixture.sim.media.Log.begin(), fixture.sim.media.Log.end(),
-                       "EventPlayer url C:\\Pawnfield\\Sound Effects\\RingsIn.mp3"),
-            2);
-  ASSERT_EQ(Lights(), 1u);
-  EXPECT_EQ(fixture.sim.hid.Writes[0].Report[4], 2);
-  for (const auto& button : {0u, 1u, 2u}) EXPECT_FALSE(fixture.form().btnBuzzer[button].Enabled);
-  Press(1);
-  EXPECT_EQ(Holder(), 2) << "shut out";
-  fixture.form().btnQuestionIncorrect.Click();
-  Press(3);
-  EXPECT_EQ(Holder(), 3) << "open again after an incorrect answer";
+  sim.media.Log.clear();
+  EXPECT_EQ(Press(2), 2);
+  EXPECT_EQ(audience().picPlayer[1].Picture, "C:\\Pawnfield\\images\\scoreboxred.bmp");
+  EXPECT_EQ(audience().lblPlayerName.Caption, "PLAYER 2");
+  const MediaLog& log = sim.media.Log;
+  EXPECT_EQ(std::count(log.begin(), log.end(), "EventPlayer url C:\\Pawnfield\\Sound Effects\\RingsIn.mp3"), 2);
+  ASSERT_EQ(sim.hid.Writes.size(), 1U);
+  EXPECT_EQ(sim.hid.Writes[0].Report[4], 2);
+  for (const std::size_t button : {0U, 1U, 2U}) EXPECT_FALSE(form().btnBuzzer[button].Enabled);
+  EXPECT_EQ(Press(1), 2) << "shut out";
+  form().btnQuestionIncorrect.Click();
+  EXPECT_EQ(Press(3), 3) << "open again after an incorrect answer";
 }
 
 TEST_F(RingIn, APressWithin200MillisecondsOfTheLastIsDropped) {
-  for (const int gap : {200, 201}) {
-    SCOPED_TRACE(gap);
-    ShowFixture shown;
-    shown.WriteNumberedSet("Presses", 20);
-    shown.Start();
-    shown.ChooseSet("Presses");
-    shown.form().btnStart.Click();
-    TransceiverData press;
-    press.Remote = 1;
-    dgTransceiver_OnButtonPressed(shown.show(), press);
-    EXPECT_EQ(shown.show().state.CurrentPlayer, 1);
-    shown.form().btnQuestionIncorrect.Click();
-    shown.sim.clock.Advance(gap);
-    dgTransceiver_OnButtonPressed(shown.show(), press);
-    EXPECT_EQ(shown.show().state.CurrentPlayer, gap > 200 ? 1 : 0);
+  StartGame();
+  // Without a device, no light takes its time between the presses.
+  show().dgTransceiver.reset();
+  TransceiverData press;
+  press.Remote = 1;
+  for (const auto& [gap, holder] : {std::pair{1000, 1}, {200, 0}, {1, 1}, {201, 1}}) {
+    sim.clock.Advance(gap);
+    dgTransceiver_OnButtonPressed(show(), press);
+    EXPECT_EQ(show().state.CurrentPlayer, holder) << gap;
+    if (holder != 0) form().btnQuestionIncorrect.Click();
   }
 }
 
 TEST_F(RingIn, ADialogAStandbyAndAHiddenConsoleDropThePressButKeepItsTime) {
   StartGame();
-  fixture.sim.dialogs.ExpectMessage("Are you sure", BoxAnswer::No, [&] { Press(1); });
-  fixture.form().mnuFileExit.Click();
-  EXPECT_EQ(Holder(), 0);
-  Press(1);
-  EXPECT_EQ(Holder(), 0) << "too soon after the press at the dialog";
-  fixture.form().btnStandbyMode.Click();
-  Press(2);
-  EXPECT_EQ(Holder(), 0);
-  fixture.form().btnPlayMode.Click();
-  fixture.form().Enabled = false;
-  Press(3);
-  EXPECT_EQ(Holder(), 0);
-  fixture.form().Enabled = true;
-  fixture.sim.clock.Advance(200);
-  Press(3);
-  EXPECT_EQ(Holder(), 3);
+  sim.dialogs.ExpectMessage("Are you sure", BoxAnswer::No, [&] { Press(1); });
+  form().mnuFileExit.Click();
+  EXPECT_EQ(Press(1), 0) << "too soon after the press at the dialog";
+  form().btnStandbyMode.Click();
+  EXPECT_EQ(Press(2), 0);
+  form().btnPlayMode.Click();
+  form().Enabled = false;
+  EXPECT_EQ(Press(3), 0);
+  form().Enabled = true;
+  sim.clock.Advance(200);
+  EXPECT_EQ(Press(3), 3);
 }
 
-TEST_F(RingIn, AnUnroutedRemoteDoesNothingAndATurnsHolderKeepsTheQuestion) {
+TEST_F(RingIn, ARemoteGoesByItsRouting) {
   StartGame();
-  Press(4);
-  Press(21);
-  EXPECT_EQ(Holder(), 0);
-  EXPECT_EQ(Lights(), 0u);
-  fixture.show().state.Routing[4] = 1;
-  fixture.sim.clock.Advance(200);
-  Press(4);
-  EXPECT_EQ(Holder(), 1);
-  EXPECT_EQ(fixture.sim.hid.Writes.at(0).Report[4], 4) << "the remote's own light";
-}
-
-TEST_F(RingIn, InATurnGameTheRemotesAreShutOut) {
-  StartGame(kTriviaModeA);
-  Press(2);
-  EXPECT_EQ(Holder(), 1);
-  EXPECT_EQ(Lights(), 0u);
+  EXPECT_EQ(Press(4) + Press(21), 0);
+  EXPECT_TRUE(sim.hid.Writes.empty());
+  show().state.Routing[4] = 1;
+  sim.clock.Advance(200);
+  EXPECT_EQ(Press(4), 1);
+  EXPECT_EQ(sim.hid.Writes.at(0).Report[4], 4) << "the remote's own light";
 }
 
 TEST_F(RingIn, RemotesBeyondTheTablesAreToldOnceEachAndTheShowGoesOn) {
   StartGame();
-  fixture.sim.dialogs.ExpectMessage("Description: Subscript out of range (remote 51)", BoxAnswer::Ok, [&] {
-    Press(1);
-    EXPECT_EQ(Holder(), 0) << "polled and dropped while the box is up";
-  });
+  sim.dialogs.ExpectMessage("Description: Subscript out of range (remote 51)", BoxAnswer::Ok,
+                            [&] { EXPECT_EQ(Press(1), 0) << "polled and dropped while the box is up"; });
   Press(51);
-  fixture.sim.dialogs.ExpectMessage("(remote 22)");
+  sim.dialogs.ExpectMessage("(remote 22)");
   Press(22);
-  fixture.sim.clock.Advance(1000);
-  Press(51);
-  Press(22);
-  Press(1);
-  EXPECT_EQ(Holder(), 1);
-  fixture.sim.clock.Advance(1000);
-  Press(23);
-  EXPECT_EQ(Holder(), 1) << "a remote past the routing that finds the question held is no fault";
+  sim.clock.Advance(1000);
+  for (const int remote : {51, 22, 1}) Press(remote);
+  sim.clock.Advance(1000);
+  EXPECT_EQ(Press(23), 1) << "a remote past the routing that finds the question held is no fault";
 }
 
 }  // namespace
