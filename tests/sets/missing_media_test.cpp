@@ -1,9 +1,5 @@
 #include "sets/missing_media.h"
 
-#include <gtest/gtest.h>
-
-#include <vector>
-
 #include "sets/set_file.h"
 #include "support/show_fixture.h"
 
@@ -11,6 +7,7 @@ namespace pawnfield {
 namespace {
 
 constexpr const char* kSet = "C:\\Pawnfield\\Trivia Sets\\Media.txt";
+constexpr const char* kOwn = "C:\\Shows\\Own.txt";
 const std::string kHere = "C:\\Pawnfield\\Trivia Sets\\here.jpg";
 
 class MissingMedia : public ShowFixture, public testing::Test {
@@ -30,25 +27,31 @@ class MissingMedia : public ShowFixture, public testing::Test {
     if (act) sim.dialogs.ExpectForm("frmDialog2", act);
     ChooseSet("Media");
   }
-  std::string Text(std::size_t index) { return show().GameSet.at(index).QuestionText; }
-  MissingMediaForm& dialog() { return show().frmDialog2; }
+  // Chooses a file for the one that is missing, and gives the filter and the folder that were offered.
+  std::string Repair(const std::string& chosen) {
+    sim.dialogs.ExpectFile(chosen);
+    dialog.btnRepair.Click();
+    const FileDialogRequest& request = sim.dialogs.FileRequests().back();
+    return request.Filter + ", " + request.InitialFolder + ", " + request.FileName;
+  }
+  std::string Text(int index) { return show().GameSet.at(static_cast<std::size_t>(index)).QuestionText; }
+
+  MissingMediaForm& dialog = show().frmDialog2;
 };
 
 TEST_F(MissingMedia, TheScanEndsWhereItWouldGoRoundAndNamesTheLastItFound) {
-  const struct {
-    std::vector<int> missing;
-    int question;
-  } cases[] = {{{0}, 1},    {{1}, 2},    {{3}, 4},    {{4}, 5},    {{5}, 6},        {{50}, 51},
-               {{99}, 100}, {{1, 3}, 2}, {{1, 4}, 2}, {{1, 7}, 8}, {{0, 5, 60}, 6}, {{50, 60}, 51}};
-  for (const auto& each : cases) {
+  const std::pair<std::vector<int>, int> cases[] = {{{0}, 1},    {{1}, 2},    {{3}, 4},        {{4}, 5},
+                                                    {{5}, 6},    {{50}, 51},  {{99}, 100},     {{1, 3}, 2},
+                                                    {{1, 4}, 2}, {{1, 7}, 8}, {{0, 5, 60}, 6}, {{50, 60}, 51}};
+  for (const auto& [missing, question] : cases) {
     int asked = 0;
-    Load(each.missing, [&] {
+    Load(missing, [&] {
       asked = show().MissingQuestion;
-      EXPECT_EQ(dialog().txtLocation.Text.Get(), Text(static_cast<std::size_t>(asked - 1)));
-      EXPECT_TRUE(dialog().btnRepair.Enabled && dialog().btnCancel.Enabled && !dialog().btnFinished.Enabled);
-      dialog().btnCancel.Click();
+      EXPECT_EQ(dialog.txtLocation.Text.Get(), Text(asked - 1));
+      EXPECT_TRUE(dialog.btnRepair.Enabled && dialog.btnCancel.Enabled && !dialog.btnFinished.Enabled);
+      dialog.btnCancel.Click();
     });
-    EXPECT_EQ(asked, each.question);
+    EXPECT_EQ(asked, question);
     EXPECT_EQ(show().MissingQuestion, 1);
     EXPECT_TRUE(form().btnStart.Enabled);
   }
@@ -61,83 +64,65 @@ TEST_F(MissingMedia, OnlyTheLetterMakesAMedium) {
   ChooseSet("Media");
   sim.files.Put(kSet, "Q\r\nA\r\nT\r\nnothing\r\nA\r\nS\r\n");
   sim.dialogs.ExpectForm("frmDialog2", [&] {
-    sim.dialogs.ExpectFile("");
-    dialog().btnRepair.Click();
-    // An unknown ending keeps the filter of before.
-    EXPECT_EQ(sim.dialogs.FileRequests().back().Filter, "");
-    dialog().Unload();
+    EXPECT_TRUE(Repair("").starts_with(", ")) << "an unknown ending keeps the filter of before";
+    dialog.Unload();
   });
   ChooseSet("Media");
 }
 
 TEST_F(MissingMedia, OneFileIsRepairedAndTheSetWrittenBackWhereItCameFrom) {
-  const struct {
-    std::vector<int> missing;
-    std::string chosen;
-    std::string repaired;
-    std::string location;
-  } cases[] = {
+  const std::string sets = "C:\\Pawnfield\\Trivia Sets\\";
+  const std::tuple<std::vector<int>, std::string, std::string, std::string> cases[] = {
       {{2}, kHere, kHere, kHere},
-      {{2}, "", "C:\\Pawnfield\\Trivia Sets\\gone2.jpg", "C:\\Pawnfield\\Trivia Sets\\gone2.jpg"},
-      {{2}, "C:\\vanished.jpg", "C:\\Pawnfield\\Trivia Sets\\gone2.jpg", "C:\\Pawnfield\\Trivia Sets\\gone2.jpg"},
-      {{2, 3, 4}, kHere, kHere, "C:\\Pawnfield\\Trivia Sets\\gone4.jpg"},
-  };
-  for (const auto& each : cases) {
-    Load(
-        each.missing,
-        [&] {
-          sim.dialogs.ExpectFile(each.chosen);
-          dialog().btnRepair.Click();
-          const FileDialogRequest& request = sim.dialogs.FileRequests().back();
-          EXPECT_EQ(request.Filter, "Picture Files(*bmp; *jpg)|*.bmp; *.jpg");
-          EXPECT_EQ(request.InitialFolder, "C:\\Pawnfield\\Trivia Sets\\");
-          EXPECT_EQ(request.FileName, "gone2.jpg");
-          EXPECT_TRUE(!dialog().btnRepair.Enabled && dialog().btnFinished.Enabled);
-          EXPECT_EQ(dialog().txtLocation.Text.Get(), each.location);
-          dialog().btnFinished.Click();
-        },
-        8);
-    EXPECT_EQ(Text(2), each.repaired);
-    // Three lines for each question and none more.
+      {{2}, "", sets + "gone2.jpg", sets + "gone2.jpg"},
+      {{2}, "C:\\vanished.jpg", sets + "gone2.jpg", sets + "gone2.jpg"},
+      {{2, 3, 4}, kHere, kHere, sets + "gone4.jpg"}};
+  for (const auto& [missing, chosen, repaired, location] : cases) {
+    const auto act = [&, file = chosen, left = location] {
+      EXPECT_EQ(Repair(file), "Picture Files(*bmp; *jpg)|*.bmp; *.jpg, " + sets + ", gone2.jpg");
+      EXPECT_TRUE(!dialog.btnRepair.Enabled && dialog.btnFinished.Enabled);
+      EXPECT_EQ(dialog.txtLocation.Text.Get(), left);
+      dialog.btnFinished.Click();
+    };
+    Load(missing, act, 8);
+    EXPECT_EQ(Text(2), repaired);
     const std::string bytes = sim.files.Read(kSet);
-    EXPECT_EQ(std::count(bytes.begin(), bytes.end(), '\n'), 24);
+    EXPECT_EQ(std::count(bytes.begin(), bytes.end(), '\n'), 24) << "three lines for each question and none more";
     TriviaSet again;
     EXPECT_EQ(ParseSet(bytes, again), 8);
-    EXPECT_EQ(again[2].QuestionText, each.repaired);
+    EXPECT_EQ(again[2].QuestionText, repaired);
     EXPECT_EQ(show().MissingQuestion, 1);
   }
 }
 
 TEST_F(MissingMedia, ASetThatCannotBeWrittenIsTold) {
+  int error = kErrorDiskFull;
   const auto finish = [&] {
-    sim.dialogs.ExpectFile(kHere);
-    dialog().btnRepair.Click();
-    sim.files.FailNextWrite(kErrorDiskFull);
-    sim.dialogs.ExpectMessage("Procedure: SaveFile");
-    dialog().btnFinished.Click();
+    Repair(kHere);
+    if (error != 0) sim.dialogs.ExpectMessage("Procedure: SaveFile");
+    sim.files.FailNextWrite(std::exchange(error, 0));
+    dialog.btnFinished.Click();
   };
   Load({0}, finish, 3);
-  EXPECT_EQ(sim.files.Read(kSet).substr(0, 11), ".\\gone0.jpg");
+  EXPECT_TRUE(sim.files.Read(kSet).starts_with(".\\gone0.jpg"));
   Load({0}, [&] {
     sim.files.Remove(kSet);
     sim.dialogs.ExpectMessage("We encountered an error trying to fix the file. Please report if this error continues.");
     SaveRepairedSet(show());
-    dialog().btnCancel.Click();
+    dialog.btnCancel.Click();
   });
   // A set of the file dialog goes back to its file, and one of the list never to that.
-  sim.files.Put("C:\\Shows\\Own.txt", ".\\gone.wav\r\nA\r\nS\r\n");
-  sim.dialogs.ExpectFile("C:\\Shows\\Own.txt");
+  sim.files.Put(kOwn, ".\\gone.wav\r\nA\r\nS\r\n");
+  sim.dialogs.ExpectFile(kOwn);
   sim.dialogs.ExpectForm("frmDialog2", [&] {
-    sim.dialogs.ExpectFile(kHere);
-    dialog().btnRepair.Click();
-    EXPECT_EQ(sim.dialogs.FileRequests().back().Filter, "Picture Files(*wav; *mp3; *.wma)|*.wav; *.mp3; *.wma");
-    dialog().btnFinished.Click();
+    EXPECT_TRUE(Repair(kHere).starts_with("Picture Files(*wav; *mp3; *.wma)|*.wav; *.mp3; *.wma, "));
+    dialog.btnFinished.Click();
   });
   form().btnSelectGame.Click();
-  EXPECT_EQ(sim.files.Read("C:\\Shows\\Own.txt"), kHere + "\r\nA\r\nS\r\n");
-  Load(
-      {0}, [&] { dialog().btnRepair.Enabled = true, SaveRepairedSet(show()), dialog().btnCancel.Click(); }, 3);
-  EXPECT_EQ(sim.files.Read("C:\\Shows\\Own.txt"), kHere + "\r\nA\r\nS\r\n");
+  EXPECT_EQ(sim.files.Read(kOwn), kHere + "\r\nA\r\nS\r\n");
+  Load({0}, finish, 3);
+  EXPECT_TRUE(sim.files.Read(kSet).starts_with(kHere));
+  EXPECT_EQ(sim.files.Read(kOwn), kHere + "\r\nA\r\nS\r\n");
 }
 
 }  // namespace

@@ -1,7 +1,6 @@
 #include <gtest/gtest.h>
 
 #include <algorithm>
-#include <memory>
 
 #include "sets/set_file.h"
 
@@ -17,168 +16,126 @@ std::string Records(int count) {
 }
 
 TriviaQuestion FirstOf(const std::string& bytes) {
-  auto set = std::make_unique<TriviaSet>();
-  ParseSet(bytes, *set);
-  return (*set)[0];
+  TriviaSet set;
+  ParseSet(bytes, set);
+  return set[0];
 }
 
-TriviaQuestion WithFormat(const std::string& line) { return FirstOf("Q\r\nA\r\n" + line + "\r\n"); }
-
-// The record's format line as it is written.
-std::string FormatOf(const TriviaQuestion& question) {
-  auto set = std::make_unique<TriviaSet>();
-  (*set)[0] = question;
-  const std::string bytes = FormatSet(*set);
-  const std::size_t start = bytes.find("\r\n", bytes.find("\r\n") + 2) + 2;
-  return bytes.substr(start, bytes.find("\r\n", start) - start);
+std::string Text(const TriviaQuestion& question) {
+  return question.QuestionType + "|" + question.QuestionText + "|" + question.FontName + "|" + question.FontSize +
+         (question.FontBold ? " bold" : "") + (question.FontItalic ? " italic" : "") + "|" + question.FontColor + "|" +
+         question.AnswerText;
 }
-
-struct Fields {
-  const char* line;
-  std::string type, name, size;
-  bool bold, italic;
-  std::string color;
-};
 
 TEST(SetParser, ReadsFormatLinesWithAllTheirEdges) {
-  const Fields cases[] = {
-      {"T#Arial#36#False#True#255#", "T", "Arial", "36", false, true, "255"},
-      {"T#Arial#8#True#True#5#", "T", "Arial", "28", true, true, "16777215"},
-      {"T#A#36#False#False#255#", "T", "", "36", false, false, "16777215"},
-      {"T#1942#36#False#False#255#", "T", "", "36", false, false, "1942"},
-      {"T#255#", "T", "", "28", true, true, "255"},
-      {"T#255", "T", "", "28", true, true, "16777215"},
-      {"T", "T", "", "28", true, true, "16777215"},
-      {"T#Arial#10.5#True#True#255#", "T", "Arial", "10", true, true, "255"},
-      {"T#Arial#11.5#True#True#255#", "T", "Arial", "12", true, true, "255"},
-      {"T#Arial#big#True#True#255#", "T", "Arial", "0", true, true, "255"},
-      {"T#Arial#99999#True#True#255#", "T", "Arial", "28", true, true, "255"},
-      {"T#Arial#36#no#00#255#", "T", "Arial", "36", true, false, "255"},
-      {"T#Arial#36#0#-1#255#", "T", "Arial", "36", true, true, "255"},
-      {"T#Arial#36#True#True#red#", "T", "Arial", "36", true, true, "red"},
-      {"T#Arial#36#True#True#255", "T", "Arial", "36", true, true, "16777215"},
-      {"Text#Arial#36#True#True#255#  ", "T", "Arial", "36", true, true, "255"},
-      {"P", "P", "Courier New", "28", true, true, "16777215"},
-      {"P#Arial#36#False#False#255#", "P#Arial#36#False#False#255#", "Courier New", "28", true, true, "16777215"},
-      {" T#Arial#36#False#False#255#", " T#Arial#36#False#False#255#", "Courier New", "28", true, true, "16777215"},
-      {"t#Arial#36#False#False#255#", "t#Arial#36#False#False#255#", "Courier New", "28", true, true, "16777215"},
-  };
-  for (const Fields& c : cases) {
-    const TriviaQuestion read = WithFormat(c.line);
-    const TriviaQuestion wanted{c.type, "Q", c.name, c.size, c.bold, c.italic, c.color, "A"};
-    EXPECT_EQ(read, wanted) << c.line << " gave " << read.QuestionType << '|' << read.FontName << '|' << read.FontSize
-                            << '|' << read.FontBold << read.FontItalic << '|' << read.FontColor;
-  }
+  const std::string rest = "|Q|Courier New|28 bold italic|16777215|A";
+  const std::pair<std::string, std::string> cases[] = {
+      {"T#Arial#36#False#True#255#", "T|Q|Arial|36 italic|255|A"},
+      {"T#Arial#8#True#True#5#", "T|Q|Arial|28 bold italic|16777215|A"},
+      {"T#A#36#False#False#255#", "T|Q||36|16777215|A"},
+      {"T#1942#36#False#False#255#", "T|Q||36|1942|A"},
+      {"T#255#", "T|Q||28 bold italic|255|A"},
+      {"T#255", "T|Q||28 bold italic|16777215|A"},
+      {"T", "T|Q||28 bold italic|16777215|A"},
+      {"T#Arial#10.5#True#True#255#", "T|Q|Arial|10 bold italic|255|A"},
+      {"T#Arial#11.5#True#True#255#", "T|Q|Arial|12 bold italic|255|A"},
+      {"T#Arial#big#True#True#255#", "T|Q|Arial|0 bold italic|255|A"},
+      {"T#Arial#99999#True#True#255#", "T|Q|Arial|28 bold italic|255|A"},
+      {"T#Arial#36#no#00#255#", "T|Q|Arial|36 bold|255|A"},
+      {"T#Arial#36#0#-1#255#", "T|Q|Arial|36 bold italic|255|A"},
+      {"T#Arial#36#True#True#red#", "T|Q|Arial|36 bold italic|red|A"},
+      {"T#Arial#36#True#True#255", "T|Q|Arial|36 bold italic|16777215|A"},
+      {"Text#Arial#36#True#True#255#  ", "T|Q|Arial|36 bold italic|255|A"},
+      {"P", "P" + rest},
+      {"P#Arial#36#False#False#255#", "P#Arial#36#False#False#255#" + rest},
+      {" T#Arial#36#False#False#255#", " T#Arial#36#False#False#255#" + rest},
+      {"t#Arial#36#False#False#255#", "t#Arial#36#False#False#255#" + rest}};
+  for (const auto& [line, read] : cases) EXPECT_EQ(Text(FirstOf("Q\r\nA\r\n" + line + "\r\n")), read) << line;
+  EXPECT_EQ(Text(FirstOf(std::string(300, 'q') + "\r\n" + std::string(200, 'a') + "\r\nP\r\n")),
+            "P|" + std::string(256, 'q') + "|Courier New|28 bold italic|16777215|" + std::string(174, 'a'));
+  EXPECT_EQ(Text(FirstOf("Half a record")), "|Half a record|Courier New|28 bold italic|16777215|");
 }
 
 TEST(SetParser, CountsRecordsUpToTheFirstBlankQuestion) {
-  const std::pair<std::string, int> cases[] = {
-      {"", 0},
-      {"\r\n", 0},
-      {Records(3), 3},
-      {Records(2) + "   \r\nlost\r\nT\r\n" + Records(2), 2},
-      {Records(1) + "\t\r\nA\r\nT\r\n", 2},
-      {Records(1) + "Unfinished", 2},
-      {Records(1) + "Unfinished\r\nAnswer", 2},
-      {Records(100), 100},
-      {Records(101), 101},
-      {Records(150), 101},
-      {"Q\rA\rP\rQ\rA\rP\r", 2},
-      {"Q\nA\nP\nQ\nA\nP\n", 1},
-      {std::string(256, ' ') + "beyond the cut\r\nA\r\nT\r\n", 0},
-  };
+  const std::pair<std::string, int> cases[] = {{"", 0},
+                                               {"\r\n", 0},
+                                               {Records(2) + "   \r\nlost\r\nT\r\n" + Records(2), 2},
+                                               {Records(1) + "\t\r\nA\r\nT\r\n", 2},
+                                               {Records(1) + "Unfinished", 2},
+                                               {Records(1) + "Unfinished\r\nAnswer", 2},
+                                               {Records(100), 100},
+                                               {Records(101), 101},
+                                               {Records(150), 101},
+                                               {"Q\rA\rP\rQ\rA\rP\r", 2},
+                                               {"Q\nA\nP\nQ\nA\nP\n", 1},
+                                               {std::string(256, ' ') + "beyond the cut\r\nA\r\nT\r\n", 0}};
+  TriviaSet set;
   for (const auto& [bytes, count] : cases) {
-    auto set = std::make_unique<TriviaSet>();
-    EXPECT_EQ(ParseSet(bytes, *set), count) << bytes.substr(0, 60);
+    EXPECT_EQ(ParseSet(bytes, set), count) << bytes.substr(0, 60);
+    if (count < 101) EXPECT_EQ(set[100], TriviaQuestion());
   }
 }
 
-TEST(SetParser, CutsLongLinesAndKeepsResetValuesBehindTheEnd) {
-  TriviaQuestion read = FirstOf(std::string(300, 'q') + "\r\n" + std::string(200, 'a') + "\r\nP\r\n");
-  EXPECT_EQ(read.QuestionText, std::string(256, 'q'));
-  EXPECT_EQ(read.AnswerText, std::string(174, 'a'));
-  EXPECT_EQ(read.QuestionType, "P");
-
-  read = FirstOf("Half a record");
-  TriviaQuestion wanted;
-  wanted.QuestionText = "Half a record";
-  EXPECT_EQ(read, wanted);
-
-  auto set = std::make_unique<TriviaSet>();
-  ParseSet(Records(5), *set);
-  EXPECT_EQ(ParseSet(Records(2), *set), 2);
-  EXPECT_EQ((*set)[2], TriviaQuestion());
-}
-
-TEST(SetParser, WritesAllRecordsAsThreeLinesEach) {
-  auto set = std::make_unique<TriviaSet>();
+TEST(SetParser, WritesAllRecordsAsThreeLinesEachByTypeFontAndColour) {
+  TriviaSet set, again;
   const std::string three = Records(3);
-  ParseSet(three, *set);
-  const std::string bytes = FormatSet(*set);
+  ParseSet(three, set);
+  const std::string bytes = FormatSet(set);
   EXPECT_EQ(std::count(bytes.begin(), bytes.end(), '\n'), 303);
   EXPECT_TRUE(bytes.starts_with(three + "\r\n\r\n" + kDefaultFormat + "\r\n"));
-  auto again = std::make_unique<TriviaSet>();
-  EXPECT_EQ(ParseSet(bytes, *again), 3);
-  EXPECT_EQ(*again, *set);
-}
-
-TEST(SetParser, WritesTheFormatLineByTypeFontAndColour) {
-  const std::pair<TriviaQuestion, const char*> cases[] = {
-      {{"T", "Q", "Arial", "36", false, true, "255", ""}, "T#Arial#36#False#True#255#"},
-      {{"", "Q", "Arial", "36", true, true, "255", ""}, "T#Arial#36#True#True#255#"},
-      {{" Text ", "Q", "Arial", "36", true, true, "255", ""}, "T#Arial#36#True#True#255#"},
-      {{"T", "Q", " ", "36", true, true, "255", ""}, "T#255#"},
-      {{"", "Q", "", "36", true, true, "255", ""}, "255#"},
-      {{"T", "Q", "Arial", "36", true, true, " ", ""}, "T#Arial#36#True#True#"},
-      {{"T", "Q", "", "36", true, true, "", ""}, "T"},
-      {{"", "Q", "", "36", true, true, "", ""}, ""},
-      {{" P#Arial#", "Q", "Arial", "36", true, true, "255", ""}, "P"},
-      {{"S", "Q", "Arial", "36", true, true, "255", ""}, "S"},
-  };
-  for (const auto& [question, line] : cases) EXPECT_EQ(FormatOf(question), line);
+  EXPECT_EQ(ParseSet(bytes, again), 3);
+  EXPECT_EQ(again, set);
+  const std::tuple<const char*, const char*, const char*, const char*> lines[] = {
+      {"T", "Arial", "255", "T#Arial#36#False#True#255#"},
+      {"", "Arial", "255", "T#Arial#36#False#True#255#"},
+      {" Text ", "Arial", "255", "T#Arial#36#False#True#255#"},
+      {"T", " ", "255", "T#255#"},
+      {"", "", "255", "255#"},
+      {"T", "Arial", " ", "T#Arial#36#False#True#"},
+      {"T", "", "", "T"},
+      {"", "", "", ""},
+      {" P#Arial#", "Arial", "255", "P"},
+      {"S", "Arial", "255", "S"}};
+  for (const auto& [type, font, color, line] : lines) {
+    set[0] = {type, "Q", font, "36", false, true, color, "A"};
+    EXPECT_TRUE(FormatSet(set).starts_with(std::string("Q\r\nA\r\n") + line + "\r\n")) << type << font << color;
+  }
 }
 
 TEST(SetParser, CompactionMovesBlanksOneStepInOnePass) {
   // Letters are questions, "-" is a blank record, "a" has an answer only.
-  const std::pair<std::string, std::string> cases[] = {{"X-Y", "XY-"},     {"X--Y", "X-Y-"},   {"-X-Y", "X-Y-"},
-                                                       {"-XY-Z", "XY-Z-"}, {"X---Y", "X--Y-"}, {"XaY", "XaY"},
-                                                       {"XYZ", "XYZ"}};
-  for (const auto& [before, after] : cases) {
-    auto set = std::make_unique<TriviaSet>();
+  for (const auto& [before, after] : {std::pair<std::string, std::string>{"X-Y", "XY-"},
+                                      {"X--Y", "X-Y-"},
+                                      {"-X-Y", "X-Y-"},
+                                      {"-XY-Z", "XY-Z-"},
+                                      {"X---Y", "X--Y-"},
+                                      {"XaY", "XaY"},
+                                      {"XYZ", "XYZ"}}) {
+    TriviaSet set;
+    set[100].QuestionText = "last";
     for (std::size_t i = 0; i < before.size(); ++i) {
-      TriviaQuestion& question = (*set)[i];
-      question.FontSize = std::string(2, before[i]);
-      if (before[i] == 'a') question.AnswerText = "a";
-      if (before[i] >= 'A' && before[i] <= 'Z') question.QuestionText = before[i];
+      set[i].FontSize = before[i];
+      if (before[i] != '-') (before[i] == 'a' ? set[i].AnswerText : set[i].QuestionText) = before[i];
     }
-    CompactSet(*set);
+    CompactSet(set);
     std::string result;
     for (std::size_t i = 0; i < before.size(); ++i) {
-      const TriviaQuestion& question = (*set)[i];
-      const std::string mark = question.QuestionText + question.AnswerText;
+      const std::string mark = set[i].QuestionText + set[i].AnswerText;
       result += mark.empty() ? "-" : mark;
-      if (mark.empty()) continue;
-      EXPECT_EQ(question.FontSize, mark + mark) << "the whole record moves";
+      EXPECT_TRUE(mark.empty() || set[i].FontSize == mark) << "the whole record moves";
     }
     EXPECT_EQ(result, after) << before;
+    EXPECT_EQ(set[100].QuestionText, "last");
   }
 }
 
-TEST(SetParser, CompactionNeverTouchesTheLastRecord) {
-  auto set = std::make_unique<TriviaSet>();
-  (*set)[100].QuestionText = "last";
-  CompactSet(*set);
-  EXPECT_EQ((*set)[100].QuestionText, "last");
-}
-
 TEST(SetParser, TheKindOfAQuestionIsToldByItsEnding) {
-  const std::pair<const char*, QuestionKind> cases[] = {
-      {"D:\\a.JPG ", QuestionKind::Picture}, {"a.bmp", QuestionKind::Picture},
-      {"a.wav", QuestionKind::Sound},        {"a.Mp3", QuestionKind::Sound},
-      {"a.wma", QuestionKind::Sound},        {".jpg", QuestionKind::Picture},
-      {"a.jpeg", QuestionKind::Text},        {"What is a .jpg?", QuestionKind::Text},
-      {"jpg", QuestionKind::Text},           {"", QuestionKind::Text}};
-  for (const auto& [text, kind] : cases) EXPECT_EQ(KindOfQuestion(text), kind) << text;
+  for (const char* text : {"D:\\a.JPG ", "a.bmp", ".jpg"})
+    EXPECT_EQ(KindOfQuestion(text), QuestionKind::Picture) << text;
+  for (const char* text : {"a.wav", "a.Mp3", "a.wma"}) EXPECT_EQ(KindOfQuestion(text), QuestionKind::Sound) << text;
+  for (const char* text : {"a.jpeg", "What is a .jpg?", "jpg", ""}) {
+    EXPECT_EQ(KindOfQuestion(text), QuestionKind::Text) << text;
+  }
 }
 
 }  // namespace
