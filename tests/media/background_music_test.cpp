@@ -1,128 +1,103 @@
 #include "media/background_music.h"
 
-#include <gmock/gmock.h>
-#include <gtest/gtest.h>
-
 #include "media/sound_channels.h"
 #include "support/show_fixture.h"
 
 namespace pawnfield {
 namespace {
 
-using testing::ElementsAre;
-
 const std::string kFolder = "C:\\Ostara Show Kit Data\\BackgroundMusic\\";
 
-class Music : public testing::Test {
+class Music : public ShowFixture, public testing::Test {
  protected:
   void Begin(const std::string& mode, std::initializer_list<const char*> names, const std::string& file = "") {
-    fixture.sim.settings.Preset("Pawnfield", "Settings", "BackGroundMusic", mode);
-    fixture.sim.settings.Preset("Pawnfield", "Settings", "BgMusicFileName", file);
+    Preset("BackGroundMusic", mode);
+    Preset("BgMusicFileName", file);
     for (const char* name : names) {
-      fixture.sim.files.Put(kFolder + name, "music");
-      fixture.sim.media.Deck.Durations[kFolder + name] = 9.5;
+      sim.files.Put(kFolder + name, "music");
+      sim.media.Deck.Durations[kFolder + name] = 9.5;
     }
-    fixture.Start();
+    Start();
   }
   // The tracks that are begun within so many seconds.
-  std::vector<std::string> Heard(int seconds) {
-    MediaLog& log = fixture.sim.media.Log;
-    log.clear();
-    fixture.sim.clock.Advance(seconds * 1000);
-    std::vector<std::string> tracks;
+  std::string Heard(int seconds) {
+    sim.media.Log.clear();
+    sim.clock.Advance(seconds * 1000);
+    std::string tracks;
     const std::string url = "BackgroundPlayer url " + kFolder;
-    for (const std::string& line : log) {
-      if (line.starts_with(url)) tracks.push_back(line.substr(url.size()));
+    for (const std::string& line : sim.media.Log) {
+      if (line.starts_with(url)) tracks += line.substr(url.size()) + " ";
     }
     return tracks;
   }
-  bool Sounds() { return fixture.sim.media.BackgroundPlayer.Playing && !fixture.sim.media.BackgroundPlayer.Paused; }
-
-  ShowFixture fixture;
+  // The same from a first track on.
+  std::string HeardAnew(int seconds) {
+    sim.media.BackgroundPlayer.SetUrl("");
+    show().state.MusicIndex = 0;
+    return Heard(seconds);
+  }
+  void StartSet(const std::string& name) {
+    form().optGameType[2].Click();
+    ChooseSet(name);
+    form().btnStart.Click();
+  }
+  bool Sounds() { return sim.media.BackgroundPlayer.Playing && !sim.media.BackgroundPlayer.Paused; }
 };
 
-TEST_F(Music, TheFoldersTracksPlayInTurnForEver) {
+TEST_F(Music, TheFoldersTracksPlayInTurnForEverAndOneThatCannotBePlayedGivesWay) {
   Begin("1", {"b.MP3", "a.wav", "c.wma", "d.mp3.txt", "mp3"});
-  EXPECT_EQ(fixture.show().state.MusicList.size(), 2);
-  fixture.sim.media.BackgroundPlayer.SetUrl("");
-  fixture.show().state.MusicIndex = 0;
-  // Each begins within a second of the other's end.
-  EXPECT_THAT(Heard(40), ElementsAre("a.wav", "b.MP3", "a.wav", "b.MP3"));
-}
-
-TEST_F(Music, ATrackThatCannotBePlayedGivesWayToTheNext) {
-  Begin("1", {"a.mp3", "b.mp3"});
-  fixture.sim.media.Deck.Durations[kFolder + "a.mp3"] = 0;
-  fixture.sim.media.BackgroundPlayer.SetUrl("");
-  fixture.show().state.MusicIndex = 0;
-  EXPECT_THAT(Heard(13), ElementsAre("a.mp3", "b.mp3", "a.mp3", "b.mp3"));
+  EXPECT_EQ(HeardAnew(40), "a.wav b.MP3 a.wav b.MP3 ") << "each begins within a second of the other's end";
+  sim.media.Deck.Durations[kFolder + "a.wav"] = 0;
+  EXPECT_EQ(HeardAnew(13), "a.wav b.MP3 a.wav b.MP3 ");
 }
 
 TEST_F(Music, OneFileRepeatsUntilItIsGone) {
   Begin("2", {"one.mp3"}, kFolder + "one.mp3");
-  fixture.sim.media.BackgroundPlayer.SetUrl("");
-  EXPECT_THAT(Heard(20), ElementsAre("one.mp3", "one.mp3"));
-  fixture.sim.files.Remove(kFolder + "one.mp3");
-  EXPECT_THAT(Heard(60), ElementsAre());
+  EXPECT_EQ(HeardAnew(20), "one.mp3 one.mp3 ");
+  sim.files.Remove(kFolder + "one.mp3");
+  EXPECT_EQ(Heard(60), "");
 }
 
 TEST_F(Music, AModeWithNothingToPlayBecomesNone) {
-  const struct {
-    const char* mode;
-    const char* name;
-    std::string file;
-    int becomes;
-  } cases[] = {{"0", "a.mp3", "", 0},   {"1", "a.wma", "", 0},      {"1", "a.WAV", "", 1},
-               {"2", "a.mp3", "  ", 0}, {"2", "a.mp3", "x.mp3", 0}, {"2", "a.mp3", kFolder + "a.mp3", 2}};
-  for (const auto& c : cases) {
+  const std::tuple<const char*, const char*, std::string, int> cases[] = {
+      {"0", "a.mp3", "", 0},   {"1", "a.wma", "", 0},      {"1", "a.WAV", "", 1},
+      {"2", "a.mp3", "  ", 0}, {"2", "a.mp3", "x.mp3", 0}, {"2", "a.mp3", kFolder + "a.mp3", 2}};
+  for (const auto& [mode, name, file, becomes] : cases) {
     ShowFixture fresh;
-    fresh.sim.files.Put(kFolder + c.name, "music");
-    fresh.sim.settings.Preset("Pawnfield", "Settings", "BackGroundMusic", c.mode);
-    fresh.sim.settings.Preset("Pawnfield", "Settings", "BgMusicFileName", c.file);
+    fresh.sim.files.Put(kFolder + name, "music");
+    fresh.Preset("BackGroundMusic", mode);
+    fresh.Preset("BgMusicFileName", file);
     fresh.Start();
-    EXPECT_EQ(fresh.show().state.BackgroundMusic, c.becomes) << c.mode << c.name;
-    EXPECT_EQ(fresh.show().state.MusicEnabled, c.becomes != 0);
+    EXPECT_EQ(fresh.show().state.BackgroundMusic, becomes) << mode << name;
+    EXPECT_EQ(fresh.show().state.MusicEnabled, becomes != 0);
   }
 }
 
 TEST_F(Music, AHundredTracksAreKeptAndTheRestIsTold) {
-  for (int i = 100; i < 201; ++i) fixture.sim.files.Put(kFolder + std::to_string(i) + ".mp3", "music");
-  fixture.sim.dialogs.ExpectMessage("Procedure: LoadMusicList");
-  EXPECT_TRUE(LoadMusicList(fixture.show()));
-  EXPECT_EQ(fixture.show().state.MusicList.size(), 100);
-  EXPECT_EQ(fixture.show().state.MusicList.back(), kFolder + "199.mp3");
+  for (int i = 100; i < 201; ++i) sim.files.Put(kFolder + std::to_string(i) + ".mp3", "music");
+  sim.dialogs.ExpectMessage("Procedure: LoadMusicList");
+  EXPECT_TRUE(LoadMusicList(show()));
+  EXPECT_EQ(show().state.MusicList.size(), 100U);
+  EXPECT_EQ(show().state.MusicList.back(), kFolder + "199.mp3");
 }
 
-TEST_F(Music, ASoundQuestionPausesItAndACorrectAnswerBringsItBack) {
-  fixture.sim.files.Put("C:\\Pawnfield\\Sounds\\clip.wav", "sound");
-  fixture.WriteSet("Mixed", {"C:\\Pawnfield\\Sounds\\clip.wav", "Next?"});
+TEST_F(Music, ASoundQuestionPausesItAndTheEndOfTheGameStopsItUntilTheNextSet) {
+  sim.files.Put("C:\\clip.wav", "sound");
+  WriteSet("Mixed", {"C:\\clip.wav", "Next?"});
   Begin("1", {"a.mp3"});
-  fixture.form().optGameType[2].Click();
-  fixture.ChooseSet("Mixed");
-  EXPECT_TRUE(Sounds());
-  fixture.form().btnStart.Click();
-  EXPECT_TRUE(fixture.sim.media.BackgroundPlayer.Paused);
-  EXPECT_THAT(Heard(30), ElementsAre()) << "a paused track is not at its end";
-  fixture.form().btnQuestionCorrect.Click();
-  EXPECT_TRUE(Sounds());
-  EXPECT_EQ(fixture.sim.media.BackgroundPlayer.CurrentPosition(), 0);
-}
-
-TEST_F(Music, TheEndOfTheGameStopsItAndTheNextSetBringsItBack) {
-  fixture.WriteNumberedSet("Numbers", 5);
-  Begin("1", {"a.mp3"});
-  fixture.form().optGameType[2].Click();
-  fixture.ChooseSet("Numbers");
-  fixture.form().btnStart.Click();
-  fixture.form().btnQuestionCorrect.Click();
-  fixture.sim.clock.Advance(2000);
-  fixture.Claim(0, 0);
-  fixture.sim.clock.Advance(2000);
-  fixture.form().btnEndGame.Click();
-  EXPECT_THAT(Heard(30), ElementsAre());
+  StartSet("Mixed");
+  EXPECT_TRUE(sim.media.BackgroundPlayer.Paused);
+  EXPECT_EQ(Heard(30), "") << "a paused track is not at its end";
+  form().btnQuestionCorrect.Click();
+  EXPECT_TRUE(Sounds()) << "a correct answer brings it back";
+  EXPECT_EQ(sim.media.BackgroundPlayer.CurrentPosition(), 0);
+  Claim(0, 0);
+  sim.clock.Advance(2000);
+  form().btnEndGame.Click();
+  EXPECT_EQ(Heard(30), "");
   EXPECT_FALSE(Sounds());
-  fixture.ChooseSet("Numbers");
-  EXPECT_THAT(Heard(2), ElementsAre("a.mp3"));
+  ChooseSet("Mixed");
+  EXPECT_EQ(Heard(2), "a.mp3 ");
 }
 
 }  // namespace

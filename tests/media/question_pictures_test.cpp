@@ -1,122 +1,91 @@
 #include "media/question_pictures.h"
 
 #include <gmock/gmock.h>
-#include <gtest/gtest.h>
 
-#include "engine/show.h"
-#include "platform/sim/sim_platform.h"
+#include "support/show_fixture.h"
 
 namespace pawnfield {
 namespace {
 
-using testing::IsEmpty;
-using testing::StartsWith;
+using Place = std::array<double, 4>;
 
-class QuestionPictures : public testing::Test {
+Place PlaceOf(const auto& shape) { return {shape.Left, shape.Top, shape.Width, shape.Height}; }
+
+class QuestionPictures : public ShowFixture, public testing::Test {
  protected:
   QuestionPictures() {
-    show.frmMain.picQuestionPicture.MoveTo(0, 0, 800, 400);
-    show.frmFSMain.picQuestionPicture.MoveTo(0, 0, 1600, 1000);
-    show.frmFSMain.picQuestionPicture.Visible = false;
-    machine.files.Put("C:\\pics\\dog.jpg", SimPictures::PictureBytes(400, 300));
+    form().picQuestionPicture.MoveTo(0, 0, 800, 400);
+    audience().picQuestionPicture.MoveTo(0, 0, 1600, 1000);
+    audience().picQuestionPicture.Visible = false;
+    sim.files.Put("C:\\pics\\dog.jpg", SimPictures::PictureBytes(400, 300));
   }
-  ~QuestionPictures() override { EXPECT_THAT(machine.dialogs.TakeFaults(), IsEmpty()); }
-
   bool ShowPath(const std::string& path) {
-    show.frmMain.lblQuestion[0].Caption = path;
-    return ShowPic(show);
+    form().lblQuestion[0].Caption = path;
+    return ShowPic(show());
   }
-
-  SimPlatform machine;
-  Show show{machine.platform};
 };
 
-void ExpectAt(const Control& control, double left, double top, double width, double height) {
-  EXPECT_DOUBLE_EQ(control.Left, left);
-  EXPECT_DOUBLE_EQ(control.Top, top);
-  EXPECT_DOUBLE_EQ(control.Width, width);
-  EXPECT_DOUBLE_EQ(control.Height, height);
-}
-
 TEST(PictureFit, FollowsTheLongerSideOfThePicture) {
-  struct Case {
-    const char* what;
-    PixelSize picture;
-    double frameWidth, frameHeight;
-    FittedPicture console, audience;
-  };
-  const Case cases[] = {
+  const std::tuple<const char*, PixelSize, double, double, Place, Place> cases[] = {
       {"square fills any frame", {50, 50}, 800, 400, {0, 0, 800, 400}, {0, 0, 800, 400}},
       {"wide, with bars above and below", {200, 100}, 400, 400, {0, 100, 400, 200}, {0, 100, 400, 200}},
       {"wide and too high is squeezed", {400, 300}, 800, 400, {0, 0, 800, 400}, {0, 0, 800, 600}},
       {"small is scaled up", {4, 2}, 400, 300, {0, 50, 400, 200}, {0, 50, 400, 200}},
       {"high", {100, 200}, 800, 400, {300, 0, 200, 400}, {300, 0, 200, 400}},
       {"high and too wide for the frame", {300, 400}, 200, 400, {0, 0, 300, 400}, {0, 0, 300, 400}},
-      {"offsets are whole, halves to even", {10, 20}, 805, 400, {302, 0, 200, 400}, {302, 0, 200, 400}},
-  };
-  for (const Case& c : cases) {
-    SCOPED_TRACE(c.what);
-    const auto check = [](const FittedPicture& got, const FittedPicture& wanted) {
-      EXPECT_DOUBLE_EQ(got.Left, wanted.Left);
-      EXPECT_DOUBLE_EQ(got.Top, wanted.Top);
-      EXPECT_DOUBLE_EQ(got.Width, wanted.Width);
-      EXPECT_DOUBLE_EQ(got.Height, wanted.Height);
-    };
-    check(FitPictureInFrame(c.picture, c.frameWidth, c.frameHeight), c.console);
-    check(FitPictureOnAudience(c.picture, c.frameWidth, c.frameHeight), c.audience);
+      {"offsets are whole, halves to even", {10, 20}, 805, 400, {302, 0, 200, 400}, {302, 0, 200, 400}}};
+  for (const auto& [what, picture, width, height, console, audience] : cases) {
+    EXPECT_EQ(PlaceOf(FitPictureInFrame(picture, width, height)), console) << what;
+    EXPECT_EQ(PlaceOf(FitPictureOnAudience(picture, width, height)), audience) << what;
   }
 }
 
 TEST_F(QuestionPictures, ThePictureStandsOnBothScreensWhileThereAreTwo) {
   EXPECT_TRUE(ShowPath("C:\\pics\\dog.jpg"));
-  EXPECT_TRUE(show.frmMain.picQuestionPicture.Visible);
-  EXPECT_EQ(show.frmMain.picImageResize[0].Picture.Get(), "C:\\pics\\dog.jpg");
-  ExpectAt(show.frmMain.picImageResize[0], 0, 0, 800, 400);
-  EXPECT_FALSE(show.frmFSMain.picQuestionPicture.Visible);
-  EXPECT_EQ(show.frmFSMain.picImageResize[0].Picture.Get(), "");
+  EXPECT_TRUE(form().picQuestionPicture.Visible && !audience().picQuestionPicture.Visible);
+  EXPECT_EQ(form().picImageResize[0].Picture.Get(), "C:\\pics\\dog.jpg");
+  EXPECT_EQ(PlaceOf(form().picImageResize[0]), (Place{0, 0, 800, 400}));
+  EXPECT_EQ(audience().picImageResize[0].Picture.Get(), "");
 
-  show.state.DualScreen = true;
+  show().state.DualScreen = true;
   EXPECT_TRUE(ShowPath("C:\\pics\\dog.jpg"));
-  EXPECT_TRUE(show.frmFSMain.picQuestionPicture.Visible);
-  EXPECT_EQ(show.frmFSMain.picImageResize[0].Picture.Get(), "C:\\pics\\dog.jpg");
-  ExpectAt(show.frmFSMain.picImageResize[0], 0, 0, 1600, 1200);
+  EXPECT_TRUE(audience().picQuestionPicture.Visible);
+  EXPECT_EQ(audience().picImageResize[0].Picture.Get(), "C:\\pics\\dog.jpg");
+  EXPECT_EQ(PlaceOf(audience().picImageResize[0]), (Place{0, 0, 1600, 1200}));
 }
 
 TEST_F(QuestionPictures, APictureThatCannotBeShownIsTold) {
-  machine.files.Put("C:\\pics\\broken.jpg", "no picture");
-  const std::pair<const char*, const char*> cases[] = {
-      {"C:\\pics\\gone.jpg", "File not found: C:\\pics\\gone.jpg"},
-      {"C:\\pics\\broken.jpg",
-       "An untrapped error has occurred.  Please make a note of the following information.\r\nError Number: 481\r\n"}};
-  for (const auto& [path, text] : cases) {
-    machine.dialogs.ExpectMessage(text);
+  sim.files.Put("C:\\pics\\broken.jpg", "no picture");
+  for (const auto& [path, text] : {std::pair{"C:\\pics\\gone.jpg", "File not found: C:\\pics\\gone.jpg"},
+                                   {"C:\\pics\\broken.jpg",
+                                    "An untrapped error has occurred.  Please make a note of the following "
+                                    "information.\r\nError Number: 481\r\n"}}) {
+    sim.dialogs.ExpectMessage(text);
     EXPECT_FALSE(ShowPath(path));
-    EXPECT_FALSE(show.frmMain.picQuestionPicture.Visible);
-    EXPECT_EQ(show.frmMain.picImageResize[0].Picture.Get(), "");
-    EXPECT_THAT(machine.dialogs.Boxes().back().Text, StartsWith(text));
+    EXPECT_FALSE(form().picQuestionPicture.Visible);
+    EXPECT_EQ(form().picImageResize[0].Picture.Get(), "");
+    EXPECT_THAT(sim.dialogs.Boxes().back().Text, testing::StartsWith(text));
   }
-  EXPECT_NE(machine.dialogs.Boxes().back().Text.find("Procedure: ShowPic\r\n"), std::string::npos);
+  EXPECT_THAT(sim.dialogs.Boxes().back().Text, testing::HasSubstr("Procedure: ShowPic\r\n"));
 }
 
 TEST_F(QuestionPictures, BackgroundsAreDrawnByNumberAndTheLastStaysWhenThereIsNone) {
-  for (const int number : {0, 1, 2, 49}) {
-    machine.files.Put("C:\\Pawnfield\\Question Backgrounds\\" + std::to_string(number) + ".jpg",
-                      SimPictures::PictureBytes(4, 3));
-  }
-  machine.files.Put("C:\\Pawnfield\\Question Backgrounds\\7.jpg", "no picture");
-  machine.files.Remove("C:\\Pawnfield\\Question Backgrounds\\50.jpg");
+  const std::string folder = "C:\\Pawnfield\\Question Backgrounds\\";
+  for (const char* name : {"0", "1", "2", "49"}) sim.files.Put(folder + name + ".jpg", SimPictures::PictureBytes(4, 3));
+  sim.files.Put(folder + "7.jpg", "no picture");
+  sim.files.Remove(folder + "50.jpg");
   const std::pair<double, int> draws[] = {{0.0, 0},   {0.03, 2},   {0.01, 0},  {0.029, 1}, {0.05, 2},
                                           {0.98, 49}, {0.999, 49}, {0.14, 49}, {0.02, 1}};
   for (const auto& [draw, number] : draws) {
-    show.state.DualScreen = number != 49;
-    const std::string before = show.frmFSMain.imgQuestionBackground.Picture;
-    machine.random.Scripted.push_back(draw);
-    RandomQuestionBackground(show);
-    const std::string wanted = "C:\\Pawnfield\\Question Backgrounds\\" + std::to_string(number) + ".jpg";
-    EXPECT_EQ(show.frmMain.imgQuestionBackground.Picture.Get(), wanted) << draw;
-    EXPECT_EQ(show.frmFSMain.imgQuestionBackground.Picture.Get(), show.state.DualScreen ? wanted : before) << draw;
+    show().state.DualScreen = number != 49;
+    const std::string before = audience().imgQuestionBackground.Picture;
+    sim.random.Scripted.push_back(draw);
+    RandomQuestionBackground(show());
+    const std::string wanted = folder + std::to_string(number) + ".jpg";
+    EXPECT_EQ(form().imgQuestionBackground.Picture.Get(), wanted) << draw;
+    EXPECT_EQ(audience().imgQuestionBackground.Picture.Get(), show().state.DualScreen ? wanted : before) << draw;
   }
-  EXPECT_EQ(machine.random.Randomized, 9);
+  EXPECT_EQ(sim.random.Randomized, 9);
 }
 
 }  // namespace
