@@ -9,19 +9,17 @@ namespace {
 constexpr const char* kInterfaceFile = "C:\\Ostara Show Kit Data\\Interface.txt";
 
 TEST(Detection, InstancePathsAndTheWalkThroughTheControlSets) {
-  const std::tuple<const char*, bool, bool> paths[] = {{"USB\\VID_04FE&PID_1003\\5&2A", true, true},
-                                                       {"USB\\VID_04FE&PID_1003", true, true},
-                                                       {"usb\\vid_04fe&pid_1001&MI_00", true, true},
-                                                       {"USB\\VID_0003&PID_1001\\1", true, false},
-                                                       {"USB\\VID_04FE", false, false},
-                                                       {"USB\\VID_04FE&REV_1", false, false},
-                                                       {"PID_1003&VID_04FE&x", false, false},
-                                                       {"USB\\VID_04FE&PID_10030", false, false},
-                                                       {"USB\\VID_0004&PID_1003\\5", false, false},
-                                                       {"", false, false}};
-  for (const auto& [path, first, later] : paths) {
-    EXPECT_EQ(IsTransceiver(path, ControlSet::First), first) << path;
-    EXPECT_EQ(IsTransceiver(path, ControlSet::Later), later) << path;
+  // A path's answer in the first control set and in the later ones.
+  const std::pair<const char*, std::vector<const char*>> paths[] = {
+      {"11", {"USB\\VID_04FE&PID_1003\\5&2A", "USB\\VID_04FE&PID_1003", "usb\\vid_04fe&pid_1001&MI_00"}},
+      {"10", {"USB\\VID_0003&PID_1001\\1"}},
+      {"00", {"USB\\VID_04FE", "USB\\VID_04FE&REV_1", "PID_1003&VID_04FE&x", ""}},
+      {"00", {"USB\\VID_04FE&PID_10030", "USB\\VID_0004&PID_1003\\5"}}};
+  for (const auto& [answers, instances] : paths) {
+    for (const char* path : instances) {
+      EXPECT_EQ(IsTransceiver(path, ControlSet::First), answers[0] == '1') << path;
+      EXPECT_EQ(IsTransceiver(path, ControlSet::Later), answers[1] == '1') << path;
+    }
   }
   const std::tuple<const char*, const char*, const char*, bool> values[] = {
       {"001\\Services\\HidUSB", "10", "x\\VID_0003&PID_1003", true},

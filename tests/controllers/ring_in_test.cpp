@@ -28,7 +28,7 @@ class RingIn : public ShowFixture, public testing::Test {
   }
 };
 
-TEST_F(RingIn, TheFirstPressWinsIsLitAndHeardTwice) {
+TEST_F(RingIn, TheFirstPressWinsIsLitAndHeardTwiceByItsRouting) {
   StartGame();
   sim.media.Log.clear();
   EXPECT_EQ(Press(2), 2);
@@ -42,6 +42,13 @@ TEST_F(RingIn, TheFirstPressWinsIsLitAndHeardTwice) {
   EXPECT_EQ(Press(1), 2) << "shut out";
   form().btnQuestionIncorrect.Click();
   EXPECT_EQ(Press(3), 3) << "open again after an incorrect answer";
+  form().btnQuestionIncorrect.Click();
+  EXPECT_EQ(Press(4) + Press(21), 0) << "without a routing";
+  EXPECT_EQ(sim.hid.Writes.size(), 2U);
+  show().state.Routing[4] = 1;
+  sim.clock.Advance(200);
+  EXPECT_EQ(Press(4), 1);
+  EXPECT_EQ(sim.hid.Writes.back().Report[4], 4) << "the remote's own light";
 }
 
 TEST_F(RingIn, APressWithin200MillisecondsOfTheLastIsDropped) {
@@ -71,16 +78,6 @@ TEST_F(RingIn, ADialogAStandbyAndAHiddenConsoleDropThePressButKeepItsTime) {
   form().Enabled = true;
   sim.clock.Advance(200);
   EXPECT_EQ(Press(3), 3);
-}
-
-TEST_F(RingIn, ARemoteGoesByItsRouting) {
-  StartGame();
-  EXPECT_EQ(Press(4) + Press(21), 0);
-  EXPECT_TRUE(sim.hid.Writes.empty());
-  show().state.Routing[4] = 1;
-  sim.clock.Advance(200);
-  EXPECT_EQ(Press(4), 1);
-  EXPECT_EQ(sim.hid.Writes.at(0).Report[4], 4) << "the remote's own light";
 }
 
 TEST_F(RingIn, RemotesBeyondTheTablesAreToldOnceEachAndTheShowGoesOn) {

@@ -72,7 +72,7 @@ TEST(EditorNavigation, InsertAndDeleteMoveWholeRecords) {
   fixture.record(1).FontName = "Own";
   fixture.GoTo(2);
   editor.btnInsertQuestion.Click();
-  EXPECT_EQ(fixture.record(1), (TriviaQuestion{"T"}));
+  EXPECT_EQ(fixture.record(1).QuestionType + fixture.record(1).FontName, "TCourier New");
   EXPECT_EQ(fixture.record(2).FontName, "Own");
   EXPECT_FALSE(editor.btnNext.Enabled || editor.mnuFileSave.Enabled);
   editor.txtAnswer.Type("x");
