@@ -139,7 +139,8 @@ bool TurnSquare(Show& show, Flip& flip) {
   flip.Larger = false;
   // The flash of a claim before this one may have ended meanwhile and forgotten the player.
   const int player = IsPlayer(show.state.FlipPlayer) ? show.state.FlipPlayer : OwnerOf(show, square.Name());
-  square.Picture = IsPlayer(player) ? show.frmMain.FaceA(player).Picture.Get() : std::string();
+  // Nobody's square rests as an empty one, which it is.
+  square.Picture = (IsPlayer(player) ? show.frmMain.FaceA(player) : show.frmMain.imgBkgnd).Picture;
   return true;
 }
 

@@ -10,6 +10,7 @@ void PutImages(SimFiles& files, const std::string& folder) {
       files.Put(folder + "\\" + piece + "-100" + face + ".bmp", SimPictures::PictureBytes(100, 100));
     }
   }
+  files.Put(folder + "\\Blank.bmp", SimPictures::PictureBytes(100, 100));
   for (const char* box : {"scorebox.bmp", "scoreboxred.bmp"}) {
     files.Put(folder + "\\" + box, SimPictures::PictureBytes(200, 60));
   }
