@@ -75,7 +75,8 @@ std::vector<QWidget*> RandomHand::Targets(const QWidget& window) {
     const QString name = widget->objectName();
     // A set comes by the list more often than by a file dialog, which takes several acts.
     if (name == "btnSelectGame") return false;
-    return MovesOn(name.toStdString()) || name == "cboList" || name == "pnlBoardCanvas" || name == "pnlScreen";
+    return MovesOn(name.toStdString()) || name == "cboList" || name == "pnlMenuBar" || name == "pnlBoardCanvas" ||
+           name == "pnlScreen";
   };
   const auto end = std::stable_partition(targets.begin(), targets.end(), moves);
   if (end != targets.begin()) targets.erase(end, targets.end());
