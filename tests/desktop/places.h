@@ -1,6 +1,10 @@
-// Folders of a test's own, below a temporary one.
+// Folders of a test's own, below a temporary one, and the program that runs in them.
 #pragma once
 
+#include <gtest/gtest.h>
+
+#include <QDir>
+#include <QFile>
 #include <QTemporaryDir>
 
 #include "platform/desktop/desktop_program.h"
@@ -15,5 +19,39 @@ inline DesktopPlaces PlacesIn(const QTemporaryDir& folder) {
   places.runtimeFolder = folder.path() + "/run";
   return places;
 }
+
+class FolderTest : public testing::Test {
+ protected:
+  QString Native(const QString& name) const { return folder_.path() + '/' + name; }
+  std::string Spelled(const std::string& tail) const { return *SpelledPath(folder_.path()) + tail; }
+  // Makes the file and its folder anew, and tells where it is.
+  QString Make(const QString& name, const QByteArray& bytes) const {
+    QDir().mkpath(QFileInfo(Native(name)).path());
+    QFile::remove(Native(name));
+    QFile file(Native(name));
+    EXPECT_TRUE(file.open(QIODevice::WriteOnly) && file.write(bytes) == bytes.size()) << name.toStdString();
+    return Native(name);
+  }
+
+  QTemporaryDir folder_;
+};
+
+class ProgramTest : public FolderTest {
+ protected:
+  FormWindow& Window(const Form& form) {
+    for (FormWindow* window : program_.Windows()) {
+      if (window->objectName() == QString::fromStdString(form.Name())) return *window;
+    }
+    throw std::runtime_error("no window of " + form.Name());
+  }
+  template <typename T>
+  T& Widget(const char* name) {
+    return *program_.Console().findChild<T*>(name);
+  }
+
+  DesktopProgram program_{PlacesIn(folder_)};
+  Show& show_ = program_.TheShow();
+  MainForm& form_ = show_.frmMain;
+};
 
 }  // namespace pawnfield

@@ -1,8 +1,6 @@
 // Every form's controls have their widgets and the other way round; a user's action reaches the model, and a change of
 // the model is seen.
 
-#include <gtest/gtest.h>
-
 #include <QAbstractButton>
 #include <QLineEdit>
 #include <QTest>
@@ -17,19 +15,7 @@
 namespace pawnfield {
 namespace {
 
-class WindowsTest : public testing::Test {
- protected:
-  template <typename T>
-  T& Widget(const char* name) {
-    auto* widget = program_.Console().findChild<T*>(name);
-    EXPECT_NE(widget, nullptr) << name;
-    return *widget;
-  }
-
-  QTemporaryDir folder_;
-  DesktopProgram program_{PlacesIn(folder_)};
-  MainForm& form_ = program_.TheShow().frmMain;
-};
+using WindowsTest = ProgramTest;
 
 TEST_F(WindowsTest, EveryControlHasItsWidgetAndEveryWidgetItsControl) {
   for (FormWindow* window : program_.Windows()) {
@@ -38,48 +24,44 @@ TEST_F(WindowsTest, EveryControlHasItsWidgetAndEveryWidgetItsControl) {
   }
 }
 
-TEST_F(WindowsTest, EveryControlThatActsHasAnAccessibleName) {
-  for (const QWidget* widget : program_.Console().findChildren<QWidget*>()) {
-    const auto* button = qobject_cast<const QAbstractButton*>(widget);
-    const bool silent = button != nullptr ? button->text().isEmpty() : widget->inherits("QComboBox");
-    if (silent && !widget->objectName().startsWith("qt_")) {
-      EXPECT_FALSE(widget->accessibleName().isEmpty()) << widget->objectName().toStdString();
-    }
-  }
-}
-
-TEST_F(WindowsTest, NothingIsCutAtTheLeastSize) {
+TEST_F(WindowsTest, NothingIsCutAtTheLeastSizeAndWhatHasNoTextHasAName) {
   program_.Console().show();
   program_.Console().resize(program_.Console().minimumSize());
   QTest::qWait(50);
-  for (const QAbstractButton* button : program_.Console().findChildren<QAbstractButton*>()) {
-    if (!button->isVisible()) continue;
-    const QRect shown = button->visibleRegion().boundingRect();
-    EXPECT_EQ(shown, button->rect()) << button->objectName().toStdString();
-    EXPECT_LE(button->fontMetrics().horizontalAdvance(button->text()), button->width());
-    const bool lamp = button->property("role") == "lamp";
-    EXPECT_GE(button->height(), lamp ? 16 : 22) << button->objectName().toStdString();
+  for (const QWidget* widget : program_.Console().findChildren<QWidget*>()) {
+    const std::string name = widget->objectName().toStdString();
+    const auto* button = qobject_cast<const QAbstractButton*>(widget);
+    const bool silent = button != nullptr ? button->text().isEmpty() : widget->inherits("QComboBox");
+    EXPECT_FALSE(silent && name.rfind("qt_", 0) != 0 && widget->accessibleName().isEmpty()) << name;
+    if (button == nullptr || !button->isVisible()) continue;
+    EXPECT_EQ(button->visibleRegion().boundingRect(), button->rect()) << name;
+    EXPECT_LE(button->fontMetrics().horizontalAdvance(button->text()), button->width()) << name;
+    EXPECT_GE(button->height(), button->property("role") == "lamp" ? 16 : 22) << name;
   }
 }
 
 TEST(FittingScale, LowersOnlyWhatMakesTheConsoleLargerThanItsMonitor) {
-  EXPECT_EQ(FittingShare(1, 1280, 800), 1);
-  EXPECT_EQ(FittingShare(2, 3840, 2160), 1);
-  EXPECT_NEAR(1.5 * FittingShare(1.5, 1280, 800), 1.02, 0.01);
-  EXPECT_NEAR(2 * FittingShare(2, 1920, 1080), 1.38, 0.01);
-  EXPECT_NEAR(FittingShare(1, 1024, 768), 0.86, 0.01);
+  const struct {
+    double ratio;
+    int width, height;
+    double scale;
+  } cases[] = {
+      {1, 1280, 800, 1}, {2, 3840, 2160, 2}, {1.5, 1280, 800, 1.02}, {2, 1920, 1080, 1.38}, {1, 1024, 768, 0.86}};
+  for (const auto& [ratio, width, height, scale] : cases) {
+    EXPECT_NEAR(ratio * FittingShare(ratio, width, height), scale, 0.01) << ratio << ' ' << width;
+  }
 }
 
 TEST_F(WindowsTest, ButtonsClickTheirModelsOnlyWhenReachable) {
   int clicks = 0;
   form_.btnUndo.OnClick = [&] { ++clicks; };
-  form_.btnUndo.Enabled = true;
   auto& button = Widget<QAbstractButton>("btnUndo");
-  button.click();
-  form_.btnUndo.Enabled = false;
-  EXPECT_FALSE(button.isEnabled());
-  button.click();
-  EXPECT_EQ(clicks, 1);
+  for (const bool enabled : {true, false}) {
+    form_.btnUndo.Enabled = enabled;
+    EXPECT_EQ(button.isEnabled(), enabled);
+    button.click();
+    EXPECT_EQ(clicks, 1);
+  }
   form_.btnUndo.Caption = "Caf\xE9";
   EXPECT_EQ(button.text(), QString::fromUtf8("Caf\u00e9"));
   form_.btnUndo.Visible = false;
@@ -89,14 +71,15 @@ TEST_F(WindowsTest, ButtonsClickTheirModelsOnlyWhenReachable) {
 TEST_F(WindowsTest, OptionsFollowTheModelsChoice) {
   int chosen = 0;
   form_.optPlayers[0].OnClick = [&] { ++chosen; };
-  Widget<QAbstractButton>("optPlayers_0").click();
-  EXPECT_TRUE(form_.optPlayers[0].Value);
+  auto& first = Widget<QAbstractButton>("optPlayers_0");
   // A second press still runs the handler, and the mark stays.
-  Widget<QAbstractButton>("optPlayers_0").click();
-  EXPECT_EQ(chosen, 2);
-  EXPECT_TRUE(Widget<QAbstractButton>("optPlayers_0").isChecked());
+  for (const int times : {1, 2}) {
+    first.click();
+    EXPECT_EQ(chosen, times);
+    EXPECT_TRUE(form_.optPlayers[0].Value && first.isChecked());
+  }
   form_.optPlayers[1].SelectInGroup();
-  EXPECT_FALSE(Widget<QAbstractButton>("optPlayers_0").isChecked());
+  EXPECT_FALSE(first.isChecked());
   EXPECT_TRUE(Widget<QAbstractButton>("optPlayers_1").isChecked());
 }
 
@@ -130,40 +113,30 @@ TEST_F(WindowsTest, TypedTextReachesTheModelUnlessItCantBeSpelled) {
   line.setReadOnly(false);
   program_.Console().show();
   QTest::keyClicks(&line, "C4");
-  EXPECT_EQ(form_.txtDJCommand.Text.Get(), "C4");
-  EXPECT_EQ(changes, 2);
   line.setText(QString::fromUtf8("C4\u4e2d"));
   emit line.textEdited(line.text());
+  EXPECT_EQ(changes, 2);
   EXPECT_EQ(line.text(), "C4");
   EXPECT_EQ(form_.txtDJCommand.Text.Get(), "C4");
 }
 
-TEST_F(WindowsTest, SquaresAreHitWhereTheyStandAndNotThroughPanels) {
-  MakeGameBoard(program_.TheShow(), 885, 750, 5);
+TEST_F(WindowsTest, SquaresAreHitWhereTheyStandAndNotThroughPanelsWhichAreSeenInOrderOfZ) {
+  MakeGameBoard(show_, 885, 750, 5);
   program_.Console().resize(1280, 800);
   program_.Console().show();
   form_.picStandby.Visible = false;
   Canvas& board = program_.Console().Board();
   std::string hit;
   form_.img.ForEach([&](Image& square) { square.OnClick = [&] { hit += square.Name() + ' '; }; });
-  for (const auto& [row, column] : {std::pair{0, 0}, {2, 3}, {4, 4}}) {
+  const auto click = [&](int row, int column) {
     QTest::mouseClick(&board, Qt::LeftButton, {}, board.PixelRect(*form_.img.At(row, column)).center().toPoint());
-  }
-  EXPECT_EQ(hit, "img00 img23 img44 ");
-  form_.picQuestion.Visible = true;
-  QTest::mouseClick(&board, Qt::LeftButton, {}, board.PixelRect(*form_.img.At(0, 0)).center().toPoint());
-  EXPECT_EQ(hit, "img00 img23 img44 ");
-}
-
-TEST_F(WindowsTest, CanvasPaintsInOrderOfZAndAgainAfterAChange) {
-  Canvas& board = program_.Console().Board();
-  program_.Console().resize(1280, 800);
-  program_.Console().show();
-  form_.picStandby.Visible = false;
+  };
+  for (const auto& [row, column] : {std::pair{0, 0}, {2, 3}, {4, 4}}) click(row, column);
   form_.picBonus.BackColor = kRed;
-  form_.picBonus.Visible = true;
   form_.picMOD.BackColor = kGreen;
-  form_.picMOD.Visible = true;
+  form_.picBonus.Visible = form_.picMOD.Visible = true;
+  click(2, 2);
+  EXPECT_EQ(hit, "img00 img23 img44 ");
   const auto centre = [&] { return board.grab().toImage().pixelColor(board.rect().center()); };
   EXPECT_EQ(centre(), QColor(0, 255, 0));
   form_.picBonus.BringToFront();
@@ -173,13 +146,12 @@ TEST_F(WindowsTest, CanvasPaintsInOrderOfZAndAgainAfterAChange) {
 }
 
 TEST_F(WindowsTest, NamesAndScoresAreLegibleFromTheBackRow) {
-  FSMainForm& audience = program_.TheShow().frmFSMain;
-  Canvas& screen = program_.Audience().Screen();
+  FSMainForm& audience = show_.frmFSMain;
   for (const char* text :
        {"PLAYER 1", "THE MAGNIFICENT SEVENTH GRADERS", "CHRISTOPHER-ALEXANDER", "-999999", "-1000050"}) {
     for (Label* label : {&audience.lblPlayer[0], &audience.Label11[2]}) {
       label->Caption = text;
-      EXPECT_GE(screen.LetterHeight(*label), audience.Height / 40) << text;
+      EXPECT_GE(program_.Audience().Screen().LetterHeight(*label), audience.Height / 40) << text;
     }
   }
 }
@@ -189,27 +161,23 @@ TEST_F(WindowsTest, CloseBoxAsksTheForm) {
   int asked = 0;
   form_.OnQueryUnload = [&] { return ++asked, mayClose; };
   form_.Visible = true;
-  program_.Console().close();
-  EXPECT_TRUE(form_.Visible);
-  mayClose = true;
-  program_.Console().close();
-  EXPECT_EQ(asked, 2);
-  EXPECT_FALSE(form_.Visible);
-  EXPECT_TRUE(program_.Console().isHidden());
+  for (const int times : {1, 2}) {
+    program_.Console().close();
+    EXPECT_EQ(asked, times);
+    EXPECT_EQ(form_.Visible, !mayClose);
+    EXPECT_EQ(program_.Console().isHidden(), mayClose);
+    mayClose = true;
+  }
 }
 
 TEST_F(WindowsTest, ModalFormReturnsWhenItEnds) {
-  GameTypeHelpForm& help = program_.TheShow().frmGameTypeHelp;
+  GameTypeHelpForm& help = show_.frmGameTypeHelp;
   help.btnOk.OnClick = [&] { help.Unload(); };
-  FormWindow* window = nullptr;
-  for (FormWindow* each : program_.Windows()) {
-    if (each->objectName() == "frmGameTypeHelp") window = each;
-  }
-  ASSERT_NE(window, nullptr);
-  QTimer::singleShot(50, window, [&] { window->findChild<QAbstractButton*>("btnOk")->click(); });
-  program_.TheShow().platform.dialogs.ShowModal(help);
+  FormWindow& window = Window(help);
+  QTimer::singleShot(50, &window, [&] { window.findChild<QAbstractButton*>("btnOk")->click(); });
+  show_.platform.dialogs.ShowModal(help);
   EXPECT_FALSE(help.Visible);
-  EXPECT_TRUE(window->isHidden());
+  EXPECT_TRUE(window.isHidden());
 }
 
 }  // namespace
