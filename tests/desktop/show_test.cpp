@@ -1,118 +1,145 @@
-// Whole games in the real windows on two monitors, pressed with the mouse.
+// Whole games in the real windows on two monitors, by keys alone, which come from the display server, and by mouse.
 
-#include <gtest/gtest.h>
-
+#include <QEvent>
 #include <QGuiApplication>
-#include <QKeyEvent>
-#include <QProcess>
 #include <QScreen>
-#include <QTemporaryDir>
+#include <QTimer>
 #include <QWindow>
 
-#include "show_driver.h"
+#include "show_suite.h"
 
 namespace pawnfield {
 namespace {
 
-// The program comes up once; its splash takes longer than the games.
-class ShowTest : public testing::Test {
+class ShowTest : public ShowSuite {
  protected:
-  static void SetUpTestSuite() {
-    folder_ = new QTemporaryDir;
-    driver_ = new ShowDriver(folder_->path());
-    started_ = driver_->Start();
+  void SetUp() override {
+    ShowSuite::SetUp();
+    Console().activateWindow();
+    ASSERT_TRUE(Wait([] { return Console().isActiveWindow(); }));
   }
-  static void TearDownTestSuite() {
-    delete driver_;
-    delete folder_;
+  static bool Keys(const QString& keys) { return driver_->Type(keys.split(' ')); }
+  // Goes there from control to control and presses it.
+  void SpaceOn(const QString& widget) {
+    const auto there = [&] { return Console().focusWidget() && Console().focusWidget()->objectName() == widget; };
+    for (int i = 0; i < 150 && !there(); ++i) Keys("Tab");
+    ASSERT_TRUE(there()) << widget.toStdString();
+    Keys("space");
   }
-  void SetUp() override { ASSERT_TRUE(started_); }
-  static MainForm& Main() { return driver_->TheShow().frmMain; }
-  static FSMainForm& Audience() { return driver_->TheShow().frmFSMain; }
-  static bool Wait(const std::function<bool()>& condition) { return driver_->WaitFor(condition); }
-  static bool Claimed(int row, int column) {
-    return driver_->TheShow().state.Board[static_cast<std::size_t>(row)][static_cast<std::size_t>(column)] != 0;
+  void ChooseFirstSet() {
+    ASSERT_NO_FATAL_FAILURE(SpaceOn("cboList"));
+    driver_->Pause(300);
+    Keys("Down Return");
+    ASSERT_TRUE(Wait([] { return Main().btnStart.Enabled.Get(); }));
+    ASSERT_NO_FATAL_FAILURE(SpaceOn("btnStart"));
+    ASSERT_TRUE(Main().picQuestion.Visible && Audience().picQuestion.Visible);
   }
-
-  static inline QTemporaryDir* folder_ = nullptr;
-  static inline ShowDriver* driver_ = nullptr;
-  static inline bool started_ = false;
+  static int Owner(std::size_t row, std::size_t column) { return TheShow().state.Board[row][column]; }
+  struct Move {
+    const char* keys;
+    std::size_t row, column;
+    int player;
+  };
+  // Judges and claims by keys; the flash ends before the next question may come.
+  void Play(std::initializer_list<Move> moves) {
+    for (const auto& [keys, row, column, player] : moves) {
+      ASSERT_TRUE(Keys(keys)) << keys;
+      EXPECT_EQ(Owner(row, column), player) << keys;
+      ASSERT_TRUE(Wait([] { return Main().btnContinue.Enabled || Main().picWinner.Visible; })) << keys;
+    }
+  }
+  GameState& state_ = TheShow().state;
 };
 
-TEST_F(ShowTest, WindowsStandOnTheirMonitors) {
+// Counts what is painted of a widget.
+class PaintCount : public QObject {
+ public:
+  explicit PaintCount(QWidget& widget) { widget.installEventFilter(this); }
+  bool eventFilter(QObject*, QEvent* event) override {
+    if (event->type() == QEvent::Paint) ++Paints;
+    return false;
+  }
+  int Paints = 0;
+};
+
+TEST_F(ShowTest, WindowsStandOnTheirMonitorsAndArePaintedBeforeAPause) {
   const auto screens = QGuiApplication::screens();
   ASSERT_EQ(screens.size(), 2);
-  EXPECT_EQ(driver_->Program().Audience().geometry(), screens[1]->geometry());
-  EXPECT_EQ(driver_->Program().Console().windowHandle()->screen(), screens[0]);
-  EXPECT_TRUE(screens[0]->geometry().contains(driver_->Program().Console().frameGeometry()));
-  EXPECT_FALSE(driver_->Program().Audience().isActiveWindow());
-}
-
-TEST_F(ShowTest, TriviaModeAGoesFromSetToWinner) {
-  ASSERT_TRUE(driver_->Press("optGameType_2"));
-  ASSERT_TRUE(driver_->Choose("cboList", "General Knowledge 1"));
-  ASSERT_TRUE(Wait([] { return Main().btnStart.Enabled.Get(); }));
-  ASSERT_TRUE(driver_->Press("btnStart"));
-  EXPECT_TRUE(Main().picQuestion.Visible);
-  EXPECT_TRUE(Audience().picQuestion.Visible);
-  EXPECT_EQ(Main().lblAnswer.Caption.Get(), "Canberra");
-  ASSERT_TRUE(driver_->Press("btnQuestionCorrect"));
-  ASSERT_TRUE(Wait([] { return !Main().picCorrect.Visible && !Main().picQuestion.Visible; }));
-  ASSERT_TRUE(driver_->PressSquare(1, 1));
-  EXPECT_TRUE(Claimed(1, 1));
-  EXPECT_EQ(Main().lblP1Score.Caption.Get(), "50");
-  EXPECT_EQ(Audience().Label11[0].Caption.Get(), "50");
-  EXPECT_TRUE(Wait([] { return Audience().img.At(1, 1)->Picture->find("X-100") != std::string::npos; }));
-  if (Wait([] { return Main().btnContinue.Enabled || Main().picQuestion.Visible; }) && Main().btnContinue.Enabled) {
-    driver_->Press("btnContinue");
+  EXPECT_EQ(Screen().geometry(), screens[1]->geometry());
+  EXPECT_EQ(Console().windowHandle()->screen(), screens[0]);
+  EXPECT_TRUE(screens[0]->geometry().contains(Console().frameGeometry()));
+  PaintCount board(Console().Board()), audience(Screen().Screen());
+  for (const bool shown : {false, true}) {
+    board.Paints = audience.Paints = 0;
+    Main().picStandby.Visible = Audience().picStandby.Visible = shown;
+    TheShow().platform.clock.Pause(1);
+    EXPECT_EQ(std::pair(board.Paints, audience.Paints), std::pair(1, 1));
   }
-  ASSERT_TRUE(Wait([] { return Main().picQuestion.Visible.Get(); }));
-  ASSERT_TRUE(driver_->Press("btnQuestionIncorrect"));
-  EXPECT_TRUE(Wait([] { return Main().btnEndGame.Enabled.Get(); }));
-  ASSERT_TRUE(driver_->Press("btnEndGame"));
-  EXPECT_TRUE(Wait([] { return Main().picWinner.Visible && Audience().picWinner.Visible; }));
-  EXPECT_NE(Audience().lblWinner.Caption->find("PLAYER 1"), std::string::npos);
-  EXPECT_TRUE(driver_->WaitFor([] { return !Main().picWinner.Visible; }, 12000));
 }
 
-TEST_F(ShowTest, ChallengeTakesSquaresFromBothScreens) {
+TEST_F(ShowTest, TriviaModeAFromItsOptionsToTheWinnerByKeys) {
+  ASSERT_TRUE(Wait([] { return Main().fraGridControl.Enabled.Get(); }));
+  for (const char* option : {"optGameType_2", "optPlayers_0", "optGridControl_0", "optGameEnds_0", "cboAutoContinue"})
+    ASSERT_NO_FATAL_FAILURE(SpaceOn(option));
+  driver_->Pause(300);
+  Keys("Down Down Down Return");
+  EXPECT_EQ(state_.AutoContinue, kUserAdvances);
+  ASSERT_NO_FATAL_FAILURE(ChooseFirstSet());
+  ASSERT_NO_FATAL_FAILURE(Play({
+      {"y a 1 Return", 0, 0, 1},
+      {"c y b 3 BackSpace 2 Return", 1, 1, 2},
+      {"c n y a 2 Return", 1, 0, 2},
+  }));
+  Keys("ctrl+u");
+  EXPECT_EQ(Owner(1, 0), 0);
+  ASSERT_NO_FATAL_FAILURE(Play({{"a 2 Return", 1, 0, 2}}));
+  Keys("c ctrl+s");
+  EXPECT_FALSE(Main().picQuestion.Visible);
+  ASSERT_NO_FATAL_FAILURE(Play({{"c y b 1 Return", 0, 1, 1}, {"c y c 2 Return", 1, 2, 2}}));
+  EXPECT_TRUE(Audience().picWinner.Visible);
+  EXPECT_NE(Main().lblWinner.Caption->find("PLAYER 2"), std::string::npos);
+  EXPECT_TRUE(Wait([] { return !Main().picWinner.Visible; }, 12000));
+}
+
+TEST_F(ShowTest, TriviaModeCByAHeldKeyWithTheNamesOpen) {
+  ASSERT_NO_FATAL_FAILURE(SpaceOn("optGameType_4"));
+  ASSERT_NO_FATAL_FAILURE(ChooseFirstSet());
+  ASSERT_EQ(QProcess::execute("xdotool", {"keydown", "2", "sleep", "1.2", "keyup", "2"}), 0);
+  EXPECT_TRUE(Wait([this] { return state_.CurrentPlayer == 2; }));
+  Keys("3");
+  EXPECT_EQ(state_.CurrentPlayer, 2);
+  Keys("n");
+  bool shown = false;
+  QTimer::singleShot(600, &Console(), [&] {
+    shown = TheShow().frmPlayerNames.Visible;
+    QProcess::startDetached("xdotool", {"key", "1", "y", "Escape"});
+  });
+  Keys("ctrl+z");
+  EXPECT_TRUE(shown && Wait([] { return !TheShow().frmPlayerNames.Visible; }));
+  EXPECT_EQ(state_.CurrentPlayer, 0) << "what is typed into a box stays there";
+  ASSERT_NO_FATAL_FAILURE(
+      Play({{"1 y a 1 Return", 0, 0, 1}, {"c 1 y b 2 Return", 1, 1, 1}, {"c 1 y c 3 Return", 2, 2, 1}}));
+  EXPECT_TRUE(Audience().picWinner.Visible);
+  EXPECT_TRUE(Wait([] { return !Main().picWinner.Visible; }, 12000));
+}
+
+TEST_F(ShowTest, ChallengeTakesSquaresFromBothScreensAndFromKeysWhereverTheFocusIs) {
   ASSERT_TRUE(Wait([] { return Main().optGameType[0].Enabled.Get(); }));
-  ASSERT_TRUE(driver_->Press("optGameType_0"));
-  ASSERT_TRUE(driver_->Press("btnStart"));
+  ASSERT_TRUE(Press({"optGameType_0", "btnStart"}));
   ASSERT_TRUE(driver_->PressSquare(0, 0));
-  EXPECT_TRUE(Wait([] { return Claimed(0, 0); }));
+  EXPECT_TRUE(Wait([] { return Owner(0, 0) != 0; }));
   driver_->Pause(1500);
-  ASSERT_TRUE(driver_->PressAudienceSquare(4, 1));
-  EXPECT_TRUE(Wait([] { return Claimed(4, 1); }));
-  // The board's own squares hold what the model says on both screens.
-  EXPECT_TRUE(Wait([] { return Main().img.At(4, 1)->Picture == Audience().img.At(4, 1)->Picture.Get(); }));
-}
-
-TEST_F(ShowTest, TypedKeysClaimASquareWhereverTheFocusIs) {
-  QWidget& console = driver_->Program().Console();
-  ASSERT_TRUE(Wait([] { return Main().btnUndo.Enabled && driver_->TheShow().state.PlacementOpen; }));
-  console.activateWindow();
-  ASSERT_TRUE(Wait([&] { return console.isActiveWindow(); }));
-  console.findChild<QWidget*>("btnStopSounds")->setFocus();
-  for (const QString key : {"c", "5", "\r"}) {
-    QWidget* focus = console.focusWidget() != nullptr ? console.focusWidget() : &console;
-    QKeyEvent press(QEvent::KeyPress, key == "\r" ? Qt::Key_Return : Qt::Key_A, Qt::NoModifier, key);
-    QCoreApplication::sendEvent(focus, &press);
-  }
-  EXPECT_TRUE(Wait([] { return Claimed(4, 2); }));
-  EXPECT_EQ(driver_->TheShow().state.LastSquareKey, "42");
-}
-
-TEST_F(ShowTest, UnpluggedProjectorLeavesTheConsoleAlone) {
-  const auto xrandr = [](const QStringList& arguments) { return QProcess::execute("xrandr", arguments) == 0; };
-  QWidget& audience = driver_->Program().Audience();
-  const QRect console = driver_->Program().Console().geometry();
-  ASSERT_TRUE(xrandr({"--output", "DUMMY1", "--off"}));
-  EXPECT_TRUE(Wait([&] { return !audience.isVisible(); }));
-  EXPECT_TRUE(driver_->Program().Console().isVisible());
-  EXPECT_EQ(driver_->Program().Console().geometry(), console);
-  ASSERT_TRUE(xrandr({"--output", "DUMMY1", "--mode", "1920x1080", "--pos", "1280x0"}));
-  EXPECT_TRUE(Wait([&] { return audience.isVisible() && audience.geometry() == QRect(1280, 0, 1920, 1080); }));
+  ASSERT_TRUE(driver_->PressAudienceSquare(2, 1));
+  EXPECT_TRUE(Wait([] { return Owner(2, 1) != 0; }));
+  EXPECT_TRUE(Wait([] {
+    const std::string seen = Audience().img.At(2, 1)->Picture;
+    return seen.find("-100") != std::string::npos && Main().img.At(2, 1)->Picture == seen;
+  })) << "turned over on both screens";
+  ASSERT_TRUE(Wait([this] { return Main().btnUndo.Enabled && state_.PlacementOpen; }));
+  Console().findChild<QWidget*>("btnStopSounds")->setFocus();
+  Keys("c 2 Return");
+  EXPECT_TRUE(Wait([] { return Owner(1, 2) != 0; }));
+  EXPECT_EQ(state_.LastSquareKey, "12");
 }
 
 }  // namespace

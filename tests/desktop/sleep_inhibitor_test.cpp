@@ -31,30 +31,22 @@ class SaverService : public QDBusVirtualObject {
   QString who;
 };
 
-class SleepInhibitorTest : public testing::Test {
- protected:
-  void SetUp() override {
-    daemon_.start("dbus-daemon", {"--session", "--nofork", "--print-address"});
-    ASSERT_TRUE(daemon_.waitForStarted() && daemon_.waitForReadyRead());
-    address_ = QString::fromLatin1(daemon_.readLine()).trimmed();
-  }
-  void TearDown() override {
-    for (const char* name : {"services", "program", "nowhere"}) QDBusConnection::disconnectFromBus(name);
-    daemon_.terminate();
-    daemon_.waitForFinished();
-  }
-  QDBusConnection Bus(const char* name) { return QDBusConnection::connectToBus(address_, name); }
-
-  QProcess daemon_;
-  QString address_;
-};
-
-TEST_F(SleepInhibitorTest, HoldsOnceAndGivesBackAlsoWhatComesLate) {
+TEST(SleepInhibitorTest, HoldsOnceGivesBackAlsoWhatComesLateAndBearsAbsentServices) {
+  QProcess daemon;
+  daemon.start("dbus-daemon", {"--session", "--nofork", "--print-address"});
+  ASSERT_TRUE(daemon.waitForStarted() && daemon.waitForReadyRead());
+  const QString address = QString::fromLatin1(daemon.readLine()).trimmed();
+  const auto bus = [&](const char* name) { return QDBusConnection::connectToBus(address, name); };
+  const QDBusConnection none("none");
   SaverService saver;
-  QDBusConnection services = Bus("services");
+  SleepInhibitor inhibitor(bus("program"), bus("nowhere")), noBus(none, none);
+  for (SleepInhibitor* early : {&inhibitor, &noBus}) early->Hold();
+  QTest::qWait(100);
+  for (SleepInhibitor* early : {&inhibitor, &noBus}) early->Release();
+
+  QDBusConnection services = bus("services");
   ASSERT_TRUE(services.registerVirtualObject("/org/freedesktop/ScreenSaver", &saver));
   ASSERT_TRUE(services.registerService("org.freedesktop.ScreenSaver"));
-  SleepInhibitor inhibitor(Bus("program"), QDBusConnection("none"));
   inhibitor.Hold();
   inhibitor.Hold();
   EXPECT_TRUE(QTest::qWaitFor([&] { return saver.held.size() == 1; }, 2000));
@@ -65,16 +57,9 @@ TEST_F(SleepInhibitorTest, HoldsOnceAndGivesBackAlsoWhatComesLate) {
   inhibitor.Hold();
   inhibitor.Release();
   EXPECT_TRUE(QTest::qWaitFor([&] { return saver.last == 2 && saver.held.empty(); }, 2000));
-}
-
-TEST_F(SleepInhibitorTest, AbsentServicesAndBusesAreNoMatter) {
-  SleepInhibitor noService(Bus("program"), Bus("nowhere"));
-  noService.Hold();
-  SleepInhibitor noBus(QDBusConnection("none"), QDBusConnection("none"));
-  noBus.Hold();
-  QTest::qWait(100);
-  noService.Release();
-  noBus.Release();
+  for (const char* name : {"services", "program", "nowhere"}) QDBusConnection::disconnectFromBus(name);
+  daemon.terminate();
+  daemon.waitForFinished();
 }
 
 }  // namespace

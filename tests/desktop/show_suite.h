@@ -1,0 +1,49 @@
+// One program in its real windows for all tests of a suite: its splash takes longer than the games.
+#pragma once
+
+#include <gtest/gtest.h>
+
+#include <QProcess>
+#include <QTemporaryDir>
+
+#include "show_driver.h"
+
+namespace pawnfield {
+
+class ShowSuite : public testing::Test {
+ protected:
+  static constexpr const char* kOneMonitor = "--output DUMMY1 --off";
+  static constexpr const char* kTwoMonitors =
+      "--output DUMMY0 --pos 0x0 --primary --output DUMMY1 --mode 1920x1080 --pos 1280x0";
+
+  static void SetUpTestSuite() { Begin(kTwoMonitors); }
+  static void Begin(const char* monitors) {
+    ready_ = Xrandr(monitors);
+    folder_ = new QTemporaryDir;
+    driver_ = new ShowDriver(folder_->path());
+    ready_ = ready_ && driver_->Start();
+  }
+  static void TearDownTestSuite() {
+    delete driver_;
+    delete folder_;
+    Xrandr(kTwoMonitors);
+  }
+  void SetUp() override { ASSERT_TRUE(ready_); }
+
+  static bool Xrandr(const QString& arguments) { return QProcess::execute("xrandr", arguments.split(' ')) == 0; }
+  static bool Wait(const std::function<bool()>& condition, int ms = 8000) { return driver_->WaitFor(condition, ms); }
+  static bool Press(const QStringList& widgets) {
+    return std::all_of(widgets.begin(), widgets.end(), [](const QString& widget) { return driver_->Press(widget); });
+  }
+  static Show& TheShow() { return driver_->TheShow(); }
+  static MainForm& Main() { return TheShow().frmMain; }
+  static FSMainForm& Audience() { return TheShow().frmFSMain; }
+  static ConsoleWindow& Console() { return driver_->Program().Console(); }
+  static AudienceWindow& Screen() { return driver_->Program().Audience(); }
+
+  static inline QTemporaryDir* folder_ = nullptr;
+  static inline ShowDriver* driver_ = nullptr;
+  static inline bool ready_ = false;
+};
+
+}  // namespace pawnfield
