@@ -15,7 +15,7 @@
 #include "counted_film.h"
 #include "media/media_on_demand.h"
 #include "platform/desktop/native_path.h"
-#include "show_driver.h"
+#include "show_suite.h"
 
 namespace pawnfield {
 namespace {
@@ -24,68 +24,48 @@ constexpr int kFilmSeconds = 20;
 constexpr int kPictureKey = 'P' - 56, kFilmKey = 'F' - 56;
 
 // The program starts with one monitor.
-class MediaShowTest : public testing::Test {
+class MediaShowTest : public ShowSuite {
  protected:
   static void SetUpTestSuite() {
-    Xrandr("--output DUMMY1 --off");
-    folder_ = new QTemporaryDir;
-    driver_ = new ShowDriver(folder_->path());
-    ready_ = driver_->Start() && MakeCountedFilm(Film(), kFilmSeconds) && driver_->Press("optGameType_0") &&
-             driver_->Press("btnStart");
+    Begin(kOneMonitor);
+    ready_ = ready_ && MakeCountedFilm(Film(), kFilmSeconds) && Press({"optGameType_0", "btnStart"});
     TheShow().soundBanks[1][kFilmKey] = *SpelledPath(Film());
     TheShow().soundBanks[1][kPictureKey] = TheShow().AppPath("\\Question Backgrounds\\7.jpg");
   }
-  static void TearDownTestSuite() {
-    delete driver_;
-    delete folder_;
-    Xrandr("--output DUMMY1 --mode 1920x1080 --pos 1280x0");
-  }
-  void SetUp() override { ASSERT_TRUE(ready_); }
   void TearDown() override {
     PressPlayer("pnlPlayerStop");
-    EXPECT_TRUE(WaitFor([] { return !Console().picMOD.Visible && !Audience().picMOD.Visible; }));
+    EXPECT_TRUE(Wait(Gone));
   }
 
-  static bool Xrandr(const QString& arguments) { return QProcess::execute("xrandr", arguments.split(' ')) == 0; }
-  static bool Plug() { return Xrandr("--output DUMMY1 --mode 1920x1080 --pos 1280x0"); }
-  static bool Unplug() { return Xrandr("--output DUMMY1 --off"); }
   static QString Film() { return folder_->path() + "/film.mp4"; }
-  static Show& TheShow() { return driver_->TheShow(); }
-  static MainForm& Console() { return TheShow().frmMain; }
-  static FSMainForm& Audience() { return TheShow().frmFSMain; }
-  static bool WaitFor(const std::function<bool()>& condition) { return driver_->WaitFor(condition); }
-  static void PressPlayer(const char* button) { driver_->Program().Console().findChild<QPushButton*>(button)->click(); }
+  static void PressPlayer(const char* button) { Console().findChild<QPushButton*>(button)->click(); }
+  static bool Gone() { return !Main().picMOD.Visible && !Audience().picMOD.Visible; }
   // The frames on the console and on the audience's screen, from one look at the whole desktop.
   static std::pair<int, int> Seen() {
     const QImage desktop = QGuiApplication::primaryScreen()->grabWindow(0, 0, 0, 3200, 1080).toImage();
-    return {CountedFrame(desktop, ConsoleFilm(driver_->Program().Console())),
-            CountedFrame(desktop, AudienceFilm(driver_->Program().Audience()))};
+    return {CountedFrame(desktop, ConsoleFilm(Console())), CountedFrame(desktop, AudienceFilm(Screen()))};
   }
   static bool FilmRunsOnBoth() {
-    return WaitFor([] {
+    return Wait([] {
       const auto [console, audience] = Seen();
       return console > 0 && console == audience;
     });
   }
   static void PlayFilm() {
     ASSERT_TRUE(driver_->Type({"f"}));
-    ASSERT_TRUE(WaitFor([] { return Seen().first > 0; }));
+    ASSERT_TRUE(Wait([] { return Seen().first > 0; }));
   }
-
-  static inline QTemporaryDir* folder_ = nullptr;
-  static inline ShowDriver* driver_ = nullptr;
-  static inline bool ready_ = false;
 };
 
 TEST_F(MediaShowTest, ARunningFilmComesToAScreenThatIsPluggedIn) {
   PlayFilm();
   EXPECT_FALSE(TheShow().state.DualScreen);
-  ASSERT_TRUE(Plug());
+  ASSERT_TRUE(Xrandr(kTwoMonitors));
   EXPECT_TRUE(FilmRunsOnBoth());
-  ASSERT_TRUE(Unplug());
-  EXPECT_TRUE(WaitFor([] { return !driver_->Program().Audience().isVisible(); }));
+  ASSERT_TRUE(Xrandr(kOneMonitor));
+  EXPECT_TRUE(Wait([] { return !Screen().isVisible(); }));
   const int before = Seen().first;
-  ASSERT_TRUE(Plug());
+  ASSERT_TRUE(Xrandr(kTwoMonitors));
   EXPECT_TRUE(FilmRunsOnBoth());
   EXPECT_GT(Seen().first, before);
 }
@@ -94,24 +74,24 @@ TEST_F(MediaShowTest, TheOperatorsControlsAreSeenOnBothScreens) {
   PlayFilm();
   EXPECT_TRUE(FilmRunsOnBoth());
   PressPlayer("pnlPlayerPlay");
-  EXPECT_TRUE(WaitFor([] { return Audience().MediaPlayer1.PlayState == 2; }));
+  EXPECT_TRUE(Wait([] { return Audience().MediaPlayer1.PlayState == 2; }));
   driver_->Pause(100);
   const auto held = Seen();
   EXPECT_EQ(held.first, held.second);
   driver_->Pause(300);
   EXPECT_EQ(Seen(), held) << "paused";
-  auto* position = driver_->Program().Console().findChild<QSlider*>("pnlPlayerPosition");
+  auto* position = Console().findChild<QSlider*>("pnlPlayerPosition");
   position->setSliderPosition(500);
   emit position->actionTriggered(QAbstractSlider::SliderMove);
   const std::pair middle(kFilmSeconds / 2 * kCountedFramesPerSecond, kFilmSeconds / 2 * kCountedFramesPerSecond);
-  EXPECT_TRUE(WaitFor([&] { return Seen() == middle; })) << Seen().first << ' ' << Seen().second;
+  EXPECT_TRUE(Wait([&] { return Seen() == middle; })) << Seen().first << ' ' << Seen().second;
   PressPlayer("pnlPlayerPlay");
-  EXPECT_TRUE(WaitFor([&] { return Seen().first > middle.first && FilmRunsOnBoth(); }));
+  EXPECT_TRUE(Wait([&] { return Seen().first > middle.first && FilmRunsOnBoth(); }));
 }
 
 TEST_F(MediaShowTest, APictureIsWholeAndAsLargeAsTheAudiencesScreenLetsIt) {
-  ASSERT_TRUE(Plug());
-  ASSERT_TRUE(WaitFor([] { return driver_->Program().Audience().isVisible(); }));
+  ASSERT_TRUE(Xrandr(kTwoMonitors));
+  ASSERT_TRUE(Wait([] { return Screen().isVisible(); }));
   // An edge of its own colour tells that nothing of the picture is cut off.
   const struct {
     QSize picture;
@@ -125,7 +105,7 @@ TEST_F(MediaShowTest, APictureIsWholeAndAsLargeAsTheAudiencesScreenLetsIt) {
     ASSERT_TRUE(picture.save(file));
     TheShow().soundBanks[1][kPictureKey] = *SpelledPath(file);
     ASSERT_TRUE(driver_->Type({"p"}));
-    const QImage seen = driver_->Program().Audience().Screen().grab().toImage();
+    const QImage seen = Screen().Screen().grab().toImage();
     const QRect inside = row.seen.adjusted(3, 3, -3, -3);
     for (const QPoint corner : {inside.topLeft(), inside.bottomRight()}) {
       EXPECT_EQ(seen.pixelColor(corner), QColor(Qt::red)) << row.picture.width() << " wide";
@@ -134,7 +114,7 @@ TEST_F(MediaShowTest, APictureIsWholeAndAsLargeAsTheAudiencesScreenLetsIt) {
     EXPECT_EQ(seen.pixelColor(std::max(0, row.seen.left() - 3), 500),
               QColor(row.seen.left() > 0 ? Qt::black : Qt::red));
   }
-  Console().tmrMODPicture.Fire();
+  Main().tmrMODPicture.Fire();
 }
 
 TEST_F(MediaShowTest, AFilmWhoseFileIsRemovedPlaysOnAndItsKeyIsSilentThen) {
@@ -142,11 +122,11 @@ TEST_F(MediaShowTest, AFilmWhoseFileIsRemovedPlaysOnAndItsKeyIsSilentThen) {
   PlayFilm();
   ASSERT_TRUE(QFile::rename(Film(), kept));
   const int before = Seen().first;
-  EXPECT_TRUE(WaitFor([&] { return Seen().first > before + kCountedFramesPerSecond; }));
+  EXPECT_TRUE(Wait([&] { return Seen().first > before + kCountedFramesPerSecond; }));
   PressPlayer("pnlPlayerStop");
-  EXPECT_TRUE(WaitFor([] { return !Console().picMOD.Visible; }));
+  EXPECT_TRUE(Wait([] { return !Main().picMOD.Visible; }));
   ASSERT_TRUE(driver_->Type({"f"}));
-  EXPECT_FALSE(Console().picMOD.Visible);
+  EXPECT_FALSE(Main().picMOD.Visible);
   ASSERT_TRUE(QFile::rename(kept, Film()));
 }
 
@@ -161,7 +141,7 @@ TEST_F(MediaShowTest, ADamagedFilmShowsWhatItHasAndGoes) {
   TheShow().soundBanks[1]['D' - 56] = *SpelledPath(damaged);
   PlayKeyMedia(TheShow(), 'D' - 56);
   EXPECT_TRUE(FilmRunsOnBoth());
-  EXPECT_TRUE(driver_->WaitFor([] { return !Console().picMOD.Visible && !Audience().picMOD.Visible; }, 6000));
+  EXPECT_TRUE(Wait(Gone, 6000));
   PlayFilm();
 }
 
@@ -169,14 +149,14 @@ TEST_F(MediaShowTest, KeysDuringAFilmReplaceItOrLeaveItAndTheShowGoesOn) {
   PlayFilm();
   const int before = Seen().first;
   ASSERT_TRUE(driver_->Type({"f"}));
-  EXPECT_TRUE(WaitFor([&] { return Seen().first >= 0 && Seen().first < before + 3; })) << "the film starts anew";
+  EXPECT_TRUE(Wait([&] { return Seen().first >= 0 && Seen().first < before + 3; })) << "the film starts anew";
   EXPECT_TRUE(FilmRunsOnBoth());
   ASSERT_TRUE(driver_->Type({"a"}));
   EXPECT_TRUE(FilmRunsOnBoth());
-  EXPECT_EQ(Console().txtDJCommand.Text.Get(), "A") << "half a square is typed";
+  EXPECT_EQ(Main().txtDJCommand.Text.Get(), "A") << "half a square is typed";
   ASSERT_TRUE(driver_->Type({"p"}));
   EXPECT_TRUE(Audience().picImageResize[1].IsShown());
-  EXPECT_FALSE(Audience().picMODVideo.IsShown() || Console().picMODVideo.IsShown());
+  EXPECT_FALSE(Audience().picMODVideo.IsShown() || Main().picMODVideo.IsShown());
 }
 
 }  // namespace
