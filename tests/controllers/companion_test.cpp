@@ -1,10 +1,9 @@
 // The report to the companion as bytes, who sends it when, and the life of its flags.
 #include "controllers/companion.h"
 
-#include "../support/show_fixture.h"
 #include "controllers/ring_in.h"
 #include "controllers/transceiver.h"
-#include "engine/judging.h"
+#include "support/game_player.h"
 
 namespace pawnfield {
 namespace {
@@ -28,20 +27,18 @@ TEST(CompanionReport, FollowsTheFormat) {
   for (const auto& [report, text] : cases) EXPECT_EQ(ReportText(report), text);
 }
 
-class Companion : public ShowFixture, public testing::Test {
- protected:
-  void StartWith(int gameType = kTriviaModeC) {
-    sim.hid.PlugTransceiver();
-    Preset("TSSupport", "True");
-    Preset("AutoContinue", "6");
-    Preset("GameType", std::to_string(gameType));
-    WriteNumberedSet("Keys", 20);
-    Start();
-    EXPECT_EQ(TakeReports(), kAll) << "the console comes up";
+constexpr const char* kAll = "1:139FF 2:140FF 3:141FF";
+
+// A game of that type for three, not started, whose companion has had the reports of the console's coming up.
+class Companion : public GamePlayer {
+ public:
+  explicit Companion(const std::string& setup, Screens screens = Screens::Two)
+      : GamePlayer(setup + " TSSupport=True", screens) {
+    TakeReports();
   }
   // The texts that the transceiver was given, put together from their six pieces behind a header.
   std::vector<std::string> TakeTexts() {
-    while (show().frmAlwaysLoaded.tmrCompanion.Enabled) sim.clock.Advance(2);
+    while (show().frmAlwaysLoaded.tmrCompanion.Enabled) fixture().sim.clock.Advance(2);
     std::vector<std::string> texts;
     for (std::size_t i = 0; i < sim.hid.Writes.size(); ++i) {
       const std::string& report = sim.hid.Writes[i].Report;
@@ -59,92 +56,83 @@ class Companion : public ShowFixture, public testing::Test {
     }
     return taken;
   }
-  static constexpr const char* kAll = "1:139FF 2:140FF 3:141FF";
+
+  SimPlatform& sim = fixture().sim;
 };
 
-TEST_F(Companion, HearsOfEveryStepOfARingInGame) {
-  StartWith();
-  const std::tuple<const char*, std::function<void()>, const char*> steps[] = {
-      {"a set is ready", [&] { ChooseSet("Keys"); }, kAll},
-      {"started", [&] { form().btnStart.Click(); }, ""},
-      {"rung in", [&] { form().KeyPress('2'); }, ""},
-      {"incorrect", [&] { form().btnQuestionIncorrect.Click(); }, "2:140FT"},
-      {"rung in again", [&] { form().KeyPress('3'); }, ""},
-      {"correct", [&] { form().btnQuestionCorrect.Click(); }, "3:141TF"},
-      {"a verdict is reported once", [&] { Claim(0, 0); }, "3:141FF"},
-      {"claimed", [&] { sim.clock.Advance(2000); }, ""},
-      {"undone", [&] { form().btnUndo.Click(); }, "3:141FF"},
-      {"skipped", [&] { form().btnSkipQuestion.Click(); }, kAll},
-      {"cleared", [&] { form().fileClearAllScores.Click(); }, kAll}};
-  for (const auto& [what, step, reports] : steps) {
-    step();
-    EXPECT_EQ(TakeReports(), reports) << what;
+TEST(Companion, HearsOfEveryStepOfAGame) {
+  using Steps = std::vector<std::pair<const char*, const char*>>;
+  const std::pair<const char*, Steps> games[] = {{"5 3 3 full mWi",
+                                                  {{"cboList:1", kAll},
+                                                   {"btnStart r2", ""},
+                                                   {"-", "2:140FT"},
+                                                   {"r3", ""},
+                                                   {"+", "3:141TF"},
+                                                   {"00!", "3:141FF"},
+                                                   {">2000", ""},
+                                                   {"U", "3:141FF"},
+                                                   {"S", kAll},
+                                                   {"fileClearAllScores", kAll}}},
+                                                 // The new player comes first.
+                                                 {"1 3 3 full Wi",
+                                                  {{"btnStart", kAll},
+                                                   {"11", "1:139FF 2:140FF 1:139FF"},
+                                                   {"N N", "3:141FF 2:140FF 1:139FF 3:141FF"},
+                                                   {"optPlayers(0) N N", "2:140FF 1:139FF 1:139FF 2:140FF"}}}};
+  for (const auto& [setup, steps] : games) {
+    Companion companion(setup);
+    for (const auto& [step, reports] : steps) {
+      companion.Play(step);
+      EXPECT_EQ(companion.TakeReports(), reports) << step;
+    }
   }
 }
 
-TEST_F(Companion, HearsOfTheTurnNewPlayerFirst) {
-  StartWith(kChallengeModeA);
-  form().btnStart.Click();
-  EXPECT_EQ(TakeReports(), kAll);
-  Claim(1, 1);
-  EXPECT_EQ(TakeReports(), "1:139FF 2:140FF 1:139FF") << "the score, then the turn";
-  form().btnNextPlayer.Click();
-  form().btnNextPlayer.Click();
-  EXPECT_EQ(TakeReports(), "3:141FF 2:140FF 1:139FF 3:141FF");
-  form().optPlayers[0].Click();
-  form().btnNextPlayer.Click();
-  form().btnNextPlayer.Click();
-  EXPECT_EQ(TakeReports(), "2:140FF 1:139FF 1:139FF 2:140FF");
-}
-
-TEST_F(Companion, FlagsLastForOneReportOfAPlayer) {
-  StartWith();
-  GameState& state = show().state;
+TEST(Companion, FlagsLastForOneReportOfAPlayer) {
+  Companion companion("5 3 3 full mWi");
+  GameState& state = companion.show().state;
   state.C2CObject = " ";
   state.C2CCorrectFlag = true;
-  for (const int player : {0, 4, 1}) SendC2CInfo(show(), player);
-  EXPECT_EQ(TakeReports(), "1:999TF");
-  sim.dialogs.ExpectMessage("Message Length Incorrect: 115");
-  state.C2CObject = "1390";
-  state.C2CIncorrectFlag = true;
-  SendC2CInfo(show(), 1);
-  EXPECT_FALSE(state.C2CIncorrectFlag);
-  state.C2CObject = "139";
-  state.TSSupport = false;
-  state.C2CCorrectFlag = true;
-  SendC2CInfo(show(), 1);
-  EXPECT_FALSE(state.C2CCorrectFlag);
-  EXPECT_EQ(TakeReports(), "");
+  for (const int player : {0, 4, 1}) SendC2CInfo(companion.show(), player);
+  EXPECT_EQ(companion.TakeReports(), "1:999TF");
+  for (const char* object : {"1390", "139"}) {
+    if (object[3] != 0) companion.Play("?Message_Length_Incorrect:_115");
+    state.TSSupport = object[3] != 0;
+    state.C2CObject = object;
+    state.C2CIncorrectFlag = state.C2CCorrectFlag = true;
+    SendC2CInfo(companion.show(), 1);
+    EXPECT_FALSE(state.C2CIncorrectFlag || state.C2CCorrectFlag) << object;
+  }
+  EXPECT_EQ(companion.TakeReports(), "");
 }
 
-TEST_F(Companion, WaitsUntilThePressIsDoneAndTakes1260Ms) {
-  StartWith();
-  ChooseSet("Keys");
-  form().btnStart.Click();
-  EXPECT_TRUE(sim.hid.Writes.empty() && audience().picQuestion.Visible);
+TEST(Companion, WaitsUntilThePressIsDoneAndTakes1260Ms) {
+  Companion companion("5 3 3 full mWi");
+  SimPlatform& sim = companion.sim;
+  companion.Play("cboList:1 btnStart picQuestion'=up");
+  EXPECT_TRUE(sim.hid.Writes.empty());
   const std::int64_t before = sim.clock.NowMs();
   const std::string text = "02^PLAYER 2~~^+000000" + kLook + "^F^F^F^F";
-  EXPECT_EQ(TakeTexts().at(1), text);
+  EXPECT_EQ(companion.TakeTexts().at(1), text);
   EXPECT_NEAR(static_cast<double>(sim.clock.NowMs() - before), 1265, 5);
-  show().dgTransceiver.reset();
+  companion.show().dgTransceiver.reset();
   sim.processes.Helper = "PadBridge.exe";
-  SendC2CInfo(show(), 2);
+  SendC2CInfo(companion.show(), 2);
   sim.clock.Advance(5);
   EXPECT_EQ(sim.processes.HelperArguments, std::vector<std::string>{text.substr(0, 103) + "141^F^F^F^F"});
   sim.hid.Devices.clear();
   sim.hid.PlugTransceiver(kTransceiverShort);
-  CreateTransceiver(show());
-  sim.dialogs.ExpectMessage("Procedure: SendC2CInfo");
-  btnSkipQuestion_Click(show());
-  EXPECT_EQ(TakeReports(), "") << "a device that takes no text, which is told once";
+  CreateTransceiver(companion.show());
+  companion.Play("?Procedure:_SendC2CInfo S");
+  EXPECT_EQ(companion.TakeReports(), "") << "a device that takes no text, which is told once";
 }
 
-TEST_F(Companion, IsLeftBlankAtExit) {
-  StartWith();
-  form().btnScore1Up[2].Click();
-  Exit();
-  ASSERT_EQ(sim.hid.Writes.size(), 21U) << "sent before the program ends";
-  const std::string text = TakeTexts()[0];
+TEST(Companion, IsLeftBlankAtExit) {
+  Companion companion("5 3 3 full mWi", Screens::One);
+  companion.Play("u12");
+  companion.fixture().Exit();
+  ASSERT_EQ(companion.sim.hid.Writes.size(), 21U) << "sent before the program ends";
+  const std::string text = companion.TakeTexts()[0];
   EXPECT_EQ(text.substr(0, 21) + text.substr(102, 5), "01^PLAYER 1~~^+000000^999^");
 }
 

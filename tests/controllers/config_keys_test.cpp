@@ -1,63 +1,26 @@
 // frmConfigKeys: which letters it takes, and what its buttons keep.
-#include "../support/show_fixture.h"
+#include "support/game_player.h"
 
 namespace pawnfield {
 namespace {
 
-class ConfigKeys : public ShowFixture, public testing::Test {
- protected:
-  void Open(const std::function<void(ConfigKeysForm&)>& act) {
-    sim.dialogs.ExpectForm("frmConfigKeys", [&] { act(show().frmConfigKeys); });
-    form().btnEditKeyboardCtrl.Click();
-  }
-  std::string Kept() { return show().state.KeyCorrect + show().state.KeyIncorrect; }
+const Story kConfigKeys[] = {
+    // The boxes open with Y and N; a sign, an accent, a digit and the other box's letter are refused.
+    {"TakesTwoDifferentLetters", "3 3 3 full mi",
+     "btnEditKeyboardCtrl@frmConfigKeys { txtKey(0):n txtKey(0)= txtKey(1):W txtKey(1)=W txtKey(0):A txtKey(0)=A "
+     "txtKey(1):z txtKey(1)=z txtKey(0):Z txtKey(0)= txtKey(0):7 txtKey(0)= txtKey(1):[ txtKey(1)= txtKey(0):{ "
+     "txtKey(0)= txtKey(1):@ txtKey(1)= txtKey(0):` txtKey(0)= txtKey(1):\xE9 txtKey(1)= txtKey(0):_ txtKey(0)=_ "
+     "btnCancel } btnEditKeyboardCtrl@frmConfigKeys { txtKey(0)=Y txtKey(1)=N btnCancel }"},
+    {"FinishedKeepsTheLettersAndTheConsoleGoesOnWithYAndN", "3 3 3 full mi",
+     "btnEditKeyboardCtrl@frmConfigKeys { txtKey(0):R txtKey(1):W btnFinished } "
+     "btnEditKeyboardCtrl@frmConfigKeys { txtKey(0)=R btnKeyDefaults txtKey(0)=Y btnCancel } "
+     "btnEditKeyboardCtrl@frmConfigKeys { txtKey(0)=R txtKey(1)=W btnCancel } "
+     "cboList:1 btnStart keys:r btnQuestionCorrect=on keys:y btnQuestionCorrect=-"},
 };
 
-TEST_F(ConfigKeys, TakesTwoDifferentLetters) {
-  // What is typed into the two boxes, in this order, and what they show then.
-  const std::tuple<const char*, const char*, const char*, const char*> cases[] = {
-      {"as typed", "r", "W", "r|W"},
-      {"the ends of the alphabet", "A", "z", "A|z"},
-      {"no digit and no sign", "7", "[", "|"},
-      {"no accents", "\xE9", "`", "|"},
-      {"no brace", "{", "@", "|"},
-      {"the other box holds it", "q", "Q", "q|"},
-      {"it meets the letter kept there", "n", "w", "|w"},
-      {"a blank is left alone", " ", "", " |"}};
-  Start();
-  for (const auto& [what, first, second, shown] : cases) {
-    Open([&, typed = std::pair(first, second), wanted = shown](ConfigKeysForm& keys) {
-      keys.txtKey[0].Type(typed.first);
-      keys.txtKey[1].Type(typed.second);
-      EXPECT_EQ(keys.txtKey[0].Text.Get() + "|" + keys.txtKey[1].Text.Get(), wanted);
-      keys.btnCancel.Click();
-    });
-    EXPECT_EQ(Kept(), "YN") << what;
-  }
-}
-
-TEST_F(ConfigKeys, FinishedKeepsTheLettersAndTheConsoleGoesOnWithYAndN) {
-  WriteNumberedSet("Keys", 20);
-  Start();
-  Open([](ConfigKeysForm& keys) {
-    keys.txtKey[0].Type("R");
-    keys.btnFinished.Click();
-  });
-  Open([](ConfigKeysForm& keys) {
-    EXPECT_EQ(keys.txtKey[0].Text, "R");
-    keys.btnKeyDefaults.Click();
-    EXPECT_EQ(keys.txtKey[0].Text, "Y");
-    keys.btnCancel.Click();
-  });
-  EXPECT_EQ(Kept(), "RN") << "the defaults were not finished";
-  form().optGameType[2].Click();
-  ChooseSet("Keys");
-  form().btnStart.Click();
-  form().KeyPress('r');
-  EXPECT_TRUE(form().btnQuestionCorrect.Visible);
-  form().KeyPress('y');
-  EXPECT_FALSE(form().btnQuestionCorrect.Visible);
-}
+using ConfigKeys = StoryTest;
+TEST_P(ConfigKeys, GoAsTold) { Play(); }
+INSTANTIATE_TEST_SUITE_P(Stories, ConfigKeys, testing::ValuesIn(kConfigKeys), StoryTest::Name);
 
 }  // namespace
 }  // namespace pawnfield

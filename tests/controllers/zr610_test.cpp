@@ -3,7 +3,7 @@
 
 #include <gmock/gmock.h>
 
-#include "../support/show_fixture.h"
+#include "support/game_player.h"
 
 namespace pawnfield {
 namespace {
@@ -19,23 +19,6 @@ std::string Frame(const std::string& body) {
 std::string Pad(int id) {
   return Frame("\xFD"s + static_cast<char>(id >> 16) + static_cast<char>(id >> 8) + static_cast<char>(id));
 }
-std::string Key(int code) { return Frame("\xB4"s + static_cast<char>(code)); }
-
-class Pads : public ShowFixture, public testing::Test {
- protected:
-  // Pads 101, 102 and 103 are the players, 104 is slot 4.
-  void StartGame() {
-    sim.serial.Plug();
-    sim.files.Put(kMapFile, FormatPadMap({101, 102, 103, 104}));
-    WriteNumberedSet("Pads", 20);
-    Start();
-    form().cboAutoContinue.Select(3);
-    ChooseSet("Pads");
-    form().btnStart.Click();
-  }
-  void Feed(const std::string& bytes) { sim.serial.Feed(bytes); }
-  int Holder() { return show().state.CurrentPlayer; }
-};
 
 TEST(FrameSplitter, CutsFramesOutOfAnyReadsAndStaysSmall) {
   const std::tuple<const char*, Strings, Strings> cases[] = {
@@ -72,99 +55,64 @@ TEST(Port, ANumberIsTheLastDigitOfACaptionAndTheWholeOneOfADevice) {
   EXPECT_EQ(FindZR610Port(port), 5) << "the last that is an adapter of the system";
 }
 
-TEST_F(Pads, TheFirstPressWinsAndTheHostUnitJudgesAndGoesOn) {
-  sim.hid.PlugTransceiver();
-  StartGame();
-  EXPECT_EQ(sim.serial.Number, 7) << "the pads are looked for first";
-  EXPECT_TRUE(form().mnuZR610.Visible && !form().mTestK7Controllers.Visible);
-  form().btnSelectPlayer[0].Enabled = false;
-  Feed(Pad(101) + Key(3) + Key(2));
-  EXPECT_EQ(Holder(), 0) << "the player's button is disabled";
-  form().btnSelectPlayer[0].Enabled = true;
-  Feed(Pad(102) + Pad(101));
-  EXPECT_EQ(Holder(), 2);
-  Feed(Key(4) + Key(9) + Key(2));
-  EXPECT_EQ(Holder(), 0) << "judged incorrect, open again";
-  Feed(Pad(103) + Key(5) + Pad(101) + Key(6));
-  Claim(0, 0);
-  sim.clock.Advance(1000);
-  EXPECT_TRUE(form().btnContinue.Enabled) << "judged correct";
-  const int question = show().state.CurrentQuestion;
-  Feed(Key(5));
-  EXPECT_EQ(show().state.CurrentQuestion, question) << "only key 2 goes on";
-  Feed(Key(2));
-  EXPECT_EQ(show().state.CurrentQuestion, question + 1);
+// Pads 101 to 103 are the players, 104 is slot 4.
+const Story kPads[] = {
+    {"TheHostUnitJudgesAndGoesOn", "5 3 3 full lm",
+     "*3 *2 turn=0 2 turn=2 *4 *9 turn=2 *2 turn=0 3 *5 turn=0 1 *6 00 *5 question=0 *2 question=1 1 *3 turn=1 "
+     "btnQuestionCorrect=-"},
+    {"ADisabledPlayerHasNoPad", "5 2 3 full lm", "3 turn=0 1 turn=1"},
+    {"StrangersAreToldAndPassedOver", "5 3 3 full lm",
+     "?An_unmapped_controller_has_been_detected. #999 ?This_game_only_uses_3_player_controls. #104 turn=0 2 turn=2"},
+};
+
+using PadStory = StoryTest;
+TEST_P(PadStory, GoesAsTold) { Play(); }
+INSTANTIATE_TEST_SUITE_P(Pads, PadStory, testing::ValuesIn(kPads), StoryTest::Name);
+
+TEST(Pads, BrokenFramesAreToldOnceAndAPulledAdapterUntilReconnected) {
+  GamePlayer player("5 3 3 full lm");
+  SimSerial& port = player.fixture().sim.serial;
+  player.Play("?Error_Number:_5");
+  port.Feed(Frame("") + Frame("\xB4") + Frame("") + Frame("\x01") + Pad(101));
+  player.Play("turn=1 -");
+  port.Pull();
+  EXPECT_FALSE(port.PortOpen());
+  EXPECT_THAT(player.form().lblStatusBar.Caption.Get(), testing::HasSubstr("was unplugged"));
+  player.Play("?Unable_to_find_a_ZR-610_device._Please_check_connections_and_retry. mnuReconnectMF");
+  port.Plug("USB-SERIAL (COM4)");
+  port.FailNextOpen = kErrorInvalidPort;
+  player.Play("?Error_Number:_8002 mnuReconnectMF mnuReconnectMF 2 turn=2");
+  EXPECT_EQ(port.Number, 4);
 }
 
-TEST_F(Pads, StrangersAndBrokenFramesAreToldAndABoxHoldsBackWhatFollows) {
-  StartGame();
-  sim.dialogs.ExpectMessage("An unmapped controller has been detected.", BoxAnswer::Ok, [&] {
-    Feed(Pad(102));
-    sim.clock.Advance(100);
-    EXPECT_EQ(Holder(), 0) << "held back while the box is up";
-  });
-  Feed(Pad(999));
-  EXPECT_EQ(Holder(), 2);
-  sim.dialogs.ExpectMessage("This game only uses 3 player controls.");
-  Feed(Pad(104));
-  form().btnQuestionIncorrect.Click();
-  sim.dialogs.ExpectMessage("Are you sure", BoxAnswer::No, [&] { Feed(Pad(103)); });
-  form().mnuFileExit.Click();
-  EXPECT_EQ(Holder(), 0);
-  sim.clock.Advance(15);
-  EXPECT_EQ(Holder(), 3) << "taken up once the box is gone";
-  form().btnQuestionIncorrect.Click();
-  sim.dialogs.ExpectMessage("Error Number: 5");
-  Feed(Frame("") + Frame("\xB4") + Frame("") + Frame("\x01") + Pad(101));
-  EXPECT_EQ(Holder(), 1) << "told once, and the next frame is taken";
-}
-
-TEST_F(Pads, APulledAdapterIsToldOnceAndReconnectBringsItBack) {
-  StartGame();
-  sim.serial.Pull();
-  EXPECT_FALSE(sim.serial.PortOpen());
-  EXPECT_THAT(form().lblStatusBar.Caption.Get(), testing::HasSubstr("was unplugged"));
-  sim.dialogs.ExpectMessage("Unable to find a ZR-610 device. Please check connections and retry.");
-  form().mnuReconnectMF.Click();
-  sim.serial.Plug("USB-SERIAL (COM4)");
-  sim.serial.FailNextOpen = kErrorInvalidPort;
-  sim.dialogs.ExpectMessage("Error Number: 8002");
-  form().mnuReconnectMF.Click();
-  form().mnuReconnectMF.Click();
-  EXPECT_EQ(sim.serial.Number, 4);
-  Feed(Pad(102));
-  EXPECT_EQ(Holder(), 2) << "the question was still open";
-}
-
-TEST_F(Pads, TheDialogWalksDownAndAPadStandsInOneRow) {
-  StartGame();
-  MapMFForm& dialog = show().frmMapMF;
-  const auto act = [&](bool keep) {
-    sim.dialogs.ExpectForm("frmMapMF", [&, keep] {
-      EXPECT_EQ(dialog.lstControllers.ListItems.Get()[3][1] + dialog.lstControllers.ListItems.Get()[4][1], "104");
-      Feed(Pad(7) + Pad(103));
+TEST(Pads, TheDialogWalksDownAndAPadStandsInOneRow) {
+  GamePlayer player("5 3 3 full l");
+  SimPlatform& sim = player.fixture().sim;
+  MapMFForm& dialog = player.show().frmMapMF;
+  const auto act = [&](int error) {
+    sim.dialogs.ExpectForm("frmMapMF", [&, error] {
+      sim.serial.Feed(Pad(7) + Pad(103));
       dialog.lstControllers.Select(19);
-      Feed(Pad(8) + Pad(9));
+      sim.serial.Feed(Pad(8) + Pad(9));
       EXPECT_EQ(dialog.lstControllers.SelectedItem, 19);
       std::string column;
       for (const auto& row : dialog.lstControllers.ListItems.Get()) column += row[1] + ",";
       EXPECT_EQ(column, "7,103,,104" + std::string(16, ',') + "9,");
-      sim.files.FailNextWrite(keep ? 0 : kErrorDiskFull);
-      if (!keep) sim.dialogs.ExpectMessage("Error Number: 61");
+      sim.files.FailNextWrite(error);
+      if (error != 0) sim.dialogs.ExpectMessage("Error Number: 61");
       dialog.cmdOK.Click();
-      EXPECT_EQ(dialog.Visible, !keep);
+      EXPECT_EQ(dialog.Visible, error != 0);
       dialog.cmdCancel.Click();
     });
-    form().mnuMapMF.Click();
+    player.form().mnuMapMF.Click();
     return ParsePadMap(sim.files.Read(kMapFile));
   };
-  EXPECT_EQ(act(false), (PadMap{101, 102, 103, 104})) << "a full disk leaves the file alone";
-  show().presses.MFMap = {101, 102, 103, 104};
+  EXPECT_EQ(act(kErrorDiskFull), (PadMap{101, 102, 103, 104})) << "a full disk leaves the file alone";
+  player.show().presses.MFMap = {101, 102, 103, 104};
   PadMap wanted{7, 103, 103, 104};
   wanted[19] = 9;
-  EXPECT_EQ(act(true), wanted) << "a slot is never emptied";
-  Feed(Pad(103));
-  EXPECT_EQ(Holder(), 2) << "the first slot that has the pad";
+  EXPECT_EQ(act(0), wanted) << "a slot is never emptied";
+  player.Play("#103 turn=2");
 }
 
 TEST(PadMapFile, IsEightyBytesLowByteFirstAndAShortOneLeavesTheRestEmpty) {
@@ -177,9 +125,11 @@ TEST(PadMapFile, IsEightyBytesLowByteFirstAndAShortOneLeavesTheRestEmpty) {
   EXPECT_EQ(LookupPad(map, 0), 2) << "an empty slot is one of identity 0";
 }
 
-TEST_F(Pads, TestControllersOffersASystemThatCameLater) {
-  Start();
-  Menu& entry = form().mTestK7Controllers;
+TEST(Pads, TestControllersOffersASystemThatCameLater) {
+  ShowFixture fixture;
+  fixture.Start();
+  SimPlatform& sim = fixture.sim;
+  Menu& entry = fixture.form().mTestK7Controllers;
   sim.dialogs.ExpectMessage("C:\\Pawnfield\\ZR640Tester.exe\r\ncannot be found.");
   entry.Click();
   sim.serial.Plug();
@@ -187,7 +137,7 @@ TEST_F(Pads, TestControllersOffersASystemThatCameLater) {
   for (const BoxAnswer answer : {BoxAnswer::Cancel, BoxAnswer::No, BoxAnswer::Yes}) {
     sim.dialogs.ExpectMessage("A ZR-610 system has been detected.", answer);
     entry.Click();
-    EXPECT_EQ(form().mnuZR610.Visible, answer == BoxAnswer::Yes);
+    EXPECT_EQ(fixture.form().mnuZR610.Visible, answer == BoxAnswer::Yes);
   }
   EXPECT_EQ(sim.processes.Started, Strings{"C:\\Pawnfield\\ZR640Tester.exe"});
 }

@@ -34,6 +34,11 @@ std::string ControlOf(const std::string& step) {
   return Indexed("btnScore"s + step[1] + (step[0] == 'u' ? "Up" : "Dn"), step[2] - '0');
 }
 
+std::string Spaced(std::string text) {
+  std::replace(text.begin(), text.end(), '_', ' ');
+  return text;
+}
+
 std::string FileName(const std::string& path) { return path.substr(path.rfind('\\') + 1); }
 
 }  // namespace
@@ -41,7 +46,11 @@ std::string FileName(const std::string& path) { return path.substr(path.rfind('\
 GamePlayer::GamePlayer(const std::string& setup, Screens monitors) : fixture_(monitors) {
   int type = 0, players = 0, grid = 0;
   std::string ending, options;
-  std::istringstream(setup) >> type >> players >> grid >> ending >> options;
+  std::istringstream in(setup);
+  in >> type >> players >> grid >> ending >> options;
+  for (std::string setting; in >> setting;) {
+    fixture_.Preset(setting.substr(0, setting.find('=')), setting.substr(setting.find('=') + 1));
+  }
   const auto has = [&](char option) { return options.find(option) != std::string::npos; };
   fixture_.WriteNumberedSet("Long", has('7') ? 7 : 30);
   if (has('k')) fixture_.WriteSet("Long", {"Which one?", "C:\\Shows\\photo.jpg", "C:\\Shows\\clip.WAV"});
@@ -69,10 +78,10 @@ void GamePlayer::PrepareMachine(const std::string& options) {
   wired_ = options.find('l') != std::string::npos;
   if (wired_) {
     fixture_.sim.serial.Plug();
-    fixture_.sim.files.Put("C:\\Ostara Show Kit Data\\MFMap.dat", FormatPadMap({101, 102, 103}));
-  } else if (options.find('w') != std::string::npos) {
-    fixture_.sim.hid.PlugTransceiver(kTransceiverShort);
+    fixture_.sim.files.Put("C:\\Ostara Show Kit Data\\MFMap.dat", FormatPadMap({101, 102, 103, 104}));
   }
+  if (options.find('w') != std::string::npos) fixture_.sim.hid.PlugTransceiver(kTransceiverShort);
+  if (options.find('W') != std::string::npos) fixture_.sim.hid.PlugTransceiver();
 }
 
 void GamePlayer::Play(const std::string& script) {
@@ -84,7 +93,7 @@ void GamePlayer::Play(const std::string& script) {
       std::getline(steps, within, ']');
       fixture_.sim.dialogs.ExpectMessage("Are you sure", BoxAnswer::No, [this, within] { Play(within); });
       form().mnuFileExit.Click();
-    } else if (const std::size_t at = step.find('@'); at != std::string::npos) {
+    } else if (const std::size_t at = step.find("@frm"); at != std::string::npos) {
       std::getline(steps, within, '}');
       PlayInForm(step.substr(0, at), step.substr(at + 1), within.substr(within.find('{') + 1));
     } else {
@@ -111,12 +120,22 @@ void GamePlayer::Step(const std::string& step) {
   const auto player = players.find(step.substr(0, step.find('=')));
   if (player != players.end()) {
     EXPECT_EQ(player->first + "=" + FileName(player->second->Url), step) << "after" << played_;
+  } else if (step[0] == '?') {
+    fixture_.sim.dialogs.ExpectMessage(Spaced(step.substr(1)));
+  } else if (step.starts_with("file:")) {
+    fixture_.sim.dialogs.ExpectFile(Spaced(step.substr(5)));
+  } else if (step.starts_with("keys:")) {
+    Type(step.substr(5));
+  } else if (step[0] == '*') {
+    fixture_.sim.serial.Feed("MF\0\2\xB4"s + static_cast<char>(step[1] - '0'));
+  } else if (step[0] == '#') {
+    RingIn(std::stoi(step.substr(1)));
   } else if (step.find('=') != std::string::npos) {
     ExpectSeen(show(), step, played_, shown_);
   } else if (step[0] == '>') {
     fixture_.sim.clock.Advance(step.size() == 1 ? 3000 : std::stoi(step.substr(1)));
   } else if (IsDigit(step[0])) {
-    step.size() == 1 ? RingIn(step[0]) : Claim(step);
+    step.size() == 1 ? RingIn((wired_ ? 100 : 0) + step[0] - '0') : Claim(step);
   } else {
     // An undo leaves the audience's score to the next change.
     if (step == "U") scoresAlike_ = false;
@@ -132,11 +151,20 @@ void GamePlayer::Claim(const std::string& step) {
   scoresAlike_ = true;
 }
 
-void GamePlayer::RingIn(char player) {
+void GamePlayer::RingIn(int code) {
+  const char high = static_cast<char>(code >> 8), low = static_cast<char>(code);
   if (wired_) {
-    fixture_.sim.serial.Feed("MF\0\4\xFD\0\0"s + static_cast<char>(100 + player - '0'));
+    fixture_.sim.serial.Feed("MF\0\4\xFD\0"s + high + low);
   } else {
-    fixture_.sim.hid.Reports.push_back({'\0', '\0', static_cast<char>(player - '0')});
+    fixture_.sim.hid.Reports.push_back({'\0', high, low});
+  }
+}
+
+void GamePlayer::Type(const std::string& keys) {
+  for (std::size_t i = 0; i < keys.size(); ++i) {
+    const bool control = keys[i] == '^' && keys[++i] != '^';
+    if (control && keys[i] == 'U') scoresAlike_ = false;
+    form().KeyPress(control ? keys[i] - '@' : keys[i]);
   }
 }
 
@@ -146,9 +174,7 @@ void GamePlayer::Press(const std::string& name) {
   ASSERT_TRUE(control != nullptr && control->IsReachable()) << name << " can't be pressed after" << played_;
   const std::string value = name.substr(std::min(colon + 1, name.size()));
   if (auto* box = dynamic_cast<TextBox*>(control)) {
-    std::string text = value;
-    std::replace(text.begin(), text.end(), '_', ' ');
-    box->Type(text);
+    box->Type(Spaced(value));
   } else if (auto* list = dynamic_cast<ComboBox*>(control)) {
     list->Select(std::stoi(value));
   } else {

@@ -13,7 +13,8 @@ class GamePlayer {
   // Brings the show up, sets the options by the console's controls and presses Start. The setup is the game's
   // type 1..5, the players, the grid, "row" or "full" for the ending, and letters: "p" penalty on, "m" the user
   // advances, "0" squares worth nothing, "a" animation on, "7" a set of seven questions, "k" one whose second is a
-  // picture and whose third is a sound, "w" wireless remotes, "l" wired pads, "i" not started.
+  // picture and whose third is a sound, "w" wireless remotes, "W" of the long form, "l" wired pads, "i" not started.
+  // Behind them stand settings that the store holds before, as in "TSSupport=True".
   explicit GamePlayer(const std::string& setup, Screens monitors = Screens::Two);
 
   // Steps and what is to be seen after them, parted by blanks:
@@ -21,7 +22,9 @@ class GamePlayer {
   //   + - N S C U E H V R
   //               judge, next player, skip, continue, undo, end game, hide and show the board, reset
   //   r1 u23 d23  rings player 1 in by hand; presses the score button 3 of player 2
-  //   3           the press of remote or pad 3 arrives
+  //   3 #999 *2   the press of remote or pad 3, of the remote's code or the pad 999, of the host unit's key 2 arrives
+  //   keys:b2^M   types these keys, a letter behind "^" with Ctrl; "^^" is the sign
+  //   ?No_text    a message that tells this comes up next, and file:C:\a.txt that file is chosen next
   //   [ ... ]     a message box comes up, and that happens before its answer
   //   > >899      3 seconds pass, or so many milliseconds
   //   btnStop cboAutoContinue:3 txtPlayerName(0):Ann_B
@@ -41,7 +44,8 @@ class GamePlayer {
   void PlayInForm(const std::string& opener, const std::string& name, const std::string& script);
   void Step(const std::string& step);
   void Claim(const std::string& step);
-  void RingIn(char player);
+  void RingIn(int code);
+  void Type(const std::string& keys);
   void Press(const std::string& name);
   void CheckEveryEvent();
   void ExpectBothScreensAlike(const std::string& event);
