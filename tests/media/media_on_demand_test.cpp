@@ -2,7 +2,7 @@
 
 #include <sstream>
 
-#include "media/sound_table.h"
+#include "support/seen.h"
 #include "support/show_fixture.h"
 
 namespace pawnfield {
@@ -32,9 +32,7 @@ class MediaShow : public ShowFixture {
   }
 };
 
-class MediaOnDemand : public MediaShow, public testing::Test {};
-
-TEST_F(MediaOnDemand, TheExtensionDecidesWhatIsDone) {
+TEST(MediaOnDemand, TheExtensionDecidesWhatIsDone) {
   const std::pair<const char*, const char*> kinds[] = {{"S/", ".wav .WMA .mp3"},
                                                        {"V/V", ".avi .MPG .wmv .mov .mp4 .mpeg"},
                                                        {"P/P", ".jpg .Bmp"},
@@ -43,6 +41,7 @@ TEST_F(MediaOnDemand, TheExtensionDecidesWhatIsDone) {
     std::istringstream words(endings);
     for (std::string ending; words >> ending;) {
       MediaShow fresh;
+      for (const char* path : {"", "  ", "C:\\media\\gone.mp4"}) fresh.PressBound(path);
       fresh.Press("C:\\media\\a" + ending);
       EXPECT_EQ(fresh.WhatPlays(), what) << ending;
     }
@@ -52,68 +51,75 @@ TEST_F(MediaOnDemand, TheExtensionDecidesWhatIsDone) {
   EXPECT_EQ(single.WhatPlays(), "V/");
 }
 
-TEST_F(MediaOnDemand, EmptyMissingAndOtherBanksDoNothing) {
-  for (const char* path : {"", "  ", "C:\\media\\gone.mp4"}) PressBound(path);
-  show().soundBanks[2][34] = "C:\\media\\z.wav";
-  sim.files.Put("C:\\media\\z.wav", "sound");
-  PlayKeyMedia(show(), 34);
-  PlayKeyMedia(show(), 35);
-  EXPECT_EQ(WhatPlays(), "/");
-  form().optSoundBank[1].Click();
-  PlayKeyMedia(show(), 34);
-  EXPECT_EQ(WhatPlays(), "S/");
-}
-
-TEST_F(MediaOnDemand, APictureFillsBothScreensForItsTime) {
-  show().state.MODPictureTimer = 7;
-  Press("C:\\media\\wide.jpg");
-  sim.clock.Advance(6000);
-  Press("C:\\media\\wide.jpg");
-  sim.clock.Advance(6999);
-  EXPECT_EQ(WhatPlays(), "P/P");
-  EXPECT_FALSE(form().tmrVideoDelay.Enabled);
+TEST(MediaOnDemand, APictureFillsBothScreensForItsTime) {
+  MediaShow media;
+  media.show().state.MODPictureTimer = 7;
+  media.Press("C:\\media\\wide.jpg");
+  media.sim.clock.Advance(6000);
+  media.Press("C:\\media\\wide.jpg");
+  media.sim.clock.Advance(6999);
   // 7210 wide, 7210 * 9 / 16 high, centred; and the same on the audience's 15360 by 11520.
-  EXPECT_EQ(form().picImageResize[1].Height, 7210.0 * 9 / 16);
-  EXPECT_EQ(form().picImageResize[1].Top, 792);
-  EXPECT_EQ(audience().picImageResize[1].Picture.Get(), "C:\\media\\wide.jpg");
-  EXPECT_EQ(audience().picImageResize[1].Height, 8640);
-  EXPECT_EQ(audience().picImageResize[1].Top, 1440);
-  sim.clock.Advance(1);
-  EXPECT_FALSE(form().picMOD.Visible || audience().picMOD.Visible);
-  sim.dialogs.ExpectMessage("note of the following information.\x20\r\nError Number: 481");
-  Press("C:\\media\\broken.jpg", "no picture");
-  EXPECT_TRUE(form().picMOD.Visible && !audience().picMOD.Visible);
-  sim.clock.Advance(7000);
-  EXPECT_FALSE(form().picMOD.Visible);
+  ExpectSeen(media.show(),
+             "tmrVideoDelay=off picImageResize(1)=wide.jpg picImageResize(1).Height=4055.625 picImageResize(1).Top=792 "
+             "picImageResize(1)'=wide.jpg picImageResize(1).Height'=8640 picImageResize(1).Top'=1440",
+             " a picture");
+  media.sim.clock.Advance(1);
+  ExpectSeen(media.show(), "picMOD=- picMOD'=-", " its time");
+  media.sim.dialogs.ExpectMessage("note of the following information.\x20\r\nError Number: 481");
+  media.Press("C:\\media\\broken.jpg", "no picture");
+  ExpectSeen(media.show(), "picMOD=up picMOD'=-", " a broken one");
+  media.sim.clock.Advance(7000);
+  ExpectSeen(media.show(), "picMOD=-", " its time");
 }
 
-TEST_F(MediaOnDemand, TheOperatorsPlayerDrivesBothScreens) {
-  Press("C:\\media\\clip.mp4");
-  EXPECT_EQ(form().MediaPlayer1.uiMode.Get() + " " + audience().MediaPlayer1.uiMode.Get(), "full none");
-  EXPECT_EQ(audience().MediaPlayer1.URL.Get(), "C:\\media\\clip.mp4");
-  EXPECT_EQ(audience().MediaPlayer1.Volume, 0);
-  const std::tuple<PlayState, const char*, bool> reports[] = {{PlayState::Playing, "II", true},
-                                                              {PlayState::Paused, ">", true},
-                                                              {PlayState::Playing, "II", true},
-                                                              {PlayState::Stopped, ">", false}};
+TEST(MediaOnDemand, TheOperatorsPlayerDrivesBothScreens) {
+  MediaShow media;
+  media.Press("C:\\media\\clip.mp4");
+  const MediaPlayer& seen = media.audience().MediaPlayer1;
+  EXPECT_EQ(media.form().MediaPlayer1.uiMode.Get() + seen.uiMode.Get() + seen.URL.Get(), "fullnoneC:\\media\\clip.mp4");
+  EXPECT_EQ(seen.Volume, 0);
+  const std::tuple<PlayState, const char*, const char*> reports[] = {{PlayState::Playing, "II", "V/V"},
+                                                                     {PlayState::Paused, ">", "V/V"},
+                                                                     {PlayState::Playing, "II", "V/V"},
+                                                                     {PlayState::Stopped, ">", "/"}};
   for (const auto& [state, caption, shown] : reports) {
-    sim.media.MediaPlayer1.Report(state);
-    EXPECT_EQ(form().btnPlayVideo.Caption.Get(), caption);
-    EXPECT_EQ(form().picMOD.Visible, shown);
-    EXPECT_EQ(audience().picMOD.Visible, shown);
-    EXPECT_EQ(audience().MediaPlayer1.PlayState, static_cast<int>(state));
+    media.sim.media.MediaPlayer1.Report(state);
+    EXPECT_EQ(media.form().btnPlayVideo.Caption.Get(), caption);
+    EXPECT_EQ(media.WhatPlays(), shown) << caption;
+    EXPECT_EQ(seen.PlayState, static_cast<int>(state));
   }
 }
 
-TEST_F(MediaOnDemand, EachKeyReplacesWhatIsUpAndSoundsGoBeside) {
+TEST(MediaOnDemand, EachKeyReplacesWhatIsUpAndSoundsGoBeside) {
+  MediaShow media;
   for (const auto& [path, what] : {std::pair{"C:\\media\\clip.mp4", "V/V"},
                                    {"C:\\media\\horn.mp3", "SV/V"},
                                    {"C:\\media\\p.bmp", "SP/P"},
                                    {"C:\\media\\second.avi", "SV/V"}}) {
-    Press(path);
-    EXPECT_EQ(WhatPlays(), what) << path;
+    media.Press(path);
+    EXPECT_EQ(media.WhatPlays(), what) << path;
   }
-  EXPECT_EQ(sim.media.MediaPlayer1.Url, "C:\\media\\second.avi");
+  EXPECT_EQ(media.sim.media.MediaPlayer1.Url, "C:\\media\\second.avi");
+}
+
+TEST(MediaOnDemand, AScreenThatComesUpShowsWhatTheConsoleHasUp) {
+  // The file, what became of it, and what is shown.
+  const std::tuple<std::string, std::string, const char*> cases[] = {{"C:\\a.mp4", "", "V/V"},
+                                                                     {"C:\\a.mp4", "gone", "V/V"},
+                                                                     {"C:\\a.mp4", "ended", "/"},
+                                                                     {"C:\\a.jpg", "", "P/P"},
+                                                                     {"C:\\a.jpg", "gone", "P/"}};
+  for (const auto& [file, event, shown] : cases) {
+    MediaShow media(Screens::One);
+    media.Press(file);
+    if (event == "ended") media.sim.media.MediaPlayer1.Report(PlayState::Stopped);
+    if (event == "gone") media.sim.files.Remove(file);
+    media.sim.media.Log.clear();
+    media.sim.displays.Change({{0, 0, 1280, 800}, {1280, 0, 3200, 1080}});
+    EXPECT_EQ(media.WhatPlays(), shown) << file << event;
+    EXPECT_EQ(media.audience().picMOD.Visible, std::string(shown).size() == 3);
+    EXPECT_EQ(media.sim.media.Log, MediaLog{}) << "what runs is left to run";
+  }
 }
 
 }  // namespace

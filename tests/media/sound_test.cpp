@@ -92,16 +92,5 @@ TEST_F(Sound, TheTablesLinesRunBankByBankAndAFileChangesNoMoreThanItHolds) {
   EXPECT_EQ(banks(), wanted);
 }
 
-TEST_F(Sound, DefaultsFillBankOneOnly) {
-  FillDefaultSounds(show());
-  SoundBanks wanted;
-  std::size_t row = 1;
-  for (const char* name : {"RingsIn.mp3", "RingsIn.mp3", "RingsIn.mp3", "Correct.mp3", "Incorrect.mp3", "DDouble.wav",
-                           "Question Appears.wav"}) {
-    wanted[1][row++] = std::string("C:\\Pawnfield\\Sound Effects\\") + name;
-  }
-  EXPECT_EQ(banks(), wanted);
-}
-
 }  // namespace
 }  // namespace pawnfield
