@@ -1,7 +1,7 @@
 // The Help menu leads to the manual and the maker's pages, and says so when a page is gone.
 #include "config/help.h"
 
-#include "support/show_fixture.h"
+#include "support/game_player.h"
 
 namespace pawnfield {
 namespace {
@@ -9,19 +9,12 @@ namespace {
 using Pages = std::vector<std::string>;
 
 TEST(Help, EveryEntryOpensItsPageWhileAGameRunsTooAndTheAboutBoxClosesFirst) {
-  ShowFixture fixture;
-  fixture.Start();
-  MainForm& form = fixture.form();
-  form.optGameType[0].Click();
-  form.btnStart.Click();
-  for (Menu* entry : {&form.mnuHelpManual, &form.mnuHelpDocumentation, &form.mnuHelpSupport}) entry->Click();
-  HelpAboutForm& about = fixture.show().frmHelpAbout;
-  fixture.sim.dialogs.ExpectForm("frmHelpAbout", [&] {
-    about.btnLicence.Click();
-    EXPECT_FALSE(about.Visible);
-  });
-  form.mnuHelpAbout.Click();
-  EXPECT_EQ(fixture.sim.pages.Opened, (Pages{"index.html", "documentation.html", "messages.html", "licence.html"}));
+  GamePlayer player("1 2 3 row");
+  player.Play("mnuHelpManual mnuHelpDocumentation mnuHelpSupport mnuHelpAbout@frmHelpAbout { btnLicence }");
+  const HelpAboutForm& about = player.show().frmHelpAbout;
+  EXPECT_FALSE(about.Visible);
+  EXPECT_EQ(player.fixture().sim.pages.Opened,
+            (Pages{"index.html", "documentation.html", "messages.html", "licence.html"}));
   EXPECT_TRUE(about.lblVersion.Caption->starts_with("Version 0."));
 }
 

