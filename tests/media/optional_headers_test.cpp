@@ -3,7 +3,7 @@
 #include <gmock/gmock.h>
 
 #include "media/header_file.h"
-#include "support/show_fixture.h"
+#include "support/game_player.h"
 
 namespace pawnfield {
 namespace {
@@ -18,12 +18,13 @@ const std::string kFile =
     "\"Sponsor, and friends\",\"\",24,#FALSE#,#TRUE#,255,0\r\n" +
     kBlank + kBlank;
 
-class Headers : public ShowFixture, public testing::Test {
+class Headers : public GamePlayer, public testing::Test {
  protected:
+  Headers() : GamePlayer("5 3 3 full mi") {}
   void Begin(const std::string& file) {
     sim.clock.Calendar = {2026, 3, 1, 20, 0, 0};
     sim.files.Put(kPath, file);
-    Start();
+    ReadFromHeaderFile(show());
   }
   // What both screens show after each of so many rotations: a text, or "-" for the base header.
   std::string Rotate(int ticks) {
@@ -32,18 +33,14 @@ class Headers : public ShowFixture, public testing::Test {
       sim.clock.Advance(5000);
       const bool base = form().imgHeader.Visible;
       EXPECT_NE(base, form().txtOptionalHeading.Visible.Get());
-      EXPECT_EQ(base, audience().imgHeader.Visible.Get());
-      EXPECT_NE(base, audience().txtOptionalHeading.Visible.Get());
+      EXPECT_NE(base, fixture().audience().txtOptionalHeading.Visible.Get());
       seen += base ? "-" : form().txtOptionalHeading.Text->substr(0, 1);
     }
     return seen;
   }
-  void InDialog(const std::function<void()>& act) {
-    sim.dialogs.ExpectForm("frmOptionalHeaders", act);
-    ShowOptionalHeaders(show());
-  }
-  TextBox& Box(std::size_t index) { return dialog.txtOptionalHeader[index]; }
+  void InDialog(const std::string& script) { Play("mnuFileOptionalHeaders@frmOptionalHeaders { " + script + " }"); }
 
+  SimPlatform& sim = fixture().sim;
   OptionalHeadersForm& dialog = show().frmOptionalHeaders;
 };
 
@@ -51,7 +48,7 @@ TEST_F(Headers, RotateOnBothScreensWithTheBaseBetweenOrWithoutIt) {
   Begin(kFile);
   show().state.OptionalHeaderIndex = 0;
   EXPECT_EQ(Rotate(8), "WS-WS-WS");
-  const TextBox& shown = audience().txtOptionalHeading;
+  const TextBox& shown = fixture().audience().txtOptionalHeading;
   EXPECT_EQ(form().txtOptionalHeading.Text.Get(), "Sponsor, and friends");
   EXPECT_EQ(form().txtOptionalHeading.Font.Get(), (Font{"MS Sans Serif", 24, false, true}));
   EXPECT_EQ(shown.Font.Get(), (Font{"MS Sans Serif", 48, false, true}));
@@ -104,9 +101,9 @@ TEST_F(Headers, DamagedFilesLeaveWhatCannotBeRead) {
 
 TEST_F(Headers, TheDialogWritesTheBoxesAndEndsAtTheFirstBlankOne) {
   Begin("");
-  InDialog([&] {
-    Box(0).Type(" Hello ");
-    Box(2).Type("Behind");
+  sim.dialogs.ExpectForm("frmOptionalHeaders", [&] {
+    dialog.txtOptionalHeader[0].Type(" Hello ");
+    dialog.txtOptionalHeader[2].Type("Behind");
     sim.dialogs.ExpectFont(Font{"Liberation Sans", 10.5, false, true});
     dialog.btnOpt1Font[0].Click();
     sim.dialogs.ExpectColor(kRed);
@@ -116,6 +113,7 @@ TEST_F(Headers, TheDialogWritesTheBoxesAndEndsAtTheFirstBlankOne) {
     dialog.chkBaseImage.Click();
     dialog.btnOk.Click();
   });
+  form().mnuFileOptionalHeaders.Click();
   EXPECT_EQ(sim.dialogs.ColorStart, 5242880);
   EXPECT_EQ(sim.settings.Writes.back(), std::pair(std::string("ShowBaseHeader"), std::string("False")));
   EXPECT_EQ(sim.files.Read(kPath),
@@ -128,46 +126,28 @@ TEST_F(Headers, TheDialogWritesTheBoxesAndEndsAtTheFirstBlankOne) {
 
 TEST_F(Headers, CancelClearsTheBoxesAndLeavesTheHeaders) {
   Begin(kFile);
-  InDialog([&] {
-    EXPECT_EQ(Box(1).Font->Size, 24);
-    Box(0).Type("Other");
-    dialog.btnCancel.Click();
-    EXPECT_EQ(Box(1).Text.Get(), "");
-    EXPECT_EQ(Box(1).Font.Get(), (Font{"Comic Sans MS", 18, true, false}));
-  });
+  InDialog("txtOptionalHeader(1)=Sponsor,_and_friends txtOptionalHeader(0):Other btnCancel");
+  EXPECT_EQ(dialog.txtOptionalHeader[1].Font.Get(), (Font{"Comic Sans MS", 18, true, false}));
   EXPECT_EQ(sim.files.Read(kPath) + show().state.OptionalHeaders[0].HeaderText, kFile + "Welcome to the show");
   // A hidden form keeps its boxes, empty here.
-  InDialog([&] { dialog.btnOk.Click(); });
+  InDialog("txtOptionalHeader(0)= txtOptionalHeader(1)= btnOk");
   EXPECT_FALSE(show().state.OptionalHeadersOn);
   EXPECT_EQ(Rotate(2), "--");
 }
 
 TEST_F(Headers, FilesOfTheOperatorsOwnAreOpenedAndSaved) {
-  Begin("");
   sim.files.Put("D:\\old.txt", "no stamp at all\r\n\"Old\",\"Arial\",30,#TRUE#,#TRUE#,255,0\r\n");
-  InDialog([&] {
-    sim.dialogs.ExpectFile("D:\\gone.txt");
-    sim.dialogs.ExpectMessage("Procedure: Editor Save");
-    dialog.btnOpen.Click();
-    sim.dialogs.ExpectFile("D:\\old.txt");
-    dialog.btnOpen.Click();
-    EXPECT_EQ(Box(0).Text.Get(), "Old");
-    Box(0).Type("Newer");
-    dialog.btnSave.Click();
-    Box(0).Type("Newest");
-    sim.dialogs.ExpectFile("D:\\old.txt");
-    sim.dialogs.ExpectMessage("File already exists. Select Yes to overwrite", BoxAnswer::No);
-    dialog.mnuFileSaveAs.Click();
-    EXPECT_THAT(sim.files.Read("D:\\old.txt"), HasSubstr("\"Newer\",\"Arial\",30"));
-    sim.files.FailNextWrite(kErrorDiskFull);
-    sim.dialogs.ExpectMessage("Procedure: mnuFileSave");
-    dialog.btnSave.Click();
-    sim.files.FailNextWrite(kErrorDiskFull);
-    sim.dialogs.ExpectMessage("Procedure: SaveToOSKD");
-    dialog.mnuFileExit.Click();
-  });
+  InDialog(
+      "file:D:\\gone.txt ?Procedure:_Editor_Save btnOpen file:D:\\old.txt btnOpen txtOptionalHeader(0)=Old "
+      "txtOptionalHeader(0):Newer btnSave txtOptionalHeader(0):Newest file:D:\\old.txt "
+      "?No:File_already_exists._Select_Yes_to_overwrite mnuFileSaveAs btnCancel");
+  EXPECT_THAT(sim.files.Read("D:\\old.txt"), HasSubstr("\"Newer\",\"Arial\",30"));
   const FileDialogRequest& saveAs = sim.dialogs.FileRequests().back();
   EXPECT_EQ(saveAs.Title + saveAs.FileName + saveAs.DefaultExtension, "Save HeaderHeaders.txttxt");
+  sim.files.FailNextWrite(kErrorDiskFull);
+  InDialog("?Procedure:_mnuFileSave btnSave btnCancel");
+  sim.files.FailNextWrite(kErrorDiskFull);
+  InDialog("?Procedure:_SaveToOSKD mnuFileExit");
 }
 
 }  // namespace

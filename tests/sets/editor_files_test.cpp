@@ -1,4 +1,5 @@
 #include "support/editor_fixture.h"
+#include "support/seen.h"
 
 namespace pawnfield {
 namespace {
@@ -141,12 +142,7 @@ TEST_F(EditorFiles, ImportTakesThirtyRecordsWhateverTheFileHolds) {
 }
 
 TEST_F(EditorFiles, PicturesAndSoundsTakeThePathAndItsLimit) {
-  // What stands over the preview: the text's entry, a picture or the buttons of a sound; and whether it has a font.
-  const auto offers = [&] {
-    return std::string(editor().txtEnterQuestion.Visible ? "text" : "") +
-           (editor().picQuestionPicture.Visible ? "picture" : "") + (editor().frmSoundButtons.Visible ? "sound" : "") +
-           (editor().btnFont.Enabled ? " font " : " ") + record(0).QuestionType + " " + record(0).QuestionText;
-  };
+  const auto see = [&](const char* states) { ExpectSeen(show(), states, " a choice", &editor()); };
   const std::string longest = "C:\\" + std::string(249, 'x') + ".jpg";
   sim.files.Put(longest, SimPictures::PictureBytes(100, 200));
   sim.files.Put("C:\\a.wav", "sound");
@@ -157,20 +153,20 @@ TEST_F(EditorFiles, PicturesAndSoundsTakeThePathAndItsLimit) {
   }
   Choose(editor().btnPicture, longest);
   EXPECT_EQ(Asked(), "Open, Picture(*.bmp;*.jpg)|*.bmp;*.jpg, , C:\\Pawnfield");
-  EXPECT_EQ(offers(), "picture font P " + longest);
+  see("txtEnterQuestion=- picQuestionPicture=up imgQuestionPicture.Height=7680 frmSoundButtons=- btnFont=on");
   EXPECT_TRUE(editor().EditDirty);
-  EXPECT_EQ(editor().imgQuestionPicture.Height.Get(), 7680);
   EXPECT_EQ(editor().imgQuestionPicture.Width.Get(), 3840);
+  EXPECT_EQ(record(0).QuestionType + record(0).QuestionText, "P" + longest);
   Choose(editor().btnSound, "C:\\a.wav");
   EXPECT_EQ(sim.dialogs.FileRequests().back().Filter, "Audio(*.wav; *.mp3; *.wma)|*.wav; *.mp3; *.wma");
-  EXPECT_EQ(offers(), "sound S C:\\a.wav");
-  EXPECT_EQ(sim.media.SoundClipPlayer.Url, "C:\\a.wav");
+  see("txtEnterQuestion=- picQuestionPicture=- frmSoundButtons=up btnFont=off");
+  EXPECT_EQ(record(0).QuestionType + sim.media.SoundClipPlayer.Url, "SC:\\a.wav");
   editor().btnStop.Click();
   EXPECT_FALSE(sim.media.SoundClipPlayer.Playing);
   editor().btnText.Click();
-  EXPECT_EQ(offers(), "text font T C:\\a.wav");
+  see("txtEnterQuestion= picQuestionPicture=- frmSoundButtons=- btnFont=on");
   TypeQuestion("Words");
-  EXPECT_EQ(offers(), "text font T Words");
+  EXPECT_EQ(record(0).QuestionType + record(0).QuestionText, "TWords");
 
   OpenEditor("ab");
   record(1).QuestionText = "C:\\none.jpg";

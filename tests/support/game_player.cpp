@@ -121,7 +121,8 @@ void GamePlayer::Step(const std::string& step) {
   if (player != players.end()) {
     EXPECT_EQ(player->first + "=" + FileName(player->second->Url), step) << "after" << played_;
   } else if (step[0] == '?') {
-    fixture_.sim.dialogs.ExpectMessage(Spaced(step.substr(1)));
+    const bool no = step.starts_with("?No:");
+    fixture_.sim.dialogs.ExpectMessage(Spaced(step.substr(no ? 4 : 1)), no ? BoxAnswer::No : BoxAnswer::Ok);
   } else if (step.starts_with("file:")) {
     fixture_.sim.dialogs.ExpectFile(Spaced(step.substr(5)));
   } else if (step.starts_with("keys:")) {

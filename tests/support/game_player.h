@@ -24,7 +24,8 @@ class GamePlayer {
   //   r1 u23 d23  rings player 1 in by hand; presses the score button 3 of player 2
   //   3 #999 *2   the press of remote or pad 3, of the remote's code or the pad 999, of the host unit's key 2 arrives
   //   keys:b2^M   types these keys, a letter behind "^" with Ctrl; "^^" is the sign
-  //   ?No_text    a message that tells this comes up next, and file:C:\a.txt that file is chosen next
+  //   ?Not_found  a message that tells this comes up next, ?No:Sure is answered with No, and file:C:\a.txt that file
+  //               is chosen next
   //   [ ... ]     a message box comes up, and that happens before its answer
   //   > >899      3 seconds pass, or so many milliseconds
   //   btnStop cboAutoContinue:3 txtPlayerName(0):Ann_B
