@@ -163,6 +163,9 @@ TEST_F(EditorFiles, PicturesAndSoundsTakeThePathAndItsLimit) {
   EXPECT_EQ(record(0).QuestionType + sim.media.SoundClipPlayer.Url, "SC:\\a.wav");
   editor().btnStop.Click();
   EXPECT_FALSE(sim.media.SoundClipPlayer.Playing);
+  Choose(editor().btnPicture, longest);
+  see("picQuestionPicture=up frmSoundButtons=- btnFont=on");
+  Choose(editor().btnSound, "C:\\a.wav");
   editor().btnText.Click();
   see("txtEnterQuestion= picQuestionPicture=- frmSoundButtons=- btnFont=on");
   TypeQuestion("Words");
