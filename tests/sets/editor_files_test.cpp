@@ -164,7 +164,7 @@ TEST_F(EditorFiles, PicturesAndSoundsTakeThePathAndItsLimit) {
   editor().btnStop.Click();
   EXPECT_FALSE(sim.media.SoundClipPlayer.Playing);
   Choose(editor().btnPicture, longest);
-  see("picQuestionPicture=up frmSoundButtons=- btnFont=on");
+  see("picQuestionPicture=up frmSoundButtons=-");
   Choose(editor().btnSound, "C:\\a.wav");
   editor().btnText.Click();
   see("txtEnterQuestion= picQuestionPicture=- frmSoundButtons=- btnFont=on");
