@@ -1,23 +1,16 @@
 // What is really heard: the program plays into a sink of a sound server of the test's own, which is recorded.
 
-#include <gtest/gtest.h>
-
-#include <QDir>
-#include <QFile>
 #include <QProcess>
 #include <QPushButton>
 #include <QSlider>
 #include <QStandardPaths>
-#include <QTemporaryDir>
 #include <QTest>
 
 #include "engine/handlers.h"
-#include "engine/show.h"
 #include "media/background_music.h"
 #include "media/media_on_demand.h"
 #include "media/sound_channels.h"
-#include "platform/desktop/desktop_platform.h"
-#include "platform/desktop/native_path.h"
+#include "places.h"
 #include "platform/desktop/player_view.h"
 #include "sound_rig.h"
 
@@ -31,20 +24,20 @@ constexpr double kFull = 0.5;
 
 using Tones = std::vector<double>;
 
-class HeardTest : public testing::Test {
+class HeardTest : public FolderTest {
  protected:
   void SetUp() override {
     if (!SoundRig::IsPossible()) GTEST_SKIP() << "no sound server is installed";
     ASSERT_TRUE(rig_.StartServer());
-    DesktopPlaces places;
-    places.folders = {*SpelledPath(folder_.path()), *SpelledPath(folder_.path()) + "\\data"};
-    places.configFolder = folder_.path() + "/config";
-    places.runtimeFolder = folder_.path() + "/run";
+    DesktopPlaces places = PlacesIn(folder_);
+    places.folders.App = Spelled("");
     platform_ = std::make_unique<DesktopPlatform>(places, [] {});
     show_ = std::make_unique<Show>(platform_->platform);
     AttachHandlers(*show_);
+    channels_ = {&platform_->eventPlayer, &platform_->keyPressPlayer, &platform_->soundClipPlayer,
+                 &platform_->correctIncorrectPlayer, &platform_->backgroundPlayer};
     // Five at once stay below what the sink takes without distortion.
-    for (MpvChannel* channel : Channels()) channel->SetVolume(30);
+    for (MpvChannel* channel : channels_) channel->SetVolume(30);
   }
   // The clock lets go of the timers before the forms end.
   void TearDown() override {
@@ -53,17 +46,9 @@ class HeardTest : public testing::Test {
     show_.reset();
     platform_.reset();
   }
-  std::vector<MpvChannel*> Channels() {
-    return {&platform_->eventPlayer, &platform_->keyPressPlayer, &platform_->soundClipPlayer,
-            &platform_->correctIncorrectPlayer, &platform_->backgroundPlayer};
-  }
   // A file of that tone, and its path as the program spells it.
   std::string Tone(double hertz, int milliseconds = 30000, const QString& folder = "") {
-    QDir().mkpath(folder_.path() + folder);
-    QFile file(folder_.path() + folder + QString("/%1.wav").arg(hertz));
-    file.open(QIODevice::WriteOnly);
-    file.write(ToneFile(hertz, milliseconds));
-    return *SpelledPath(file.fileName());
+    return *SpelledPath(Make(folder + QString("%1.wav").arg(hertz), ToneFile(hertz, milliseconds)));
   }
   void PlayAllFive() {
     PlayEvent(*show_, Tone(kEvent));
@@ -71,10 +56,8 @@ class HeardTest : public testing::Test {
     PlaySoundClip(*show_, Tone(kClip));
     PlayCorrectIncorrect(*show_, Tone(kVerdict));
     platform_->backgroundPlayer.SetUrl(Tone(kMusic));
-    ASSERT_TRUE(QTest::qWaitFor([&] {
-      const auto all = Channels();
-      return std::all_of(all.begin(), all.end(), [](MpvChannel* channel) { return channel->IsPlaying(); });
-    }));
+    const auto plays = [](const MpvChannel* channel) { return channel->IsPlaying(); };
+    ASSERT_TRUE(QTest::qWaitFor([&] { return std::all_of(channels_.begin(), channels_.end(), plays); }));
     // The server gathers the new streams.
     QTest::qWait(400);
   }
@@ -88,30 +71,30 @@ class HeardTest : public testing::Test {
     return tones;
   }
   // What is heard once it is these, or after a few seconds: the sink still holds what it took before.
-  Tones HeardSoon(const Tones& tones) {
+  void ExpectHeard(const Tones& tones) {
     Tones heard = Heard();
     for (int i = 0; i < 8 && heard != tones; ++i) heard = Heard();
-    return heard;
+    EXPECT_EQ(heard, tones);
   }
-  void ExpectHeard(const Tones& tones) { EXPECT_EQ(HeardSoon(tones), tones); }
   // How loud the tone is once it is about that, or after a few seconds.
-  double LevelSoon(double tone, double level) {
+  void ExpectLevel(double tone, double level) {
     double heard = -1;
     for (int i = 0; i < 8 && std::abs(heard - level) > 0.03; ++i) heard = rig_.Record(500).Level(tone, 0.1, 0.5);
-    return heard;
+    EXPECT_NEAR(heard, level, 0.03) << tone;
   }
   bool ComesBack(double tone) {
-    for (int i = 0; i < 12; ++i) {
-      const auto heard = Heard();
-      if (std::find(heard.begin(), heard.end(), tone) != heard.end()) return true;
+    bool heard = false;
+    for (int i = 0; i < 12 && !heard; ++i) {
+      const Tones tones = Heard();
+      heard = std::find(tones.begin(), tones.end(), tone) != tones.end();
     }
-    return false;
+    return heard;
   }
 
   SoundRig rig_;
-  QTemporaryDir folder_;
   std::unique_ptr<DesktopPlatform> platform_;
   std::unique_ptr<Show> show_;
+  std::vector<MpvChannel*> channels_;
 };
 
 TEST_F(HeardTest, FiveAtOnceCutOnTheirOwnAndStoppedByTheirButton) {
@@ -132,8 +115,8 @@ TEST_F(HeardTest, VolumesAreHeardAsSet) {
   for (const auto& [volume, level] : {std::pair{100, kFull}, {50, kFull / 2}, {0, 0.0}}) {
     // One at a time at its volume: five at full scale would be too loud for the sink.
     for (std::size_t i = 0; i < 5; ++i) {
-      for (std::size_t other = 0; other < 5; ++other) Channels()[other]->SetVolume(other == i ? volume : 5);
-      EXPECT_NEAR(LevelSoon(tones[i], level), level, 0.03) << tones[i] << " at " << volume;
+      for (MpvChannel* channel : channels_) channel->SetVolume(channel == channels_[i] ? volume : 5);
+      ExpectLevel(tones[i], level);
     }
   }
 }
@@ -153,13 +136,11 @@ TEST_F(HeardTest, MusicPausesAndGoesOnWhenItIsRestarted) {
 }
 
 TEST_F(HeardTest, TheNextTrackFollowsWithinItsTime) {
-  Tone(kMusic, 1500, "/data/BackgroundMusic");
-  Tone(kOther, 1500, "/data/BackgroundMusic");
+  Tone(kMusic, 1500, "data/BackgroundMusic/");
+  Tone(kOther, 1500, "data/BackgroundMusic/");
   show_->state.BackgroundMusic = kMusicFolderMode;
   DecideOnMusic(*show_);
   const Recording recording = rig_.Record(5500);
-  ASSERT_GE(recording.Begin(kMusic), 0);
-  ASSERT_GE(recording.Begin(kOther), 0);
   EXPECT_LT(recording.Begin(kOther) - recording.End(kMusic), 1.2);
   EXPECT_NEAR(recording.End(kMusic) - recording.Begin(kMusic), 1.5, 0.1) << "the whole track is heard";
 }
@@ -188,13 +169,9 @@ TEST_F(HeardTest, EveryKindOfMediaPlays) {
   for (const char* kind : {"wav", "mp3", "wma", "avi", "mpg", "mpeg", "mov", "mp4", "wmv"}) {
     const QString file = folder_.path() + "/clip." + kind;
     const bool film = QString("wav mp3 wma").indexOf(kind) < 0;
-    QStringList make{"-v", "error", "-f", "lavfi", "-i", "sine=frequency=800:duration=3"};
-    if (film)
-      make << "-f"
-           << "lavfi"
-           << "-i"
-           << "testsrc=size=320x240:rate=25:duration=3";
-    ASSERT_EQ(QProcess::execute("ffmpeg", make << file), 0) << kind;
+    const QString picture = film ? " -f lavfi -i testsrc=size=320x240:rate=25:duration=3" : "";
+    const QString make = "-v error -f lavfi -i sine=frequency=800:duration=3" + picture + ' ' + file;
+    ASSERT_EQ(QProcess::execute("ffmpeg", make.split(' ')), 0) << kind;
     MpvChannel& player = film ? platform_->mediaPlayer1 : platform_->keyPressPlayer;
     const int frames = platform_->mediaPlayer1.FrameCount();
     show_->soundBanks[1][9] = *SpelledPath(file);
@@ -211,31 +188,22 @@ TEST_F(HeardTest, EveryKindOfMediaPlays) {
 TEST_F(HeardTest, ThePlayersOwnControlsAreHeard) {
   PlayerView view(platform_->mediaPlayer1, nullptr);
   platform_->mediaPlayer1.SetUrl(Tone(kKeys));
-  auto* volume = view.findChild<QSlider*>("pnlPlayerVolume");
-  auto* mute = view.findChild<QPushButton*>("pnlPlayerMute");
   for (const auto& [value, level] : {std::pair{100, kFull}, {50, kFull / 2}, {0, 0.0}, {100, kFull}}) {
-    volume->setValue(value);
-    EXPECT_NEAR(LevelSoon(kKeys, level), level, 0.03) << value;
+    view.findChild<QSlider*>("pnlPlayerVolume")->setValue(value);
+    ExpectLevel(kKeys, level);
   }
-  mute->click();
-  EXPECT_NEAR(LevelSoon(kKeys, 0), 0, 0.03);
-  mute->click();
-  EXPECT_NEAR(LevelSoon(kKeys, kFull), kFull, 0.03);
-  view.findChild<QPushButton*>("pnlPlayerPlay")->click();
-  EXPECT_NEAR(LevelSoon(kKeys, 0), 0, 0.03) << "paused";
+  for (const auto& [button, level] :
+       {std::pair{"pnlPlayerMute", 0.0}, {"pnlPlayerMute", kFull}, {"pnlPlayerPlay", 0}}) {
+    view.findChild<QPushButton*>(button)->click();
+    ExpectLevel(kKeys, level);
+  }
 }
 
 TEST_F(HeardTest, FilmsThatCannotBeShownGoAway) {
-  const auto make = [&](const QString& name, const QByteArray& bytes) {
-    QFile file(folder_.path() + '/' + name);
-    file.open(QIODevice::WriteOnly);
-    file.write(bytes);
-    return *SpelledPath(file.fileName());
-  };
   for (const auto& [name, bytes] : {std::pair<const char*, QByteArray>{"broken.mp4", QByteArray(5000, '\x01')},
                                     {"text.mp4", "#EXTM3U\nother.mp4\n"},
                                     {"empty.mp4", ""}}) {
-    show_->soundBanks[1][9] = make(name, bytes);
+    show_->soundBanks[1][9] = *SpelledPath(Make(name, bytes));
     PlayKeyMedia(*show_, 9);
     EXPECT_TRUE(show_->frmMain.picMOD.Visible);
     EXPECT_TRUE(QTest::qWaitFor([&] { return !show_->frmMain.picMOD.Visible; })) << name;

@@ -4,6 +4,7 @@
 #include <QStandardPaths>
 #include <QTest>
 #include <cmath>
+#include <complex>
 #include <cstring>
 #include <numbers>
 
@@ -29,30 +30,18 @@ double Recording::Level(double hertz, double from, double to) const {
   const auto first = static_cast<std::size_t>(std::max(0.0, from) * kSampleRate);
   const auto last = std::min(samples_.size(), static_cast<std::size_t>(std::max(0.0, to) * kSampleRate));
   if (last <= first) return 0;
-  double sine = 0;
-  double cosine = 0;
+  std::complex<double> sum;
   for (std::size_t i = first; i < last; ++i) {
     const double angle = 2 * std::numbers::pi * hertz * static_cast<double>(i) / kSampleRate;
-    sine += static_cast<double>(samples_[i]) * std::sin(angle);
-    cosine += static_cast<double>(samples_[i]) * std::cos(angle);
+    sum += std::polar(1.0, angle) * static_cast<double>(samples_[i]);
   }
-  return 2 * std::hypot(sine, cosine) / static_cast<double>(last - first);
+  return 2 * std::abs(sum) / static_cast<double>(last - first);
 }
 
-double Recording::Begin(double hertz) const {
-  for (double at = 0; at + kWindow <= Seconds(); at += kWindow) {
-    if (Level(hertz, at, at + kWindow) > kHeard) return at;
-  }
-  return -1;
-}
-
-double Recording::End(double hertz) const {
-  const double begin = Begin(hertz);
-  if (begin < 0) return -1;
-  for (double at = begin; at + kWindow <= Seconds(); at += kWindow) {
-    if (Level(hertz, at, at + kWindow) <= kHeard) return at;
-  }
-  return Seconds();
+double Recording::First(double hertz, double from, bool heard) const {
+  double at = from;
+  while (at + kWindow <= Seconds() && (Level(hertz, at, at + kWindow) > kHeard) != heard) at += kWindow;
+  return at;
 }
 
 bool SoundRig::IsPossible() {
@@ -61,8 +50,7 @@ bool SoundRig::IsPossible() {
 
 SoundRig::SoundRig() {
   qputenv("PULSE_SERVER", ("unix:" + Socket()).toLocal8Bit());
-  qputenv("PULSE_RUNTIME_PATH", folder_.path().toLocal8Bit());
-  qputenv("PULSE_STATE_PATH", folder_.path().toLocal8Bit());
+  for (const char* name : {"PULSE_RUNTIME_PATH", "PULSE_STATE_PATH"}) qputenv(name, folder_.path().toLocal8Bit());
 }
 
 SoundRig::~SoundRig() {
@@ -87,12 +75,6 @@ void SoundRig::StopServer() {
   server_.kill();
   server_.waitForFinished(kPatienceMs);
   QFile::remove(Socket());
-}
-
-void SoundRig::Control(const QStringList& arguments) {
-  QProcess control;
-  control.start("pactl", arguments);
-  control.waitForFinished();
 }
 
 Recording SoundRig::Record(int milliseconds) {

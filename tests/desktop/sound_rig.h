@@ -17,11 +17,13 @@ class Recording {
   double Seconds() const { return static_cast<double>(samples_.size()) / kSampleRate; }
   // How loud a tone of so many hertz is between two moments, 1 for a full sine.
   double Level(double hertz, double from, double to) const;
-  // When the tone is heard first, and when it falls silent after that; -1 when it never is.
-  double Begin(double hertz) const;
-  double End(double hertz) const;
+  // When the tone is heard first, and when it falls silent after that; the recording's end when it never is.
+  double Begin(double hertz) const { return First(hertz, 0, true); }
+  double End(double hertz) const { return First(hertz, Begin(hertz), false); }
 
  private:
+  double First(double hertz, double from, bool heard) const;
+
   std::vector<float> samples_;
 };
 
@@ -40,7 +42,7 @@ class SoundRig {
   Recording Record(int milliseconds);
 
  private:
-  void Control(const QStringList& arguments);
+  static void Control(const QStringList& arguments) { QProcess::execute("pactl", arguments); }
   QString Socket() const { return folder_.path() + "/native"; }
 
   QTemporaryDir folder_;

@@ -1,10 +1,6 @@
 // The transceiver on a real kernel's hidraw, with devices that the kernel takes for real ones.
 #include <gtest/gtest.h>
 
-#include <algorithm>
-#include <memory>
-#include <thread>
-
 #include "controllers/packing.h"
 #include "controllers/ring_in.h"
 #include "hidraw/uhid_device.h"
@@ -36,42 +32,39 @@ class Hidraw : public ::testing::Test {
     fixture_.ChooseSet("Presses");
     fixture_.form().btnStart.Click();
   }
-  // The system needs a moment to make a device's node or to take it away.
-  std::size_t WaitForDevices(std::size_t count) {
-    std::size_t present = 0;
-    for (int i = 0; i < 100 && present != count; ++i) {
-      std::this_thread::sleep_for(Milliseconds(20));
-      present = port_.Enumerate().size();
-    }
-    return present;
-  }
-  void Open() {
-    fixture_.show().dgTransceiver = std::make_unique<Transceiver>(
-        port_, clock_, [this](const TransceiverData& data) { dgTransceiver_OnButtonPressed(fixture_.show(), data); },
-        SelfTimer::GuardFunction());
-  }
-  Transceiver& TheTransceiver() { return *fixture_.show().dgTransceiver; }
   // Lets the program poll until the condition holds.
   bool Polls(const std::function<bool()>& condition) {
-    for (int round = 0; round < 40 && !condition(); ++round) {
+    for (int round = 0; round < 60 && !condition(); ++round) {
       std::this_thread::sleep_for(Milliseconds(kPollMs));
       fixture_.sim.clock.Advance(kPollMs);
       clock_.Advance(kPollMs);
     }
     return condition();
   }
+  // The system needs a moment to make a device's node or to take it away.
+  bool Present(std::size_t count) {
+    return Polls([&] { return port_.Enumerate().size() == count; });
+  }
+  Transceiver& Open() {
+    auto& transceiver = fixture_.show().dgTransceiver;
+    transceiver = std::make_unique<Transceiver>(
+        port_, clock_, [this](const TransceiverData& data) { dgTransceiver_OnButtonPressed(fixture_.show(), data); },
+        SelfTimer::GuardFunction());
+    EXPECT_TRUE(transceiver->Ready());
+    return *transceiver;
+  }
   bool Holds(int player) {
     return Polls([&] { return fixture_.show().state.CurrentPlayer == player; });
   }
-  static std::string LongPress(int remote) {
-    std::string report = BuildPacket({static_cast<char>(remote), '\5', '\0', '\0'}, 0).substr(1);
-    report.resize(32);
-    return report;
-  }
-  // Without the report number and the padding.
-  static std::string Packet(const std::string& output) {
-    const std::string bytes = output.size() == 33 ? output.substr(1) : output;
-    return "\0"s + bytes.substr(0, static_cast<unsigned char>(bytes[1]));
+  // What the device was sent, without the report numbers and the padding, once it is so much.
+  std::vector<std::string> Sent(UhidDevice& device, std::size_t count) {
+    Polls([&] { return device.Outputs().size() >= count; });
+    std::vector<std::string> packets;
+    for (const auto& output : device.Outputs()) {
+      const std::string bytes = output.Bytes.size() == 33 ? output.Bytes.substr(1) : output.Bytes;
+      packets.push_back("\0"s + bytes.substr(0, static_cast<unsigned char>(bytes[1])));
+    }
+    return packets;
   }
 
   PacedClock clock_;
@@ -82,25 +75,24 @@ class Hidraw : public ::testing::Test {
 TEST_F(Hidraw, TheFirstOfTwoTransceiversIsFoundAmongOthersAndItsPressesRingIn) {
   UhidDevice keyboard(0x046D, 0xC31C, 8, 1), relative(3, 0x1002, 32, 32), cousin(0x04FE, 0x1003, 32, 32);
   auto first = std::make_unique<UhidDevice>(3, 0x1003, 32, 32);
-  ASSERT_TRUE(first->IsThere());
-  ASSERT_EQ(WaitForDevices(4), 4u);
+  ASSERT_TRUE(Present(4));
   UhidDevice second(3, 0x1003, 32, 32);
-  ASSERT_EQ(WaitForDevices(5), 5u);
-  Open();
-  ASSERT_TRUE(TheTransceiver().Ready());
+  ASSERT_TRUE(Present(5));
+  Transceiver& transceiver = Open();
   EXPECT_EQ(port_.Lengths().Input, 33u);
   EXPECT_EQ(port_.Lengths().Output, 33u);
 
-  first->Report(LongPress(2));
-  first->Report(LongPress(1));
+  for (const char remote : {'\2', '\1'}) {
+    std::string report = BuildPacket({remote, '\5', '\0', '\0'}, 0).substr(1);
+    report.resize(32);
+    first->Report(report);
+  }
   ASSERT_TRUE(Holds(2));
-  Polls([&] { return !first->Outputs().empty(); });
-  ASSERT_EQ(first->Outputs().size(), 1u) << "the first press is lit, the second shut out";
-  EXPECT_EQ(Packet(first->Outputs()[0].Bytes), BuildPacket("\2\0\2"s, 1));
+  EXPECT_EQ(Sent(*first, 1), std::vector{BuildPacket("\2\0\2"s, 1)}) << "the first is lit, the second shut out";
   for (UhidDevice* other : {&keyboard, &relative, &cousin, &second}) EXPECT_TRUE(other->Outputs().empty());
 
   first.reset();
-  EXPECT_TRUE(Polls([&] { return !TheTransceiver().Ready(); })) << "pulled in the middle of the question";
+  EXPECT_TRUE(Polls([&] { return !transceiver.Ready(); })) << "pulled in the middle of the question";
   fixture_.form().btnQuestionIncorrect.Click();
   fixture_.form().KeyPress('3');
   EXPECT_EQ(fixture_.show().state.CurrentPlayer, 3) << "the show goes on";
@@ -108,38 +100,27 @@ TEST_F(Hidraw, TheFirstOfTwoTransceiversIsFoundAmongOthersAndItsPressesRingIn) {
 
 TEST_F(Hidraw, AReportOf114CharactersKeepsItsPace) {
   UhidDevice device(3, 0x1003, 32, 32);
-  ASSERT_EQ(WaitForDevices(1), 1u);
-  Open();
-  std::string text;
+  ASSERT_TRUE(Present(1));
+  Transceiver& transceiver = Open();
+  std::string text, received;
   for (int i = 0; i < 114; ++i) text += static_cast<char>('!' + i % 90);
   const auto started = std::chrono::steady_clock::now();
-  TheTransceiver().SendData(text);
-  const auto took = std::chrono::steady_clock::now() - started;
-  Polls([&] { return device.Outputs().size() >= 7; });
-  const auto outputs = device.Outputs();
-  ASSERT_EQ(outputs.size(), 7u);
-  std::string received;
-  for (std::size_t i = 0; i < outputs.size(); ++i) {
-    const std::string packet = Packet(outputs[i].Bytes);
-    if (i > 0) received += packet.substr(9, packet.size() - 11);
-    if (i == 0) {
-      EXPECT_EQ(packet.substr(9, 12), MyEncode(PackLongPadded(114, ByteOrder::Machine)));
-    }
-  }
+  transceiver.SendData(text);
+  EXPECT_GE(std::chrono::steady_clock::now() - started, Milliseconds(7 * 60));
+  const auto packets = Sent(device, 7);
+  ASSERT_EQ(packets.size(), 7u);
+  EXPECT_EQ(packets[0].substr(9, 12), MyEncode(PackLongPadded(114, ByteOrder::Machine)));
+  for (std::size_t i = 1; i < 7; ++i) received += packets[i].substr(9, packets[i].size() - 11);
   EXPECT_EQ(received, text);
-  EXPECT_GE(took, Milliseconds(7 * 60));
-  EXPECT_GE(outputs[6].At - outputs[0].At, Milliseconds(5 * 60)) << "the device saw them apart";
+  EXPECT_GE(device.Outputs()[6].At - device.Outputs()[0].At, Milliseconds(5 * 60)) << "the device saw them apart";
 }
 
 TEST_F(Hidraw, TheShortFormDecodesAndIsLit) {
   UhidDevice device(3, 0x1001, 2, 8);
-  ASSERT_EQ(WaitForDevices(1), 1u);
+  ASSERT_TRUE(Present(1));
   Open();
-  ASSERT_TRUE(TheTransceiver().Ready());
   EXPECT_EQ(port_.Lengths().Input, 3u);
-  device.Report("\0\x15"s);
-  device.Report("\0\x83"s);
-  device.Report("\0\x82"s);
+  for (const auto& report : {"\0\x15"s, "\0\x83"s, "\0\x82"s}) device.Report(report);
   ASSERT_TRUE(Holds(3)) << "0x15 is no press, and remote 4 is routed to nobody";
   Polls([&] { return !device.Outputs().empty(); });
   ASSERT_EQ(device.Outputs().size(), 1u);
