@@ -42,11 +42,7 @@ class SetTextEditTest : public testing::Test {
 };
 
 TEST_F(SetTextEditTest, WhatIsPastedOrTypedKeepsToTheCodePageTheLimitAndOneLine) {
-  const struct {
-    const char16_t* pasted;
-    const char* kept;
-    const char16_t* notice;
-  } cases[] = {
+  const std::tuple<const char16_t*, const char*, const char16_t*> cases[] = {
       {u"e\u0301e\u0301e\u0301e\u0301e\u0301e\u0301e\u0301e\u0301e\u0301e\u0301e\u0301",
        "\xE9\xE9\xE9\xE9\xE9\xE9\xE9\xE9\xE9\xE9", u"Only 10 characters fit here. The rest was left out."},
       {u"a\r\nb\nc", "a b c", u""},
@@ -55,11 +51,11 @@ TEST_F(SetTextEditTest, WhatIsPastedOrTypedKeepsToTheCodePageTheLimitAndOneLine)
       {u"\U0001F600", "", u"\"\U0001F600\" (U+1F600) can't be kept in a set file and was not taken."},
       {u"a\u0007", "", u"U+0007 can't be kept in a set file and was not taken."},
   };
-  for (const auto& each : cases) {
+  for (const auto& [pasted, kept, notice] : cases) {
     box_.Text = std::string();
-    EXPECT_EQ(AfterPaste(QString::fromUtf16(each.pasted)), each.kept);
-    if (*each.notice != 0) {
-      EXPECT_EQ(view_.Notice(), QString::fromUtf16(each.notice));
+    EXPECT_EQ(AfterPaste(QString::fromUtf16(pasted)), kept);
+    if (*notice != 0) {
+      EXPECT_EQ(view_.Notice(), QString::fromUtf16(notice));
     }
   }
   box_.Text = std::string();

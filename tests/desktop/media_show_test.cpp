@@ -93,26 +93,23 @@ TEST_F(MediaShowTest, APictureIsWholeAndAsLargeAsTheAudiencesScreenLetsIt) {
   ASSERT_TRUE(Xrandr(kTwoMonitors));
   ASSERT_TRUE(Wait([] { return Screen().isVisible(); }));
   // An edge of its own colour tells that nothing of the picture is cut off.
-  const struct {
-    QSize picture;
-    QRect seen;
-  } table[] = {{{320, 180}, {0, 0, 1920, 1080}}, {{320, 240}, {240, 0, 1440, 1080}}, {{90, 180}, {690, 0, 540, 1080}}};
-  for (const auto& row : table) {
-    QImage picture(row.picture, QImage::Format_RGB32);
+  const std::pair<QSize, QRect> table[] = {
+      {{320, 180}, {0, 0, 1920, 1080}}, {{320, 240}, {240, 0, 1440, 1080}}, {{90, 180}, {690, 0, 540, 1080}}};
+  for (const auto& [size, place] : table) {
+    QImage picture(size, QImage::Format_RGB32);
     picture.fill(Qt::red);
     QPainter(&picture).fillRect(picture.rect().adjusted(10, 10, -10, -10), Qt::green);
-    const QString file = folder_->path() + QString("/%1.bmp").arg(row.picture.width() * 1000 + row.picture.height());
+    const QString file = folder_->path() + QString("/%1.bmp").arg(size.width() * 1000 + size.height());
     ASSERT_TRUE(picture.save(file));
     TheShow().soundBanks[1][kPictureKey] = *SpelledPath(file);
     ASSERT_TRUE(driver_->Type({"p"}));
     const QImage seen = Screen().Screen().grab().toImage();
-    const QRect inside = row.seen.adjusted(3, 3, -3, -3);
+    const QRect inside = place.adjusted(3, 3, -3, -3);
     for (const QPoint corner : {inside.topLeft(), inside.bottomRight()}) {
-      EXPECT_EQ(seen.pixelColor(corner), QColor(Qt::red)) << row.picture.width() << " wide";
+      EXPECT_EQ(seen.pixelColor(corner), QColor(Qt::red)) << size.width() << " wide";
     }
     EXPECT_EQ(seen.pixelColor(inside.center()), QColor(Qt::green));
-    EXPECT_EQ(seen.pixelColor(std::max(0, row.seen.left() - 3), 500),
-              QColor(row.seen.left() > 0 ? Qt::black : Qt::red));
+    EXPECT_EQ(seen.pixelColor(std::max(0, place.left() - 3), 500), QColor(place.left() > 0 ? Qt::black : Qt::red));
   }
   Main().tmrMODPicture.Fire();
 }

@@ -205,13 +205,9 @@ TEST_F(ProcessesTest, ASecondInstanceRaisesTheFirstAndAMarkOfNobodyRefusesNone) 
 using UserCopyTest = FolderTest;
 
 TEST_F(UserCopyTest, FollowsTheShippedFilesAndKeepsTheOperators) {
-  // What the operator makes of a file, where empty is its removal, and what stays of it, where null is as shipped.
-  const struct {
-    const char* name;
-    const char* first;
-    const char* edited;
-    const char* kept;
-  } files[] = {
+  // A file as it is shipped first, what the operator makes of it, where empty is its removal, and what stays of it,
+  // where null is as it is shipped then.
+  const std::array<const char*, 4> files[] = {
       {"Images/a.bmp", "first", "", nullptr},
       {"Images/own.bmp", "first", "mine", "mine"},
       {"Trivia Sets/Edited.txt", "first", "my", "my"},
@@ -220,24 +216,24 @@ TEST_F(UserCopyTest, FollowsTheShippedFilesAndKeepsTheOperators) {
       {"Trivia Sets/Later.txt", nullptr, nullptr, nullptr},
       {"Trivia Sets/Same.txt", "first", nullptr, nullptr},
   };
-  for (const auto& file : files) {
-    if (file.first != nullptr) Make(QString("shared/") + file.name, file.first);
+  for (const auto& [name, first, edited, kept] : files) {
+    if (first != nullptr) Make(QString("shared/") + name, first);
   }
   QFile::setPermissions(Native("shared/Trivia Sets/Same.txt"), QFile::ReadOwner);
   UpdateUserCopy(Native("shared"), Native("user"));
   EXPECT_TRUE(QFile::permissions(Native("user/Trivia Sets/Same.txt")) & QFile::WriteOwner);
-  for (const auto& file : files) {
-    if (file.edited == nullptr) continue;
-    const QString copy = Make(QString("user/") + file.name, file.edited);
-    if (*file.edited == '\0') QFile::remove(copy);
+  for (const auto& [name, first, edited, kept] : files) {
+    if (edited == nullptr) continue;
+    const QString copy = Make(QString("user/") + name, edited);
+    if (*edited == '\0') QFile::remove(copy);
   }
   for (const char* version : {"second", "third"}) {
-    for (const auto& file : files) Make(QString("shared/") + file.name, version);
+    for (const auto& file : files) Make(QString("shared/") + file[0], version);
     UpdateUserCopy(Native("shared"), Native("user"));
-    for (const auto& file : files) {
-      QFile copy(Native(QString("user/") + file.name));
+    for (const auto& [name, first, edited, kept] : files) {
+      QFile copy(Native(QString("user/") + name));
       const QByteArray now = copy.open(QFile::ReadOnly) ? copy.readAll() : "(none)";
-      EXPECT_EQ(now, file.kept != nullptr ? file.kept : version) << file.name;
+      EXPECT_EQ(now, kept != nullptr ? kept : version) << name;
     }
   }
 }

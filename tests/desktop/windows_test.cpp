@@ -41,11 +41,7 @@ TEST_F(WindowsTest, NothingIsCutAtTheLeastSizeAndWhatHasNoTextHasAName) {
 }
 
 TEST(FittingScale, LowersOnlyWhatMakesTheConsoleLargerThanItsMonitor) {
-  const struct {
-    double ratio;
-    int width, height;
-    double scale;
-  } cases[] = {
+  const std::tuple<double, int, int, double> cases[] = {
       {1, 1280, 800, 1}, {2, 3840, 2160, 2}, {1.5, 1280, 800, 1.02}, {2, 1920, 1080, 1.38}, {1, 1024, 768, 0.86}};
   for (const auto& [ratio, width, height, scale] : cases) {
     EXPECT_NEAR(ratio * FittingShare(ratio, width, height), scale, 0.01) << ratio << ' ' << width;
