@@ -36,12 +36,6 @@ class Music : public ShowFixture, public testing::Test {
     show().state.MusicIndex = 0;
     return Heard(seconds);
   }
-  void StartSet(const std::string& name) {
-    form().optGameType[2].Click();
-    ChooseSet(name);
-    form().btnStart.Click();
-  }
-  bool Sounds() { return sim.media.BackgroundPlayer.Playing && !sim.media.BackgroundPlayer.Paused; }
 };
 
 TEST_F(Music, TheFoldersTracksPlayInTurnForEverAndOneThatCannotBePlayedGivesWay) {
@@ -85,17 +79,20 @@ TEST_F(Music, ASoundQuestionPausesItAndTheEndOfTheGameStopsItUntilTheNextSet) {
   sim.files.Put("C:\\clip.wav", "sound");
   WriteSet("Mixed", {"C:\\clip.wav", "Next?"});
   Begin("1", {"a.mp3"});
-  StartSet("Mixed");
-  EXPECT_TRUE(sim.media.BackgroundPlayer.Paused);
+  form().optGameType[2].Click();
+  ChooseSet("Mixed");
+  form().btnStart.Click();
+  const RecordedChannel& music = sim.media.BackgroundPlayer;
+  EXPECT_TRUE(music.Paused);
   EXPECT_EQ(Heard(30), "") << "a paused track is not at its end";
   form().btnQuestionCorrect.Click();
-  EXPECT_TRUE(Sounds()) << "a correct answer brings it back";
-  EXPECT_EQ(sim.media.BackgroundPlayer.CurrentPosition(), 0);
+  EXPECT_TRUE(music.Playing && !music.Paused) << "a correct answer brings it back";
+  EXPECT_EQ(music.CurrentPosition(), 0);
   Claim(0, 0);
   sim.clock.Advance(2000);
   form().btnEndGame.Click();
   EXPECT_EQ(Heard(30), "");
-  EXPECT_FALSE(Sounds());
+  EXPECT_FALSE(music.Playing);
   ChooseSet("Mixed");
   EXPECT_EQ(Heard(2), "a.mp3 ");
 }

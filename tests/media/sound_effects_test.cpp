@@ -1,19 +1,16 @@
 #include "media/sound_effects.h"
 
 #include "media/sound_table.h"
-#include "support/show_fixture.h"
+#include "support/game_player.h"
 
 namespace pawnfield {
 namespace {
 
 constexpr const char* kHorn = "D:\\clips\\horn.wav";
 
-class SoundEffects : public ShowFixture, public testing::Test {
+class SoundEffects : public GamePlayer, public testing::Test {
  protected:
-  SoundEffects() {
-    Start();
-    sim.files.Put(kHorn, "sound");
-  }
+  SoundEffects() : GamePlayer("5 3 3 full mi") { sim.files.Put(kHorn, "sound"); }
   // Opens the dialog by its button, does that, and closes it.
   void InDialog(const std::function<void()>& act) {
     sim.dialogs.ExpectForm("frmSoundEffects", [&] {
@@ -22,13 +19,10 @@ class SoundEffects : public ShowFixture, public testing::Test {
     });
     form().btnSounds.Click();
   }
-  void Choose(Button& button, const std::string& file, const std::string& message = "") {
-    sim.dialogs.ExpectFile(file);
-    if (!message.empty()) sim.dialogs.ExpectMessage(message);
-    button.Click();
-  }
+  void InDialog(const std::string& script) { Play("btnSounds@frmSoundEffects { " + script + " btnSaveExit }"); }
   std::string& Entry(std::size_t bank, std::size_t row) { return show().soundBanks[bank][row]; }
 
+  SimPlatform& sim = fixture().sim;
   SoundEffectsForm& dialog = show().frmSoundEffects;
   Grid& grid = dialog.Grid1;
 };
@@ -91,21 +85,18 @@ TEST_F(SoundEffects, PreviewPlaysTheEntryEvenOfAClearedCell) {
 TEST_F(SoundEffects, ExportAndImportCarryTheTableAndFaultsOfFilesAreTold) {
   Entry(3, 20) = "C:\\a\\twenty.wav";
   sim.files.Put("D:\\short.dat", "D:\\one\r\nD:\\two\r\n");
-  InDialog([&] {
-    Choose(dialog.btnExport, "D:\\clips\\mine.dat");
-    const SoundBanks exported = show().soundBanks;
-    show().soundBanks = {};
-    Choose(dialog.btnImport, "D:\\clips\\mine.dat");
-    EXPECT_EQ(show().soundBanks, exported);
-    EXPECT_EQ(grid.Cell(19, 3), "twenty.wav");
-    EXPECT_EQ(grid.Cell(8, 1), "") << "an import shows empty cells empty";
-    Choose(dialog.btnImport, "D:\\gone.dat", "File not found: D:\\gone.dat");
-    Choose(dialog.btnImport, "D:\\short.dat", "Procedure: btnImportSoundFiles");
-    sim.files.FailNextWrite(kErrorDiskFull);
-    Choose(dialog.btnExport, "D:\\full.dat", "Procedure: btnExportSoundFiles");
-    sim.files.FailNextWrite(kErrorDiskFull);
-    sim.dialogs.ExpectMessage("Error Number: 61");
-  });
+  InDialog("file:D:\\clips\\mine.dat btnExport");
+  const SoundBanks exported = std::exchange(show().soundBanks, {});
+  InDialog("file:D:\\clips\\mine.dat btnImport");
+  EXPECT_EQ(show().soundBanks, exported);
+  EXPECT_EQ(grid.Cell(19, 3), "twenty.wav");
+  EXPECT_EQ(grid.Cell(8, 1), "") << "an import shows empty cells empty";
+  sim.files.FailNextWrite(kErrorDiskFull);
+  InDialog(
+      "file:D:\\gone.dat ?File_not_found:_D:\\gone.dat btnImport file:D:\\full.dat "
+      "?Procedure:_btnExportSoundFiles btnExport file:D:\\short.dat ?Procedure:_btnImportSoundFiles btnImport");
+  sim.files.FailNextWrite(kErrorDiskFull);
+  InDialog("?Error_Number:_61");
   EXPECT_EQ(sim.dialogs.FileRequests()[0].DefaultExtension, "dat");
   EXPECT_EQ(Entry(1, 2), "D:\\two");
   EXPECT_EQ(Entry(1, 4), "C:\\Pawnfield\\Sound Effects\\Correct.mp3") << "lines that are missing change nothing";
