@@ -29,6 +29,8 @@ bool MayDiffer(Show& show, const std::string& pair) {
   for (const char* panel : {"picQuestion", "picQuestionPicture", "picSound"}) {
     if (pair == std::string(panel) + ".Visible") return show.frmFSMain.Find(panel)->Visible;
   }
+  // A picture on demand that can't be read leaves the console's panel up alone for its time.
+  if (pair == "picMOD.Visible" && show.frmMain.tmrMODPicture.Enabled) return show.frmMain.picMOD.Visible;
   return Animates(show) && pair.starts_with("img") && !visible;
 }
 

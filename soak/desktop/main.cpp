@@ -22,9 +22,9 @@ using namespace pawnfield;
 constexpr qint64 kMinuteMs = 60000;
 constexpr double kSoundHertz = 800;
 constexpr double kMusicHertz = 2300;
-// The players' libraries keep some buffers and now and then a thread of a pool; what each play leaves behind adds up to
-// more within a few minutes.
-constexpr Reading kBound{8192, 4096, 4, 4};
+// One picture of the whole audience's screen more or less is 8 MB, and the players' libraries keep some buffers and now
+// and then a thread of a pool. What each game, picture or film leaves behind adds up to more within half an hour.
+constexpr Reading kBound{12288, 12288, 4, 4};
 
 std::string MakeTone(const QString& path, double hertz, int milliseconds) {
   QFile file(path);
