@@ -9,6 +9,8 @@
 namespace pawnfield {
 
 void PrintMedian(const std::string& name, std::vector<double> milliseconds);
+// The value that so many in 100 of them do not exceed; as a line under that name.
+void PrintPercentile(const std::string& name, std::vector<double> milliseconds, std::size_t percent);
 
 // Starts this program several times over as the show's program, and takes the time to its first windows.
 bool MeasureStartUp();

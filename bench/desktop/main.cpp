@@ -15,6 +15,11 @@ void PrintMedian(const std::string& name, std::vector<double> milliseconds) {
   std::printf("\"%s_median\",%zu,%f,%f,ms\n", name.c_str(), milliseconds.size(), median, median);
 }
 
+void PrintPercentile(const std::string& name, std::vector<double> milliseconds, std::size_t percent) {
+  std::sort(milliseconds.begin(), milliseconds.end());
+  PrintMedian(name, {milliseconds[milliseconds.size() * percent / 100]});
+}
+
 }  // namespace pawnfield
 
 // Usage: pawnfield_desktop_bench [MEASURE...], each of fits, paints, presses, sound, film and

@@ -3,7 +3,6 @@
 #include <QTemporaryDir>
 #include <QTest>
 #include <QTimer>
-#include <algorithm>
 #include <chrono>
 #include <cstdio>
 
@@ -92,12 +91,8 @@ struct Latencies {
 
 double Milliseconds(Moment from, Moment to) { return std::chrono::duration<double, std::milli>(to - from).count(); }
 
-void PrintPercentiles(const std::string& name, std::vector<double> values) {
-  std::sort(values.begin(), values.end());
-  for (const int percent : {50, 95, 99}) {
-    const double value = values[values.size() * static_cast<std::size_t>(percent) / 100];
-    PrintMedian(name + "_" + std::to_string(percent), {value});
-  }
+void PrintPercentiles(const std::string& name, const std::vector<double>& values) {
+  for (const std::size_t percent : {50, 95, 99}) PrintPercentile(name + "_" + std::to_string(percent), values, percent);
 }
 
 void Print(const std::string& from, const Latencies& times) {

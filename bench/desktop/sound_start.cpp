@@ -118,14 +118,13 @@ class Card {
   std::atomic<SteadyClock::rep> first_ = 1, last_ = 0;
 };
 
-bool Print(const std::string& name, std::vector<double> times) {
-  std::sort(times.begin(), times.end());
-  if (times.front() < 0) {
+bool Print(const std::string& name, const std::vector<double>& times) {
+  if (*std::min_element(times.begin(), times.end()) < 0) {
     std::fprintf(stderr, "%s: a play was not heard\n", name.c_str());
     return false;
   }
   PrintMedian("SoundStart/" + name, times);
-  PrintMedian("SoundStart/" + name + "_95", {times[times.size() * 95 / 100]});
+  PrintPercentile("SoundStart/" + name + "_95", times, 95);
   return true;
 }
 
