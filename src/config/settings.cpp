@@ -108,6 +108,12 @@ void SaveSetting(Show& show, const std::string& key, const std::string& value) {
   show.platform.settings.SaveSetting(kAppTitle, kSection, key, value);
 }
 
+void SaveSettingOrTell(Show& show, const std::string& key, const std::string& value, const Form& form,
+                       const std::string& procedure) {
+  RunGuarded(
+      show.platform.dialogs, [&] { SaveSetting(show, key, value); }, form.Name(), procedure);
+}
+
 int GetIntSetting(Show& show, const std::string& key, int fallback) {
   using Limits = std::numeric_limits<std::int16_t>;
   const std::optional<double> value = ParseNumber(GetSetting(show, key, std::to_string(fallback)));

@@ -5,10 +5,14 @@
 
 namespace pawnfield {
 
+class Form;
 struct Show;
 
 std::string GetSetting(const Show& show, const std::string& key, const std::string& fallback);
 void SaveSetting(Show& show, const std::string& key, const std::string& value);
+// The same, but a failure is told as the form's own and the caller goes on.
+void SaveSettingOrTell(Show& show, const std::string& key, const std::string& value, const Form& form,
+                       const std::string& procedure);
 
 // A value that can't be converted is reported through the shared error box once and gives the fallback.
 int GetIntSetting(Show& show, const std::string& key, int fallback);

@@ -7,7 +7,6 @@
 
 #include "config/settings.h"
 #include "controllers/zr610.h"
-#include "engine/errors.h"
 #include "engine/main_load.h"
 #include "engine/show.h"
 #include "platform/text.h"
@@ -162,9 +161,7 @@ void frmSetInterface_btnOK_Click(Show& show) {
   show.state.ZR650 = false;
   show.state.SerialComm = kKeypadSharedKey;
   // A choice that can't be kept is told, and the console comes up all the same.
-  RunGuarded(
-      show.platform.dialogs, [&] { SaveSetting(show, "SerialComm", std::to_string(kKeypadSharedKey)); },
-      show.frmSetInterface.Name(), "btnOK_Click");
+  SaveSettingOrTell(show, "SerialComm", std::to_string(kKeypadSharedKey), show.frmSetInterface, "btnOK_Click");
   show.frmMain.Visible = true;
   ShowAudienceAt(show, show.state.FSLeft);
   show.frmSetInterface.Unload();

@@ -122,9 +122,8 @@ void TakeBoxes(Show& show) {
 void btnOk_Click(Show& show) {
   show.state.ShowBaseHeader = show.frmOptionalHeaders.chkBaseImage.Value == 1;
   // A disk that is full must not keep the headers from the screens.
-  RunGuarded(
-      show.platform.dialogs, [&] { SaveSetting(show, "ShowBaseHeader", BooleanText(show.state.ShowBaseHeader)); },
-      show.frmOptionalHeaders.Name(), "btnOk_Click");
+  SaveSettingOrTell(show, "ShowBaseHeader", BooleanText(show.state.ShowBaseHeader), show.frmOptionalHeaders,
+                    "btnOk_Click");
   show.frmOptionalHeaders.Visible = false;
   TakeBoxes(show);
   SaveToOSKD(show);

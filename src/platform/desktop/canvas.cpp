@@ -221,10 +221,8 @@ void Canvas::paintEvent(QPaintEvent* event) {
     painter.fillRect(area, Qt::black);
   }
   for (std::size_t i = lowest; i < order_.size(); ++i) {
-    const Item& item = *order_[i];
-    if (item.control.IsShown() && event->region().intersects(FillRect(item).toAlignedRect())) {
-      PaintItem(painter, *order_[i]);
-    }
+    Item& item = *order_[i];
+    if (item.control.IsShown() && event->region().intersects(FillRect(item).toAlignedRect())) PaintItem(painter, item);
   }
 }
 

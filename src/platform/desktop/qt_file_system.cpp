@@ -13,27 +13,7 @@
 
 namespace pawnfield {
 
-namespace {
-
-bool ParentExists(const QString& path) { return QFileInfo(QFileInfo(path).absolutePath()).isDir(); }
-
-// What a failed open for reading means, asked of the disk because one error code stands for all of it.
-RuntimeError ReadError(const QString& path) {
-  const QFileInfo info(path);
-  if (info.exists()) return FileError(EACCES);
-  return ParentExists(path) ? RuntimeError(kErrorFileNotFound, "File not found") : FileError(ENOENT);
-}
-
-}  // namespace
-
-std::string QtFileSystem::Read(const std::string& path) const {
-  const QString native = NativePath(path);
-  QFile file(native);
-  if (QFileInfo(native).isDir() || !file.open(QIODevice::ReadOnly)) throw ReadError(native);
-  const QByteArray bytes = file.readAll();
-  if (file.error() != QFileDevice::NoError) throw FileError(EIO);
-  return bytes.toStdString();
-}
+std::string QtFileSystem::Read(const std::string& path) const { return ReadFile(NativePath(path)).toStdString(); }
 
 void QtFileSystem::Write(const std::string& path, const std::string& bytes) { ReplaceFile(NativePath(path), bytes); }
 

@@ -2,7 +2,6 @@
 
 #include <QDir>
 #include <QFile>
-#include <cerrno>
 
 #include "platform/desktop/ini_text.h"
 #include "platform/desktop/whole_file.h"
@@ -24,14 +23,7 @@ QString StoredName(const QMap<QString, Value>& values, const std::string& name) 
 }
 
 // Nothing where there is no such file; an error where there is one that can't be read.
-IniValues ReadIni(const QString& path) {
-  QFile file(path);
-  if (!file.exists()) return {};
-  if (!file.open(QFile::ReadOnly)) throw FileError(EACCES);
-  const QByteArray bytes = file.readAll();
-  if (file.error() != QFileDevice::NoError) throw FileError(EIO);
-  return ParseIni(bytes);
-}
+IniValues ReadIni(const QString& path) { return QFile::exists(path) ? ParseIni(ReadFile(path)) : IniValues(); }
 
 }  // namespace
 

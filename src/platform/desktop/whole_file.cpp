@@ -50,6 +50,14 @@ const char* Words(int number) {
   }
 }
 
+// What a failed open for reading means, asked of the disk because one error code stands for all of it.
+RuntimeError ReadError(const QString& path) {
+  const QFileInfo info(path);
+  if (info.exists()) return FileError(EACCES);
+  const bool parentExists = QFileInfo(info.absolutePath()).isDir();
+  return parentExists ? RuntimeError(kErrorFileNotFound, "File not found") : FileError(ENOENT);
+}
+
 [[noreturn]] void Fail() { throw FileError(errno); }
 
 // The new bytes on their way: a hidden file beside the target, which goes with the object unless it has been moved.
@@ -104,7 +112,7 @@ void RemoveParts(const QFileInfo& target) {
   const QString beginning = PartBeginning(target);
   for (const QString& name : QDir(target.absolutePath()).entryList(QDir::Files | QDir::Hidden)) {
     if (!name.startsWith(beginning) || !name.endsWith(kPartEnding)) continue;
-    const pid_t owner = name.mid(beginning.size()).chopped(qstrlen(kPartEnding)).toInt();
+    const pid_t owner = name.mid(beginning.size()).chopped(static_cast<qsizetype>(qstrlen(kPartEnding))).toInt();
     if (owner > 0 && kill(owner, 0) != 0 && errno == ESRCH) QFile::remove(target.absolutePath() + '/' + name);
   }
 }
@@ -114,6 +122,14 @@ void RemoveParts(const QFileInfo& target) {
 RuntimeError FileError(int systemError) {
   const int number = ErrorNumber(systemError);
   return {number, Words(number)};
+}
+
+QByteArray ReadFile(const QString& path) {
+  QFile file(path);
+  if (QFileInfo(path).isDir() || !file.open(QIODevice::ReadOnly)) throw ReadError(path);
+  QByteArray bytes = file.readAll();
+  if (file.error() != QFileDevice::NoError) throw FileError(EIO);
+  return bytes;
 }
 
 void ReplaceFile(const QString& path, std::string_view bytes) {

@@ -11,6 +11,10 @@ namespace pawnfield {
 // The error that a failed call of the operating system means, with the words of its number.
 RuntimeError FileError(int systemError);
 
+// All that the file holds. A RuntimeError when it can't be read, with the number that tells whether it, its folder or
+// the right to it is missing.
+QByteArray ReadFile(const QString& path);
+
 // Puts the bytes in the file's place, on the disk when it returns. After a RuntimeError the old file is there unharmed
 // and nothing beside it. What a process left that was killed amid a write goes with the next write of the same file.
 void ReplaceFile(const QString& path, std::string_view bytes);
