@@ -2,10 +2,11 @@
 // both screens, through the handlers of the buttons.
 #include <benchmark/benchmark.h>
 
-#include "engine/show.h"
-#include "engine/start_up.h"
-#include "platform/sim/sim_platform.h"
+#include "forms/main_form.h"
+#include "program/program.h"
 #include "sets/set_file.h"
+#include "show/show.h"
+#include "sim/sim_platform.h"
 
 namespace pawnfield {
 namespace {

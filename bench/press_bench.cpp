@@ -1,9 +1,9 @@
 // How fast the presses' bytes are decoded: reports of both forms, and frames of the wired pads' line.
 #include <benchmark/benchmark.h>
 
-#include "controllers/frame_splitter.h"
-#include "controllers/transceiver.h"
-#include "controllers/transceiver_data.h"
+#include "devices/frame_splitter.h"
+#include "devices/transceiver.h"
+#include "devices/transceiver_data.h"
 
 namespace pawnfield {
 namespace {

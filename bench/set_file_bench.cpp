@@ -1,9 +1,9 @@
 // What loading a set costs, by its count of questions; every line is as long as it may be.
 #include <benchmark/benchmark.h>
 
-#include "engine/show.h"
-#include "platform/sim/sim_platform.h"
 #include "sets/set_file.h"
+#include "show/show.h"
+#include "sim/sim_platform.h"
 
 namespace pawnfield {
 namespace {

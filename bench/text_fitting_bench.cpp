@@ -2,8 +2,8 @@
 #include <benchmark/benchmark.h>
 
 #include "plain_search.h"
-#include "platform/sim/sim_devices.h"
 #include "presentation/text_fitting.h"
+#include "sim/sim_devices.h"
 
 namespace pawnfield {
 namespace {

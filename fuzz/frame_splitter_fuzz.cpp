@@ -6,7 +6,7 @@
 #include <string>
 #include <vector>
 
-#include "controllers/frame_splitter.h"
+#include "devices/frame_splitter.h"
 
 namespace {
 

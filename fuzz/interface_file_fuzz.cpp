@@ -4,7 +4,7 @@
 #include <cstdlib>
 #include <string>
 
-#include "controllers/detection.h"
+#include "program/interface_file.h"
 
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
   using namespace pawnfield;

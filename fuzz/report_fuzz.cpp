@@ -5,7 +5,7 @@
 #include <cstdlib>
 #include <cstring>
 
-#include "controllers/transceiver_data.h"
+#include "devices/transceiver_data.h"
 #include "platform/hid_descriptor.h"
 
 namespace {

@@ -2,9 +2,9 @@
 
 #include <QApplication>
 
-#include "engine/start_up.h"
-#include "platform/desktop/desktop_program.h"
-#include "platform/desktop/fitting_scale.h"
+#include "desktop/desktop_program.h"
+#include "desktop/windows/fitting_scale.h"
+#include "program/program.h"
 
 int main(int argc, char** argv) {
   pawnfield::FitScaleToMonitor(argc, argv);

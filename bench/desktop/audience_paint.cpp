@@ -9,12 +9,15 @@
 #include <ctime>
 #include <tuple>
 
-#include "engine/main_load.h"
-#include "engine/start_up.h"
+#include "desktop/desktop_program.h"
+#include "desktop/files/native_path.h"
 #include "figures.h"
-#include "platform/desktop/desktop_program.h"
-#include "platform/desktop/native_path.h"
+#include "forms/fs_main_form.h"
+#include "forms/main_form.h"
+#include "forms/small_forms.h"
 #include "presentation/both_screens.h"
+#include "program/main_load.h"
+#include "program/program.h"
 
 namespace pawnfield {
 

@@ -2,8 +2,8 @@
 #include <ctime>
 
 #include "../plain_search.h"
+#include "desktop/system/qt_readers.h"
 #include "figures.h"
-#include "platform/desktop/qt_readers.h"
 
 namespace pawnfield {
 

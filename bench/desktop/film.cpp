@@ -10,9 +10,10 @@
 #include <map>
 
 #include "counted_film.h"
+#include "desktop/files/native_path.h"
 #include "figures.h"
+#include "forms/main_form.h"
 #include "media/media_on_demand.h"
-#include "platform/desktop/native_path.h"
 #include "show_driver.h"
 
 namespace pawnfield {

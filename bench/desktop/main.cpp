@@ -4,8 +4,8 @@
 #include <algorithm>
 #include <cstdio>
 
+#include "desktop/desktop_program.h"
 #include "figures.h"
-#include "platform/desktop/desktop_program.h"
 
 namespace pawnfield {
 

@@ -6,12 +6,13 @@
 #include <chrono>
 #include <cstdio>
 
-#include "controllers/detection.h"
 #include "controllers/ring_in.h"
-#include "engine/handlers.h"
+#include "desktop/desktop_program.h"
+#include "desktop/files/native_path.h"
 #include "figures.h"
-#include "platform/desktop/desktop_program.h"
-#include "platform/desktop/native_path.h"
+#include "forms/main_form.h"
+#include "program/detection.h"
+#include "program/handlers.h"
 
 namespace pawnfield {
 

@@ -22,11 +22,11 @@
 #include <functional>
 #include <thread>
 
-#include "engine/show.h"
+#include "desktop/desktop_platform.h"
+#include "desktop/files/native_path.h"
 #include "figures.h"
 #include "media/sound_channels.h"
-#include "platform/desktop/desktop_platform.h"
-#include "platform/desktop/native_path.h"
+#include "show/show.h"
 
 namespace pawnfield {
 

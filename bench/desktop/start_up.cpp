@@ -1,5 +1,3 @@
-#include "engine/start_up.h"
-
 #include <QApplication>
 #include <QProcess>
 #include <QTemporaryDir>
@@ -8,10 +6,12 @@
 #include <cstdio>
 #include <optional>
 
-#include "engine/main_load.h"
+#include "desktop/desktop_program.h"
+#include "desktop/files/native_path.h"
 #include "figures.h"
-#include "platform/desktop/desktop_program.h"
-#include "platform/desktop/native_path.h"
+#include "forms/small_forms.h"
+#include "program/main_load.h"
+#include "program/program.h"
 
 namespace pawnfield {
 

@@ -2,7 +2,9 @@
 
 #include <string>
 
-#include "engine/show.h"
+#include "forms/help_about_form.h"
+#include "forms/main_form.h"
+#include "show/show.h"
 
 namespace pawnfield {
 

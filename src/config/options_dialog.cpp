@@ -3,10 +3,12 @@
 #include <array>
 #include <string>
 
-#include "engine/show.h"
+#include "forms/main_form.h"
+#include "forms/options_form.h"
 #include "media/background_music.h"
 #include "media/sound_channels.h"
 #include "platform/text.h"
+#include "show/show.h"
 
 namespace pawnfield {
 

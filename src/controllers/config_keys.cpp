@@ -1,7 +1,9 @@
 #include "controllers/config_keys.h"
 
-#include "engine/show.h"
+#include "forms/config_keys_form.h"
+#include "forms/main_form.h"
 #include "platform/text.h"
+#include "show/show.h"
 
 namespace pawnfield {
 

@@ -3,15 +3,16 @@
 #include <cctype>
 
 #include "controllers/ring_in.h"
-#include "controllers/shared_key.h"
 #include "engine/board_play.h"
 #include "engine/judging.h"
 #include "engine/question_cycle.h"
-#include "engine/show.h"
 #include "engine/turn_order.h"
+#include "forms/main_form.h"
 #include "media/media_on_demand.h"
+#include "outward/shared_key.h"
 #include "platform/text.h"
 #include "presentation/both_screens.h"
+#include "show/show.h"
 
 namespace pawnfield {
 

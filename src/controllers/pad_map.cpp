@@ -2,10 +2,10 @@
 
 #include <algorithm>
 
-#include "controllers/packing.h"
-#include "engine/handlers.h"
-#include "engine/show.h"
+#include "forms/main_form.h"
+#include "forms/press_forms.h"
 #include "platform/text.h"
+#include "show/show.h"
 
 namespace pawnfield {
 
@@ -30,19 +30,6 @@ void FillRows(Show& show) {
 
 }  // namespace
 
-PadMap ParsePadMap(const std::string& bytes) {
-  PadMap map{};
-  std::size_t pos = 1;
-  for (std::int32_t& id : map) id = GetLong(bytes, pos, ByteOrder::Machine);
-  return map;
-}
-
-std::string FormatPadMap(const PadMap& map) {
-  std::string bytes;
-  for (const std::int32_t id : map) bytes += PackLong(id, ByteOrder::Machine);
-  return bytes;
-}
-
 void LoadMFMapFile(Show& show, const std::string& path) {
   if (show.platform.files.CanOpen(path)) show.presses.MFMap = ParsePadMap(show.platform.files.Read(path));
 }
@@ -55,17 +42,6 @@ void LoadMF(Show& show) {
   show.frmMain.mnuZR610.Visible = true;
   show.frmMain.mTestK7Controllers.Visible = false;
   LoadMFMapFile(show, MapPath(show));
-}
-
-int LookupPad(const PadMap& map, std::int32_t id) {
-  const auto found = std::find(map.begin(), map.end(), id);
-  return found == map.end() ? 0 : static_cast<int>(found - map.begin()) + 1;
-}
-
-bool IsFormVisible(Show& show, const std::string& name) {
-  const auto forms = AllForms(show);
-  return std::any_of(forms.begin(), forms.end(),
-                     [&](const Form* form) { return Trim(form->Name()) == Trim(name) && form->Visible; });
 }
 
 int FindPadRow(Show& show, std::int32_t id) {

@@ -1,14 +1,16 @@
 #include "controllers/ring_in.h"
 
-#include "controllers/shared_key.h"
-#include "controllers/transceiver.h"
-#include "engine/errors.h"
+#include "devices/transceiver.h"
 #include "engine/question_cycle.h"
-#include "engine/show.h"
 #include "engine/turn_order.h"
+#include "forms/fs_main_form.h"
+#include "forms/main_form.h"
 #include "media/sound_channels.h"
 #include "media/sound_table.h"
+#include "outward/shared_key.h"
+#include "platform/errors.h"
 #include "presentation/both_screens.h"
+#include "show/show.h"
 
 namespace pawnfield {
 

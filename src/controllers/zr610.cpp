@@ -5,16 +5,17 @@
 #include <memory>
 #include <utility>
 
-#include "controllers/detection.h"
 #include "controllers/pad_map.h"
 #include "controllers/ring_in.h"
-#include "engine/errors.h"
 #include "engine/judging.h"
 #include "engine/question_cycle.h"
-#include "engine/show.h"
+#include "forms/main_form.h"
+#include "forms/press_forms.h"
 #include "platform/attach.h"
+#include "platform/errors.h"
 #include "platform/text.h"
 #include "presentation/both_screens.h"
+#include "show/show.h"
 
 namespace pawnfield {
 
@@ -209,8 +210,6 @@ void AttachPressHandlers(Show& show) {
   OnClick(show, form.mTestK7Controllers, mTestK7Controllers_Click);
   OnClick(show, show.frmMapMF.cmdOK, cmdOK_Click);
   OnClick(show, show.frmMapMF.cmdCancel, cmdCancel_Click);
-  OnClick(show, show.frmSetInterface.btnOK, frmSetInterface_btnOK_Click);
-  OnClick(show, show.frmSetInterface.btnCancel, frmSetInterface_btnCancel_Click);
   const auto guard = [&show](const std::function<void()>& handler, const std::string&, const std::string&) {
     show.frmMain.Dispatch(handler, "mscZR610_OnComm");
   };

@@ -2,17 +2,19 @@
 
 #include <optional>
 
-#include "config/settings.h"
-#include "controllers/companion.h"
 #include "engine/lines.h"
 #include "engine/question_cycle.h"
-#include "engine/show.h"
 #include "engine/turn_order.h"
 #include "engine/win_detection.h"
+#include "forms/fs_main_form.h"
+#include "forms/main_form.h"
 #include "media/sound_channels.h"
+#include "outward/companion.h"
 #include "platform/text.h"
 #include "presentation/board_layout.h"
 #include "presentation/both_screens.h"
+#include "show/settings.h"
+#include "show/show.h"
 
 namespace pawnfield {
 

@@ -2,19 +2,23 @@
 
 #include <array>
 
-#include "config/settings.h"
-#include "controllers/companion.h"
-#include "controllers/shared_key.h"
 #include "engine/options.h"
 #include "engine/question_cycle.h"
 #include "engine/set_choice.h"
-#include "engine/show.h"
 #include "engine/turn_order.h"
 #include "engine/win_detection.h"
+#include "forms/fs_main_form.h"
+#include "forms/main_form.h"
+#include "forms/player_names_form.h"
+#include "forms/small_forms.h"
+#include "outward/companion.h"
+#include "outward/shared_key.h"
 #include "platform/text.h"
 #include "presentation/board_layout.h"
 #include "presentation/both_screens.h"
 #include "sets/set_file.h"
+#include "show/settings.h"
+#include "show/show.h"
 
 namespace pawnfield {
 

@@ -2,17 +2,19 @@
 
 #include <array>
 
-#include "controllers/companion.h"
-#include "controllers/shared_key.h"
 #include "engine/options.h"
 #include "engine/question_cycle.h"
-#include "engine/show.h"
 #include "engine/turn_order.h"
+#include "forms/fs_main_form.h"
+#include "forms/main_form.h"
 #include "media/sound_channels.h"
 #include "media/sound_table.h"
+#include "outward/companion.h"
+#include "outward/shared_key.h"
 #include "platform/text.h"
 #include "presentation/board_layout.h"
 #include "presentation/both_screens.h"
+#include "show/show.h"
 
 namespace pawnfield {
 

@@ -2,7 +2,8 @@
 
 #include <initializer_list>
 
-#include "engine/show.h"
+#include "forms/main_form.h"
+#include "show/show.h"
 
 namespace pawnfield {
 

@@ -3,9 +3,11 @@
 #include <array>
 #include <string>
 
-#include "engine/show.h"
+#include "forms/main_form.h"
+#include "forms/player_names_form.h"
 #include "platform/text.h"
 #include "presentation/both_screens.h"
+#include "show/show.h"
 
 namespace pawnfield {
 

@@ -2,19 +2,21 @@
 
 #include <cmath>
 
-#include "controllers/shared_key.h"
-#include "engine/errors.h"
 #include "engine/options.h"
-#include "engine/show.h"
 #include "engine/turn_order.h"
 #include "engine/win_detection.h"
+#include "forms/fs_main_form.h"
+#include "forms/main_form.h"
 #include "media/question_pictures.h"
 #include "media/sound_channels.h"
 #include "media/sound_table.h"
+#include "outward/shared_key.h"
+#include "platform/errors.h"
 #include "platform/text.h"
 #include "presentation/both_screens.h"
 #include "presentation/text_fitting.h"
 #include "sets/set_file.h"
+#include "show/show.h"
 
 namespace pawnfield {
 

@@ -1,18 +1,20 @@
 #include "engine/set_choice.h"
 
-#include "controllers/companion.h"
-#include "controllers/shared_key.h"
 #include "engine/game_flow.h"
 #include "engine/options.h"
 #include "engine/question_cycle.h"
-#include "engine/show.h"
 #include "engine/turn_order.h"
+#include "forms/fs_main_form.h"
+#include "forms/main_form.h"
 #include "media/background_music.h"
+#include "outward/companion.h"
+#include "outward/shared_key.h"
 #include "presentation/board_layout.h"
 #include "presentation/both_screens.h"
 #include "sets/file_dialogs.h"
 #include "sets/missing_media.h"
 #include "sets/set_file.h"
+#include "show/show.h"
 
 namespace pawnfield {
 

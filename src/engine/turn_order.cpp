@@ -2,9 +2,10 @@
 
 #include <array>
 
-#include "controllers/companion.h"
-#include "engine/show.h"
+#include "forms/main_form.h"
+#include "outward/companion.h"
 #include "presentation/both_screens.h"
+#include "show/show.h"
 
 namespace pawnfield {
 

@@ -5,12 +5,14 @@
 #include "engine/lines.h"
 #include "engine/options.h"
 #include "engine/set_choice.h"
-#include "engine/show.h"
+#include "forms/fs_main_form.h"
+#include "forms/main_form.h"
 #include "media/sound_channels.h"
 #include "presentation/board_layout.h"
 #include "presentation/both_screens.h"
 #include "presentation/text_fitting.h"
 #include "sets/set_file.h"
+#include "show/show.h"
 
 namespace pawnfield {
 

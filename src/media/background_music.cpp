@@ -1,9 +1,10 @@
 #include "media/background_music.h"
 
-#include "engine/errors.h"
-#include "engine/show.h"
+#include "forms/main_form.h"
 #include "media/sound_channels.h"
+#include "platform/errors.h"
 #include "platform/text.h"
+#include "show/show.h"
 
 namespace pawnfield {
 

@@ -5,7 +5,7 @@
 #include <optional>
 #include <string>
 
-#include "engine/game_state.h"
+#include "data/game_state.h"
 #include "platform/ports.h"
 
 namespace pawnfield {

@@ -1,10 +1,11 @@
 #include "media/media_handlers.h"
 
-#include "engine/show.h"
+#include "forms/main_form.h"
 #include "media/background_music.h"
 #include "media/media_on_demand.h"
 #include "media/optional_headers.h"
 #include "media/sound_effects.h"
+#include "show/show.h"
 
 namespace pawnfield {
 

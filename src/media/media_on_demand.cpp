@@ -3,12 +3,14 @@
 #include <algorithm>
 #include <array>
 
-#include "engine/errors.h"
-#include "engine/show.h"
+#include "forms/fs_main_form.h"
+#include "forms/main_form.h"
 #include "media/question_pictures.h"
 #include "media/sound_channels.h"
 #include "media/sound_table.h"
+#include "platform/errors.h"
 #include "platform/text.h"
+#include "show/show.h"
 
 namespace pawnfield {
 

@@ -2,11 +2,14 @@
 
 #include <algorithm>
 
-#include "config/settings.h"
-#include "engine/errors.h"
-#include "engine/show.h"
+#include "forms/fs_main_form.h"
+#include "forms/main_form.h"
+#include "forms/optional_headers_form.h"
 #include "media/header_file.h"
+#include "platform/errors.h"
 #include "platform/text.h"
+#include "show/settings.h"
+#include "show/show.h"
 
 namespace pawnfield {
 

@@ -1,7 +1,8 @@
 #include "media/sound_channels.h"
 
-#include "config/settings.h"
-#include "engine/show.h"
+#include "forms/main_form.h"
+#include "show/settings.h"
+#include "show/show.h"
 
 namespace pawnfield {
 

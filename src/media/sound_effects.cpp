@@ -3,11 +3,13 @@
 #include <array>
 #include <utility>
 
-#include "engine/errors.h"
-#include "engine/show.h"
+#include "forms/main_form.h"
+#include "forms/sound_effects_form.h"
 #include "media/sound_channels.h"
 #include "media/sound_table.h"
+#include "platform/errors.h"
 #include "platform/text.h"
+#include "show/show.h"
 
 namespace pawnfield {
 

@@ -1,10 +1,14 @@
 #include "presentation/audience_screen.h"
 
-#include "config/settings.h"
-#include "engine/show.h"
+#include "forms/connect_to_projector_form.h"
+#include "forms/fs_main_form.h"
+#include "forms/main_form.h"
+#include "forms/second_screen_form.h"
 #include "presentation/audience_step.h"
 #include "presentation/both_screens.h"
 #include "presentation/monitors.h"
+#include "show/settings.h"
+#include "show/show.h"
 
 namespace pawnfield {
 

@@ -2,13 +2,15 @@
 
 #include <array>
 
-#include "engine/show.h"
+#include "forms/board_labels.h"
+#include "forms/fs_main_form.h"
+#include "forms/main_form.h"
 #include "media/media_on_demand.h"
 #include "media/question_pictures.h"
-#include "presentation/board_labels.h"
 #include "presentation/board_layout.h"
 #include "presentation/both_screens.h"
 #include "presentation/text_fitting.h"
+#include "show/show.h"
 
 namespace pawnfield {
 

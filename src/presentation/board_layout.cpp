@@ -2,9 +2,11 @@
 
 #include <array>
 
-#include "engine/show.h"
-#include "presentation/board_labels.h"
+#include "forms/board_labels.h"
+#include "forms/fs_main_form.h"
+#include "forms/main_form.h"
 #include "presentation/both_screens.h"
+#include "show/show.h"
 
 namespace pawnfield {
 

@@ -2,9 +2,11 @@
 
 #include <utility>
 
-#include "engine/errors.h"
-#include "engine/show.h"
+#include "forms/fs_main_form.h"
+#include "forms/main_form.h"
+#include "platform/errors.h"
 #include "platform/text.h"
+#include "show/show.h"
 
 namespace pawnfield {
 

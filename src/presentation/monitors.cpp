@@ -1,6 +1,6 @@
 #include "presentation/monitors.h"
 
-#include "engine/show.h"
+#include "show/show.h"
 
 namespace pawnfield {
 

@@ -1,7 +1,9 @@
 #include "presentation/text_fitting.h"
 
-#include "engine/show.h"
+#include "forms/fs_main_form.h"
+#include "forms/main_form.h"
 #include "platform/text.h"
+#include "show/show.h"
 
 namespace pawnfield {
 

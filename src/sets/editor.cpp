@@ -4,12 +4,14 @@
 #include <initializer_list>
 #include <limits>
 
-#include "engine/show.h"
+#include "forms/editor_form.h"
+#include "forms/main_form.h"
 #include "media/sound_channels.h"
 #include "platform/text.h"
 #include "presentation/text_fitting.h"
-#include "sets/editor_media.h"
+#include "sets/editor_picture.h"
 #include "sets/set_file.h"
+#include "show/show.h"
 
 namespace pawnfield::editor {
 

@@ -4,7 +4,7 @@
 
 #include <string>
 
-#include "sets/trivia_set.h"
+#include "data/trivia_set.h"
 
 namespace pawnfield {
 

@@ -1,12 +1,13 @@
 #include "sets/editor_files.h"
 
-#include "engine/errors.h"
-#include "engine/show.h"
+#include "forms/editor_form.h"
 #include "media/sound_channels.h"
+#include "platform/errors.h"
 #include "platform/text.h"
 #include "sets/editor.h"
 #include "sets/file_dialogs.h"
 #include "sets/set_file.h"
+#include "show/show.h"
 
 namespace pawnfield::editor {
 

@@ -1,6 +1,7 @@
 #include "sets/editor_handlers.h"
 
-#include "engine/show.h"
+#include "forms/editor_form.h"
+#include "forms/main_form.h"
 #include "media/sound_channels.h"
 #include "platform/attach.h"
 #include "sets/editor.h"
@@ -8,6 +9,7 @@
 #include "sets/editor_media.h"
 #include "sets/editor_navigation.h"
 #include "sets/missing_media.h"
+#include "show/show.h"
 
 namespace pawnfield {
 

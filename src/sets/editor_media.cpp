@@ -4,13 +4,13 @@
 #include <charconv>
 #include <optional>
 
-#include "engine/errors.h"
-#include "engine/show.h"
-#include "media/question_pictures.h"
+#include "forms/editor_form.h"
 #include "media/sound_channels.h"
 #include "platform/text.h"
 #include "sets/editor.h"
+#include "sets/editor_picture.h"
 #include "sets/file_dialogs.h"
+#include "show/show.h"
 
 namespace pawnfield::editor {
 
@@ -129,24 +129,6 @@ void btnFontColor_Click(Show& show) {
   if (!chosen) return;
   form.txtDisplayQuestion.ForeColor = *chosen;
   ShownRecord(show).FontColor = std::to_string(*chosen);
-}
-
-bool DisplayPicture(Show& show, const std::string& path) {
-  EditorForm& form = show.frmEditor;
-  const PictureBox& frame = form.picQuestionPicture;
-  try {
-    const FittedPicture place = FitPictureOnAudience(show.platform.pictures.Size(path), frame.Width, frame.Height);
-    form.imgQuestionPicture.MoveTo(place.Left, place.Top, place.Width, place.Height);
-    form.imgQuestionPicture.Picture = path;
-    return true;
-  } catch (const RuntimeError& error) {
-    form.imgQuestionPicture.Picture = std::string();
-    const bool missing = error.Number() == kErrorFileNotFound || error.Number() == kErrorPathNotFound;
-    show.platform.dialogs.MessageBox(
-        missing ? "File not found: " + path : NotedErrorText(error, form.Name(), "DisplayPicture", path), kAppTitle,
-        BoxKind::Critical);
-    return false;
-  }
 }
 
 }  // namespace pawnfield::editor

@@ -1,8 +1,6 @@
 // The kind of a question in the editor: text in a font and colour, a picture or a sound.
 #pragma once
 
-#include <string>
-
 namespace pawnfield {
 
 struct Show;
@@ -16,9 +14,6 @@ void btnSound_Click(Show& show);
 void btnDefault_Click(Show& show);
 void btnFont_Click(Show& show);
 void btnFontColor_Click(Show& show);
-
-// Loads the picture and fits it into its frame. False, after a message, when it can't; the frame is then empty.
-bool DisplayPicture(Show& show, const std::string& path);
 
 }  // namespace editor
 

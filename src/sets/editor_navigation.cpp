@@ -2,9 +2,10 @@
 
 #include <algorithm>
 
-#include "engine/show.h"
+#include "forms/editor_form.h"
 #include "platform/text.h"
 #include "sets/editor.h"
+#include "show/show.h"
 
 namespace pawnfield::editor {
 

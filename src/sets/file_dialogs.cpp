@@ -1,7 +1,7 @@
 #include "sets/file_dialogs.h"
 
-#include "engine/show.h"
 #include "platform/text.h"
+#include "show/show.h"
 
 namespace pawnfield {
 

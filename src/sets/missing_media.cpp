@@ -2,11 +2,13 @@
 
 #include <array>
 
-#include "engine/errors.h"
-#include "engine/show.h"
+#include "forms/main_form.h"
+#include "forms/missing_media_form.h"
+#include "platform/errors.h"
 #include "platform/text.h"
 #include "sets/file_dialogs.h"
 #include "sets/set_file.h"
+#include "show/show.h"
 
 namespace pawnfield {
 

@@ -2,9 +2,10 @@
 
 #include <algorithm>
 
-#include "engine/errors.h"
-#include "engine/show.h"
+#include "forms/main_form.h"
+#include "platform/errors.h"
 #include "platform/text.h"
+#include "show/show.h"
 
 namespace pawnfield {
 

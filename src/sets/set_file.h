@@ -3,7 +3,7 @@
 
 #include <string>
 
-#include "sets/trivia_set.h"
+#include "data/trivia_set.h"
 
 namespace pawnfield {
 

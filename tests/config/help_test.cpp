@@ -1,6 +1,7 @@
 // The Help menu leads to the manual and the maker's pages, and says so when a page is gone.
 #include "config/help.h"
 
+#include "forms/help_about_form.h"
 #include "support/game_player.h"
 
 namespace pawnfield {

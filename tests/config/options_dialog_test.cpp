@@ -1,4 +1,5 @@
 // The options dialog: what apply, OK and Cancel do to every option.
+#include "forms/options_form.h"
 #include "support/game_player.h"
 
 namespace pawnfield {

@@ -3,7 +3,7 @@
 
 #include <memory>
 
-#include "controllers/shared_key.h"
+#include "outward/shared_key.h"
 #include "support/game_player.h"
 
 namespace pawnfield {

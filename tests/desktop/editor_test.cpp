@@ -12,11 +12,11 @@
 #include <QTest>
 #include <QTimer>
 
+#include "desktop/files/native_path.h"
+#include "desktop/system/qt_dialogs.h"
+#include "desktop/system/qt_printing.h"
+#include "desktop/windows/set_text_edit.h"
 #include "editor_driver.h"
-#include "platform/desktop/native_path.h"
-#include "platform/desktop/qt_dialogs.h"
-#include "platform/desktop/qt_printing.h"
-#include "platform/desktop/set_text_edit.h"
 #include "show_suite.h"
 
 namespace pawnfield {

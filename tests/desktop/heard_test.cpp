@@ -6,12 +6,13 @@
 #include <QStandardPaths>
 #include <QTest>
 
-#include "engine/handlers.h"
+#include "desktop/windows/player_view.h"
+#include "forms/main_form.h"
 #include "media/background_music.h"
 #include "media/media_on_demand.h"
 #include "media/sound_channels.h"
 #include "places.h"
-#include "platform/desktop/player_view.h"
+#include "program/handlers.h"
 #include "sound_rig.h"
 
 namespace pawnfield {

@@ -8,7 +8,7 @@
 #include <QTextBrowser>
 
 #include "config/help_pages.h"
-#include "platform/desktop/desktop_pages.h"
+#include "desktop/windows/desktop_pages.h"
 
 namespace pawnfield {
 namespace {

@@ -1,7 +1,7 @@
 // A real helper program beside this one is given its text as one argument, whatever the text holds.
 #include <QTest>
 
-#include "controllers/companion.h"
+#include "outward/companion.h"
 #include "places.h"
 
 namespace pawnfield {

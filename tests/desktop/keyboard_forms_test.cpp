@@ -5,8 +5,19 @@
 #include <QTabWidget>
 #include <QTest>
 
+#include "desktop/windows/volume_slider_view.h"
+#include "forms/config_keys_form.h"
+#include "forms/connect_to_projector_form.h"
+#include "forms/editor_form.h"
+#include "forms/help_about_form.h"
+#include "forms/missing_media_form.h"
+#include "forms/optional_headers_form.h"
+#include "forms/options_form.h"
+#include "forms/player_names_form.h"
+#include "forms/press_forms.h"
+#include "forms/small_forms.h"
+#include "forms/sound_effects_form.h"
 #include "places.h"
-#include "platform/desktop/volume_slider_view.h"
 
 namespace pawnfield {
 namespace {

@@ -4,7 +4,7 @@
 
 #include <QApplication>
 
-#include "platform/desktop/desktop_program.h"
+#include "desktop/desktop_program.h"
 
 int main(int argc, char** argv) {
   QApplication application(argc, argv);

@@ -13,8 +13,8 @@
 #include <QTemporaryDir>
 
 #include "counted_film.h"
+#include "desktop/files/native_path.h"
 #include "media/media_on_demand.h"
-#include "platform/desktop/native_path.h"
 #include "show_suite.h"
 
 namespace pawnfield {

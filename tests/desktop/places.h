@@ -7,8 +7,9 @@
 #include <QFile>
 #include <QTemporaryDir>
 
-#include "platform/desktop/desktop_program.h"
-#include "platform/desktop/native_path.h"
+#include "desktop/desktop_program.h"
+#include "desktop/files/native_path.h"
+#include "forms/main_form.h"
 
 namespace pawnfield {
 

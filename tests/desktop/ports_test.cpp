@@ -9,9 +9,9 @@
 #include <QTest>
 #include <csignal>
 
+#include "desktop/files/user_copy.h"
+#include "desktop/files/windows_1252.h"
 #include "places.h"
-#include "platform/desktop/user_copy.h"
-#include "platform/desktop/windows_1252.h"
 #include "sound_rig.h"
 
 namespace pawnfield {

@@ -4,6 +4,7 @@
 #include <QGuiApplication>
 #include <QScreen>
 
+#include "forms/second_screen_form.h"
 #include "show_suite.h"
 
 namespace pawnfield {

@@ -6,9 +6,10 @@
 #include <QTest>
 #include <array>
 
-#include "controllers/detection.h"
-#include "engine/handlers.h"
+#include "forms/main_form.h"
 #include "places.h"
+#include "program/detection.h"
+#include "program/handlers.h"
 
 namespace pawnfield {
 namespace {

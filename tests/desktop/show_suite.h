@@ -6,6 +6,8 @@
 #include <QProcess>
 #include <QTemporaryDir>
 
+#include "forms/fs_main_form.h"
+#include "forms/main_form.h"
 #include "show_driver.h"
 
 namespace pawnfield {

@@ -6,6 +6,7 @@
 #include <QTimer>
 #include <QWindow>
 
+#include "forms/player_names_form.h"
 #include "show_suite.h"
 
 namespace pawnfield {

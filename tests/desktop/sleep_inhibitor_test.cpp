@@ -1,6 +1,6 @@
 // Holds on the desktop's screen saver and on sleep, taken from services on a bus of the test's own.
 
-#include "platform/desktop/sleep_inhibitor.h"
+#include "desktop/system/sleep_inhibitor.h"
 
 #include <gtest/gtest.h>
 

@@ -1,11 +1,11 @@
 // What a program leaves that was killed, parts of files, and settings of an earlier make.
-#include "platform/desktop/whole_file.h"
+#include "desktop/files/whole_file.h"
 
 #include <sys/wait.h>
 #include <unistd.h>
 
+#include "desktop/files/ini_text.h"
 #include "places.h"
-#include "platform/desktop/ini_text.h"
 
 namespace pawnfield {
 namespace {

@@ -6,10 +6,12 @@
 #include <QTest>
 #include <QTimer>
 
+#include "desktop/windows/bindings.h"
+#include "desktop/windows/fitting_scale.h"
+#include "desktop/windows/model_widgets.h"
+#include "forms/fs_main_form.h"
+#include "forms/small_forms.h"
 #include "places.h"
-#include "platform/desktop/bindings.h"
-#include "platform/desktop/fitting_scale.h"
-#include "platform/desktop/model_widgets.h"
 #include "presentation/board_layout.h"
 
 namespace pawnfield {

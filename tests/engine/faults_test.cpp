@@ -1,4 +1,6 @@
 // What goes wrong with files in mid-show is told once, and the show runs on.
+#include "forms/missing_media_form.h"
+#include "program/program.h"
 #include "support/seen.h"
 #include "support/show_fixture.h"
 

@@ -2,8 +2,9 @@
 #include <gtest/gtest.h>
 
 #include "../support/show_fixture.h"
-#include "controllers/detection.h"
+#include "forms/optional_headers_form.h"
 #include "media/optional_headers.h"
+#include "program/detection.h"
 
 namespace pawnfield {
 namespace {

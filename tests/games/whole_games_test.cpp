@@ -1,5 +1,6 @@
 // Whole games by clicks on the console and by recorded presses of the controllers, in virtual time. A square is worth
 // 50 and a line 50 more unless a row says otherwise; an anti-diagonal pays 200 for three.
+#include "forms/fs_main_form.h"
 #include "support/game_player.h"
 
 namespace pawnfield {

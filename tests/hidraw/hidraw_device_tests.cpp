@@ -1,10 +1,11 @@
 // The transceiver on a real kernel's hidraw, with devices that the kernel takes for real ones.
 #include <gtest/gtest.h>
 
-#include "controllers/packing.h"
 #include "controllers/ring_in.h"
+#include "desktop/devices/hidapi_port.h"
+#include "devices/packing.h"
+#include "devices/transceiver.h"
 #include "hidraw/uhid_device.h"
-#include "platform/desktop/hidapi_port.h"
 #include "support/show_fixture.h"
 
 namespace pawnfield {

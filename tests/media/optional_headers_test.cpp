@@ -2,6 +2,7 @@
 
 #include <gmock/gmock.h>
 
+#include "forms/optional_headers_form.h"
 #include "media/header_file.h"
 #include "support/game_player.h"
 

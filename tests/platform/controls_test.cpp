@@ -2,8 +2,8 @@
 
 #include <gtest/gtest.h>
 
-#include "engine/errors.h"
-#include "platform/sim/sim_platform.h"
+#include "platform/errors.h"
+#include "sim/sim_platform.h"
 
 namespace pawnfield {
 namespace {

@@ -1,6 +1,7 @@
 // The audience screen on its monitor: where it goes, how it comes and goes with a cable, and that it is in step.
 #include "presentation/audience_screen.h"
 
+#include "forms/second_screen_form.h"
 #include "presentation/monitors.h"
 #include "support/game_player.h"
 #include "support/screen_pairs.h"

@@ -4,8 +4,10 @@
 
 #include <random>
 
-#include "engine/show.h"
-#include "platform/sim/sim_platform.h"
+#include "forms/fs_main_form.h"
+#include "forms/main_form.h"
+#include "show/show.h"
+#include "sim/sim_platform.h"
 
 namespace pawnfield {
 namespace {

@@ -1,3 +1,4 @@
+#include "forms/editor_form.h"
 #include "support/editor_fixture.h"
 
 namespace pawnfield {

@@ -4,7 +4,8 @@
 #include <string>
 #include <vector>
 
-#include "engine/handlers.h"
+#include "forms/editor_form.h"
+#include "program/handlers.h"
 #include "sets/editor.h"
 #include "sets/set_file.h"
 #include "support/show_fixture.h"

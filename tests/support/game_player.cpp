@@ -5,7 +5,8 @@
 #include <map>
 #include <sstream>
 
-#include "engine/handlers.h"
+#include "devices/transceiver.h"
+#include "program/handlers.h"
 #include "support/screen_pairs.h"
 #include "support/seen.h"
 

@@ -4,6 +4,7 @@
 #include <ostream>
 #include <string>
 
+#include "forms/main_form.h"
 #include "support/show_fixture.h"
 
 namespace pawnfield {

@@ -2,6 +2,9 @@
 
 #include <sstream>
 
+#include "forms/fs_main_form.h"
+#include "forms/main_form.h"
+
 namespace pawnfield {
 
 namespace {

@@ -4,7 +4,7 @@
 #include <string>
 #include <vector>
 
-#include "engine/show.h"
+#include "show/show.h"
 
 namespace pawnfield {
 

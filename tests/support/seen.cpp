@@ -5,6 +5,8 @@
 #include <algorithm>
 #include <sstream>
 
+#include "forms/fs_main_form.h"
+#include "forms/main_form.h"
 #include "platform/text.h"
 #include "support/screen_pairs.h"
 

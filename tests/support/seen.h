@@ -3,7 +3,7 @@
 
 #include <string>
 
-#include "engine/show.h"
+#include "show/show.h"
 
 namespace pawnfield {
 

@@ -6,9 +6,11 @@
 #include <string>
 #include <vector>
 
-#include "engine/show.h"
-#include "engine/start_up.h"
-#include "platform/sim/sim_platform.h"
+#include "forms/fs_main_form.h"
+#include "forms/main_form.h"
+#include "program/program.h"
+#include "show/show.h"
+#include "sim/sim_platform.h"
 
 namespace pawnfield {
 

@@ -2,7 +2,7 @@
 
 #include <QProcess>
 
-#include "platform/desktop/film.h"
+#include "desktop/media/film.h"
 
 namespace pawnfield {
 

@@ -2,11 +2,13 @@
 
 #include <QTextStream>
 
-#include "config/settings.h"
 #include "engine/question_cycle.h"
 #include "engine/win_detection.h"
+#include "forms/fs_main_form.h"
+#include "forms/main_form.h"
 #include "presentation/board_layout.h"
 #include "presentation/both_screens.h"
+#include "show/settings.h"
 
 namespace pawnfield {
 

@@ -7,10 +7,11 @@
 #include <string>
 
 #include "controllers/ring_in.h"
-#include "controllers/transceiver.h"
-#include "engine/errors.h"
-#include "engine/show.h"
-#include "platform/sim/sim_hid.h"
+#include "devices/transceiver.h"
+#include "forms/main_form.h"
+#include "platform/errors.h"
+#include "show/show.h"
+#include "sim/sim_hid.h"
 
 namespace pawnfield {
 

@@ -10,11 +10,14 @@
 #include <QTabWidget>
 #include <QTextStream>
 
+#include "desktop/files/native_path.h"
+#include "desktop/windows/fitting_scale.h"
 #include "editor_driver.h"
+#include "forms/fs_main_form.h"
+#include "forms/main_form.h"
+#include "forms/press_forms.h"
 #include "gallery.h"
 #include "media/media_on_demand.h"
-#include "platform/desktop/fitting_scale.h"
-#include "platform/desktop/native_path.h"
 #include "show_driver.h"
 
 namespace pawnfield {

@@ -11,10 +11,12 @@
 #include <QTextStream>
 #include <QTimer>
 
-#include "engine/start_up.h"
-#include "platform/desktop/model_widgets.h"
-#include "platform/desktop/native_path.h"
-#include "platform/desktop/user_copy.h"
+#include "desktop/files/native_path.h"
+#include "desktop/files/user_copy.h"
+#include "desktop/windows/model_widgets.h"
+#include "forms/fs_main_form.h"
+#include "forms/main_form.h"
+#include "program/program.h"
 
 namespace pawnfield {
 

@@ -5,7 +5,7 @@
 #include <QString>
 #include <functional>
 
-#include "platform/desktop/desktop_program.h"
+#include "desktop/desktop_program.h"
 
 namespace pawnfield {
 

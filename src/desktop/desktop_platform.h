@@ -1,0 +1,58 @@
+// Every port on this desktop, made once and handed to the show.
+#pragma once
+
+#include <functional>
+#include <optional>
+
+#include "desktop/devices/hidapi_port.h"
+#include "desktop/devices/qt_serial_port.h"
+#include "desktop/files/desktop_folders.h"
+#include "desktop/files/qt_file_system.h"
+#include "desktop/files/qt_settings_store.h"
+#include "desktop/media/mpv_video.h"
+#include "desktop/system/form_windows.h"
+#include "desktop/system/linux_processes.h"
+#include "desktop/system/qt_clock.h"
+#include "desktop/system/qt_dialogs.h"
+#include "desktop/system/qt_displays.h"
+#include "desktop/system/qt_printing.h"
+#include "desktop/system/qt_readers.h"
+#include "desktop/windows/desktop_pages.h"
+
+namespace pawnfield {
+
+// Where things lie; the defaults are the machine's own places.
+struct DesktopPlaces {
+  std::optional<CopyFailure> copyFailure{};
+  Folders folders = FindFolders(copyFailure);
+  QString configFolder = ConfigFolder();
+  QString runtimeFolder = RuntimeFolder();
+  QString manualFolder = ManualFolder();
+  std::function<std::vector<SerialAdapter>()> serialAdapters = FindSerialAdapters;
+};
+
+class DesktopPlatform {
+ public:
+  DesktopPlatform(const DesktopPlaces& places, std::function<void()> onActivate);
+
+  FormWindows windows;
+  Screens screens;
+  QtClock clock;
+  QtDialogs dialogs;
+  MpvChannel eventPlayer, keyPressPlayer, soundClipPlayer, correctIncorrectPlayer, backgroundPlayer;
+  MpvVideo mediaPlayer1;
+  QtSettingsStore settings;
+  QtFileSystem files;
+  QtTextMeasurer text;
+  QtPictureReader pictures;
+  QtDisplays displays;
+  LinuxProcesses processes;
+  SeededRandom random;
+  HidapiPort hid;
+  QtPrinting printing;
+  DesktopPages pages;
+  QtSerialPort serial;
+  Platform platform;
+};
+
+}  // namespace pawnfield

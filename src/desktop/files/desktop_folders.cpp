@@ -1,0 +1,56 @@
+#include "desktop/files/desktop_folders.h"
+
+#include <QCoreApplication>
+#include <QDir>
+#include <QFileInfo>
+#include <QStandardPaths>
+
+#include "desktop/files/native_path.h"
+#include "desktop/files/user_copy.h"
+
+namespace pawnfield {
+
+namespace {
+
+constexpr const char* kSetsFolder = "Trivia Sets";
+
+QString ProgramFolder() {
+  const QString beside = QCoreApplication::applicationDirPath();
+  if (QFileInfo(beside + "/Images").isDir()) return beside;
+  const QString built = QStringLiteral(PAWNFIELD_ASSETS_DIR);
+  if (!built.isEmpty() && QFileInfo(built + "/Images").isDir()) return built;
+  return QDir::cleanPath(beside + "/../share/pawnfield");
+}
+
+QString DataHome() { return QStandardPaths::writableLocation(QStandardPaths::GenericDataLocation); }
+
+}  // namespace
+
+Folders FindFolders(std::optional<CopyFailure>& failure) {
+  QString app = ProgramFolder();
+  const bool writable = QFileInfo(app).isWritable() && QFileInfo(app + '/' + kSetsFolder).isWritable();
+  if (!writable) {
+    const QString shared = app;
+    app = DataHome() + "/Pawnfield";
+    failure = UpdateUserCopy(shared, app);
+  }
+  QDir().mkpath(DataHome());
+  Folders folders;
+  folders.App = SpelledPath(app).value_or("");
+  folders.DataRoot = SpelledPath(DataHome() + "/Ostara Show Kit Data").value_or("");
+  // Only a Windows says where it is installed.
+  folders.SystemDrive = qEnvironmentVariable("SystemDrive").toStdString();
+  return folders;
+}
+
+QString ConfigFolder() {
+  return QStandardPaths::writableLocation(QStandardPaths::GenericConfigLocation) + "/Pawnfield";
+}
+
+QString RuntimeFolder() {
+  QString folder = QStandardPaths::writableLocation(QStandardPaths::RuntimeLocation);
+  if (folder.isEmpty()) folder = QStandardPaths::writableLocation(QStandardPaths::GenericCacheLocation);
+  return folder + "/pawnfield";
+}
+
+}  // namespace pawnfield

@@ -1,0 +1,41 @@
+#include "desktop/files/qt_file_system.h"
+
+#include <sys/stat.h>
+
+#include <QDir>
+#include <QFile>
+#include <QFileInfo>
+#include <cerrno>
+
+#include "desktop/files/native_path.h"
+#include "desktop/files/whole_file.h"
+#include "desktop/files/windows_1252.h"
+
+namespace pawnfield {
+
+std::string QtFileSystem::Read(const std::string& path) const { return ReadFile(NativePath(path)).toStdString(); }
+
+void QtFileSystem::Write(const std::string& path, const std::string& bytes) { ReplaceFile(NativePath(path), bytes); }
+
+bool QtFileSystem::CanOpen(const std::string& path) const { return NativePlainFile(path).has_value(); }
+
+bool QtFileSystem::FolderExists(const std::string& path) const { return QFileInfo(NativePath(path)).isDir(); }
+
+void QtFileSystem::CreateFolder(const std::string& path) {
+  const QString native = NativePath(path);
+  if (mkdir(QFile::encodeName(native).constData(), 0777) != 0) throw FileError(errno);
+}
+
+std::vector<std::string> QtFileSystem::List(const std::string& folder, const std::string& extension) const {
+  std::vector<std::string> names;
+  const QString ending = FromWindows1252(extension);
+  const QStringList entries = QDir(NativePath(folder)).entryList(QDir::Files, QDir::Name | QDir::IgnoreCase);
+  for (const QString& entry : entries) {
+    // A name that the core can't spell could not be opened by it either.
+    const auto name = ToWindows1252(entry);
+    if (name && entry.endsWith(ending, Qt::CaseInsensitive)) names.push_back(*name);
+  }
+  return names;
+}
+
+}  // namespace pawnfield

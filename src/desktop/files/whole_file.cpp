@@ -1,0 +1,151 @@
+#include "desktop/files/whole_file.h"
+
+#include <fcntl.h>
+#include <sys/stat.h>
+#include <unistd.h>
+
+#include <QDir>
+#include <QFile>
+#include <QFileInfo>
+#include <cerrno>
+#include <csignal>
+#include <cstdio>
+
+namespace pawnfield {
+
+namespace {
+
+constexpr const char* kPartEnding = ".part";
+
+int ErrorNumber(int systemError) {
+  switch (systemError) {
+    case ENOSPC:
+    case EDQUOT:
+      return kErrorDiskFull;
+    case ENOENT:
+    case ENOTDIR:
+      return kErrorPathNotFound;
+    case EACCES:
+    case EPERM:
+    case EROFS:
+    case EISDIR:
+    case EEXIST:
+    case ETXTBSY:
+      return kErrorPathAccess;
+    default:
+      return kErrorDeviceIo;
+  }
+}
+
+const char* Words(int number) {
+  switch (number) {
+    case kErrorDiskFull:
+      return "Disk full";
+    case kErrorPathNotFound:
+      return "Path not found";
+    case kErrorPathAccess:
+      return "Path/File access error";
+    default:
+      return "Device I/O error";
+  }
+}
+
+// What a failed open for reading means, asked of the disk because one error code stands for all of it.
+RuntimeError ReadError(const QString& path) {
+  const QFileInfo info(path);
+  if (info.exists()) return FileError(EACCES);
+  const bool parentExists = QFileInfo(info.absolutePath()).isDir();
+  return parentExists ? RuntimeError(kErrorFileNotFound, "File not found") : FileError(ENOENT);
+}
+
+[[noreturn]] void Fail() { throw FileError(errno); }
+
+// The new bytes on their way: a hidden file beside the target, which goes with the object unless it has been moved.
+class Part {
+ public:
+  Part(const QString& path, mode_t mode) : path_(QFile::encodeName(path)) {
+    file_ = open(path_.constData(), O_WRONLY | O_CREAT | O_TRUNC | O_NOFOLLOW | O_CLOEXEC, mode);
+    if (file_ < 0) Fail();
+  }
+  ~Part() {
+    if (file_ >= 0) close(file_);
+    if (!moved_) unlink(path_.constData());
+  }
+  Part(const Part&) = delete;
+  Part& operator=(const Part&) = delete;
+
+  void SetRights(mode_t rights) {
+    if (fchmod(file_, rights) != 0) Fail();
+  }
+
+  void Write(std::string_view bytes) {
+    while (!bytes.empty()) {
+      const ssize_t count = write(file_, bytes.data(), bytes.size());
+      if (count < 0 && errno == EINTR) continue;
+      if (count <= 0) Fail();
+      bytes.remove_prefix(static_cast<std::size_t>(count));
+    }
+  }
+
+  // A disk across a network may tell only now, or at the close, that it is full.
+  void Finish() {
+    const bool cannotSync = fsync(file_) != 0 && errno != EINVAL && errno != ENOSYS && errno != ENOTSUP;
+    if (cannotSync) Fail();
+    if (close(std::exchange(file_, -1)) != 0) Fail();
+  }
+
+  void MoveTo(const QByteArray& target) {
+    if (rename(path_.constData(), target.constData()) != 0) Fail();
+    moved_ = true;
+  }
+
+ private:
+  QByteArray path_;
+  int file_ = -1;
+  bool moved_ = false;
+};
+
+// What all parts of the target begin with; cut, so that a long name leaves room for the rest.
+QString PartBeginning(const QFileInfo& target) { return '.' + target.fileName().left(100) + '.'; }
+
+void RemoveParts(const QFileInfo& target) {
+  const QString beginning = PartBeginning(target);
+  for (const QString& name : QDir(target.absolutePath()).entryList(QDir::Files | QDir::Hidden)) {
+    if (!name.startsWith(beginning) || !name.endsWith(kPartEnding)) continue;
+    const pid_t owner = name.mid(beginning.size()).chopped(static_cast<qsizetype>(qstrlen(kPartEnding))).toInt();
+    if (owner > 0 && kill(owner, 0) != 0 && errno == ESRCH) QFile::remove(target.absolutePath() + '/' + name);
+  }
+}
+
+}  // namespace
+
+RuntimeError FileError(int systemError) {
+  const int number = ErrorNumber(systemError);
+  return {number, Words(number)};
+}
+
+QByteArray ReadFile(const QString& path) {
+  QFile file(path);
+  if (QFileInfo(path).isDir() || !file.open(QIODevice::ReadOnly)) throw ReadError(path);
+  QByteArray bytes = file.readAll();
+  if (file.error() != QFileDevice::NoError) throw FileError(EIO);
+  return bytes;
+}
+
+void ReplaceFile(const QString& path, std::string_view bytes) {
+  // A link stays one; what it points at is replaced.
+  const QFileInfo target(QFileInfo::exists(path) ? QFileInfo(path).canonicalFilePath() : path);
+  const QByteArray name = QFile::encodeName(target.filePath());
+  struct stat old {};
+  const bool exists = stat(name.constData(), &old) == 0;
+  if (exists && !S_ISREG(old.st_mode)) throw FileError(EISDIR);
+  if (exists && access(name.constData(), W_OK) != 0) Fail();
+  RemoveParts(target);
+  Part part(target.absolutePath() + '/' + PartBeginning(target) + QString::number(getpid()) + kPartEnding, 0666);
+  if (exists) part.SetRights(old.st_mode & 0777);
+  part.Write(bytes);
+  part.Finish();
+  part.MoveTo(name);
+}
+
+}  // namespace pawnfield

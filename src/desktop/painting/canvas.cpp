@@ -1,0 +1,389 @@
+#include "desktop/painting/canvas.h"
+
+#include <QMouseEvent>
+#include <QPaintEvent>
+#include <QPainter>
+#include <QVBoxLayout>
+#include <algorithm>
+#include <cmath>
+
+#include "desktop/media/film.h"
+#include "desktop/media/mpv_video.h"
+#include "desktop/painting/text_layout.h"
+
+namespace pawnfield {
+
+namespace {
+
+// The share of their width to which letters may be narrowed.
+constexpr double kNarrowest = 0.6;
+// A picture under this many pixels is scaled as it is painted, so that the flip leaves no copies behind.
+constexpr int kCachedArea = 40000;
+
+QColor ToQColor(Color color) { return QColor(color & 0xFF, (color >> 8) & 0xFF, (color >> 16) & 0xFF); }
+
+void PaintSign(QPainter& painter, const QPixmap& sign, const QRectF& rect) {
+  if (sign.isNull()) return;
+  QRectF place(QPointF(), QSizeF(sign.size()).scaled(rect.size(), Qt::KeepAspectRatio));
+  place.moveCenter(rect.center());
+  painter.drawPixmap(place, sign, QRectF(sign.rect()));
+}
+
+// Painted as a brush, because a clip would leave the round corners rough.
+void PaintRounded(QPainter& painter, const QPixmap& picture, const QRectF& rect, const ItemStyle& style) {
+  if (picture.isNull()) return;
+  QBrush brush(picture);
+  brush.setTransform(QTransform::fromTranslate(rect.x(), rect.y())
+                         .scale(rect.width() / picture.width(), rect.height() / picture.height()));
+  const double edgeX = style.Edge * picture.height() * rect.width() / picture.width();
+  const double edgeY = style.Edge * rect.height();
+  const double radius = style.Corner * rect.height();
+  painter.setPen(Qt::NoPen);
+  painter.setBrush(brush);
+  painter.drawRoundedRect(rect.adjusted(edgeX, edgeY, -edgeX, -edgeY), radius, radius);
+  painter.setBrush(Qt::NoBrush);
+}
+
+struct TextSource {
+  std::string Caption;
+  Font Typeface;
+  Color Fore = kWhite;
+};
+
+// A picture as large as the panel it stands in.
+bool FillsItsPanel(const Control& control) {
+  const Control* container = control.Container;
+  return container != nullptr && control.Width >= container->Width && control.Height >= container->Height;
+}
+
+bool ReadText(const Control& control, TextSource& source) {
+  if (const auto* label = dynamic_cast<const Label*>(&control)) {
+    source = {label->Caption, label->Font, label->ForeColor};
+  } else if (const auto* box = dynamic_cast<const TextBox*>(&control)) {
+    source = {box->Text, box->Font, box->ForeColor};
+  }
+  return !source.Caption.empty();
+}
+
+}  // namespace
+
+struct Canvas::Item : Mirror {
+  Item(Canvas& canvas, Control& shown, const ItemStyle& itemStyle, std::size_t place)
+      : owner(canvas), control(shown), style(itemStyle), declared(place) {}
+  ~Item() override { control.SetMirror(nullptr); }
+  Item(const Item&) = delete;
+  Item& operator=(const Item&) = delete;
+  void Changed(Control&, PropertyId id) override { owner.ItemChanged(*this, id); }
+
+  Canvas& owner;
+  Control& control;
+  ItemStyle style;
+  std::size_t declared;
+  QString pictureKey;
+  // Laid out text, kept until caption, font or width changes.
+  std::unique_ptr<TextBlock> text;
+  double textWidth = 0;
+  // The share of their width that the letters have.
+  double squeeze = 1;
+  // What the item covered when it was last looked at, empty when hidden.
+  QRect covered;
+};
+
+Canvas::Canvas(PictureCache& pictures, QWidget* parent) : QWidget(parent), pictures_(pictures) {
+  setAttribute(Qt::WA_OpaquePaintEvent);
+}
+
+Canvas::~Canvas() = default;
+
+void Canvas::SetLogicalSize(double widthTwips, double heightTwips) {
+  logicalWidth_ = widthTwips;
+  logicalHeight_ = heightTwips;
+  resizeEvent(nullptr);
+}
+
+void Canvas::Add(Control& control, const ItemStyle& style) {
+  const auto& all = control.Owner().Controls();
+  const auto place = static_cast<std::size_t>(std::find(all.begin(), all.end(), &control) - all.begin());
+  auto item = std::make_unique<Item>(*this, control, style, place);
+  Item& added = *item;
+  items_[&control] = std::move(item);
+  control.SetMirror(&added);
+  ItemChanged(added, PropertyId::Picture);
+  Order();
+}
+
+void Canvas::AddVideo(MediaPlayer& control, MpvVideo& video) {
+  Add(control);
+  video_ = &video;
+  connect(&video, &MpvVideo::FrameChanged, this, [this, &control] {
+    if (control.IsShown()) update(FillRect(*items_.at(&control)).toAlignedRect());
+  });
+}
+
+void Canvas::Embed(Control& control, QWidget& widget) {
+  // The host follows the containers' visibility, and the widget its own.
+  auto* host = new QWidget(this);
+  auto* fill = new QVBoxLayout(host);
+  fill->setContentsMargins(0, 0, 0, 0);
+  fill->addWidget(&widget);
+  embedded_.emplace_back(&control, host);
+  PlaceEmbedded();
+}
+
+void Canvas::ItemChanged(Item& item, PropertyId id) {
+  if (id == PropertyId::Picture) {
+    if (const auto* image = dynamic_cast<Image*>(&item.control)) item.pictureKey = PictureCache::KeyOf(image->Picture);
+    if (const auto* box = dynamic_cast<PictureBox*>(&item.control)) {
+      item.pictureKey = PictureCache::KeyOf(box->Picture);
+    }
+  }
+  if (id == PropertyId::Caption || id == PropertyId::Text || id == PropertyId::Font) item.text.reset();
+  if (id == PropertyId::ZOrder) Order();
+  if (item.control.Kind() == ControlKind::PictureBox || item.control.Kind() == ControlKind::Frame) PlaceEmbedded();
+  Refresh(item);
+}
+
+void Canvas::Refresh(Item& item) {
+  const QRect before = item.covered;
+  // An edge of two pixels takes in what smoothing and slanted letters add.
+  item.covered = item.control.IsShown() ? FillRect(item).toAlignedRect().adjusted(-2, -2, 2, 2) : QRect();
+  update(before);
+  update(item.covered);
+}
+
+void Canvas::Order() {
+  const auto depthKey = [](const Item* item) {
+    // Containers from the outside in, each by its place among its neighbours.
+    std::vector<std::pair<int, std::size_t>> key;
+    for (const Control* c = &item->control; c != nullptr; c = c->Container) {
+      const auto& all = c->Owner().Controls();
+      const auto place = static_cast<std::size_t>(std::find(all.begin(), all.end(), c) - all.begin());
+      key.emplace_back(c->ZOrder.Get(), place);
+    }
+    std::reverse(key.begin(), key.end());
+    return key;
+  };
+  std::vector<std::pair<std::vector<std::pair<int, std::size_t>>, Item*>> keyed;
+  for (const auto& [control, item] : items_) keyed.emplace_back(depthKey(item.get()), item.get());
+  std::sort(keyed.begin(), keyed.end());
+  order_.clear();
+  for (const auto& [key, item] : keyed) order_.push_back(item);
+  update();
+}
+
+QRectF Canvas::PixelRect(const Control& control) const {
+  double left = control.Left;
+  double top = control.Top;
+  for (const Control* c = control.Container; c != nullptr; c = c->Container) {
+    left += c->Left;
+    top += c->Top;
+  }
+  return {origin_.x() + left * scale_, origin_.y() + top * scale_, control.Width * scale_, control.Height * scale_};
+}
+
+// What overruns the layout stays as it is.
+QRectF Canvas::Grown(const QRectF& rect) const {
+  if (rect.isEmpty()) return rect;
+  const QSizeF grown = rect.size().scaled(QSizeF(size()), Qt::KeepAspectRatio);
+  if (grown.width() < rect.width()) return rect;
+  QRectF place(QPointF(), grown);
+  place.moveCenter(QRectF(this->rect()).center());
+  return place;
+}
+
+QRectF Canvas::FillRect(const Item& item) const {
+  const Control& control = item.control;
+  QRectF rect = PixelRect(control);
+  if (item.style.Grows) return Grown(rect);
+  if (fillsDisplay_ && control.Width >= logicalWidth_ && control.Height >= logicalHeight_) return QRectF(this->rect());
+  // Slanted outline copies and negative margins may reach past a label's box.
+  if (control.Kind() == ControlKind::Label) rect.adjust(-rect.height() * 0.1, 0, rect.height() * 0.1, 0);
+  return rect;
+}
+
+Control* Canvas::At(const QPoint& point) const {
+  for (auto it = order_.rbegin(); it != order_.rend(); ++it) {
+    Control& control = (*it)->control;
+    const bool touchable = control.Kind() != ControlKind::Label || control.OnDblClick || control.OnClick;
+    if (touchable && control.IsShown() && PixelRect(control).contains(point)) return &control;
+  }
+  return nullptr;
+}
+
+void Canvas::paintEvent(QPaintEvent* event) {
+  QPainter painter(this);
+  painter.setRenderHints(QPainter::Antialiasing | QPainter::SmoothPixmapTransform | QPainter::TextAntialiasing);
+  const QRectF area = event->rect();
+  const std::size_t lowest = LowestSeen(area);
+  if (lowest == 0 && backdrop_) {
+    painter.drawPixmap(QPoint(), Backdrop());
+  } else if (lowest == 0) {
+    painter.fillRect(area, Qt::black);
+  }
+  for (std::size_t i = lowest; i < order_.size(); ++i) {
+    Item& item = *order_[i];
+    if (item.control.IsShown() && event->region().intersects(FillRect(item).toAlignedRect())) PaintItem(painter, item);
+  }
+}
+
+// What lies beneath a ground that covers the whole area isn't painted: a film's frame would cost the board with it.
+std::size_t Canvas::LowestSeen(const QRectF& area) const {
+  for (std::size_t i = order_.size(); i > 0; --i) {
+    const Item& item = *order_[i - 1];
+    const bool opaque = item.style.PaintsGround || item.control.Kind() == ControlKind::MediaPlayer;
+    if (opaque && item.control.IsShown() && FillRect(item).contains(area)) return i - 1;
+  }
+  return 0;
+}
+
+// Painted once for each size: a gradient over a large display takes longer than all that stands on it.
+const QPixmap& Canvas::Backdrop() {
+  const QSize pixels = size() * devicePixelRatioF();
+  if (backdropPicture_.size() == pixels) return backdropPicture_;
+  backdropPicture_ = QPixmap(pixels);
+  backdropPicture_.setDevicePixelRatio(devicePixelRatioF());
+  QPainter painter(&backdropPicture_);
+  backdrop_(painter, rect());
+  return backdropPicture_;
+}
+
+void Canvas::PaintItem(QPainter& painter, Item& item) {
+  const QRectF rect = FillRect(item);
+  if (item.style.PaintsGround) {
+    const auto* box = dynamic_cast<PictureBox*>(&item.control);
+    painter.fillRect(rect, box != nullptr ? ToQColor(box->BackColor) : QColor(Qt::black));
+  }
+  if (item.control.Kind() == ControlKind::TextBox) {
+    painter.fillRect(rect, ToQColor(static_cast<TextBox&>(item.control).BackColor));
+  }
+  if (item.control.Kind() == ControlKind::MediaPlayer && video_ != nullptr) {
+    const bool hasFile = !static_cast<MediaPlayer&>(item.control).URL->empty();
+    PaintFilm(painter, rect, hasFile ? video_->Frame() : QImage());
+  }
+  if (!item.pictureKey.isEmpty()) PaintPicture(painter, item, rect);
+  PaintText(painter, item, PixelRect(item.control));
+}
+
+void Canvas::PaintPicture(QPainter& painter, Item& item, const QRectF& rect) {
+  const QSize size = rect.toRect().size();
+  if (size.isEmpty()) return;
+  if (item.style.IsSign) {
+    PaintSign(painter, pictures_.Original(item.pictureKey), rect);
+    return;
+  }
+  if (item.style.Corner > 0) {
+    PaintRounded(painter, pictures_.Original(item.pictureKey), rect, item.style);
+    return;
+  }
+  if (size.width() * size.height() < kCachedArea) {
+    const QPixmap picture = pictures_.Original(item.pictureKey);
+    if (!picture.isNull()) painter.drawPixmap(rect, picture, QRectF(picture.rect()));
+    return;
+  }
+  const auto fill =
+      item.style.PaintsGround || FillsItsPanel(item.control) ? PictureCache::Fill::Cover : PictureCache::Fill::Stretch;
+  const QPixmap picture = pictures_.Scaled(item.pictureKey, size * devicePixelRatioF(), fill);
+  if (devicePixelRatioF() == 1) {
+    painter.drawPixmap(rect.toRect().topLeft(), picture);
+  } else {
+    painter.drawPixmap(rect.toRect(), picture, picture.rect());
+  }
+}
+
+void Canvas::LayOutText(Item& item) {
+  TextSource source;
+  if (!ReadText(item.control, source)) {
+    item.text.reset();
+    return;
+  }
+  if (item.text && item.textWidth == item.control.Width) return;
+  item.textWidth = item.control.Width;
+  const double least = item.style.SmallestSize;
+  // A name keeps a little room to its box.
+  const double room = item.control.Height * (least > kLeastSize ? 0.9 : 1);
+  const auto layOut = [&](double size, double squeeze, Breaks breaks) {
+    source.Typeface.Size = size;
+    item.squeeze = squeeze;
+    const double width = item.textWidth / squeeze;
+    item.text = std::make_unique<TextBlock>(source.Typeface, source.Caption, width, item.style.Align, breaks);
+    return item.text->Height() <= room && item.text->Width() <= width + 1;
+  };
+  bool fits = layOut(source.Typeface.Size, 1, Breaks::AtWords) || !item.style.ShrinkToFit;
+  while (!fits && source.Typeface.Size > least) {
+    fits = layOut(std::max(least, source.Typeface.Size - 2), 1, Breaks::AtWords);
+  }
+  if (least <= kLeastSize) return;
+  while (!fits && item.squeeze > kNarrowest) {
+    fits = layOut(least, std::max(kNarrowest, item.squeeze - 0.05), Breaks::AtWords);
+  }
+  if (!fits) layOut(least, kNarrowest, Breaks::AnywhereIfNeeded);
+}
+
+double Canvas::LetterHeight(const Control& control) {
+  const auto found = items_.find(&control);
+  if (found == items_.end()) return 0;
+  LayOutText(*found->second);
+  return found->second->text ? found->second->text->LetterHeight() : 0;
+}
+
+void Canvas::PaintText(QPainter& painter, Item& item, const QRectF& rect) {
+  LayOutText(item);
+  TextSource source;
+  if (!item.text || !ReadText(item.control, source)) return;
+  painter.save();
+  painter.translate(rect.topLeft());
+  painter.scale(scale_ * item.squeeze, scale_);
+  painter.setPen(ToQColor(source.Fore));
+  const double width = item.control.Width / item.squeeze;
+  const double height =
+      item.style.SmallestSize > kLeastSize ? item.text->WholeLines(item.control.Height) : item.text->Height();
+  const double spareHeight = item.style.Align.testFlag(Qt::AlignVCenter) ? item.control.Height - height : 0;
+  const double spareWidth = std::min(0.0, width - item.text->Width());
+  if (height < item.text->Height()) painter.setClipRect(QRectF(0, spareHeight / 2, width, height), Qt::IntersectClip);
+  item.text->Draw(painter, QPointF(spareWidth / 2, spareHeight / 2));
+  painter.restore();
+}
+
+void Canvas::resizeEvent(QResizeEvent*) {
+  scale_ = std::min(width() / logicalWidth_, height() / logicalHeight_);
+  origin_ = QPointF((width() - logicalWidth_ * scale_) / 2, (height() - logicalHeight_ * scale_) / 2);
+  for (const auto& [control, item] : items_) Refresh(*item);
+  PlaceEmbedded();
+  update();
+}
+
+void Canvas::PlaceEmbedded() {
+  for (const auto& [control, host] : embedded_) {
+    host->setGeometry(PixelRect(*control).toRect());
+    host->setVisible((control->Container == nullptr || control->Container->IsShown()) && !IsCovered(*control));
+    host->raise();
+  }
+}
+
+// A panel in front paints over what stands behind it, which a widget would show through.
+bool Canvas::IsCovered(const Control& control) const {
+  const auto stands = [&](const Control& panel) {
+    for (const Control* c = &control; c != nullptr; c = c->Container) {
+      if (c == &panel) return true;
+    }
+    return false;
+  };
+  const Control* outer = &control;
+  while (outer->Container != nullptr) outer = outer->Container;
+  return std::any_of(order_.begin(), order_.end(), [&](const Item* item) {
+    const Control& panel = item->control;
+    return item->style.PaintsGround && panel.ZOrder > outer->ZOrder && panel.IsShown() && !stands(panel);
+  });
+}
+
+void Canvas::mousePressEvent(QMouseEvent* event) {
+  if (event->button() != Qt::LeftButton) return;
+  if (Control* control = At(event->position().toPoint())) control->Click();
+}
+
+void Canvas::mouseDoubleClickEvent(QMouseEvent* event) {
+  if (event->button() != Qt::LeftButton) return;
+  if (Control* control = At(event->position().toPoint())) control->DblClick();
+}
+
+}  // namespace pawnfield

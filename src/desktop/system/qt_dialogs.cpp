@@ -1,0 +1,148 @@
+#include "desktop/system/qt_dialogs.h"
+
+#include <QApplication>
+#include <QColorDialog>
+#include <QDir>
+#include <QFileDialog>
+#include <QFileInfo>
+#include <QFontDialog>
+#include <QMessageBox>
+#include <QTimer>
+
+#include "desktop/files/native_path.h"
+#include "desktop/files/windows_1252.h"
+
+namespace pawnfield {
+
+namespace {
+
+// How often a modal form's window looks whether its form has ended; far below what a person notices.
+constexpr int kModalPollMs = 15;
+constexpr double kSmallestFont = 6;
+
+QMessageBox::StandardButtons ButtonsOf(BoxKind kind) {
+  switch (kind) {
+    case BoxKind::YesNoCancel:
+      return QMessageBox::Yes | QMessageBox::No | QMessageBox::Cancel;
+    case BoxKind::YesNo:
+      return QMessageBox::Yes | QMessageBox::No;
+    default:
+      return QMessageBox::Ok;
+  }
+}
+
+// Closing the box without a choice is the most careful of the answers it offers.
+BoxAnswer AnswerOf(int button, BoxKind kind) {
+  if (kind == BoxKind::Plain || kind == BoxKind::Critical || kind == BoxKind::Exclamation) return BoxAnswer::Ok;
+  if (button == QMessageBox::Yes) return BoxAnswer::Yes;
+  if (button == QMessageBox::No) return BoxAnswer::No;
+  return kind == BoxKind::YesNo ? BoxAnswer::No : BoxAnswer::Cancel;
+}
+
+// The folder asked for, or where it is gone the nearest one above it; without any, the current one.
+QString StartFolder(const std::string& spelled) {
+  QString folder = NativePath(spelled);
+  if (folder.isEmpty() || QDir::isRelativePath(folder)) return QDir::currentPath();
+  while (!QFileInfo(folder).isDir() && !QDir(folder).isRoot()) folder = QFileInfo(folder).path();
+  return folder;
+}
+
+// Whether the path as the program keeps it names the file, or for a new one its folder, that was chosen: an accent in
+// two parts or a backslash in a name would be lost on the way.
+bool LeadsTo(const std::string& spelled, const QString& chosen, bool save) {
+  const QFileInfo kept(NativePath(spelled));
+  const QFileInfo meant(chosen);
+  return save ? kept.absolutePath() == meant.absolutePath() : kept.absoluteFilePath() == meant.absoluteFilePath();
+}
+
+}  // namespace
+
+QString FilterList(const std::string& filter) {
+  const QStringList parts = FromWindows1252(filter).split('|', Qt::SkipEmptyParts);
+  QStringList filters;
+  for (qsizetype i = 0; i + 1 < parts.size(); i += 2) {
+    const qsizetype bracket = parts[i].indexOf('(');
+    const QString title = (bracket < 0 ? parts[i] : parts[i].left(bracket)).trimmed();
+    filters.append(title + " (" + QString(parts[i + 1]).replace(';', ' ') + ')');
+  }
+  return filters.join(";;");
+}
+
+BoxAnswer QtDialogs::MessageBox(const std::string& text, const std::string& title, BoxKind kind) {
+  QMessageBox box(QApplication::activeWindow());
+  box.setWindowFlag(Qt::WindowStaysOnTopHint);
+  box.setWindowTitle(FromWindows1252(title));
+  box.setTextFormat(Qt::PlainText);
+  box.setText(FromWindows1252(text).replace("\r\n", "\n"));
+  if (kind == BoxKind::Exclamation) box.setIcon(QMessageBox::Warning);
+  if (kind == BoxKind::Critical) box.setIcon(QMessageBox::Critical);
+  if (kind == BoxKind::YesNo || kind == BoxKind::YesNoCancel) box.setIcon(QMessageBox::Question);
+  box.setStandardButtons(ButtonsOf(kind));
+  return AnswerOf(box.exec(), kind);
+}
+
+std::string QtDialogs::ChooseFile(const FileDialogRequest& request) {
+  QFileDialog dialog(QApplication::activeWindow(), FromWindows1252(request.Title), StartFolder(request.InitialFolder));
+  dialog.setAcceptMode(request.Save ? QFileDialog::AcceptSave : QFileDialog::AcceptOpen);
+  dialog.setFileMode(request.Save ? QFileDialog::AnyFile : QFileDialog::ExistingFile);
+  dialog.setOption(QFileDialog::DontConfirmOverwrite, !request.ConfirmsOverwrite);
+  if (!request.Filter.empty()) dialog.setNameFilters(FilterList(request.Filter).split(";;"));
+  if (!request.FileName.empty()) dialog.selectFile(FromWindows1252(request.FileName));
+  dialog.setDefaultSuffix(FromWindows1252(request.DefaultExtension));
+  // The toolkit keeps the folders gone through for every dialog to come.
+  dialog.setHistory({});
+  const bool accepted = dialog.exec() == QDialog::Accepted && !dialog.selectedFiles().isEmpty();
+  if (!accepted) return "";
+  const QString chosen = dialog.selectedFiles().first();
+  const auto spelled = SpelledPath(chosen);
+  if (spelled && LeadsTo(*spelled, chosen, request.Save)) return *spelled;
+  MessageBox("The file's name or folder holds characters that can't be used here. Please rename it.", request.Title,
+             BoxKind::Plain);
+  return "";
+}
+
+std::optional<Font> QtDialogs::ChooseFont(const Font& start) {
+  QFont first(FromWindows1252(start.Name));
+  first.setPointSizeF(start.Size > 0 ? start.Size : kSmallestFont);
+  first.setBold(start.Bold);
+  first.setItalic(start.Italic);
+  bool chosen = false;
+  const QFont font = QFontDialog::getFont(&chosen, first, QApplication::activeWindow());
+  if (!chosen) return std::nullopt;
+  const auto name = ToWindows1252(font.family());
+  if (!name) {
+    MessageBox("The font's name holds characters that can't be used here.", "Font", BoxKind::Plain);
+    return std::nullopt;
+  }
+  return Font{*name, font.pointSizeF(), font.bold(), font.italic()};
+}
+
+std::optional<Color> QtDialogs::ChooseColor(Color start) {
+  const QColor first(start & 0xFF, (start >> 8) & 0xFF, (start >> 16) & 0xFF);
+  const QColor color = QColorDialog::getColor(first, QApplication::activeWindow());
+  if (!color.isValid()) return std::nullopt;
+  return color.red() | color.green() << 8 | color.blue() << 16;
+}
+
+void QtDialogs::ShowModal(Form& form) {
+  QWidget* window = windows_.Find(form);
+  if (window == nullptr) return;
+  window->setWindowModality(Qt::ApplicationModal);
+  form.Visible = true;
+  // The form's mirror belongs to its window, so the end of the form is looked for rather than told.
+  QEventLoop loop;
+  QTimer poll;
+  QObject::connect(&poll, &QTimer::timeout, &loop, [&form, &loop] {
+    if (!form.Visible) loop.quit();
+  });
+  poll.start(kModalPollMs);
+  if (form.Visible) loop.exec();
+}
+
+ModalKind QtDialogs::Modal() const {
+  const QWidget* upper = QApplication::activeModalWidget();
+  if (upper == nullptr) return ModalKind::None;
+  return qobject_cast<const QMessageBox*>(upper) != nullptr ? ModalKind::Box : ModalKind::Window;
+}
+
+}  // namespace pawnfield

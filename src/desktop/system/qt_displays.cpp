@@ -1,0 +1,39 @@
+#include "desktop/system/qt_displays.h"
+
+#include <QPainterPath>
+#include <QRegion>
+#include <QWidget>
+#include <QWindow>
+
+namespace pawnfield {
+
+std::vector<MonitorInfo> QtDisplays::Enumerate() const {
+  std::vector<MonitorInfo> monitors;
+  for (const QScreen* screen : screens_.List()) {
+    const QRect area = screen->geometry();
+    monitors.push_back({area.left(), area.top(), area.left() + area.width(), area.top() + area.height()});
+  }
+  return monitors;
+}
+
+void QtDisplays::OnChanged(std::function<void()> changed) { screens_.Subscribe(std::move(changed)); }
+
+// The native window takes the flag without being hidden or moved, which the widget's own call would do.
+void QtDisplays::SetTopMost(Form& form, bool onTop) {
+  QWidget* window = windowOf_(form);
+  if (window == nullptr) return;
+  window->winId();
+  window->windowHandle()->setFlag(Qt::WindowStaysOnTopHint, onTop);
+}
+
+void QtDisplays::RoundWindow(Form& form, int radius) {
+  QWidget* window = windowOf_(form);
+  if (window == nullptr) return;
+  QPainterPath outline;
+  outline.addRoundedRect(window->rect(), radius, radius);
+  window->setMask(QRegion(outline.toFillPolygon().toPolygon()));
+}
+
+void QtDisplays::KeepAwake(bool awake) { awake ? inhibitor_.Hold() : inhibitor_.Release(); }
+
+}  // namespace pawnfield

@@ -1,0 +1,29 @@
+// The monitors and what the desktop does with whole windows.
+#pragma once
+
+#include "desktop/system/screens.h"
+#include "desktop/system/sleep_inhibitor.h"
+#include "platform/ports.h"
+
+class QWidget;
+
+namespace pawnfield {
+
+class QtDisplays : public Displays {
+ public:
+  using WindowLookup = std::function<QWidget*(Form&)>;
+  // The lookup gives a form's window, or null.
+  QtDisplays(Screens& screens, WindowLookup windowOf) : screens_(screens), windowOf_(std::move(windowOf)) {}
+  std::vector<MonitorInfo> Enumerate() const override;
+  void OnChanged(std::function<void()> changed) override;
+  void SetTopMost(Form& form, bool onTop) override;
+  void RoundWindow(Form& form, int radius) override;
+  void KeepAwake(bool awake) override;
+
+ private:
+  Screens& screens_;
+  WindowLookup windowOf_;
+  SleepInhibitor inhibitor_{QDBusConnection::sessionBus(), QDBusConnection::systemBus()};
+};
+
+}  // namespace pawnfield

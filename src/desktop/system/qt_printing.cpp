@@ -1,0 +1,150 @@
+#include "desktop/system/qt_printing.h"
+
+#include <QApplication>
+#include <QBuffer>
+#include <QPainter>
+#include <QPdfWriter>
+#include <QPrintDialog>
+#include <QTextLayout>
+#include <vector>
+
+#include "desktop/files/whole_file.h"
+#include "desktop/files/windows_1252.h"
+
+namespace pawnfield {
+
+namespace {
+
+constexpr double kTitlePoints = 20;
+constexpr double kTextPoints = 11;
+constexpr double kMarginMm = 18;
+// The answer stands a little to the right of its question.
+constexpr double kIndentPoints = 18;
+
+QFont PrintFont(double points, bool bold) {
+  QFont font("Liberation Sans");
+  font.setPointSizeF(points);
+  font.setBold(bold);
+  return font;
+}
+
+// One line of a document, wrapped to the page's width.
+struct Paragraph {
+  std::unique_ptr<QTextLayout> layout;
+  double indent = 0;
+  double height = 0;
+};
+
+Paragraph Wrap(const std::string& text, const QFont& font, double indent, QPainter& painter) {
+  Paragraph paragraph{std::make_unique<QTextLayout>(FromWindows1252(text), font, painter.device()), indent, 0};
+  QTextOption wrap;
+  wrap.setWrapMode(QTextOption::WrapAtWordBoundaryOrAnywhere);
+  paragraph.layout->setTextOption(wrap);
+  paragraph.layout->beginLayout();
+  for (QTextLine line = paragraph.layout->createLine(); line.isValid(); line = paragraph.layout->createLine()) {
+    line.setLineWidth(painter.viewport().width() - indent);
+    line.setPosition(QPointF(0, paragraph.height));
+    paragraph.height += line.height();
+  }
+  paragraph.layout->endLayout();
+  return paragraph;
+}
+
+class PrintedPages {
+ public:
+  PrintedPages(QPagedPaintDevice& device, QPainter& painter) : device_(device), painter_(painter) {}
+
+  void Add(const PrintBlock& block, bool isTitle) {
+    std::vector<Paragraph> paragraphs;
+    double height = 0;
+    for (std::size_t i = 0; i < block.size(); ++i) {
+      const double indent = i == 1 && !isTitle ? kIndentPoints * device_.logicalDpiX() / 72 : 0;
+      const QFont font = PrintFont(isTitle && i == 0 ? kTitlePoints : kTextPoints, i == 0);
+      paragraphs.push_back(Wrap(block[i], font, indent, painter_));
+      // The blank line that closes a block may fall off the page.
+      if (Trailing(block, i)) continue;
+      height += paragraphs.back().height;
+    }
+    if (y_ > 0 && y_ + height > PageHeight()) BreakPage();
+    for (const Paragraph& paragraph : paragraphs) Draw(paragraph);
+  }
+
+  void BreakPage() {
+    device_.newPage();
+    y_ = 0;
+  }
+
+ private:
+  static bool Trailing(const PrintBlock& block, std::size_t i) { return i + 1 == block.size() && block[i] == " "; }
+  double PageHeight() const { return painter_.viewport().height(); }
+
+  void Draw(const Paragraph& paragraph) {
+    const QTextLayout& layout = *paragraph.layout;
+    for (int i = 0; i < layout.lineCount(); ++i) {
+      const QTextLine line = layout.lineAt(i);
+      if (y_ > 0 && y_ + line.height() > PageHeight()) {
+        // A blank line is not carried over to the next page.
+        if (layout.text().trimmed().isEmpty()) return;
+        BreakPage();
+      }
+      line.draw(&painter_, QPointF(paragraph.indent, y_ - line.y()));
+      y_ += line.height();
+    }
+  }
+
+  QPagedPaintDevice& device_;
+  QPainter& painter_;
+  double y_ = 0;
+};
+
+}  // namespace
+
+std::optional<int> QtPrinting::ChoosePrinter() {
+  if (!printer_) printer_ = std::make_unique<QPrinter>(QPrinter::HighResolution);
+  printer_->setCopyCount(1);
+  QPrintDialog dialog(printer_.get(), QApplication::activeWindow());
+  dialog.setOptions(QAbstractPrintDialog::PrintToFile | QAbstractPrintDialog::PrintCollateCopies);
+  if (dialog.exec() != QDialog::Accepted) return std::nullopt;
+  const int copies = printer_->copyCount();
+  // The copies are laid out here; the printer must not multiply them once more.
+  printer_->setCopyCount(1);
+  return copies;
+}
+
+void QtPrinting::Print(const PrintDocument& document, int copies) {
+  if (!printer_) throw RuntimeError(kErrorPrinter, "Printer error");
+  PrintOn(*printer_, document, copies);
+}
+
+void PrintOn(QPrinter& printer, const PrintDocument& document, int copies) {
+  const QString file = printer.outputFileName();
+  if (printer.outputFormat() == QPrinter::NativeFormat || file.isEmpty()) {
+    printer.setDocName(FromWindows1252(document.Title));
+    PaintDocument(printer, document, copies);
+    if (printer.printerState() == QPrinter::Error) throw RuntimeError(kErrorPrinter, "Printer error");
+    return;
+  }
+  // The toolkit writes a file as it goes and keeps silent about a disk that is full; so the pages are made in memory.
+  QBuffer bytes;
+  bytes.open(QIODevice::WriteOnly);
+  QPdfWriter writer(&bytes);
+  writer.setResolution(printer.resolution());
+  writer.setPageLayout(printer.pageLayout());
+  writer.setTitle(FromWindows1252(document.Title));
+  PaintDocument(writer, document, copies);
+  ReplaceFile(file, {bytes.data().constData(), static_cast<std::size_t>(bytes.size())});
+}
+
+void PaintDocument(QPagedPaintDevice& device, const PrintDocument& document, int copies) {
+  device.setPageMargins(QMarginsF(kMarginMm, kMarginMm, kMarginMm, kMarginMm), QPageLayout::Millimeter);
+  QPainter painter;
+  if (!painter.begin(&device)) throw RuntimeError(kErrorPrinter, "Printer error");
+  PrintedPages pages(device, painter);
+  for (int copy = 0; copy < copies; ++copy) {
+    if (copy > 0) pages.BreakPage();
+    for (std::size_t i = 0; i < document.Blocks.size(); ++i) pages.Add(document.Blocks[i], i == 0);
+  }
+  if (!painter.end()) throw RuntimeError(kErrorPrinter, "Printer error");
+}
+
+}  // namespace pawnfield

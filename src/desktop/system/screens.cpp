@@ -1,0 +1,83 @@
+#include "desktop/system/screens.h"
+
+#include <qpa/qplatformscreen.h>
+#include <qpa/qwindowsysteminterface.h>
+
+#include <QGuiApplication>
+
+namespace pawnfield {
+
+namespace {
+// A change of monitors comes as a burst of signals, and the window manager has its say after it.
+constexpr int kSoonMs = 30;
+constexpr int kSettledMs = 600;
+constexpr int kRefreshMs = 250;
+}  // namespace
+
+bool WindowsHavePlaces() { return !QGuiApplication::platformName().startsWith("wayland"); }
+
+Screens::Screens() {
+  for (const auto& [timer, wait] : {std::pair{&soon_, kSoonMs}, {&settled_, kSettledMs}}) {
+    timer->setSingleShot(true);
+    timer->setInterval(wait);
+    timer->callOnTimeout(this, [this] { Tell(); });
+  }
+  refresh_.callOnTimeout(this, [this] { Refresh(); });
+  refresh_.start(kRefreshMs);
+  if (const QScreen* primary = QGuiApplication::primaryScreen()) home_ = primary->name();
+  for (QScreen* screen : QGuiApplication::screens()) Watch(*screen);
+  connect(qGuiApp, &QGuiApplication::screenAdded, this, [this](QScreen* screen) {
+    Watch(*screen);
+    Change();
+  });
+  connect(qGuiApp, &QGuiApplication::screenRemoved, this, [this] { Change(); });
+  connect(qGuiApp, &QGuiApplication::primaryScreenChanged, this, [this] { Change(); });
+}
+
+void Screens::Watch(QScreen& screen) {
+  connect(&screen, &QScreen::geometryChanged, this, [this] { Change(); });
+}
+
+// On X the toolkit's lower half learns of a new mode or place, but tells of it only when the work area changes with it.
+// So it is asked, and what it knows is passed on.
+void Screens::Refresh() {
+  for (QScreen* screen : QGuiApplication::screens()) {
+    const QPlatformScreen* known = screen->handle();
+    if (known->deviceIndependentGeometry() == screen->geometry()) continue;
+    QWindowSystemInterface::handleScreenGeometryChange(screen, known->geometry(), known->availableGeometry());
+  }
+}
+
+void Screens::Change() {
+  soon_.start();
+  settled_.start();
+}
+
+void Screens::Tell() {
+  for (const auto& changed : subscribers_) changed();
+}
+
+void Screens::MoveHome(const QScreen& screen) {
+  if (!IsChanging()) home_ = screen.name();
+}
+
+QScreen* Screens::First() const {
+  for (QScreen* screen : QGuiApplication::screens()) {
+    if (screen->name() == home_) return screen;
+  }
+  return QGuiApplication::primaryScreen();
+}
+
+QList<QScreen*> Screens::List() const {
+  QList<QScreen*> screens = QGuiApplication::screens();
+  const qsizetype home = screens.indexOf(First());
+  if (home > 0) screens.move(home, 0);
+  return screens;
+}
+
+QScreen* Screens::Second() const {
+  const QList<QScreen*> screens = List();
+  return screens.size() < 2 ? nullptr : screens[1];
+}
+
+}  // namespace pawnfield

@@ -1,0 +1,77 @@
+#include "desktop/system/sleep_inhibitor.h"
+
+#include <QDBusMessage>
+#include <QDBusPendingCallWatcher>
+#include <QDBusPendingReply>
+
+namespace pawnfield {
+
+namespace {
+
+constexpr const char* kWho = "Pawnfield";
+constexpr const char* kWhy = "A show is running";
+
+}  // namespace
+
+SleepInhibitor::SleepInhibitor(QDBusConnection session, QDBusConnection system)
+    : session_(std::move(session)),
+      system_(std::move(system)),
+      services_{{"org.freedesktop.ScreenSaver", "/org/freedesktop/ScreenSaver", "org.freedesktop.ScreenSaver", {}},
+                {"org.freedesktop.PowerManagement",
+                 "/org/freedesktop/PowerManagement/Inhibit",
+                 "org.freedesktop.PowerManagement.Inhibit",
+                 {}}} {}
+
+SleepInhibitor::~SleepInhibitor() { Release(); }
+
+void SleepInhibitor::Hold() {
+  if (held_) return;
+  held_ = true;
+  for (CookieService& service : services_) HoldBy(service);
+  HoldSleep();
+}
+
+void SleepInhibitor::Release() {
+  held_ = false;
+  for (CookieService& service : services_) GiveBack(service);
+  sleepLock_ = QDBusUnixFileDescriptor();
+}
+
+void SleepInhibitor::HoldBy(CookieService& service) {
+  if (!session_.isConnected()) return;
+  QDBusMessage call = QDBusMessage::createMethodCall(service.name, service.path, service.interface, "Inhibit");
+  call << QString(kWho) << QString(kWhy);
+  auto* watcher = new QDBusPendingCallWatcher(session_.asyncCall(call), this);
+  connect(watcher, &QDBusPendingCallWatcher::finished, this, [this, &service, watcher] {
+    watcher->deleteLater();
+    const QDBusPendingReply<unsigned> reply = *watcher;
+    if (reply.isError()) return;
+    GiveBack(service);
+    service.cookie = reply.value();
+    // The show may have gone to standby while the service was thinking.
+    if (!held_) GiveBack(service);
+  });
+}
+
+void SleepInhibitor::GiveBack(CookieService& service) {
+  if (!service.cookie) return;
+  QDBusMessage call = QDBusMessage::createMethodCall(service.name, service.path, service.interface, "UnInhibit");
+  call << *service.cookie;
+  session_.send(call);
+  service.cookie.reset();
+}
+
+void SleepInhibitor::HoldSleep() {
+  if (!system_.isConnected()) return;
+  QDBusMessage call = QDBusMessage::createMethodCall("org.freedesktop.login1", "/org/freedesktop/login1",
+                                                     "org.freedesktop.login1.Manager", "Inhibit");
+  call << QString("sleep:idle") << QString(kWho) << QString(kWhy) << QString("block");
+  auto* watcher = new QDBusPendingCallWatcher(system_.asyncCall(call), this);
+  connect(watcher, &QDBusPendingCallWatcher::finished, this, [this, watcher] {
+    watcher->deleteLater();
+    const QDBusPendingReply<QDBusUnixFileDescriptor> reply = *watcher;
+    if (!reply.isError() && held_) sleepLock_ = reply.value();
+  });
+}
+
+}  // namespace pawnfield

@@ -1,0 +1,45 @@
+// The window of the audience screen: shows frmFSMain's controls under the name of frmSS, full-screen on the second
+// monitor while frmSS is loaded, and never takes the focus from the console.
+#pragma once
+
+#include "desktop/painting/canvas.h"
+#include "desktop/system/screens.h"
+#include "desktop/windows/form_window.h"
+#include "forms/fs_main_form.h"
+#include "forms/second_screen_form.h"
+
+namespace pawnfield {
+
+class FSMainForm;
+class MpvVideo;
+struct SecondScreenForm;
+
+class AudienceWindow : public FormWindow {
+ public:
+  AudienceWindow(FSMainForm& form, SecondScreenForm& copy, FormWindows& windows, PictureCache& pictures,
+                 Screens& screens, MpvVideo& video);
+  ~AudienceWindow() override;
+  Canvas& Screen() { return *screen_; }
+
+ protected:
+  void Changed(Control& control, PropertyId id) override;
+  void ShowForm() override;
+  void changeEvent(QEvent* event) override;
+  void moveEvent(QMoveEvent* event) override;
+
+ private:
+  void Fill(FSMainForm& form);
+  void FillPanels(FSMainForm& form);
+
+  // Fills its monitor or hides, as the monitors and frmSS have it.
+  void Place();
+  // Gone before the toolkit would move it over the console.
+  void ScreenRemoved(const QScreen* screen);
+
+  SecondScreenForm& copy_;
+  FormWindows& windows_;
+  Screens& screens_;
+  Canvas* screen_ = nullptr;
+};
+
+}  // namespace pawnfield

@@ -1,0 +1,16 @@
+// frmConfigKeys' window.
+#pragma once
+
+#include "desktop/windows/form_window.h"
+#include "forms/config_keys_form.h"
+
+namespace pawnfield {
+
+struct ConfigKeysForm;
+
+class ConfigKeysWindow : public FormWindow {
+ public:
+  ConfigKeysWindow(ConfigKeysForm& form, FormWindows& windows);
+};
+
+}  // namespace pawnfield

@@ -1,0 +1,39 @@
+// frmMain's window: the operator's console with the board and its panels on a canvas in the middle.
+#pragma once
+
+#include "desktop/painting/canvas.h"
+#include "desktop/system/screens.h"
+#include "desktop/windows/form_window.h"
+#include "forms/main_form.h"
+
+namespace pawnfield {
+
+class MainForm;
+class MpvVideo;
+
+class ConsoleWindow : public FormWindow {
+ public:
+  ConsoleWindow(MainForm& form, FormWindows& windows, PictureCache& pictures, Screens& screens, MpvVideo& video);
+  Canvas& Board() { return *board_; }
+  // Comes to the front, as asked by a second start of the program.
+  void ComeForward();
+
+ protected:
+  void ShowForm() override;
+  void moveEvent(QMoveEvent* event) override;
+
+ private:
+  void FillBoard(MainForm& form);
+  void FillAnswer(MainForm& form, PictureCache& pictures);
+  void HoldUnseen();
+  // Takes the monitor that the operator has put the console on for the console's own.
+  void NoteHome();
+  // Back to its own monitor, when a change of the monitors has left it on another one.
+  void ReturnHome();
+
+  Screens& screens_;
+  Canvas* board_ = nullptr;
+  Canvas* answer_ = nullptr;
+};
+
+}  // namespace pawnfield

@@ -1,0 +1,26 @@
+#include "desktop/windows/desktop_pages.h"
+
+#include <QCoreApplication>
+#include <QDesktopServices>
+#include <QDir>
+#include <QFileInfo>
+#include <QUrl>
+
+namespace pawnfield {
+
+bool DesktopPages::Open(const std::string& address) {
+  const QString where = QString::fromStdString(address);
+  if (where.startsWith("http")) return QDesktopServices::openUrl(QUrl(where));
+  if (!window_) window_ = std::make_unique<ManualWindow>(folder_);
+  return window_->ShowPage(where);
+}
+
+QString ManualFolder() {
+  const QString beside = QCoreApplication::applicationDirPath();
+  for (const QString& folder : {beside + "/Manual", beside + "/../share/pawnfield/Manual"}) {
+    if (QFileInfo(folder).isDir()) return QDir::cleanPath(folder);
+  }
+  return PAWNFIELD_MANUAL_DIR;
+}
+
+}  // namespace pawnfield

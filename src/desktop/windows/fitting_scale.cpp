@@ -1,0 +1,43 @@
+#include "desktop/windows/fitting_scale.h"
+
+#include <QGuiApplication>
+#include <QScreen>
+#include <algorithm>
+#include <vector>
+
+#include "desktop/system/screens.h"
+
+namespace pawnfield {
+
+namespace {
+// The console's least size, and the frame around it.
+constexpr double kNeededWidth = 1190;
+constexpr double kNeededHeight = 782;
+constexpr const char* kFactor = "QT_SCALE_FACTOR";
+}  // namespace
+
+double FittingShare(double pixelRatio, int width, int height) {
+  const double largest = std::min(width / kNeededWidth, height / kNeededHeight);
+  return std::clamp(largest / pixelRatio, 0.25, 1.0);
+}
+
+void FitScaleToMonitor(int argc, char** argv) {
+  double share = 1;
+  {
+    // It takes options out of the list that it is given.
+    std::vector<char*> options(argv, argv + argc + 1);
+    const QGuiApplication probe(argc, options.data());
+    const QScreen* screen = QGuiApplication::primaryScreen();
+    // In a Wayland session the toolkit paints wrongly at a factor that is not whole.
+    if (screen == nullptr || !WindowsHavePlaces()) return;
+    const double ratio = screen->devicePixelRatio();
+    const QSizeF pixels = QSizeF(screen->availableGeometry().size()) * ratio;
+    share = FittingShare(ratio, qRound(pixels.width()), qRound(pixels.height()));
+  }
+  if (share >= 1) return;
+  bool given = false;
+  const double factor = qEnvironmentVariable(kFactor).toDouble(&given);
+  qputenv(kFactor, QByteArray::number((given && factor > 0 ? factor : 1) * share));
+}
+
+}  // namespace pawnfield

@@ -1,0 +1,108 @@
+#include "desktop/windows/form_window.h"
+
+#include <QCloseEvent>
+#include <QGuiApplication>
+#include <QPushButton>
+#include <QScreen>
+#include <QVBoxLayout>
+
+#include "desktop/files/native_path.h"
+#include "desktop/files/windows_1252.h"
+
+namespace pawnfield {
+
+QVBoxLayout* MakeContent(QMainWindow& window, int edge, int spacing) {
+  auto* content = new QWidget(&window);
+  content->setObjectName("pnlContent");
+  window.setCentralWidget(content);
+  auto* column = new QVBoxLayout(content);
+  column->setContentsMargins(edge, edge, edge, edge);
+  column->setSpacing(spacing);
+  return column;
+}
+
+QPushButton* MakeButton(const QString& name, const QSize& least) {
+  auto* button = new QPushButton;
+  button->setObjectName(name);
+  button->setMinimumSize(least);
+  button->setAutoDefault(true);
+  return button;
+}
+
+FormWindow::FormWindow(Form& form, FormWindows& windows, Qt::WindowFlags flags)
+    : QMainWindow(nullptr, flags), form_(form), windows_(windows) {
+  windows_.Add(form, *this);
+}
+
+FormWindow::~FormWindow() {
+  form_.SetMirror(nullptr);
+  windows_.Remove(form_);
+}
+
+void FormWindow::BindForm() {
+  setObjectName(QString::fromStdString(form_.Name()));
+  setWindowTitle(FromWindows1252(form_.Caption));
+  binder_ = std::make_unique<Binder>(form_, *this);
+  form_.SetMirror(this);
+  if (form_.Visible) ShowForm();
+}
+
+void FormWindow::Changed(Control&, PropertyId id) {
+  if (id == PropertyId::Caption) setWindowTitle(FromWindows1252(form_.Caption));
+  if (id == PropertyId::Visible) form_.Visible ? ShowForm() : hide();
+  if (id == PropertyId::Focus) activateWindow();
+  if (id == PropertyId::ZOrder && isVisible()) raise();
+  if (id == PropertyId::MouseIcon) {
+    const auto path = NativePlainFile(form_.MouseIcon);
+    path ? setCursor(QCursor(QPixmap(*path))) : unsetCursor();
+  }
+}
+
+void FormWindow::ShowForm() {
+  QPushButton* first = form_.ActiveControl == nullptr ? DefaultButton() : nullptr;
+  if (first != nullptr) first->setFocus();
+  // The toolkit's own adjustment keeps a window to two thirds of the screen and would press its contents together.
+  resize(sizeHint());
+  if (const QScreen* screen = QGuiApplication::primaryScreen()) {
+    resize(size().boundedTo(screen->availableGeometry().size()));
+    move(screen->availableGeometry().center() - rect().center());
+  }
+  show();
+  raise();
+}
+
+void FormWindow::keyPressEvent(QKeyEvent* event) {
+  const bool enter = event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter;
+  if (windowType() != Qt::Dialog || (!enter && event->key() != Qt::Key_Escape)) {
+    QMainWindow::keyPressEvent(event);
+    return;
+  }
+  if (!enter) {
+    close();
+    return;
+  }
+  auto* button = qobject_cast<QPushButton*>(focusWidget());
+  if (button == nullptr) button = DefaultButton();
+  if (button != nullptr) button->click();
+}
+
+QPushButton* FormWindow::DefaultButton() const {
+  for (QPushButton* button : findChildren<QPushButton*>()) {
+    if (button->isDefault()) return button;
+  }
+  return nullptr;
+}
+
+void FormWindow::closeEvent(QCloseEvent* event) {
+  // The form decides; when it ends, its own change hides this window.
+  event->ignore();
+  if (!form_.Visible) {
+    event->accept();
+    return;
+  }
+  bool close = true;
+  if (form_.OnQueryUnload) form_.Dispatch([&] { close = form_.OnQueryUnload(); }, "Form_QueryUnload");
+  if (close) form_.Unload();
+}
+
+}  // namespace pawnfield

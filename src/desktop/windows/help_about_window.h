@@ -1,0 +1,16 @@
+// frmHelpAbout's window.
+#pragma once
+
+#include "desktop/windows/form_window.h"
+#include "forms/help_about_form.h"
+
+namespace pawnfield {
+
+struct HelpAboutForm;
+
+class HelpAboutWindow : public FormWindow {
+ public:
+  HelpAboutWindow(HelpAboutForm& form, FormWindows& windows);
+};
+
+}  // namespace pawnfield

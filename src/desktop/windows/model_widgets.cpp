@@ -1,0 +1,63 @@
+#include "desktop/windows/model_widgets.h"
+
+#include <QMouseEvent>
+#include <QPainter>
+#include <QStyle>
+
+namespace pawnfield {
+
+namespace {
+constexpr int kSmallestPixels = 9;
+}
+
+void ModelComboBox::showPopup() {
+  emit AboutToOpen();
+  QComboBox::showPopup();
+}
+
+void ModelLabel::mousePressEvent(QMouseEvent* event) {
+  if (event->button() == Qt::LeftButton) emit Clicked();
+}
+
+void ModelLabel::mouseDoubleClickEvent(QMouseEvent* event) {
+  if (event->button() == Qt::LeftButton) emit DoubleClicked();
+}
+
+void ModelLabel::paintEvent(QPaintEvent*) {
+  QPainter painter(this);
+  QStyleOption option;
+  option.initFrom(this);
+  style()->drawPrimitive(QStyle::PE_Widget, &option, &painter, this);
+  QFont fitted = font();
+  const int flags = static_cast<int>(alignment()) | (wordWrap() ? Qt::TextWordWrap : 0);
+  const QRect area = contentsRect();
+  while (fitted.pixelSize() > kSmallestPixels) {
+    const QRect needed = QFontMetrics(fitted).boundingRect(area, flags, text());
+    if (needed.width() <= area.width() && needed.height() <= area.height()) break;
+    fitted.setPixelSize(fitted.pixelSize() - 1);
+  }
+  painter.setFont(fitted);
+  painter.setPen(palette().color(isEnabled() ? QPalette::Active : QPalette::Disabled, QPalette::WindowText));
+  painter.drawText(area, flags, text());
+}
+
+void PictureFrame::SetPicture(const QPixmap& picture) {
+  picture_ = picture;
+  update();
+}
+
+void PictureFrame::paintEvent(QPaintEvent* event) {
+  if (picture_.isNull()) {
+    QFrame::paintEvent(event);
+    return;
+  }
+  QPainter painter(this);
+  painter.setRenderHint(QPainter::SmoothPixmapTransform);
+  painter.drawPixmap(rect(), picture_);
+}
+
+void PictureFrame::mousePressEvent(QMouseEvent* event) {
+  if (event->button() == Qt::LeftButton) emit Clicked();
+}
+
+}  // namespace pawnfield

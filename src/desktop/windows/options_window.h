@@ -1,0 +1,16 @@
+// frmOptions' window with its two tabs.
+#pragma once
+
+#include "desktop/windows/form_window.h"
+#include "forms/options_form.h"
+
+namespace pawnfield {
+
+struct OptionsForm;
+
+class OptionsWindow : public FormWindow {
+ public:
+  OptionsWindow(OptionsForm& form, FormWindows& windows);
+};
+
+}  // namespace pawnfield

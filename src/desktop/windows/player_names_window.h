@@ -1,0 +1,16 @@
+// frmPlayerNames' window.
+#pragma once
+
+#include "desktop/windows/form_window.h"
+#include "forms/player_names_form.h"
+
+namespace pawnfield {
+
+struct PlayerNamesForm;
+
+class PlayerNamesWindow : public FormWindow {
+ public:
+  PlayerNamesWindow(PlayerNamesForm& form, FormWindows& windows);
+};
+
+}  // namespace pawnfield

@@ -1,0 +1,141 @@
+#include "desktop/windows/set_text_edit.h"
+
+#include <QInputMethodEvent>
+#include <QKeyEvent>
+#include <QMimeData>
+#include <QTextDocument>
+#include <QToolTip>
+#include <algorithm>
+
+#include "desktop/files/windows_1252.h"
+
+namespace pawnfield {
+
+namespace {
+
+// A set has one line for a text, so that a line break becomes a blank.
+QString OneLine(QString text) {
+  text.replace("\r\n", " ");
+  for (const QChar mark : {QChar('\r'), QChar('\n'), QChar(QChar::LineSeparator), QChar(QChar::ParagraphSeparator)}) {
+    text.replace(mark, ' ');
+  }
+  return text.normalized(QString::NormalizationForm_C);
+}
+
+// The first character that a set file has no byte for; empty when there is none.
+QString Unstorable(const QString& text) {
+  for (const char32_t code : text.toUcs4()) {
+    const QString character = QString::fromUcs4(&code, 1);
+    const bool control = code < 0x20 && code != '\t';
+    if (control || !ToWindows1252(character)) return character;
+  }
+  return {};
+}
+
+QString NameOf(const QString& character) {
+  const char32_t code = character.toUcs4().first();
+  const QString number = "U+" + QString::number(code, 16).toUpper().rightJustified(4, '0');
+  return character.at(0).isPrint() || character.size() > 1 ? '"' + character + "\" (" + number + ')' : number;
+}
+
+class SetTextBinding : public Mirror {
+ public:
+  SetTextBinding(TextBox& box, SetTextEdit& view) : box_(box), view_(view) {
+    view_.SetLimit(static_cast<qsizetype>(box.MaxLength));
+    Changed(box, PropertyId::Text);
+    box.SetMirror(this);
+    QObject::connect(&view_, &QPlainTextEdit::textChanged, &view_, [this] { Edited(); });
+    QObject::connect(&view_, &SetTextEdit::FocusLeft, &view_, [this] { box_.LoseFocus(); });
+  }
+  ~SetTextBinding() override { box_.SetMirror(nullptr); }
+  SetTextBinding(const SetTextBinding&) = delete;
+  SetTextBinding& operator=(const SetTextBinding&) = delete;
+
+  void Changed(Control&, PropertyId id) override {
+    view_.setVisible(box_.Visible);
+    view_.setEnabled(box_.Enabled);
+    if (id == PropertyId::Focus) view_.setFocus();
+    const QString text = FromWindows1252(box_.Text);
+    if (id == PropertyId::Text && view_.Content() != text) {
+      const QSignalBlocker quiet(view_);
+      view_.setPlainText(text);
+    }
+  }
+
+ private:
+  void Edited() {
+    const auto bytes = ToWindows1252(view_.Content());
+    if (bytes && *bytes != box_.Text.Get()) box_.Type(*bytes);
+  }
+
+  TextBox& box_;
+  SetTextEdit& view_;
+};
+
+}  // namespace
+
+SetTextEdit::SetTextEdit(QWidget* parent) : QPlainTextEdit(parent) {
+  setTabChangesFocus(true);
+  setVerticalScrollBarPolicy(Qt::ScrollBarAsNeeded);
+}
+
+// The toolkit's plain text would have its hard blanks changed into soft ones.
+QString SetTextEdit::Content() const {
+  return document()->toRawText().replace(QChar(QChar::ParagraphSeparator), QChar('\n'));
+}
+
+void SetTextEdit::keyPressEvent(QKeyEvent* event) {
+  if (event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter) {
+    focusNextChild();
+    return;
+  }
+  const bool command = (event->modifiers() & (Qt::ControlModifier | Qt::AltModifier | Qt::MetaModifier)) != 0 &&
+                       event->modifiers() != (Qt::ControlModifier | Qt::AltModifier);
+  if (command || event->text().isEmpty() || event->text().at(0) < ' ' || event->text().at(0) == QChar(0x7F)) {
+    QPlainTextEdit::keyPressEvent(event);
+  } else {
+    Insert(event->text());
+  }
+}
+
+void SetTextEdit::inputMethodEvent(QInputMethodEvent* event) {
+  const QString committed = event->commitString();
+  event->setCommitString(QString());
+  QPlainTextEdit::inputMethodEvent(event);
+  if (!committed.isEmpty()) Insert(committed);
+}
+
+void SetTextEdit::insertFromMimeData(const QMimeData* source) {
+  if (source->hasText()) Insert(source->text());
+}
+
+void SetTextEdit::focusOutEvent(QFocusEvent* event) {
+  QPlainTextEdit::focusOutEvent(event);
+  // A menu and another window leave the box as it was.
+  if (event->reason() != Qt::PopupFocusReason && event->reason() != Qt::ActiveWindowFocusReason) emit FocusLeft();
+}
+
+void SetTextEdit::Insert(const QString& text) {
+  const QString line = OneLine(text);
+  const QString refused = Unstorable(line);
+  if (!refused.isEmpty()) {
+    Tell(NameOf(refused) + " can't be kept in a set file and was not taken.");
+    return;
+  }
+  const qsizetype selected = textCursor().selectionEnd() - textCursor().selectionStart();
+  const qsizetype room = limit_ == 0 ? line.size() : limit_ - (Content().size() - selected);
+  if (line.size() > room) Tell(QString("Only %1 characters fit here. The rest was left out.").arg(limit_));
+  insertPlainText(line.left(std::max<qsizetype>(room, 0)));
+  ensureCursorVisible();
+}
+
+void SetTextEdit::Tell(const QString& notice) {
+  notice_ = notice;
+  QToolTip::showText(mapToGlobal(QPoint(0, height())), notice, this);
+}
+
+std::unique_ptr<Mirror> MakeSetTextBinding(TextBox& box, SetTextEdit& view) {
+  return std::make_unique<SetTextBinding>(box, view);
+}
+
+}  // namespace pawnfield

@@ -1,0 +1,87 @@
+// frmEditor and frmEditChoice: the set editor's controls, their captions, sizes and states, and what the form keeps of
+// the set that is open in it. Owned by the show.
+#pragma once
+
+#include <string>
+
+#include "platform/common_dialog.h"
+#include "platform/controls.h"
+
+namespace pawnfield {
+
+struct EditChoiceForm : Form {
+  EditChoiceForm();
+  Label lblPrompt{*this, "lblPrompt"};
+  Button btnCurrent{*this, "btnCurrent"};
+  Button New{*this, "New"};
+};
+
+class EditorForm : public Form {
+ public:
+  EditorForm();
+  // Every control as the form's design has it, and an empty set's state.
+  void Reset();
+
+  // Counted from 1.
+  int EditQuestionNumber = 1;
+  bool EditDirty = false;
+  // Empty for a new set.
+  std::string EditFileName;
+  std::string EditQuestionKind = "T";
+  CommonDialog cd1EditorDialog;
+  CommonDialog cd1FontDialog;
+
+  Menu mnuFile{*this, "mnuFile"};
+  Menu mnuFileNew{*this, "mnuFileNew"};
+  Menu mnuFileOpen{*this, "mnuFileOpen"};
+  Menu mnuFileSave{*this, "mnuFileSave"};
+  Menu mnuSaveAs{*this, "mnuSaveAs"};
+  Menu mnuFilePrint{*this, "mnuFilePrint"};
+  Menu mnuFileExit{*this, "mnuFileExit"};
+
+  Button btnNewFile{*this, "btnNewFile"};
+  Button btnFileOpen{*this, "btnFileOpen"};
+  Button btnSave{*this, "btnSave"};
+  Button btnSaveAs{*this, "btnSaveAs"};
+  Button btnPrint{*this, "btnPrint"};
+  Button btnText{*this, "btnText"};
+  Button btnPicture{*this, "btnPicture"};
+  Button btnSound{*this, "btnSound"};
+  Button btnFont{*this, "btnFont"};
+  Button btnFontColor{*this, "btnFontColor"};
+  Button btnDefault{*this, "btnDefault"};
+  Button btnImport{*this, "btnImport"};
+  Label lblImport{*this, "lblImport"};
+
+  Label lblQuestion{*this, "lblQuestion"};
+  Label lblNumberOfQuestion{*this, "lblNumberOfQuestion"};
+  Label lblNumQuestions{*this, "lblNumQuestions"};
+  TextBox txtDisplayQuestion{*this, "txtDisplayQuestion"};
+  Label lblQuestionAutoResize{*this, "lblQuestionAutoResize"};
+  PictureBox picQuestionPicture{*this, "picQuestionPicture"};
+  Image imgQuestionPicture{*this, "imgQuestionPicture"};
+  Frame frmSoundButtons{*this, "frmSoundButtons"};
+  Button btnPlay{*this, "btnPlay"};
+  Button btnStop{*this, "btnStop"};
+
+  Label lblQuestionPrompt{*this, "lblQuestionPrompt"};
+  TextBox txtEnterQuestion{*this, "txtEnterQuestion"};
+  Label lblPath{*this, "lblPath"};
+  TextBox txtPath{*this, "txtPath"};
+  Label lblAnswer{*this, "lblAnswer"};
+  TextBox txtAnswer{*this, "txtAnswer"};
+  CheckBox chkSpellChecker{*this, "chkSpellChecker"};
+
+  Button btnBack10{*this, "btnBack10"};
+  Button btnBack{*this, "btnBack"};
+  Button btnForward{*this, "btnForward"};
+  Button btnForward10{*this, "btnForward10"};
+  Button btnNext{*this, "btnNext"};
+  Button btnInsertQuestion{*this, "btnInsertQuestion"};
+  Button btnDeleteQuestion{*this, "btnDeleteQuestion"};
+
+ private:
+  void SetCaptions();
+};
+
+}  // namespace pawnfield

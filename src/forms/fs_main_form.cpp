@@ -1,0 +1,107 @@
+#include "forms/fs_main_form.h"
+
+#include <array>
+
+#include "forms/form_layout.h"
+
+namespace pawnfield {
+
+namespace {
+constexpr double kWidth = 15360;
+constexpr double kHeight = 11520;
+// Names and scores stand in one band below the board.
+constexpr double kBandTop = 9960;
+constexpr double kBandHeight = 1460;
+constexpr double kBandGap = 120;
+constexpr double kPlayerWidth = (kWidth - 4 * kBandGap) / 3;
+constexpr double kNameMargin = 150;
+constexpr double kNameShare = 0.56;
+// The players' red, yellow and green, light enough to be read on the lit box.
+constexpr std::array<Color, 3> kPlayerColors{0x706BFF, 0x4DD8FF, 0x8CE046};
+}  // namespace
+
+FSMainForm::FSMainForm() : Form("frmFSMain") {
+  Form::Caption = "Pawnfield";
+  Width = kWidth;
+  Height = kHeight;
+  imgBackground.MoveTo(0, 0, kWidth, kHeight);
+  imgHeader.MoveTo(2160, 150, 11040, 1200);
+  imgDJEntry.Visible = false;
+  txtOptionalHeading.MoveTo(2160, 150, 11040, 1200);
+  txtOptionalHeading.Visible = false;
+  lblDJCommand.MoveTo(240, 1440, 1680, 900);
+  lblDJCommand.Font = {"Segoe UI", 36, true, false};
+  for (std::size_t i = 0; i < 3; ++i) {
+    const double left = kBandGap + static_cast<double>(i) * (kPlayerWidth + kBandGap);
+    PictureBox& scoreBox = ScoreBox(static_cast<int>(i) + 1);
+    picPlayer[i].MoveTo(left, kBandTop, kPlayerWidth, kBandHeight);
+    scoreBox.MoveTo(left + kPlayerWidth * kNameShare, kBandTop, kPlayerWidth * (0.98 - kNameShare), kBandHeight);
+    lblPlayer[i].MoveTo(left + kNameMargin, kBandTop, kPlayerWidth * kNameShare - kNameMargin, kBandHeight);
+    lblPlayer[i].ForeColor = kPlayerColors[i];
+    lblPlayer[i].Font = {"Segoe UI", 23, true, false};
+    Label11[i].MoveTo(left + kPlayerWidth * kNameShare, kBandTop, kPlayerWidth * (0.98 - kNameShare), kBandHeight);
+    Label11[i].Font = {"Segoe UI", 40, true, false};
+    lblPlayer[i].Caption = "PLAYER " + std::to_string(i + 1);
+    Label11[i].Caption = "0";
+  }
+  for (std::size_t i = 0; i < 5; ++i) {
+    lblQuestion[i].Container = &picQuestion;
+    lblQuestion[i].Font = {"Courier New", 28, true, true};
+    lblQuestion[i].Visible = i == 0;
+  }
+  imgQuestionBackground.Container = &picQuestion;
+  picImageResize[0].Container = &picQuestionPicture;
+  lblPlayerName.Container = &picHideQuestion;
+  lblWhatIsAnswer.Container = &picHideQuestion;
+  imgCorrect.Container = &picCorrect;
+  lblRightWrong.Container = &picCorrect;
+  lblWinner.Container = &picWinner;
+  imgBonus.Container = &picBonus;
+  imgSound.Container = &picSound;
+  imgStandby.Container = &picStandby;
+  picMODVideo.Container = &picMOD;
+  MediaPlayer1.Container = &picMODVideo;
+  picImageResize[1].Container = &picMOD;
+  lblPlayerName.Font = {"Segoe UI", 72, true, false};
+  lblPlayerName.Height = 2400;
+  lblWhatIsAnswer.Font = {"Segoe UI", 48, false, false};
+  lblWhatIsAnswer.Caption = "What is your answer?";
+  lblWhatIsAnswer.Height = 1500;
+  lblRightWrong.Font = {"Segoe UI", 120, true, false};
+  lblRightWrong.Height = 3600;
+  lblWinner.Font = {"Segoe UI", 72, true, false};
+  tmrAnimate[0].Interval = 200;
+  for (PictureBox* panel : {&picQuestion, &picQuestionPicture, &picHideQuestion, &picCorrect, &picWinner, &picBonus,
+                            &picMOD, &picMODVideo, &picSound}) {
+    panel->Visible = false;
+  }
+  OnResize = [this] { Form_Resize(); };
+  Form_Resize();
+}
+
+PictureBox& FSMainForm::ScoreBox(int player) {
+  return player == 1 ? picPlayer1Score : player == 2 ? picPlayer2Score : picPlayer3Score;
+}
+
+void FSMainForm::Form_Resize() {
+  picStandby.MoveTo(0, 0, Width, Height);
+  picStandby.BringToFront();
+  picQuestionPicture.MoveTo(0, 0, Width, Height);
+  picQuestionPicture.BringToFront();
+  for (PictureBox* panel : {&picQuestion, &picHideQuestion, &picCorrect, &picWinner, &picBonus, &picMOD, &picSound}) {
+    MoveLike(*panel, picStandby, Extent::Copy);
+    panel->BringToFront();
+  }
+  picStandby.BringToFront();
+  picMODVideo.MoveTo(0, 0, picMOD.Width, picMOD.Height);
+  MediaPlayer1.MoveTo(0, 0, picMODVideo.Width, picMODVideo.Height);
+  for (Image* fill : {&imgQuestionBackground, &imgCorrect, &imgBonus, &imgSound, &imgStandby}) {
+    fill->MoveTo(0, 0, Width, Height);
+  }
+  lblRightWrong.MoveTo(0, (picCorrect.Height - lblRightWrong.Height) / 2, Width, lblRightWrong.Height);
+  const double block = lblPlayerName.Height + lblWhatIsAnswer.Height;
+  lblPlayerName.MoveTo(0, (picHideQuestion.Height - block) / 2, Width, lblPlayerName.Height);
+  lblWhatIsAnswer.MoveTo(0, lblPlayerName.Top + lblPlayerName.Height, Width, lblWhatIsAnswer.Height);
+}
+
+}  // namespace pawnfield

@@ -1,0 +1,22 @@
+#include "forms/player_names_form.h"
+
+namespace pawnfield {
+
+PlayerNamesForm::PlayerNamesForm() : Form("frmPlayerNames") {
+  lblPlayerNamePrompt.Caption = "Enter Player Name";
+  lblInstructions.Caption = "Check the box next to a player's name to enable penalty point deductions.";
+  lblHiddenPlayerNumber.Caption = "0";
+  lblHiddenPlayerNumber.Visible = false;
+  lblPlayer1Prompt.Caption = "Player 1";
+  lblPlayer2Prompt.Caption = "Player 2";
+  lblPlayer3Prompt.Caption = "Player 3";
+  lblPenaltyPoints.Caption = "Buzzer Press Penalty Amount";
+  Label1.Caption = "Buzzer press penalty applies to Trivia Mode C only";
+  btnClearAll.Caption = "Clear Names";
+  Command2.Caption = "Set Penalties";
+  Command1.Caption = "Clear Penalties";
+  btnOK.Caption = "OK";
+  btnCancel.Caption = "Cancel";
+}
+
+}  // namespace pawnfield

@@ -1,0 +1,42 @@
+#include "outward/shared_key.h"
+
+#include <utility>
+
+#include "forms/main_form.h"
+#include "platform/errors.h"
+#include "show/show.h"
+
+namespace pawnfield {
+
+namespace {
+constexpr int kKeypads = 8;
+constexpr int kPublishingKeypads = 9;
+}  // namespace
+
+bool IsKeypadMode(const Show& show) { return show.state.SerialComm == kKeypads || PublishesPlayers(show); }
+
+bool PublishesPlayers(const Show& show) { return show.state.SerialComm == kPublishingKeypads; }
+
+void WriteSharedKey(Show& show, const std::string& name, const std::string& text) {
+  try {
+    show.platform.settings.SaveSetting("PadBridge", "Settings", name, text);
+    show.SharedKeyFails = false;
+  } catch (const RuntimeError& error) {
+    // A ring-in must not wait for the operator to read the same message again.
+    if (!std::exchange(show.SharedKeyFails, true)) {
+      ReportError(show.platform.dialogs, error, "frmMain", "WriteSharedKey");
+    }
+  }
+}
+
+void SendKeyPress(Show& show, bool on) { WriteSharedKey(show, "sendkeypress", on ? "1" : "0"); }
+
+void SendKeyPressInRingIn(Show& show, bool on) {
+  if (show.state.GameType == kTriviaModeC && IsKeypadMode(show)) SendKeyPress(show, on);
+}
+
+void PublishScore(Show& show, const std::string& name, int player) {
+  if (PublishesPlayers(show)) WriteSharedKey(show, name, show.frmMain.Score(player).Caption);
+}
+
+}  // namespace pawnfield

@@ -1,0 +1,124 @@
+#include "program/detection.h"
+
+#include <algorithm>
+#include <cstdio>
+#include <utility>
+#include <vector>
+
+#include "controllers/zr610.h"
+#include "forms/main_form.h"
+#include "forms/press_forms.h"
+#include "forms/small_forms.h"
+#include "platform/text.h"
+#include "presentation/audience_screen.h"
+#include "program/main_load.h"
+#include "show/settings.h"
+#include "show/show.h"
+
+namespace pawnfield {
+
+namespace {
+
+constexpr int kAudienceInset = 60;
+
+std::string Between(const std::string& text, std::size_t from, std::size_t end) {
+  return text.substr(from, end == std::string::npos ? end : end - from);
+}
+
+std::string InstancePath(const HidDevice& device) {
+  char text[40];
+  std::snprintf(text, sizeof text, "HID\\VID_%04X&PID_%04X", static_cast<unsigned>(device.Vendor) & 0xFFFFU,
+                static_cast<unsigned>(device.Product) & 0xFFFFU);
+  return text;
+}
+
+void ShowAudienceAt(Show& show, int left) {
+  if (show.state.DualScreen) ShowAudienceScreen(show, left);
+}
+
+// The hardware in the order in which it is looked for.
+void ServeWhatIsFound(Show& show) {
+  GameState& state = show.state;
+  PressState& presses = show.presses;
+  presses.CommPortNumber = FindZR610Port(show.platform.serial);
+  presses.ZR610Present = presses.CommPortNumber > -1;
+  if (!presses.ZR610Present) {
+    presses.HardwareFound = DetectHIDTransceiver(show);
+    if (!presses.HardwareFound) {
+      show.platform.dialogs.MessageBox("No hardware was detected so you will be loaded in manual mode.", kAppTitle,
+                                       BoxKind::Plain);
+    }
+    state.SerialComm = presses.HardwareFound ? kWirelessFound : kManualMode;
+  }
+  const bool manual = !presses.ZR610Present && !presses.HardwareFound;
+  ShowAudienceAt(show, state.FSLeft + (manual ? 0 : kAudienceInset));
+  LoadMainForm(show);
+  if (presses.ZR610Present) show.frmMain.lblStatusBar.Caption = "ZR-610 System initialized";
+}
+
+}  // namespace
+
+bool IsTransceiver(const std::string& instancePath, ControlSet controlSet) {
+  const std::string text = ToUpper(instancePath);
+  const std::size_t vid = text.find("VID_");
+  if (vid == std::string::npos) return false;
+  const std::size_t vidEnd = text.find('&', vid);
+  if (vidEnd == std::string::npos) return false;
+  const std::size_t pid = text.find("PID_", vidEnd);
+  if (pid == std::string::npos) return false;
+  const std::string vendor = Between(text, vid + 4, vidEnd);
+  const std::string product = Between(text, pid + 4, text.find_first_of("&\\", pid + 4));
+  const bool knownVendor = vendor == "04FE" || (vendor == "0003" && controlSet == ControlSet::First);
+  return knownVendor && (product == "1003" || product == "1001");
+}
+
+bool FindTransceiverInRegistry(const RegistryReader& read) {
+  constexpr int kLastValue = 10;
+  const std::pair<const char*, ControlSet> keys[] = {
+      {"System\\ControlSet001\\Services\\HidUSB\\Enum", ControlSet::First},
+      {"System\\ControlSet002\\Services\\HidUsb\\Enum", ControlSet::Later},
+      {"System\\ControlSet003\\Services\\HidUsb\\Enum", ControlSet::Later}};
+  for (const auto& [key, controlSet] : keys) {
+    for (int name = 0; name <= kLastValue; ++name) {
+      if (IsTransceiver(read(key, std::to_string(name)).value_or(""), controlSet)) return true;
+    }
+  }
+  return false;
+}
+
+bool DetectHIDTransceiver(Show& show) {
+  const auto present = show.platform.hid.Enumerate();
+  return std::any_of(present.begin(), present.end(),
+                     [](const HidDevice& device) { return IsTransceiver(InstancePath(device), ControlSet::First); });
+}
+
+void tmrSplash_Timer(Show& show) {
+  show.frmSplash.tmrSplash.Enabled = false;
+  ServeWhatIsFound(show);
+  show.frmLoading.Visible = false;
+  show.frmSplash.Visible = false;
+}
+
+void frmSetInterface_Load(Show& show) {
+  constexpr int kLastChoice = 4;
+  const int stored = GetIntSetting(show, "SerialComm", kInterfaceOutOfRange);
+  show.state.SerialComm = stored < 0 || stored > kLastChoice ? kInterfaceOutOfRange : stored;
+  frmSetInterface_btnOK_Click(show);
+}
+
+void frmSetInterface_btnOK_Click(Show& show) {
+  show.state.ZR650 = false;
+  show.state.SerialComm = kKeypadSharedKey;
+  // A choice that can't be kept is told, and the console comes up all the same.
+  SaveSettingOrTell(show, "SerialComm", std::to_string(kKeypadSharedKey), show.frmSetInterface, "btnOK_Click");
+  show.frmMain.Visible = true;
+  ShowAudienceAt(show, show.state.FSLeft);
+  show.frmSetInterface.Unload();
+}
+
+void frmSetInterface_btnCancel_Click(Show& show) {
+  show.frmSetInterface.Unload();
+  show.platform.processes.EndProgram();
+}
+
+}  // namespace pawnfield

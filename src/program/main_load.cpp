@@ -1,0 +1,290 @@
+#include "program/main_load.h"
+
+#include <array>
+
+#include "controllers/ring_in.h"
+#include "controllers/zr610.h"
+#include "engine/game_flow.h"
+#include "engine/turn_order.h"
+#include "forms/board_labels.h"
+#include "forms/main_form.h"
+#include "forms/player_names_form.h"
+#include "media/background_music.h"
+#include "media/optional_headers.h"
+#include "media/sound_channels.h"
+#include "media/sound_table.h"
+#include "outward/companion.h"
+#include "platform/errors.h"
+#include "platform/text.h"
+#include "presentation/audience_screen.h"
+#include "presentation/audience_step.h"
+#include "presentation/board_layout.h"
+#include "presentation/both_screens.h"
+#include "program/interface_file.h"
+#include "sets/set_file.h"
+#include "show/settings.h"
+#include "show/show.h"
+
+namespace pawnfield {
+
+namespace {
+
+int IntInRange(Show& show, const std::string& key, int fallback, int low, int high, int outside) {
+  const int value = GetIntSetting(show, key, fallback);
+  return value < low || value > high ? outside : value;
+}
+
+// The pictures that the forms are made with: squares, labels, panels.
+void SetDesignPictures(Show& show) {
+  const auto picture = [&show](const std::string& tail) { return PicturePath(show, "\\Images\\" + tail); };
+  MainForm& form = show.frmMain;
+  form.imgBkgnd.Picture = picture("Blank.bmp");
+  form.imgStandardStandby.Picture = picture("Standby.jpg");
+  form.imgStandardBonus.Picture = picture("Bonus.jpg");
+  form.imgStandardHeader.Picture = picture("Header.png");
+  form.imgSound.Picture = picture("Sound.jpg");
+  form.picWinner.Picture = picture("Winner.jpg");
+  const std::array cursors{"CursorNeutral.png", "CursorX.png", "CursorO.png", "CursorT.png"};
+  for (std::size_t i = 0; i < cursors.size(); ++i) form.imgCursor[i].Picture = picture(cursors[i]);
+  for (std::size_t i = 0; i < 5; ++i) {
+    ColumnLabels(form)[i]->Picture = picture(std::string("Col") + static_cast<char>('A' + i) + ".png");
+    RowLabels(form)[i]->Picture = picture("Row" + std::to_string(i + 1) + ".png");
+  }
+  if (show.state.DualScreen) CopyDesignPictures(show);
+}
+
+// Numbers 0, 10 .. 100.
+void FillPointLists(MainForm& form) {
+  for (std::size_t i = 0; i < 2; ++i) {
+    form.cbxScore[i].Clear();
+    for (int points = 0; points <= 100; points += 10) form.cbxScore[i].AddItem(std::to_string(points));
+  }
+}
+
+void LoadRoutingAndPoints(Show& show) {
+  FillPointLists(show.frmMain);
+  const auto routing = [&show](int n) {
+    show.state.Routing[static_cast<std::size_t>(n)] = IntInRange(show, "Routing" + std::to_string(n), n, 1, 20, 1);
+  };
+  routing(1);
+  show.frmMain.cbxScore[0].ListIndex = IntInRange(show, "Scoring", 5, 0, 10, 5);
+  show.frmMain.cbxScore[1].ListIndex = IntInRange(show, "Bonus", 5, 0, 10, 5);
+  for (int n = 2; n <= 20; ++n) routing(n);
+  show.state.ShowBaseHeader = GetBoolSetting(show, "ShowBaseHeader", true);
+  show.state.MODPictureTimer = IntInRange(show, "MODPictureTimer", 5, 5, 20, 5);
+}
+
+void LoadScreenPictures(Show& show) {
+  MainForm& form = show.frmMain;
+  const FileSystem& files = show.platform.files;
+  const std::array own{show.AppPath("\\pawnfield.bmp"), show.AppPath("\\bonus.bmp"), show.AppPath("\\header.bmp")};
+  const bool custom = files.CanOpen(own[0]) && files.CanOpen(own[1]) && files.CanOpen(own[2]);
+  form.imgStandby.Picture = custom ? own[0] : form.imgStandardStandby.Picture.Get();
+  form.imgBonus.Picture = custom ? own[1] : form.imgStandardBonus.Picture.Get();
+  form.imgHeader.Picture = custom ? own[2] : form.imgStandardHeader.Picture.Get();
+  if (show.state.DualScreen) CopyScreenPictures(show);
+}
+
+void ShowGameType(Show& show) {
+  MainForm& form = show.frmMain;
+  const int gameType = show.state.GameType;
+  form.optGameType[static_cast<std::size_t>(gameType - 1)].SelectInGroup();
+  const bool trivia = IsQuestionType(gameType);
+  const bool ringIn = gameType == kTriviaModeC;
+  form.btnStart.Enabled = !trivia;
+  form.btnSelectGame.Visible = trivia;
+  form.cboList.Enabled = trivia;
+  form.cboTimedResponse.Enabled = ringIn;
+  form.lblTimedResponse.Enabled = ringIn;
+  form.cboAutoContinue.Enabled = trivia;
+  form.lblAutoContinuePrompt.Enabled = trivia;
+  form.chkHideQuestion.Enabled = ringIn;
+  form.lblHidequestionOption.Enabled = ringIn;
+  form.lblSelectPlayer.Visible = ringIn;
+  form.btnNextPlayer.Visible = !ringIn;
+  for (std::size_t i = 0; i < 3; ++i) form.btnSelectPlayer[i].Enabled = trivia;
+}
+
+void LoadGameOptions(Show& show) {
+  GameState& state = show.state;
+  MainForm& form = show.frmMain;
+  state.GameType = IntInRange(show, "GameType", 5, 1, 5, 1);
+  ShowGameType(show);
+  state.GridSize = IntInRange(show, "GridControl", 5, 3, 5, 5);
+  form.optGridControl[static_cast<std::size_t>(state.GridSize - 3)].SelectInGroup();
+  BuildGrid(show, state.GridSize);
+  state.Players = IntInRange(show, "Players", 3, 2, 3, 3);
+  form.optPlayers[static_cast<std::size_t>(state.Players - 2)].SelectInGroup();
+  ApplyPlayerLayout(show, state.Players);
+}
+
+void Fill(ComboBox& box, const std::vector<std::string>& items, int index) {
+  box.Clear();
+  box.List = items;
+  box.ListIndex = index;
+}
+
+template <std::size_t N>
+int IndexOf(const std::array<int, N>& values, int value, int fallback) {
+  for (std::size_t i = 0; i < N; ++i) {
+    if (values[i] == value) return static_cast<int>(i);
+  }
+  return fallback;
+}
+
+void LoadPlayOptions(Show& show) {
+  constexpr std::array<int, 5> kResponses{0, 3, 5, 7, 10};
+  GameState& state = show.state;
+  MainForm& form = show.frmMain;
+  state.HideQuestion = GetBoolSetting(show, "HideQuestion", true);
+  form.chkHideQuestion.Value = state.HideQuestion ? 1 : 0;
+  state.Animation = GetBoolSetting(show, "Animation", false);
+  form.chkAnimation.Value = state.Animation ? 1 : 0;
+  state.AutoContinue = IntInRange(show, "AutoContinue", 3, 3, 6, 3);
+  Fill(form.cboAutoContinue, {"3 Seconds", "4 Seconds", "5 Seconds", "User Advances"}, state.AutoContinue - 3);
+  const int response = IndexOf(kResponses, GetIntSetting(show, "TimedResponse", 0), 0);
+  state.TimedResponse = kResponses[static_cast<std::size_t>(response)];
+  Fill(form.cboTimedResponse, {"None", "3", "5", "7", "10"}, response);
+  const int penalty = GetIntSetting(show, "PenaltyPoints", 0);
+  state.PenaltyPoints = penalty == 20 || (penalty >= 0 && penalty <= 10) ? penalty : 0;
+  Fill(show.frmPlayerNames.cboPenaltyPoints, {"0", "1", "2", "3", "4", "5", "6", "7", "8", "9", "10", "20"},
+       state.PenaltyPoints == 20 ? 11 : state.PenaltyPoints);
+}
+
+void LoadSounds(Show& show) {
+  show.state.SoundSet = GetIntSetting(show, "SoundSet", 1);
+  if (!LoadSoundTable(show)) FillDefaultSounds(show);
+  if (show.state.SoundSet >= 1 && show.state.SoundSet <= 3) {
+    show.frmMain.optSoundBank[static_cast<std::size_t>(show.state.SoundSet - 1)].SelectInGroup();
+  }
+}
+
+std::string KeySetting(Show& show, const std::string& key, const std::string& fallback) {
+  const std::string value = GetSetting(show, key, fallback);
+  return Trim(value).empty() ? fallback : value;
+}
+
+void LoadRulesAndVolumes(Show& show) {
+  GameState& state = show.state;
+  MainForm& form = show.frmMain;
+  state.KeyControl = GetBoolSetting(show, "KeyControl", true);
+  form.chkExtKeyboardCtrl.Value = state.KeyControl ? 1 : 0;
+  form.txtDJCommand.Visible = state.KeyControl;
+  state.KeyCorrect = KeySetting(show, "KeyCorrect", "Y");
+  state.KeyIncorrect = KeySetting(show, "KeyIncorrect", "N");
+  state.GameEnds = GetBoolSetting(show, "GameEnds", false);
+  form.optGameEnds[state.GameEnds ? 0 : 1].SelectInGroup();
+  state.IncorrectPenalty = GetBoolSetting(show, "IncorrectPenalty", false);
+  form.chkIncorrectPenalty.Value = state.IncorrectPenalty ? 1 : 0;
+  state.LedEffects = GetIntSetting(show, "LedEffects", 0);
+  state.LedSpeed = GetIntSetting(show, "LedSpeed", 5);
+  state.Player1Penalty = GetBoolSetting(show, "Player1Penalty", false);
+  state.Player2Penalty = GetBoolSetting(show, "Player2Penalty", false);
+  state.Player3Penalty = GetBoolSetting(show, "Player3Penalty", false);
+  show.frmPlayerNames.chkPlayer1Penalty.Value = state.Player1Penalty ? 1 : 0;
+  show.frmPlayerNames.chkPlayer2Penalty.Value = state.Player2Penalty ? 1 : 0;
+  show.frmPlayerNames.chkPlayer3Penalty.Value = state.Player3Penalty ? 1 : 0;
+  state.MicsOnWithBuzzer = GetBoolSetting(show, "MicsOnWithBuzzer", false);
+  state.TSSupport = GetBoolSetting(show, "TSSupport", false);
+  LoadVolumes(show);
+  state.BgMusicFileName = GetSetting(show, "BgMusicFileName", "");
+  state.BackgroundMusic = IntInRange(show, "BackgroundMusic", 0, 0, 2, 0);
+}
+
+void ShowIdleBoard(Show& show) {
+  GameState& state = show.state;
+  MainForm& form = show.frmMain;
+  state.GridCols = state.GridSize;
+  state.GridRows = state.GridSize;
+  form.tmrArrowsTimer.Enabled = true;
+  state.CurrentPlayer = 0;
+  SetBuzzerStates(show, false, false, false);
+  form.btnCorrect.Enabled = false;
+  form.imgDJEntry.Picture = PicturePath(show, "\\Images\\Neutral.bmp");
+  HidePanel(show, Panel::Question);
+  ShowPanel(show, Panel::Standby);
+  // Only here does Trivia Mode A differ from Trivia Mode B.
+  const bool triviaA = state.GameType == kTriviaModeA;
+  form.btnStandbyMode.Enabled = triviaA;
+  form.btnPlayMode.Enabled = !triviaA;
+  if (triviaA) form.txtDJCommand.BackColor = kRed;
+  HidePanel(show, Panel::Sound);
+  HidePanel(show, Panel::QuestionPicture);
+  form.btnUndo.Enabled = false;
+  state.CurrentQuestion = 0;
+  form.btnQuestionCorrect.Visible = false;
+  form.btnQuestionIncorrect.Visible = false;
+  state.PlacementOpen = false;
+  form.tmrOptionalHeaders.Enabled = true;
+  state.GameLoaded = false;
+  state.GameInProgress = false;
+  form.btnReset.Enabled = false;
+  form.btnEndGame.Enabled = false;
+  if (!IsChallengeType(state.GameType)) return;
+  for (Control* option : {static_cast<Control*>(&form.chkAnimation), static_cast<Control*>(&form.chkHideQuestion),
+                          static_cast<Control*>(&form.chkIncorrectPenalty)}) {
+    option->Enabled = false;
+  }
+}
+
+// All six are tried before the first that is missing is told.
+void LoadPieces(Show& show) {
+  MainForm& form = show.frmMain;
+  std::string missing;
+  const auto load = [&](Image& face, const std::string& tail) {
+    face.Picture = PicturePath(show, tail);
+    if (face.Picture->empty() && missing.empty()) missing = show.AppPath(tail);
+  };
+  load(form.imgXa, "\\Images\\X-100a.bmp");
+  load(form.imgXb, "\\Images\\X-100b.bmp");
+  load(form.imgOa, "\\Images\\O-100a.bmp");
+  load(form.imgOb, "\\Images\\O-100b.bmp");
+  load(form.imgTa, "\\Images\\T-100a.bmp");
+  load(form.imgTb, "\\Images\\T-100b.bmp");
+  if (!missing.empty()) throw RuntimeError(kErrorFileNotFound, "File not found: " + missing);
+}
+
+void RunStep(Show& show, void (*step)(Show&)) {
+  RunGuarded(
+      show.platform.dialogs, [&] { step(show); }, "frmMain", "Form_Load");
+}
+
+void StartForm(Show& show) {
+  GameState& state = show.state;
+  if (state.SerialComm == 10) {
+    show.frmMain.lblStatusBar.Caption = "System Initialized";
+    show.frmMain.tmrMainTimer.Enabled = false;
+  }
+  state.SetsFolder = show.AppPath("\\Trivia Sets");
+  show.frmMain.Form::Caption = kAppTitle;
+}
+
+void ShowAudience(Show& show) {
+  if (!show.state.DualScreen) return;
+  ShowAudienceScreen(show, show.state.FullScreenGameBoard ? 0 : show.state.FSLeft);
+}
+
+void ShowConsole(Show& show) {
+  show.frmMain.Visible = true;
+  if (!show.state.TSSupport) return;
+  show.state.C2CValue = 0;
+  ReportPlayers(show, kWhite);
+  show.frmMain.tmrMainTimer.Enabled = true;
+}
+
+}  // namespace
+
+void LoadMainForm(Show& show) {
+  // Each step reports its own failure, so that one bad value or file leaves the rest of the load whole.
+  for (const auto step :
+       {SetDesignPictures, LoadInterfaceFile,   LoadZR610,          CreateTransceiver, LoadRoutingAndPoints,
+        StartForm,         LoadScreenPictures,  FillSetList,        LoadGameOptions,   LoadPlayOptions,
+        LoadSounds,        LoadRulesAndVolumes, DecideOnMusic,      StartMusic,        LoadOptionalHeaders,
+        ShowIdleBoard,     ShowAudience,        LoadScreenSettings, ShowConsole,       LoadPieces}) {
+    RunStep(show, step);
+  }
+  LightScoreBox(show, 0);
+  if (show.frmMain.OnResize) show.frmMain.OnResize();
+}
+
+}  // namespace pawnfield

@@ -1,0 +1,42 @@
+#include "program/program.h"
+
+#include "forms/small_forms.h"
+#include "platform/errors.h"
+#include "presentation/monitors.h"
+#include "program/handlers.h"
+#include "program/start_up.h"
+#include "show/show.h"
+
+namespace pawnfield {
+
+namespace {
+
+// The audience screen is in use where a second monitor is; without one it would stand off the right edge.
+void ReadMonitors(Show& show) {
+  FindAudiencePlace(show);
+  show.state.DualScreen = HasSecondMonitor(show);
+}
+
+}  // namespace
+
+void Main(Show& show) {
+  AttachHandlers(show);
+  Processes& processes = show.platform.processes;
+  if (processes.AnotherInstanceRuns()) {
+    show.platform.dialogs.MessageBox(
+        "There is already an instance of this application open. Please close that instance first.", kAppTitle,
+        BoxKind::Critical);
+    processes.Activate(0);
+    processes.EndProgram();
+    return;
+  }
+  if (ScanForSiblings(show, ScanMode::Tell)) return;
+  show.platform.displays.RoundWindow(show.frmLoading, kCornerRadius);
+  show.frmLoading.Visible = true;
+  RunGuarded(
+      show.platform.dialogs, [&] { PrepareDataFolders(show); }, "modMain", "PrepareDataFolders");
+  ReadMonitors(show);
+  show.frmAlwaysLoaded.tmrAlwaysLoaded.Enabled = true;
+}
+
+}  // namespace pawnfield

@@ -1,0 +1,100 @@
+#include "program/start_up.h"
+
+#include <cmath>
+
+#include "devices/transceiver.h"
+#include "forms/main_form.h"
+#include "forms/small_forms.h"
+#include "outward/companion.h"
+#include "outward/shared_key.h"
+#include "platform/errors.h"
+#include "platform/text.h"
+#include "presentation/audience_screen.h"
+#include "program/interface_file.h"
+#include "show/settings.h"
+#include "show/show.h"
+
+namespace pawnfield {
+
+bool ScanForSiblings(Show& show, ScanMode mode) {
+  constexpr const char* kFamily = "OSTARA";
+  Processes& processes = show.platform.processes;
+  for (const ProcessInfo& process : processes.List()) {
+    const bool sibling = process.Caption.size() > 5 && ToUpper(process.Caption.substr(0, 6)) == kFamily &&
+                         process.Handle != processes.CurrentId();
+    if (!sibling) continue;
+    if (mode == ScanMode::Tell) {
+      show.platform.dialogs.MessageBox(process.Caption + " is already running. Please close that instance first.",
+                                       kAppTitle, BoxKind::Critical);
+      processes.Activate(process.Handle);
+      processes.EndProgram();
+    }
+    return true;
+  }
+  return false;
+}
+
+void PrepareDataFolders(Show& show) {
+  FileSystem& files = show.platform.files;
+  const std::string& root = show.platform.folders.DataRoot;
+  if (!files.FolderExists(root)) files.CreateFolder(root);
+  for (const char* name :
+       {"Ostara Panel Pro 4", "Ostara Clash", "Pawnfield", "Ostara Wheelhouse", "Ostara Bargain", "BackgroundMusic"}) {
+    const std::string folder = root + "\\" + name;
+    if (!files.FolderExists(folder)) files.CreateFolder(folder);
+  }
+}
+
+void tmrAlwaysLoaded_Timer(Show& show) {
+  show.frmAlwaysLoaded.tmrAlwaysLoaded.Enabled = false;
+  show.frmLoading.Visible = false;
+  show.frmSplash.imgBG.Picture = show.AppPath("\\Images\\Standby.jpg");
+  show.platform.displays.RoundWindow(show.frmSplash, kCornerRadius);
+  show.frmSplash.Visible = true;
+  show.frmSplash.tmrProgress.Enabled = true;
+}
+
+void tmrProgress_Timer(Show& show) {
+  constexpr double kStep = 500;
+  constexpr double kMargin = 100;
+  SplashForm& form = show.frmSplash;
+  const double full = form.Width - kMargin;
+  form.oProgress.Width = std::fmin(form.oProgress.Width + kStep, full);
+  if (form.oProgress.Width < full) return;
+  form.tmrProgress.Enabled = false;
+  form.tmrSplash.Enabled = true;
+}
+
+bool Form_QueryUnload(Show& show) {
+  Displays& displays = show.platform.displays;
+  displays.SetTopMost(show.frmMain, true);
+  const BoxAnswer answer =
+      show.platform.dialogs.MessageBox("Are you sure you want to exit?", kAppTitle, BoxKind::YesNoCancel);
+  displays.SetTopMost(show.frmMain, false);
+  return answer == BoxAnswer::Yes;
+}
+
+void fileExit(Show& show) {
+  MainForm& form = show.frmMain;
+  SendKeyPress(show, false);
+  for (Timer* timer :
+       {&form.tmr5QuestionTimer, &form.tmrAnswer, &form.tmrArrowsTimer, &form.tmrAutoContinue, &form.tmrBGMusic,
+        &form.tmrBonus, &form.tmrExternalCtrlFlasher, &form.tmrFlipPlayerPiece, &form.tmrMainTimer, &form.tmrNonBuzzer,
+        &form.tmrOptionalHeaders, &form.tmrRotate, &form.tmrWinner}) {
+    timer->Enabled = false;
+  }
+  // Settings that can't be saved are told, and the program ends all the same.
+  RunGuarded(
+      show.platform.dialogs, [&] { SaveAllSettings(show); }, "frmMain", "fileExit");
+  ReportExit(show);
+  RunGuarded(
+      show.platform.dialogs, [&] { SaveInterfaceFile(show); }, "frmMain", "fileExit");
+  show.dgTransceiver.reset();
+  RunGuarded(
+      show.platform.dialogs, [&] { UnloadAudienceScreen(show); }, "frmFSMain", "Form_Unload");
+  show.platform.serial.Close();
+  for (Form* other : AllForms(show)) other->Visible = false;
+  show.platform.processes.EndProgram();
+}
+
+}  // namespace pawnfield

@@ -1,0 +1,25 @@
+// Start-up and shutdown: the data folders, the splash, and the exit that saves the settings.
+#pragma once
+
+namespace pawnfield {
+
+struct Show;
+
+// Of the windows without a frame, in pixels.
+inline constexpr int kCornerRadius = 10;
+
+enum class ScanMode { Tell, AskOnly };
+// True when a sibling title runs; with Tell the operator is told, its window comes to the front and the program ends.
+bool ScanForSiblings(Show& show, ScanMode mode);
+// Makes what is missing of DataRoot and its folders.
+void PrepareDataFolders(Show& show);
+
+void tmrAlwaysLoaded_Timer(Show& show);
+void tmrProgress_Timer(Show& show);
+
+// The close box's question; true lets the console close.
+bool Form_QueryUnload(Show& show);
+// Stops the timers, saves the settings, unloads every form and ends the program.
+void fileExit(Show& show);
+
+}  // namespace pawnfield

@@ -1,0 +1,36 @@
+// What the ways of a press remember: the debounce of the wireless remotes, the line of the wired pads and their table,
+// and what was found at the start. Owned by the show.
+#pragma once
+
+#include <array>
+#include <cstdint>
+#include <memory>
+#include <set>
+
+#include "devices/frame_splitter.h"
+#include "devices/pad_map_table.h"
+#include "devices/self_timer.h"
+
+namespace pawnfield {
+
+struct PressState {
+  // Milliseconds of the clock at a remote's last press that passed the debounce, by remote number; 0 for none.
+  std::array<std::int64_t, 51> LastPressTick{};
+  // Remotes that the operator has been told of because the show has no place for them.
+  std::set<int> ToldRemotes;
+
+  bool ZR610Present = false;
+  // The wired pads' port, -1 for none.
+  int CommPortNumber = -1;
+  FrameSplitter RxBuffer;
+  bool BrokenFrameTold = false;
+  // Runs while frames wait behind a message box.
+  std::unique_ptr<SelfTimer> HeldFrames;
+  PadMap MFMap{};
+
+  bool HardwareFound = false;
+  // The first five fields of Interface.txt, which are carried through.
+  std::array<int, 5> InterfaceFields{4, 0, 0, 0, 0};
+};
+
+}  // namespace pawnfield

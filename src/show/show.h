@@ -1,0 +1,148 @@
+// The show: the platform, the running game and the forms, handed to every handler. One instance lives as long as the
+// program.
+#pragma once
+
+#include <array>
+#include <deque>
+#include <map>
+#include <memory>
+#include <string>
+#include <vector>
+
+#include "data/game_state.h"
+#include "data/trivia_set.h"
+#include "platform/common_dialog.h"
+#include "platform/ports.h"
+#include "show/press_state.h"
+
+namespace pawnfield {
+
+inline constexpr const char* kAppTitle = "Pawnfield";
+
+struct AlwaysLoadedForm;
+struct ConfigKeysForm;
+struct ConnectToProjectorForm;
+struct EditChoiceForm;
+class EditorForm;
+class FSMainForm;
+class Form;
+struct GameInProgressForm;
+struct GameLoadingForm;
+struct GameTypeHelpForm;
+struct HelpAboutForm;
+class Image;
+struct LoadingForm;
+class MainForm;
+struct MapMFForm;
+struct MissingMediaForm;
+struct OptionalHeadersForm;
+struct OptionsForm;
+struct PlayerNamesForm;
+struct SecondScreenForm;
+struct SetInterfaceForm;
+struct SoundEffectsForm;
+struct SplashForm;
+class Transceiver;
+
+// How one of the two flipping squares moves between ticks.
+struct Flip {
+  Image* Square = nullptr;
+  double Step = 0;
+  double FullHeight = 0;
+  bool Larger = false;
+  bool AtEdge = false;
+  // Where the square stands when it doesn't turn.
+  double RestTop = 0;
+  double RestHeight = 0;
+};
+
+// The square being typed: empty, a letter, or a letter and a digit. Row and Column are named as the typed halves are:
+// the letter stands above a column of the board and the digit beside a row.
+struct SquareEntry {
+  std::string DJEntry;
+  std::string DJRowLetter;
+  int DJRow = 0;
+  int DJColumn = 0;
+};
+
+// Paths of media files by bank 1..3 and row 1..34; index 0 of both is unused.
+using SoundBanks = std::array<std::array<std::string, 35>, 4>;
+
+// All forms of the program, which the show's references below name.
+struct Forms;
+
+struct Show {
+  explicit Show(Platform& platformPorts);
+  ~Show();
+  Show(const Show&) = delete;
+  Show& operator=(const Show&) = delete;
+
+  Platform& platform;
+  GameState state;
+  TriviaSet GameSet;
+  int NumGameQuestions = 0;
+  // The set that is open in the editor, which begins with the game's set where EditCurrentSet says so.
+  TriviaSet EditSet;
+  int NumEditQuestions = 0;
+  bool EditCurrentSet = false;
+  // Counted from 1: the question that frmDialog2 is about.
+  int MissingQuestion = 0;
+  // The file dialog of the console; FileName is the set that was loaded by it.
+  CommonDialog consoleDialog;
+  SoundBanks soundBanks;
+  Flip flip, fsFlip;
+  SquareEntry entry;
+  bool FlashToggle = false;
+  int FlashCount = 0;
+  std::array<int, 2> AnimateCount{};
+  PressState presses;
+  // Lives from the console's load to the exit, whether or not a device was found.
+  std::unique_ptr<Transceiver> dgTransceiver;
+  // Whether a picture of the program could be opened when it was first asked for.
+  std::map<std::string, bool> PictureFound;
+  // Texts for the companion that wait until the present event is done, oldest first.
+  std::deque<std::string> CompanionReports;
+  // Whether the last report, and the last write to the external keyboard program's key, failed; that has been told.
+  bool CompanionFails = false, SharedKeyFails = false;
+  std::vector<MonitorInfo> Monitors;
+  // frmFSMain has been loaded; and the desktop's saver and sleep are held off.
+  bool AudienceLoaded = false, AwakeHeld = false;
+
+  // Every form, made with the show. Whoever works one includes its header; touching that rebuilds nobody else.
+  MainForm& frmMain;
+  FSMainForm& frmFSMain;
+  SecondScreenForm& frmSS;
+  ConnectToProjectorForm& frmConnectToProjector;
+  LoadingForm& frmLoading;
+  AlwaysLoadedForm& frmAlwaysLoaded;
+  SplashForm& frmSplash;
+  GameLoadingForm& frmGameLoading;
+  GameInProgressForm& frmGameInProgress;
+  GameTypeHelpForm& frmGameTypeHelp;
+  EditorForm& frmEditor;
+  EditChoiceForm& frmEditChoice;
+  MissingMediaForm& frmDialog2;
+  MapMFForm& frmMapMF;
+  SetInterfaceForm& frmSetInterface;
+  PlayerNamesForm& frmPlayerNames;
+  HelpAboutForm& frmHelpAbout;
+  ConfigKeysForm& frmConfigKeys;
+  SoundEffectsForm& frmSoundEffects;
+  OptionalHeadersForm& frmOptionalHeaders;
+  OptionsForm& frmOptions;
+
+  // The path of a file of the program's folder, as in AppPath("\\Images\\scorebox.bmp").
+  std::string AppPath(const std::string& tail) const { return platform.folders.App + tail; }
+
+ private:
+  Show(Platform& platformPorts, std::unique_ptr<Forms> forms);
+
+  std::unique_ptr<Forms> forms_;
+};
+
+// Every form, each once.
+std::vector<Form*> AllForms(Show& show);
+// True when a form of that name is shown.
+bool IsFormVisible(Show& show, const std::string& name);
+
+}  // namespace pawnfield

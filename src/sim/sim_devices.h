@@ -1,0 +1,113 @@
+// The smaller ports as simulations: text measuring, pictures, monitors, processes and chance.
+#pragma once
+
+#include <cstdint>
+#include <deque>
+#include <map>
+#include <string>
+#include <utility>
+#include <vector>
+
+#include "platform/ports.h"
+#include "sim/sim_files.h"
+
+namespace pawnfield {
+
+// Every measure grows in proportion to the font's size, so that what a fit must come to can be worked out by hand: a
+// character is a fixed share of the size wide, a line 1.2 times the size high. A point is 20 twips.
+class LinearTextMeasurer : public TextMeasurer {
+ public:
+  TextSize Measure(const Font& font, const std::string& text, double wrapWidth) const override;
+  // Width of one line of text in thousandths of the font's size.
+  static int Units(const std::string& text);
+};
+
+// A picture is a file of the simulated tree made by PictureBytes; any other file holds no picture.
+class SimPictures : public PictureReader {
+ public:
+  explicit SimPictures(const SimFiles& files) : files_(files) {}
+  PixelSize Size(const std::string& path) const override;
+  static std::string PictureBytes(int width, int height);
+
+ private:
+  const SimFiles& files_;
+};
+
+class SimDisplays : public Displays {
+ public:
+  std::vector<MonitorInfo> Enumerate() const override { return Monitors; }
+  void OnChanged(std::function<void()> changed) override { changed_ = std::move(changed); }
+  void SetTopMost(Form& form, bool onTop) override { TopMost.emplace_back(form.Name(), onTop); }
+  void RoundWindow(Form& form, int radius) override { Rounded[form.Name()] = radius; }
+  void KeepAwake(bool awake) override { Awake = awake; }
+  // The cable is pulled or put in, or a mode is changed.
+  void Change(std::vector<MonitorInfo> monitors);
+
+  std::vector<MonitorInfo> Monitors{{0, 0, 1280, 800}};
+  // Every call, in order.
+  std::vector<std::pair<std::string, bool>> TopMost;
+  std::map<std::string, int> Rounded;
+  bool Awake = false;
+
+ private:
+  std::function<void()> changed_;
+};
+
+class SimPrinter : public Printing {
+ public:
+  std::optional<int> ChoosePrinter() override;
+  void Print(const PrintDocument& document, int copies) override;
+
+  // What the operator chooses next; nothing cancels.
+  std::optional<int> Copies;
+  bool Broken = false;
+  std::vector<PrintDocument> Printed;
+};
+
+class SimProcesses : public Processes {
+ public:
+  bool AnotherInstanceRuns() override { return AlreadyRuns; }
+  std::vector<ProcessInfo> List() const override { return Others; }
+  std::int64_t CurrentId() const override { return 4711; }
+  void Activate(std::int64_t id) override { Activated.push_back(id); }
+  bool StartHelper(const std::string& name, const std::string& argument) override;
+  void EndProgram() override { Ended = true; }
+  void Start(const std::string& path) override { Started.push_back(path); }
+
+  bool AlreadyRuns = false;
+  // The program that lies beside this one, empty for none, and the arguments that it was started with.
+  std::string Helper;
+  std::vector<std::string> HelperArguments;
+  std::vector<ProcessInfo> Others;
+  std::vector<std::int64_t> Activated;
+  bool Ended = false;
+  std::vector<std::string> Started;
+};
+
+// Notes what was opened, in order.
+class SimPages : public HelpPages {
+ public:
+  bool Open(const std::string& address) override {
+    Opened.push_back(address);
+    return Works;
+  }
+
+  std::vector<std::string> Opened;
+  bool Works = true;
+};
+
+// Gives the scripted values first, then a fixed sequence.
+class SimRandom : public RandomSource {
+ public:
+  explicit SimRandom(std::uint32_t seed = 1) : state_(seed) {}
+  void Randomize() override { ++Randomized; }
+  double Next() override;
+
+  std::deque<double> Scripted;
+  int Randomized = 0;
+
+ private:
+  std::uint32_t state_;
+};
+
+}  // namespace pawnfield

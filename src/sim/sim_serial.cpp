@@ -1,0 +1,31 @@
+#include "sim/sim_serial.h"
+
+#include <utility>
+
+namespace pawnfield {
+
+void SimSerial::Open(int number, const SerialSettings&) {
+  if (const int error = std::exchange(FailNextOpen, 0); error != 0) throw RuntimeError(error, "Invalid port number");
+  arrived_.clear();
+  Number = number;
+}
+
+std::string SimSerial::Input() { return std::exchange(arrived_, {}); }
+
+void SimSerial::Plug(const std::string& caption) {
+  Devices.push_back({"USB\\VID_1A86&PID_7523\\5&1", "USB-SERIAL", caption});
+}
+
+void SimSerial::Feed(const std::string& bytes) {
+  if (!PortOpen()) return;
+  arrived_ += bytes;
+  if (OnComm) OnComm(SerialEvent::Received);
+}
+
+void SimSerial::Pull() {
+  constexpr int kManyErrors = 100;
+  Devices.clear();
+  for (int i = 0; i < kManyErrors && PortOpen() && OnComm; ++i) OnComm(SerialEvent::Lost);
+}
+
+}  // namespace pawnfield

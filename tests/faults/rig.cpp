@@ -1,0 +1,70 @@
+#include "rig.h"
+
+#include <QDir>
+#include <QFile>
+#include <QPrinter>
+
+#include "desktop/files/native_path.h"
+#include "desktop/system/qt_printing.h"
+#include "forms/main_form.h"
+#include "program/handlers.h"
+#include "program/program.h"
+
+namespace pawnfield::faults {
+
+namespace {
+
+Folders FoldersOf(const Places& places) { return {*SpelledPath(places.App()), *SpelledPath(places.Data())}; }
+
+}  // namespace
+
+BoxAnswer ToldDialogs::MessageBox(const std::string& text, const std::string&, BoxKind kind) {
+  if (kind == BoxKind::YesNo || kind == BoxKind::YesNoCancel) return BoxAnswer::Yes;
+  Told.push_back(text);
+  return BoxAnswer::Ok;
+}
+
+void FilePrinting::Print(const PrintDocument& document, int copies) {
+  QPrinter printer;
+  printer.setOutputFormat(QPrinter::PdfFormat);
+  printer.setOutputFileName(File);
+  PrintOn(printer, document, copies);
+}
+
+void Places::MakeFolders() const {
+  for (const QString& folder : {App() + "/Trivia Sets", App() + "/Sounds", Data(), Config(), Runtime(), Copy()}) {
+    QDir().mkpath(folder);
+  }
+  QFile::link(PAWNFIELD_IMAGES_DIR, App() + "/Images");
+}
+
+Rig::Rig(const QString& root)
+    : places(root),
+      settings(places.Config()),
+      platform{sim.clock, dialogs,      sim.media.Channels(), settings,   files,   sim.text,
+               pictures,  sim.displays, sim.processes,        sim.random, sim.hid, printing,
+               sim.pages, sim.serial,   FoldersOf(places)},
+      show(platform) {
+  AttachHandlers(show);
+}
+
+void Start(Rig& rig) {
+  Main(rig.show);
+  rig.sim.clock.Advance(10000);
+}
+
+std::vector<std::string> NextStart(const QString& root) {
+  Rig rig(root);
+  Start(rig);
+  std::vector<std::string> odd;
+  for (const std::string& text : rig.dialogs.Told) {
+    if (text.find("No hardware was detected") == std::string::npos) odd.push_back(text);
+  }
+  for (const std::string& name : rig.show.frmMain.cboList.List.Get()) {
+    if (name != "Select Game Set" && !name.starts_with("Show")) odd.push_back("a set named " + name);
+  }
+  if (!rig.show.frmMain.Visible) odd.push_back("no console");
+  return odd;
+}
+
+}  // namespace pawnfield::faults

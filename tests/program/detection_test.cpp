@@ -1,0 +1,99 @@
+// What is attached at the start: the order of the search, the text rules, the interface dialog and its file.
+#include "program/detection.h"
+
+#include "../support/show_fixture.h"
+#include "devices/transceiver.h"
+#include "forms/press_forms.h"
+
+namespace pawnfield {
+namespace {
+
+constexpr const char* kInterfaceFile = "C:\\Ostara Show Kit Data\\Interface.txt";
+
+TEST(Detection, InstancePathsAndTheWalkThroughTheControlSets) {
+  // A path's answer in the first control set and in the later ones.
+  const std::pair<const char*, std::vector<const char*>> paths[] = {
+      {"11", {"USB\\VID_04FE&PID_1003\\5&2A", "USB\\VID_04FE&PID_1003", "usb\\vid_04fe&pid_1001&MI_00"}},
+      {"10", {"USB\\VID_0003&PID_1001\\1"}},
+      {"00", {"USB\\VID_04FE", "USB\\VID_04FE&REV_1", "PID_1003&VID_04FE&x", ""}},
+      {"00", {"USB\\VID_04FE&PID_10030", "USB\\VID_0004&PID_1003\\5"}}};
+  for (const auto& [answers, instances] : paths) {
+    for (const char* path : instances) {
+      EXPECT_EQ(IsTransceiver(path, ControlSet::First), answers[0] == '1') << path;
+      EXPECT_EQ(IsTransceiver(path, ControlSet::Later), answers[1] == '1') << path;
+    }
+  }
+  const std::tuple<const char*, const char*, const char*, bool> values[] = {
+      {"001\\Services\\HidUSB", "10", "x\\VID_0003&PID_1003", true},
+      {"001\\Services\\HidUSB", "11", "x\\VID_0003&PID_1003", false},
+      {"002\\Services\\HidUsb", "0", "x\\VID_0003&PID_1001", false},
+      {"003\\Services\\HidUsb", "3", "x\\VID_04FE&PID_1001", true}};
+  for (const auto& [set, name, value, found] : values) {
+    const std::string held = std::string("System\\ControlSet") + set + "\\Enum" + name;
+    const auto read = [&held, text = value](const std::string& key, const std::string& asked) {
+      return key + asked == held ? std::optional<std::string>(text) : std::nullopt;
+    };
+    EXPECT_EQ(FindTransceiverInRegistry(read), found) << held;
+  }
+}
+
+TEST(Detection, EachKindOfHardwareAtTheStart) {
+  // A device under the other vendor's number is found, and not opened.
+  const std::tuple<HidDevice, int, bool> cases[] = {
+      {{3, 0x1003}, 10, true}, {{0x04FE, 0x1001}, 10, false}, {{3, 0x1002}, 6, false}};
+  for (const auto& [device, serialComm, opened] : cases) {
+    ShowFixture fixture;
+    fixture.sim.hid.Devices = {{device, {33, 33}}};
+    if (serialComm == 6) fixture.sim.dialogs.ExpectMessage("No hardware was detected");
+    fixture.Start();
+    EXPECT_EQ(fixture.show().state.SerialComm, serialComm);
+    EXPECT_EQ(fixture.show().dgTransceiver->Ready(), opened);
+    EXPECT_EQ(fixture.form().lblStatusBar.Caption == "System Initialized", serialComm == 10);
+  }
+  ShowFixture pads;
+  pads.sim.hid.PlugTransceiver();
+  pads.sim.serial.Plug();
+  pads.sim.serial.FailNextOpen = kErrorInvalidPort;
+  pads.sim.dialogs.ExpectMessage("Error Number: 8002");
+  pads.Start();
+  EXPECT_EQ(pads.form().lblStatusBar.Caption, "ZR-610 System initialized") << "looked for first, and told";
+  EXPECT_EQ(pads.show().state.SerialComm, 99) << "left as it was";
+  EXPECT_TRUE(pads.form().Visible);
+}
+
+TEST(InterfaceFile, IsReadFieldByFieldAndWrittenAtTheExit) {
+  const std::pair<const char*, const char*> files[] = {{"7", "7^0^0^0^0^0"},
+                                                       {"20^1^2^3^4^1", "4^1^2^3^4^1"},
+                                                       {"", "4^0^0^0^0^0"},
+                                                       {"x^16^-1^15^0^2", "4^0^0^15^0^0"},
+                                                       {"1^2^3\r\n4^5", "1^2^3^0^0^0"},
+                                                       {"0^^ 5 ^1e1^2.5^1.0", "0^0^5^10^2^1"},
+                                                       {"1^2^3^4^5^1^9", "1^2^3^4^5^1"}};
+  for (const auto& [bytes, line] : files) {
+    ShowFixture fixture;
+    fixture.sim.files.Put(kInterfaceFile, bytes);
+    fixture.Start();
+    fixture.Exit();
+    EXPECT_EQ(fixture.sim.files.Read(kInterfaceFile), std::string(line) + "\r\n") << bytes;
+  }
+}
+
+TEST(InterfaceDialog, AlwaysResultsInTheSharedKeypadMode) {
+  for (const char* stored : {"0", "4", "5", "99"}) {
+    ShowFixture fixture;
+    fixture.Start();
+    fixture.Preset("SerialComm", stored);
+    fixture.show().state.ZR650 = true;
+    fixture.show().frmSetInterface.Visible = true;
+    frmSetInterface_Load(fixture.show());
+    EXPECT_EQ(fixture.show().state.SerialComm, 9);
+    EXPECT_FALSE(fixture.show().state.ZR650 || fixture.show().frmSetInterface.Visible);
+    EXPECT_EQ(fixture.sim.settings.GetSetting("Pawnfield", "Settings", "SerialComm", ""), "9");
+    fixture.show().frmSetInterface.Visible = true;
+    fixture.show().frmSetInterface.btnCancel.Click();
+    EXPECT_TRUE(fixture.sim.processes.Ended);
+  }
+}
+
+}  // namespace
+}  // namespace pawnfield
