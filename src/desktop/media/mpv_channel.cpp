@@ -57,6 +57,13 @@ MpvChannel::MpvChannel(std::initializer_list<Option> options) : player_(mpv_crea
                                     {"idle", "yes"},
                                     {"terminal", "no"},
                                     {"load-scripts", "no"},
+                                    {"load-stats-overlay", "no"},
+                                    {"load-osd-console", "no"},
+                                    {"load-auto-profiles", "no"},
+                                    // A list of other files is no medium, and nothing is fetched from anywhere.
+                                    {"demuxer", "lavf"},
+                                    {"stream-lavf-o", "protocol_whitelist=file"},
+                                    {"demuxer-lavf-o", "protocol_whitelist=file"},
                                     {"osc", "no"},
                                     {"ytdl", "no"},
                                     {"sub-auto", "no"},
