@@ -75,7 +75,7 @@ void AcceptRingIn(Show& show, int player, [[maybe_unused]] RingInSource source) 
   MainForm& form = show.frmMain;
   const bool isPlayer = IsPlayer(player);
   SendKeyPressInRingIn(show, false);
-  SetBuzzerStates(show, false, false, false);
+  SetBuzzerStates(show, false);
   show.state.CurrentPlayer = player;
   LightScoreBox(show, isPlayer ? player : 0);
   if (isPlayer) PlayRingIn(show, player);
@@ -84,13 +84,13 @@ void AcceptRingIn(Show& show, int player, [[maybe_unused]] RingInSource source) 
   const bool cover = show.state.GameType == kTriviaModeC && show.state.HideQuestion && show.state.DualScreen;
   if (!cover) return;
   if (isPlayer) {
-    show.frmFSMain.lblPlayerName.Caption = form.lblPlayer1[static_cast<std::size_t>(player - 1)].Caption;
+    show.frmFSMain.lblPlayerName.Caption = form.lblPlayer1[PlayerIndex(player)].Caption;
   }
   show.frmFSMain.picHideQuestion.Visible = true;
 }
 
 void btnSelectPlayer_Click(Show& show, int index) {
-  if (index >= 0 && index <= 2) show.frmMain.imgDJEntry.Picture = show.frmMain.FaceA(index + 1).Picture;
+  if (IsPlayer(index + 1)) show.frmMain.imgDJEntry.Picture = show.frmMain.FaceA(index + 1).Picture;
   if (show.state.GameType != kTriviaModeC || !QuestionVisible(show)) return;
   AcceptRingIn(show, index + 1, RingInSource::Other);
   ShowVerdictButtons(show, true, true);

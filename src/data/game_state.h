@@ -5,6 +5,8 @@
 #include <string>
 #include <vector>
 
+#include "data/players.h"
+
 namespace pawnfield {
 
 inline constexpr int kChallengeModeA = 1;
@@ -44,7 +46,7 @@ struct OptionalHeader {
 
 struct GameState {
   int GameType = kTriviaModeC;
-  int Players = 3;
+  int Players = kPlayers;
   int GridSize = 5;
   int GridCols = 5;
   int GridRows = 5;
@@ -57,8 +59,8 @@ struct GameState {
 
   int CurrentPlayer = 0;
   int FlipPlayer = 0;
-  int Lamp1 = kLampOn, Lamp2 = kLampOff, Lamp3 = kLampOff;
-  std::string LampCode1 = "1", LampCode2 = "3", LampCode3 = "3";
+  PerPlayer<int> Lamp{kLampOn, kLampOff, kLampOff};
+  PerPlayer<std::string> LampCode{"1", "3", "3"};
   int CurrentQuestion = 0;
   int PiecePoints = 0;
   std::string LastSquareKey;
@@ -73,7 +75,7 @@ struct GameState {
   double C2CValue = 0;
   bool C2CCorrectFlag = false;
   bool C2CIncorrectFlag = false;
-  std::array<ScreenStyle, 3> ScreenFonts;
+  PerPlayer<ScreenStyle> ScreenFonts;
 
   bool HideQuestion = true;
   bool KeyControl = true;
@@ -84,7 +86,7 @@ struct GameState {
   bool GameEnds = false;
   bool IncorrectPenalty = false;
   int PenaltyPoints = 0;
-  bool Player1Penalty = false, Player2Penalty = false, Player3Penalty = false;
+  PerPlayer<bool> PlayerPenalty;
   std::string KeyCorrect = "Y", KeyIncorrect = "N";
   bool MicsOnWithBuzzer = false;
   int LedEffects = 0;
@@ -122,8 +124,6 @@ struct GameState {
   std::string SetFolder;
 };
 
-// The numbers of players; a ring-in by a key can make CurrentPlayer another one.
-inline bool IsPlayer(int number) { return number >= 1 && number <= 3; }
 inline bool IsQuestionType(int gameType) { return gameType >= kTriviaModeA && gameType <= kTriviaModeC; }
 inline bool IsChallengeType(int gameType) { return gameType == kChallengeModeA || gameType == kChallengeModeB; }
 

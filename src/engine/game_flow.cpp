@@ -145,17 +145,17 @@ void ApplyPlayerLayout(Show& show, int players) {
   MainForm& form = show.frmMain;
   const bool three = players == 3;
   show.frmPlayerNames.txtPlayerName[2].Visible = three;
-  show.frmPlayerNames.chkPlayer3Penalty.Visible = three;
-  form.picPlayer3.Visible = three;
-  form.lblPlayer3Score.Visible = three;
-  form.picP3Score.Visible = three;
+  show.frmPlayerNames.PenaltyBox(3).Visible = three;
+  form.PlayerBox(3).Visible = three;
+  form.ScoreCopy(3).Visible = three;
+  form.ScoreBox(3).Visible = three;
   for (std::size_t i = 0; i < 6; ++i) {
-    form.btnScore3Up[i].Visible = three;
-    form.btnScore3Dn[i].Visible = three;
+    form.ScoreUp(3)[i].Visible = three;
+    form.ScoreDown(3)[i].Visible = three;
   }
   if (!show.state.DualScreen) return;
   show.frmFSMain.picPlayer[2].Visible = three;
-  show.frmFSMain.picPlayer3Score.Visible = three;
+  show.frmFSMain.ScoreBox(3).Visible = three;
   show.frmFSMain.lblPlayer[2].Visible = three;
   show.frmFSMain.Label11[2].Visible = three;
 }
@@ -173,10 +173,8 @@ void optGridControl_Click(Show& show, int index) {
   HidePanel(show, Panel::Winner);
   fileClearAllScores_Click(show);
   state.GridSize = index + 3;
-  state.Lamp1 = kLampOff;
-  state.Lamp2 = kLampOff;
-  state.Lamp3 = kLampOn;
-  state.CurrentPlayer = 3;
+  for (int player = 1; player <= kPlayers; ++player) state.Lamp[player] = player == kPlayers ? kLampOn : kLampOff;
+  state.CurrentPlayer = kPlayers;
   AdvanceToNextPlayer(show);
   BuildGrid(show, state.GridSize);
   state.LastSquareKey.clear();

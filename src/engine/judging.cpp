@@ -84,7 +84,7 @@ void TakeBackClaim(Show& show) {
   // The other displays of the score catch up with its next change.
   show.frmMain.Score(player).Caption = NumberText(ScoreOf(show, player) - state.LastPoints);
   if (player == 2) PublishScore(show, "11", player);
-  ReportPlayer(show, player, state.ScreenFonts[static_cast<std::size_t>(player - 1)].ForeColor);
+  ReportPlayer(show, player, state.ScreenFonts[player].ForeColor);
   owner = 0;
   RemovePiece(show, state.LastRow, state.LastCol);
   GiveTurnBack(show, player);
@@ -133,7 +133,7 @@ void HandleIncorrect(Show& show) {
     ReportVerdict(show, show.state.CurrentPlayer, false);
     show.state.CurrentPlayer = 0;
   }
-  SetBuzzerStates(show, true, true, true);
+  SetBuzzerStates(show, true);
   form.txtDJCommand.SetFocus();
 }
 

@@ -15,21 +15,17 @@ namespace {
 
 constexpr int kTwentyPointsIndex = 11;
 
-std::array<bool*, 3> PenaltyFlags(GameState& state) {
-  return {&state.Player1Penalty, &state.Player2Penalty, &state.Player3Penalty};
-}
-
 // "Player 3" told so is no name, which the upper-case reset name is.
 std::string Nameless(std::size_t index) { return "Player " + std::to_string(index + 1); }
 
 void Form_Load(Show& show) {
   PlayerNamesForm& form = show.frmPlayerNames;
-  const auto flags = PenaltyFlags(show.state);
-  for (std::size_t i = 0; i < 3; ++i) {
-    form.PenaltyBoxes()[i]->Value = *flags[i] ? 1 : 0;
+  for (std::size_t i = 0; i < kPlayers; ++i) {
+    const int player = static_cast<int>(i) + 1;
+    form.PenaltyBox(player).Value = show.state.PlayerPenalty[player] ? 1 : 0;
     const bool active = i < 2 || show.state.Players == 3;
     form.txtPlayerName[i].Enabled = active;
-    form.Prompts()[i]->Visible = active;
+    form.Prompt(player).Visible = active;
     if (!active) continue;
     const std::string& name = show.frmMain.lblPlayer1[i].Caption;
     form.txtPlayerName[i].Text = name == Nameless(i) ? "" : name;
@@ -44,11 +40,11 @@ void txtPlayerName_GotFocus(Show& show, std::size_t index) {
 }
 
 void ClearNames(Show& show) {
-  for (std::size_t i = 0; i < 3; ++i) show.frmPlayerNames.txtPlayerName[i].Text = "";
+  for (std::size_t i = 0; i < kPlayers; ++i) show.frmPlayerNames.txtPlayerName[i].Text = "";
 }
 
 void SetPenalties(Show& show, int value) {
-  for (CheckBox* box : show.frmPlayerNames.PenaltyBoxes()) box->Value = value;
+  for (int player = 1; player <= kPlayers; ++player) show.frmPlayerNames.PenaltyBox(player).Value = value;
 }
 
 void cboPenaltyPoints_Click(Show& show) {
@@ -81,8 +77,9 @@ void TakeName(Show& show, std::size_t index) {
 
 void btnOK_Click(Show& show) {
   PlayerNamesForm& form = show.frmPlayerNames;
-  const auto flags = PenaltyFlags(show.state);
-  for (std::size_t i = 0; i < 3; ++i) *flags[i] = form.PenaltyBoxes()[i]->Value == 1;
+  for (int player = 1; player <= kPlayers; ++player) {
+    show.state.PlayerPenalty[player] = form.PenaltyBox(player).Value == 1;
+  }
   TakeName(show, 0);
   TakeName(show, 1);
   if (show.state.Players == 3) {
@@ -118,7 +115,7 @@ void lblPlayer1_DblClick(Show& show, int index) {
 void AttachPlayerNamesHandlers(Show& show) {
   show.frmMain.mnuFileAddPlayerNames.OnClick = [&show] { mnuFileAddPlayerNames_Click(show); };
   PlayerNamesForm& form = show.frmPlayerNames;
-  for (std::size_t i = 0; i < 3; ++i) {
+  for (std::size_t i = 0; i < kPlayers; ++i) {
     show.frmMain.lblPlayer1[i].OnDblClick = [&show, i] { lblPlayer1_DblClick(show, static_cast<int>(i)); };
     form.txtPlayerName[i].OnGotFocus = [&show, i] { txtPlayerName_GotFocus(show, i); };
   }

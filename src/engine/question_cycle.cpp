@@ -1,5 +1,6 @@
 #include "engine/question_cycle.h"
 
+#include <algorithm>
 #include <cmath>
 
 #include "engine/options.h"
@@ -43,7 +44,7 @@ void ColorQuestion(Show& show, const TriviaQuestion& question) {
 // Offers the verdict, opens the ring-in where players ring in, and locks the options.
 void OpenQuestion(Show& show) {
   if (IsQuestionType(show.state.GameType)) ShowVerdictButtons(show, true, true);
-  if (show.state.GameType == kTriviaModeC) SetBuzzerStates(show, true, true, true);
+  if (show.state.GameType == kTriviaModeC) SetBuzzerStates(show, true);
   DisableOptions(show);
 }
 
@@ -218,27 +219,17 @@ void tmrGridEnable_Timer(Show& show) {
 
 void tmrRotate_Timer(Show& show) {
   GameState& state = show.state;
-  const std::string a = show.frmMain.lblP1Score.Caption;
-  const std::string b = show.frmMain.lblP2Score.Caption;
-  const std::string c = show.frmMain.lblP3Score.Caption;
   const int on = state.MicsOnWithBuzzer ? int{'2'} : int{'3'};
   const int off = state.MicsOnWithBuzzer ? int{'0'} : int{'1'};
-  if (state.Lamp1 != on && state.Lamp2 != on && state.Lamp3 != on) state.Lamp1 = on;
+  auto lit = std::find(state.Lamp.begin(), state.Lamp.end(), on);
+  if (lit == state.Lamp.end()) *(lit = state.Lamp.begin()) = on;
   if (++state.RotateCount <= 11 - state.LedSpeed) return;
-  const auto light = [&](int lit, const std::string& code1, const std::string& code2, const std::string& code3) {
-    state.LampCode1 = code1;
-    state.LampCode2 = code2;
-    state.LampCode3 = code3;
-    state.Lamp1 = lit == 1 ? on : off;
-    state.Lamp2 = lit == 2 ? on : off;
-    state.Lamp3 = lit == 3 ? on : off;
-  };
-  if (state.Lamp1 == on) {
-    light(2, a, b, c);
-  } else if (state.Lamp2 == on) {
-    light(3, c, a, b);
-  } else if (state.Lamp3 == on) {
-    light(1, b, c, a);
+  // The scores go round as codes with the light: from player 1 to 2 each has the own one.
+  const int last = static_cast<int>(lit - state.Lamp.begin()) + 1;
+  for (int player = 1; player <= kPlayers; ++player) {
+    const int source = (player - last + kPlayers) % kPlayers + 1;
+    state.LampCode[player] = show.frmMain.Score(source).Caption;
+    state.Lamp[player] = player == last % kPlayers + 1 ? on : off;
   }
   state.RotateCount = 1;
 }

@@ -40,7 +40,7 @@ void ReadySet(Show& show) {
   state.GameInProgress = false;
   form.btnStart.Enabled = true;
   form.btnCorrect.Enabled = false;
-  SetBuzzerStates(show, false, false, false);
+  SetBuzzerStates(show, false);
   form.picStandby.Visible = false;
   LightScoreBox(show, 1);
   SetConsoleCursor(show, 0);

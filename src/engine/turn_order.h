@@ -9,7 +9,7 @@ struct Show;
 void AdvanceToNextPlayer(Show& show);
 // Makes player n the one with the turn: lamps, score box, corner piece, colour of the typed command, CurrentPlayer.
 void GiveTurnTo(Show& show, int player);
-void SetBuzzerStates(Show& show, bool player1, bool player2, bool player3);
+void SetBuzzerStates(Show& show, bool enabled);
 // The cursor of both screens follows CurrentPlayer.
 void ChangeCursor(Show& show);
 

@@ -21,7 +21,7 @@ namespace {
 std::string FinalText(Show& show) {
   std::array<Standing, 4> standings;
   for (int player = 1; player <= show.state.Players; ++player) {
-    const auto index = static_cast<std::size_t>(player - 1);
+    const std::size_t index = PlayerIndex(player);
     standings[index] = {std::llround(ScoreOf(show, player)), show.frmMain.lblPlayer1[index].Caption};
   }
   return WinnerText(standings, show.state.Players);

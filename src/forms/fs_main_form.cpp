@@ -80,7 +80,7 @@ FSMainForm::FSMainForm() : Form("frmFSMain") {
 }
 
 PictureBox& FSMainForm::ScoreBox(int player) {
-  return player == 1 ? picPlayer1Score : player == 2 ? picPlayer2Score : picPlayer3Score;
+  return *PerPlayer<PictureBox*>(&picPlayer1Score, &picPlayer2Score, &picPlayer3Score)[player];
 }
 
 void FSMainForm::Form_Resize() {

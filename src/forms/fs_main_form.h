@@ -1,6 +1,7 @@
 // frmFSMain, what the audience sees: views that the console writes to, in a logical screen of 15360 by 11520 twips.
 #pragma once
 
+#include "data/players.h"
 #include "platform/controls.h"
 
 namespace pawnfield {
@@ -12,6 +13,7 @@ class FSMainForm : public Form {
   // Gives the full-size panels the form's size and stacks them: question, cover, verdict, winner, bonus, media, sound,
   // and standby in front of all.
   void Form_Resize();
+  // By player 1..3; another number is error 9.
   PictureBox& ScoreBox(int player);
 
   Image imgBackground{*this, "imgBackground"};
@@ -22,13 +24,13 @@ class FSMainForm : public Form {
   Image img1{*this, "img1"}, img2{*this, "img2"}, img3{*this, "img3"}, img4{*this, "img4"}, img5{*this, "img5"},
       img6{*this, "img6"};
   Image imgDJEntry{*this, "imgDJEntry"};
-  ControlArray<PictureBox, 3> picPlayer{*this, "picPlayer"};
-  ControlArray<Label, 3> lblPlayer{*this, "lblPlayer"};
+  ControlArray<PictureBox, kPlayers> picPlayer{*this, "picPlayer"};
+  ControlArray<Label, kPlayers> lblPlayer{*this, "lblPlayer"};
   PictureBox picPlayer1Score{*this, "picPlayer1Score"};
   PictureBox picPlayer2Score{*this, "picPlayer2Score"};
   PictureBox picPlayer3Score{*this, "picPlayer3Score"};
   // The scores.
-  ControlArray<Label, 3> Label11{*this, "Label11"};
+  ControlArray<Label, kPlayers> Label11{*this, "Label11"};
   TextBox txtOptionalHeading{*this, "txtOptionalHeading"};
   Label lblDJCommand{*this, "lblDJCommand"};
 

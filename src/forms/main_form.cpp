@@ -116,11 +116,11 @@ void MainForm::SetCaptions() {
   pawnfield::Caption(btnBuzzer, std::array{"1", "2", "3"});
   btnEnableAllBuzzers.Caption = "Enable All";
   const std::array amounts{"100k", "10k", "1k", "100", "10", "1"};
-  for (auto* row : {&btnScore1Up, &btnScore2Up, &btnScore3Up}) {
-    for (std::size_t i = 0; i < 6; ++i) (*row)[i].Caption = std::string("+") + amounts[i];
-  }
-  for (auto* row : {&btnScore1Dn, &btnScore2Dn, &btnScore3Dn}) {
-    for (std::size_t i = 0; i < 6; ++i) (*row)[i].Caption = std::string("-") + amounts[i];
+  for (int player = 1; player <= kPlayers; ++player) {
+    for (std::size_t i = 0; i < 6; ++i) {
+      ScoreUp(player)[i].Caption = std::string("+") + amounts[i];
+      ScoreDown(player)[i].Caption = std::string("-") + amounts[i];
+    }
   }
   btnSounds.Caption = "Sounds";
   btnStopSounds.Caption = "Stop Sounds";
@@ -207,18 +207,30 @@ void MainForm::picMOD_Resize() {
   }
 }
 
-Label& MainForm::Score(int player) { return player == 1 ? lblP1Score : player == 2 ? lblP2Score : lblP3Score; }
+Label& MainForm::Score(int player) { return *PerPlayer<Label*>(&lblP1Score, &lblP2Score, &lblP3Score)[player]; }
 
 Label& MainForm::ScoreCopy(int player) {
-  return player == 1 ? lblPlayer1Score : player == 2 ? lblPlayer2Score : lblPlayer3Score;
+  return *PerPlayer<Label*>(&lblPlayer1Score, &lblPlayer2Score, &lblPlayer3Score)[player];
 }
 
-PictureBox& MainForm::ScoreBox(int player) { return player == 1 ? picP1Score : player == 2 ? picP2Score : picP3Score; }
+PictureBox& MainForm::ScoreBox(int player) {
+  return *PerPlayer<PictureBox*>(&picP1Score, &picP2Score, &picP3Score)[player];
+}
 
-PictureBox& MainForm::PlayerBox(int player) { return player == 1 ? picPlayer1 : player == 2 ? picPlayer2 : picPlayer3; }
+PictureBox& MainForm::PlayerBox(int player) {
+  return *PerPlayer<PictureBox*>(&picPlayer1, &picPlayer2, &picPlayer3)[player];
+}
 
-Image& MainForm::FaceA(int player) { return player == 1 ? imgXa : player == 2 ? imgOa : imgTa; }
+Image& MainForm::FaceA(int player) { return *PerPlayer<Image*>(&imgXa, &imgOa, &imgTa)[player]; }
 
-Image& MainForm::FaceB(int player) { return player == 1 ? imgXb : player == 2 ? imgOb : imgTb; }
+Image& MainForm::FaceB(int player) { return *PerPlayer<Image*>(&imgXb, &imgOb, &imgTb)[player]; }
+
+MainForm::ScoreButtons& MainForm::ScoreUp(int player) {
+  return *PerPlayer<ScoreButtons*>(&btnScore1Up, &btnScore2Up, &btnScore3Up)[player];
+}
+
+MainForm::ScoreButtons& MainForm::ScoreDown(int player) {
+  return *PerPlayer<ScoreButtons*>(&btnScore1Dn, &btnScore2Dn, &btnScore3Dn)[player];
+}
 
 }  // namespace pawnfield

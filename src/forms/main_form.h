@@ -1,6 +1,7 @@
 // frmMain, the operator's console: its controls, their design-time captions, sizes and states. Owned by the show.
 #pragma once
 
+#include "data/players.h"
 #include "platform/controls.h"
 
 namespace pawnfield {
@@ -9,13 +10,17 @@ class MainForm : public Form {
  public:
   MainForm();
 
-  // By player 1..3.
+  using ScoreButtons = ControlArray<Button, 6>;
+
+  // By player 1..3; another number is error 9.
   Label& Score(int player);
   Label& ScoreCopy(int player);
   PictureBox& ScoreBox(int player);
   PictureBox& PlayerBox(int player);
   Image& FaceA(int player);
   Image& FaceB(int player);
+  ScoreButtons& ScoreUp(int player);
+  ScoreButtons& ScoreDown(int player);
   // Gives the panels of media on demand the size of picMOD.
   void picMOD_Resize();
 
@@ -79,15 +84,15 @@ class MainForm : public Form {
   Button btnReset{*this, "btnReset"};
   Button btnEndGame{*this, "btnEndGame"};
   Label lblSelectPlayer{*this, "lblSelectPlayer"};
-  ControlArray<Button, 3> btnSelectPlayer{*this, "btnSelectPlayer"};
-  ControlArray<Button, 3> btnBuzzer{*this, "btnBuzzer"};
+  ControlArray<Button, kPlayers> btnSelectPlayer{*this, "btnSelectPlayer"};
+  ControlArray<Button, kPlayers> btnBuzzer{*this, "btnBuzzer"};
   Button btnEnableAllBuzzers{*this, "btnEnableAllBuzzers"};
-  ControlArray<Button, 6> btnScore1Up{*this, "btnScore1Up"};
-  ControlArray<Button, 6> btnScore1Dn{*this, "btnScore1Dn"};
-  ControlArray<Button, 6> btnScore2Up{*this, "btnScore2Up"};
-  ControlArray<Button, 6> btnScore2Dn{*this, "btnScore2Dn"};
-  ControlArray<Button, 6> btnScore3Up{*this, "btnScore3Up"};
-  ControlArray<Button, 6> btnScore3Dn{*this, "btnScore3Dn"};
+  ScoreButtons btnScore1Up{*this, "btnScore1Up"};
+  ScoreButtons btnScore1Dn{*this, "btnScore1Dn"};
+  ScoreButtons btnScore2Up{*this, "btnScore2Up"};
+  ScoreButtons btnScore2Dn{*this, "btnScore2Dn"};
+  ScoreButtons btnScore3Up{*this, "btnScore3Up"};
+  ScoreButtons btnScore3Dn{*this, "btnScore3Dn"};
   Button btnSounds{*this, "btnSounds"};
   Button btnStopSounds{*this, "btnStopSounds"};
 
@@ -95,7 +100,7 @@ class MainForm : public Form {
   PictureBox picPlayer1{*this, "picPlayer1"};
   PictureBox picPlayer2{*this, "picPlayer2"};
   PictureBox picPlayer3{*this, "picPlayer3"};
-  ControlArray<Label, 3> lblPlayer1{*this, "lblPlayer1"};
+  ControlArray<Label, kPlayers> lblPlayer1{*this, "lblPlayer1"};
   PictureBox picP1Score{*this, "picP1Score"};
   PictureBox picP2Score{*this, "picP2Score"};
   PictureBox picP3Score{*this, "picP3Score"};
@@ -122,7 +127,7 @@ class MainForm : public Form {
   Image imgBkgnd{*this, "imgBkgnd"};
   Image imgXa{*this, "imgXa"}, imgXb{*this, "imgXb"}, imgOa{*this, "imgOa"}, imgOb{*this, "imgOb"},
       imgTa{*this, "imgTa"}, imgTb{*this, "imgTb"};
-  ControlArray<Image, 4> imgCursor{*this, "imgCursor"};
+  ControlArray<Image, kPlayers + 1> imgCursor{*this, "imgCursor"};
   Image imgStandardStandby{*this, "imgStandardStandby"};
   Image imgStandardBonus{*this, "imgStandardBonus"};
   Image imgStandardHeader{*this, "imgStandardHeader"};

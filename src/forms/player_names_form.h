@@ -1,8 +1,7 @@
 // frmPlayerNames, the dialog of the players' names and the buzzer press penalties.
 #pragma once
 
-#include <array>
-
+#include "data/players.h"
 #include "platform/controls.h"
 
 namespace pawnfield {
@@ -10,9 +9,13 @@ namespace pawnfield {
 struct PlayerNamesForm : Form {
   PlayerNamesForm();
 
-  // By player, from 0.
-  std::array<Label*, 3> Prompts() { return {&lblPlayer1Prompt, &lblPlayer2Prompt, &lblPlayer3Prompt}; }
-  std::array<CheckBox*, 3> PenaltyBoxes() { return {&chkPlayer1Penalty, &chkPlayer2Penalty, &chkPlayer3Penalty}; }
+  // By player 1..3.
+  Label& Prompt(int player) {
+    return *PerPlayer<Label*>(&lblPlayer1Prompt, &lblPlayer2Prompt, &lblPlayer3Prompt)[player];
+  }
+  CheckBox& PenaltyBox(int player) {
+    return *PerPlayer<CheckBox*>(&chkPlayer1Penalty, &chkPlayer2Penalty, &chkPlayer3Penalty)[player];
+  }
 
   Label lblPlayerNamePrompt{*this, "lblPlayerNamePrompt"};
   Label lblInstructions{*this, "lblInstructions"};
@@ -21,7 +24,7 @@ struct PlayerNamesForm : Form {
   Label lblPlayer1Prompt{*this, "lblPlayer1Prompt"};
   Label lblPlayer2Prompt{*this, "lblPlayer2Prompt"};
   Label lblPlayer3Prompt{*this, "lblPlayer3Prompt"};
-  ControlArray<TextBox, 3> txtPlayerName{*this, "txtPlayerName"};
+  ControlArray<TextBox, kPlayers> txtPlayerName{*this, "txtPlayerName"};
   CheckBox chkPlayer1Penalty{*this, "chkPlayer1Penalty"};
   CheckBox chkPlayer2Penalty{*this, "chkPlayer2Penalty"};
   CheckBox chkPlayer3Penalty{*this, "chkPlayer3Penalty"};

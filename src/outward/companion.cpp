@@ -37,12 +37,11 @@ const char* Flag(bool set) { return set ? "^T" : "^F"; }
 
 CompanionReport ReportOf(Show& show, int player) {
   const GameState& state = show.state;
-  const auto index = static_cast<std::size_t>(player - 1);
   CompanionReport report;
   report.Player = player;
-  report.Name = Trim(show.frmMain.lblPlayer1[index].Caption);
+  report.Name = Trim(show.frmMain.lblPlayer1[PlayerIndex(player)].Caption);
   report.Score = show.frmMain.Score(player).Caption;
-  report.Style = state.ScreenFonts[index];
+  report.Style = state.ScreenFonts[player];
   report.Object = state.C2CObject;
   report.Correct = state.C2CCorrectFlag;
   report.Incorrect = state.C2CIncorrectFlag;
@@ -111,7 +110,7 @@ void ReportPlayer(Show& show, int player, double color) {
 }
 
 void ReportPlayers(Show& show, double color) {
-  for (int player = 1; player <= 3; ++player) ReportPlayer(show, player, color);
+  for (int player = 1; player <= kPlayers; ++player) ReportPlayer(show, player, color);
 }
 
 void ReportVerdict(Show& show, int player, bool correct) {
@@ -122,15 +121,15 @@ void ReportVerdict(Show& show, int player, bool correct) {
 
 void ReportFirstTurn(Show& show) {
   ReportPlayer(show, 1, kRed);
-  ReportPlayer(show, 2, show.state.ScreenFonts[1].ForeColor);
-  ReportPlayer(show, 3, show.state.ScreenFonts[2].ForeColor);
+  for (int player = 2; player <= kPlayers; ++player)
+    ReportPlayer(show, player, show.state.ScreenFonts[player].ForeColor);
 }
 
 void ReportExit(Show& show) {
   if (!show.state.TSSupport) return;
-  for (int player = 1; player <= 3; ++player) show.frmMain.Score(player).Caption = "0";
+  for (int player = 1; player <= kPlayers; ++player) show.frmMain.Score(player).Caption = "0";
   show.state.C2CObject = kNoObject;
-  for (int player = 1; player <= 3; ++player) SendC2CInfo(show, player);
+  for (int player = 1; player <= kPlayers; ++player) SendC2CInfo(show, player);
   while (!show.CompanionReports.empty()) SendOldest(show);
   show.frmAlwaysLoaded.tmrCompanion.Enabled = false;
 }

@@ -28,8 +28,8 @@ void CopyBoard(Show& show) {
 void CopyPlayers(Show& show) {
   MainForm& console = show.frmMain;
   FSMainForm& audience = show.frmFSMain;
-  for (std::size_t i = 0; i < 3; ++i) {
-    const int player = static_cast<int>(i) + 1;
+  for (int player = 1; player <= kPlayers; ++player) {
+    const std::size_t i = PlayerIndex(player);
     const bool plays = console.PlayerBox(player).Visible;
     audience.lblPlayer[i].Caption = console.lblPlayer1[i].Caption;
     audience.Label11[i].Caption = console.Score(player).Caption;
@@ -97,7 +97,7 @@ void CoverAnsweredQuestion(Show& show) {
   const bool answering = QuestionVisible(show) && IsPlayer(player) && show.frmMain.btnQuestionCorrect.Visible;
   const bool cover = answering && show.state.GameType == kTriviaModeC && show.state.HideQuestion;
   if (cover) {
-    show.frmFSMain.lblPlayerName.Caption = show.frmMain.lblPlayer1[static_cast<std::size_t>(player - 1)].Caption;
+    show.frmFSMain.lblPlayerName.Caption = show.frmMain.lblPlayer1[PlayerIndex(player)].Caption;
   }
   show.frmFSMain.picHideQuestion.Visible = cover;
 }

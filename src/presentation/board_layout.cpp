@@ -186,9 +186,7 @@ void ResetGameBoard(Show& show) {
   SetTypedCommand(show, "");
   form.txtDJCommand.BackColor = kRed;
   form.imgDJEntry.Picture = form.imgXa.Picture;
-  state.Lamp1 = kLampOn;
-  state.Lamp2 = kLampOff;
-  state.Lamp3 = kLampOff;
+  for (int player = 1; player <= kPlayers; ++player) state.Lamp[player] = player == 1 ? kLampOn : kLampOff;
   state.CurrentPlayer = 1;
 }
 

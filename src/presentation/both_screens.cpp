@@ -56,34 +56,34 @@ bool QuestionVisible(const Show& show) { return TextOrPictureVisible(show) || Pa
 
 void SetScore(Show& show, int player, const std::string& text) {
   show.frmMain.Score(player).Caption = text;
-  if (show.state.DualScreen) show.frmFSMain.Label11[static_cast<std::size_t>(player - 1)].Caption = text;
+  if (show.state.DualScreen) show.frmFSMain.Label11[PlayerIndex(player)].Caption = text;
   show.frmMain.ScoreCopy(player).Caption = text;
 }
 
 double ScoreOf(Show& show, int player) { return ParseNumber(show.frmMain.Score(player).Caption).value_or(0); }
 
 void SetPlayerName(Show& show, int player, const std::string& name) {
-  const auto index = static_cast<std::size_t>(player - 1);
+  const std::size_t index = PlayerIndex(player);
   show.frmMain.lblPlayer1[index].Caption = name;
   if (show.state.DualScreen) show.frmFSMain.lblPlayer[index].Caption = name;
 }
 
 void ResetPlayerNames(Show& show) {
-  for (int player = 1; player <= 3; ++player) SetPlayerName(show, player, "PLAYER " + std::to_string(player));
+  for (int player = 1; player <= kPlayers; ++player) SetPlayerName(show, player, "PLAYER " + std::to_string(player));
 }
 
 void ResetScores(Show& show) {
-  for (int player = 1; player <= 3; ++player) SetScore(show, player, "0");
+  for (int player = 1; player <= kPlayers; ++player) SetScore(show, player, "0");
 }
 
 void LightScoreBox(Show& show, int player) {
   const std::string normal = LoadPicture(show, "\\Images\\scorebox.bmp", "LightScoreBox");
   const std::string lit = player == 0 ? normal : LoadPicture(show, "\\images\\scoreboxred.bmp", "LightScoreBox");
-  for (int other = 1; other <= 3; ++other) {
+  for (int other = 1; other <= kPlayers; ++other) {
     const std::string& picture = other == player ? lit : normal;
     show.frmMain.ScoreBox(other).Picture = picture;
     show.frmMain.PlayerBox(other).Picture = picture;
-    if (show.state.DualScreen) show.frmFSMain.picPlayer[static_cast<std::size_t>(other - 1)].Picture = picture;
+    if (show.state.DualScreen) show.frmFSMain.picPlayer[PlayerIndex(other)].Picture = picture;
   }
 }
 
@@ -100,7 +100,7 @@ void SetSquarePicture(Show& show, int row, int column, const std::string& pictur
 }
 
 void SetConsoleCursor(Show& show, int player) {
-  if (player < 0 || player > 3) return;
+  if (player != 0 && !IsPlayer(player)) return;
   show.frmMain.MouseIcon = show.frmMain.imgCursor[static_cast<std::size_t>(player)].Picture;
 }
 

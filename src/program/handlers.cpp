@@ -56,17 +56,15 @@ void AttachOptions(Show& show) {
 
 void AttachScoreButtons(Show& show) {
   MainForm& form = show.frmMain;
-  const auto attach = [&show](ControlArray<Button, 6>& buttons, int player, ScoreChange change) {
+  const auto attach = [&show](MainForm::ScoreButtons& buttons, int player, ScoreChange change) {
     for (std::size_t i = 0; i < 6; ++i) {
       buttons[i].OnClick = [&show, player, change, i] { ChangeScore(show, player, change, static_cast<int>(i)); };
     }
   };
-  attach(form.btnScore1Up, 1, ScoreChange::Up);
-  attach(form.btnScore1Dn, 1, ScoreChange::Down);
-  attach(form.btnScore2Up, 2, ScoreChange::Up);
-  attach(form.btnScore2Dn, 2, ScoreChange::Down);
-  attach(form.btnScore3Up, 3, ScoreChange::Up);
-  attach(form.btnScore3Dn, 3, ScoreChange::Down);
+  for (int player = 1; player <= kPlayers; ++player) {
+    attach(form.ScoreUp(player), player, ScoreChange::Up);
+    attach(form.ScoreDown(player), player, ScoreChange::Down);
+  }
 }
 
 void AttachButtons(Show& show) {

@@ -178,12 +178,10 @@ void LoadRulesAndVolumes(Show& show) {
   form.chkIncorrectPenalty.Value = state.IncorrectPenalty ? 1 : 0;
   state.LedEffects = GetIntSetting(show, "LedEffects", 0);
   state.LedSpeed = GetIntSetting(show, "LedSpeed", 5);
-  state.Player1Penalty = GetBoolSetting(show, "Player1Penalty", false);
-  state.Player2Penalty = GetBoolSetting(show, "Player2Penalty", false);
-  state.Player3Penalty = GetBoolSetting(show, "Player3Penalty", false);
-  show.frmPlayerNames.chkPlayer1Penalty.Value = state.Player1Penalty ? 1 : 0;
-  show.frmPlayerNames.chkPlayer2Penalty.Value = state.Player2Penalty ? 1 : 0;
-  show.frmPlayerNames.chkPlayer3Penalty.Value = state.Player3Penalty ? 1 : 0;
+  for (int player = 1; player <= kPlayers; ++player) {
+    state.PlayerPenalty[player] = GetBoolSetting(show, "Player" + std::to_string(player) + "Penalty", false);
+    show.frmPlayerNames.PenaltyBox(player).Value = state.PlayerPenalty[player] ? 1 : 0;
+  }
   state.MicsOnWithBuzzer = GetBoolSetting(show, "MicsOnWithBuzzer", false);
   state.TSSupport = GetBoolSetting(show, "TSSupport", false);
   LoadVolumes(show);
@@ -198,7 +196,7 @@ void ShowIdleBoard(Show& show) {
   state.GridRows = state.GridSize;
   form.tmrArrowsTimer.Enabled = true;
   state.CurrentPlayer = 0;
-  SetBuzzerStates(show, false, false, false);
+  SetBuzzerStates(show, false);
   form.btnCorrect.Enabled = false;
   form.imgDJEntry.Picture = PicturePath(show, "\\Images\\Neutral.bmp");
   HidePanel(show, Panel::Question);

@@ -19,9 +19,9 @@ void ReportUnreadable(Show& show, int number, const char* description) {
   ReportError(show.platform.dialogs, RuntimeError(number, description), "frmMain", "Form_Load");
 }
 
-std::string ScreenKey(std::size_t screen, const char* field) { return "Screen" + std::to_string(screen + 1) + field; }
+std::string ScreenKey(int player, const char* field) { return "Screen" + std::to_string(player) + field; }
 
-void LoadScreen(Show& show, std::size_t screen) {
+void LoadScreen(Show& show, int screen) {
   ScreenStyle& style = show.state.ScreenFonts[screen];
   style.BackColor = GetRealSetting(show, ScreenKey(screen, "BG"), 0);
   style.ForeColor = GetRealSetting(show, ScreenKey(screen, "FG"), kWhite);
@@ -71,9 +71,9 @@ void SaveGameOptions(const GameState& state, Saver& save) {
   save("LedSpeed", state.LedSpeed);
   save("SerialComm", state.SerialComm);
   save("AutoContinue", state.AutoContinue);
-  save("Player1Penalty", state.Player1Penalty);
-  save("Player2Penalty", state.Player2Penalty);
-  save("Player3Penalty", state.Player3Penalty);
+  for (int player = 1; player <= kPlayers; ++player) {
+    save("Player" + std::to_string(player) + "Penalty", state.PlayerPenalty[player]);
+  }
 }
 
 void SaveDevices(const GameState& state, Saver& save) {
@@ -86,9 +86,9 @@ void SaveDevices(const GameState& state, Saver& save) {
   save("TSSupport", state.TSSupport);
 }
 
-void SaveScreens(const std::array<ScreenStyle, 3>& screens, Saver& save) {
+void SaveScreens(const PerPlayer<ScreenStyle>& screens, Saver& save) {
   const auto each = [&](const char* field, auto member) {
-    for (std::size_t i = 0; i < screens.size(); ++i) save(ScreenKey(i, field), screens[i].*member);
+    for (int player = 1; player <= kPlayers; ++player) save(ScreenKey(player, field), screens[player].*member);
   };
   each("BG", &ScreenStyle::BackColor);
   each("FG", &ScreenStyle::ForeColor);
@@ -141,7 +141,7 @@ double GetRealSetting(Show& show, const std::string& key, double fallback) {
 }
 
 void LoadScreenSettings(Show& show) {
-  for (std::size_t screen = 0; screen < show.state.ScreenFonts.size(); ++screen) LoadScreen(show, screen);
+  for (int player = 1; player <= kPlayers; ++player) LoadScreen(show, player);
   show.state.LCDResolutions = GetIntSetting(show, "LCDResolutions", 1);
   ClampResolution(show.state);
   show.state.LCDScreensTop = GetIntSetting(show, "LCDScreensTop", 0);

@@ -28,18 +28,19 @@ TEST(Lamps, ChaseTheLightWithTheScoresInTheTimeThatTheSpeedAllows) {
     fixture.Start();
     GameState& state = fixture.show().state;
     fixture.form().tmrRotate.Enabled = false;
-    state.Lamp1 = state.Lamp2 = state.Lamp3 = state.RotateCount = 0;
-    state.LampCode1 = state.LampCode2 = state.LampCode3 = "";
+    state.RotateCount = 0;
+    state.Lamp = {0, 0, 0};
+    state.LampCode = {"", "", ""};
     for (const int player : {1, 2, 3}) fixture.form().Score(player).Caption = std::to_string(player * 10);
     fixture.form().tmrRotate.Enabled = true;
     for (const Turn& turn : turns) {
       fixture.sim.clock.Advance(turn.Ticks * 25);
       std::string lamps;
-      for (const int lamp : {state.Lamp1, state.Lamp2, state.Lamp3}) {
+      for (const int lamp : state.Lamp) {
         lamps += lamp == kind.On ? '+' : lamp == kind.Off || lamp == 0 ? '-' : '?';
       }
       EXPECT_EQ(lamps, turn.Lamps) << kind.On;
-      EXPECT_EQ(state.LampCode1 + "/" + state.LampCode2 + "/" + state.LampCode3, turn.Codes) << kind.On;
+      EXPECT_EQ(state.LampCode[1] + "/" + state.LampCode[2] + "/" + state.LampCode[3], turn.Codes) << kind.On;
     }
   }
 }

@@ -145,7 +145,7 @@ void SaveEverySetting(Rig& rig, int variant) {
   rig.show.state.BgMusicFileName = Words(variant, 1, 200);
   rig.show.state.Players = variant;
   rig.show.state.PenaltyPoints = 100 * variant;
-  for (std::size_t i = 0; i < 3; ++i) rig.show.state.ScreenFonts[i].FontName = Words(variant, 2, 40);
+  for (ScreenStyle& style : rig.show.state.ScreenFonts) style.FontName = Words(variant, 2, 40);
   RunGuarded(
       rig.dialogs, [&] { SaveAllSettings(rig.show); }, "frmMain", "fileExit");
 }

@@ -155,7 +155,7 @@ TEST(SettingsAtStart, EachUnreadableValueIsToldAndTheRestStillLoads) {
     fixture.Start();
     const GameState& state = fixture.show().state;
     EXPECT_EQ((std::array{state.Routing[7], state.Routing[2], state.GameType, state.BackgroundPlayerVolume,
-                          state.ScreenFonts[2].FontSize}),
+                          state.ScreenFonts[3].FontSize}),
               (std::array{7, 9, static_cast<int>(kTriviaModeC), 33, 44}))
         << key;
     EXPECT_TRUE(fixture.form().Visible) << key;

@@ -85,8 +85,8 @@ std::string Seen(Show& show, const std::string& name, const Form& form) {
   if (name == "offers") return Reachable(main, kButtons);
   if (name == "options") return Reachable(main, kOptions);
   if (name == "penalties") {
-    return pays(state.Player1Penalty, "1") + pays(state.Player2Penalty, "2") + pays(state.Player3Penalty, "3") + "/" +
-           std::to_string(state.PenaltyPoints);
+    return pays(state.PlayerPenalty[1], "1") + pays(state.PlayerPenalty[2], "2") + pays(state.PlayerPenalty[3], "3") +
+           "/" + std::to_string(state.PenaltyPoints);
   }
   const bool audience = name.ends_with('\'');
   const std::string whole = audience ? name.substr(0, name.size() - 1) : name;
