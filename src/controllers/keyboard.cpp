@@ -53,7 +53,7 @@ void ControlKey(Show& show, int key) {
 
 void JudgingKey(Show& show, int key) {
   MainForm& form = show.frmMain;
-  if (!show.state.KeyControl || !IsQuestionType(show.state.GameType)) return;
+  if (!show.state.KeyControl || !show.state.Nature().Trivia) return;
   if ((key == 'Y' || key == 'y') && form.btnQuestionCorrect.Visible) HandleCorrect(show);
   if ((key == 'N' || key == 'n') && form.btnQuestionIncorrect.Visible) HandleIncorrect(show);
   const bool typing = !Trim(form.txtDJCommand.Text).empty();
@@ -68,7 +68,7 @@ void ShowEntry(Show& show, const std::string& entry) {
 void LetterOfSquare(Show& show, int key) {
   if (key == kEnter) {
     AdvanceToNextPlayer(show);
-    if (IsChallengeType(show.state.GameType)) ChangeCursor(show);
+    if (!show.state.Nature().Trivia) ChangeCursor(show);
     return;
   }
   const int letter = std::toupper(key);

@@ -81,7 +81,7 @@ void AcceptRingIn(Show& show, int player, [[maybe_unused]] RingInSource source) 
   if (isPlayer) PlayRingIn(show, player);
   form.btnCorrect.Enabled = true;
   ShowVerdictButtons(show, true, true);
-  const bool cover = show.state.GameType == kTriviaModeC && show.state.HideQuestion && show.state.DualScreen;
+  const bool cover = show.state.Nature().RingIn && show.state.HideQuestion && show.state.DualScreen;
   if (!cover) return;
   if (isPlayer) {
     show.frmFSMain.lblPlayerName.Caption = form.lblPlayer1[PlayerIndex(player)].Caption;
@@ -91,7 +91,7 @@ void AcceptRingIn(Show& show, int player, [[maybe_unused]] RingInSource source) 
 
 void btnSelectPlayer_Click(Show& show, int index) {
   if (IsPlayer(index + 1)) show.frmMain.imgDJEntry.Picture = show.frmMain.FaceA(index + 1).Picture;
-  if (show.state.GameType != kTriviaModeC || !QuestionVisible(show)) return;
+  if (!show.state.Nature().RingIn || !QuestionVisible(show)) return;
   AcceptRingIn(show, index + 1, RingInSource::Other);
   ShowVerdictButtons(show, true, true);
 }

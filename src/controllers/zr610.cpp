@@ -48,7 +48,7 @@ void Tell(Show& show, const std::string& text) {
 
 // The operator may give the question to another player by hand; a pad that comes second may not.
 bool QuestionIsHeld(const Show& show) {
-  return show.state.GameType == kTriviaModeC && IsPlayer(show.state.CurrentPlayer) && QuestionVisible(show);
+  return show.state.Nature().RingIn && IsPlayer(show.state.CurrentPlayer) && QuestionVisible(show);
 }
 
 void PressPad(Show& show, std::int32_t id) {

@@ -5,15 +5,11 @@
 #include <string>
 #include <vector>
 
+#include "data/game_types.h"
+#include "data/interface_code.h"
 #include "data/players.h"
 
 namespace pawnfield {
-
-inline constexpr int kChallengeModeA = 1;
-inline constexpr int kChallengeModeB = 2;
-inline constexpr int kTriviaModeA = 3;
-inline constexpr int kTriviaModeB = 4;
-inline constexpr int kTriviaModeC = 5;
 
 // The user advances by hand; the other values of AutoContinue are seconds.
 inline constexpr int kUserAdvances = 6;
@@ -45,7 +41,7 @@ struct OptionalHeader {
 };
 
 struct GameState {
-  int GameType = kTriviaModeC;
+  GameMode GameType = GameMode::TriviaC;
   int Players = kPlayers;
   int GridSize = 5;
   int GridCols = 5;
@@ -91,7 +87,7 @@ struct GameState {
   bool MicsOnWithBuzzer = false;
   int LedEffects = 0;
   int LedSpeed = 5;
-  int SerialComm = 99;
+  InterfaceCode SerialComm = InterfaceCode::OutOfRange;
   int RotateCount = 0;
 
   std::array<int, 22> Routing{};
@@ -122,9 +118,8 @@ struct GameState {
   std::string SetsFolder;
   std::string LoadedSetPath;
   std::string SetFolder;
-};
 
-inline bool IsQuestionType(int gameType) { return gameType >= kTriviaModeA && gameType <= kTriviaModeC; }
-inline bool IsChallengeType(int gameType) { return gameType == kChallengeModeA || gameType == kChallengeModeB; }
+  const GameNature& Nature() const { return NatureOf(GameType); }
+};
 
 }  // namespace pawnfield

@@ -156,7 +156,7 @@ void FlashSquare(Show& show) {
 
 void FinishPlainPiece(Show& show, bool over) {
   MainForm& form = show.frmMain;
-  if (IsQuestionType(show.state.GameType)) {
+  if (show.state.Nature().Trivia) {
     if (over) {
       form.btnContinue.Enabled = false;
     } else {
@@ -166,7 +166,7 @@ void FinishPlainPiece(Show& show, bool over) {
   form.btnUndo.Enabled = true;
   form.btnReset.Enabled = true;
   form.btnEndGame.Enabled = true;
-  if (IsChallengeType(show.state.GameType)) {
+  if (!show.state.Nature().Trivia) {
     show.state.PlacementOpen = true;
   } else if (!over) {
     CheckQuestionsLeft(show);
@@ -209,19 +209,19 @@ void ClaimSquare(Show& show, int r, int c, const std::string& key) {
   state.LastPoints = state.PiecePoints;
   state.LastRow = r;
   state.LastCol = c;
-  if (state.GameType == kChallengeModeA || state.GameType == kTriviaModeA) AdvanceToNextPlayer(show);
+  if (state.Nature().AfterClaim == NextTurn::Passes) AdvanceToNextPlayer(show);
   PlayEvent(show, show.AppPath("\\Sound Effects\\Pawn.Wav"));
   if (IsGameOver(show, lineMade)) GameOver(show);
   form.picQuestion.Visible = false;
   form.picSound.Visible = false;
   form.picQuestionPicture.Visible = false;
-  if (state.GameType == kTriviaModeC) CloseTurnOfRingIn(show);
+  if (state.Nature().AfterClaim == NextTurn::Nobodys) CloseTurnOfRingIn(show);
 }
 
 void tmrFlipPlayerPiece_Timer(Show& show) {
   if (show.flip.Square == nullptr || !TurnSquare(show, show.flip)) return;
   show.frmMain.tmrFlipPlayerPiece.Enabled = false;
-  SetCursorOnBoth(show, IsChallengeType(show.state.GameType) ? show.state.CurrentPlayer : 0);
+  SetCursorOnBoth(show, !show.state.Nature().Trivia ? show.state.CurrentPlayer : 0);
 }
 
 void tmrFSFlipPlayerPiece_Timer(Show& show) {

@@ -26,7 +26,7 @@ namespace {
 
 // The lamps chase only where the pads' lamps are the program's to drive.
 void StartChaseLight(Show& show) {
-  if (show.state.SerialComm == 0 || show.state.SerialComm == 2) show.frmMain.tmrRotate.Enabled = true;
+  if (DrivesLamps(show.state.SerialComm)) show.frmMain.tmrRotate.Enabled = true;
 }
 
 void StopPlayTimers(Show& show) {
@@ -34,15 +34,8 @@ void StopPlayTimers(Show& show) {
   show.frmMain.tmrNonBuzzer.Enabled = false;
 }
 
-int SelectedGameType(const MainForm& form) {
-  for (std::size_t i = 0; i < 5; ++i) {
-    if (form.optGameType[i].Value) return static_cast<int>(i) + 1;
-  }
-  return 0;
-}
-
 void StartNewGame(Show& show) {
-  show.state.GameType = SelectedGameType(show.frmMain);
+  show.state.GameType = SelectedType(show).Mode;
   StartChaseLight(show);
   StopPlayTimers(show);
   btnReset_Click(show);
@@ -62,15 +55,15 @@ void AskGameInProgress(Show& show) {
   if (startNew) {
     StartNewGame(show);
   } else {
-    show.frmMain.optGameType[static_cast<std::size_t>(show.state.GameType - 1)].SelectInGroup();
+    show.frmMain.optGameType[RowOf(show.state.GameType)].SelectInGroup();
   }
 }
 
-void SetListForType(ComboBox& list, int gameType) {
-  if (IsChallengeType(gameType)) {
+void SetListForType(ComboBox& list, const GameNature& type) {
+  if (!type.Trivia) {
     if (list.Enabled && list.Visible) list.ListIndex = 0;
     list.Enabled = false;
-  } else if (gameType == kTriviaModeC) {
+  } else if (type.RingIn) {
     if (list.ListIndex == 0) list.Enabled = true;
     if (list.Visible) list.ListIndex = 0;
   } else {
@@ -103,7 +96,7 @@ void StartTrivia(Show& show) {
   form.btnSkipQuestion.Enabled = true;
   state.PlacementOpen = true;
   form.cboList.ListIndex = 0;
-  if (state.GameType == kTriviaModeC) {
+  if (state.Nature().RingIn) {
     form.btnCorrect.Enabled = false;
     ShowVerdictButtons(show, false, false);
     state.CurrentPlayer = 0;
@@ -116,7 +109,7 @@ void StartTrivia(Show& show) {
 // The cursor that fits the moment at which the board comes back from standby.
 int CursorAfterStandby(const Show& show) {
   const MainForm& form = show.frmMain;
-  if (IsChallengeType(show.state.GameType)) return show.state.CurrentPlayer;
+  if (!show.state.Nature().Trivia) return show.state.CurrentPlayer;
   const bool between = form.btnStart.Visible && !show.state.PlacementOpen && form.btnContinue.Enabled;
   return between || form.btnStart.Enabled ? 0 : show.state.CurrentPlayer;
 }
@@ -125,19 +118,20 @@ int CursorAfterStandby(const Show& show) {
 
 void optGameType_Click(Show& show, int index) {
   MainForm& form = show.frmMain;
+  const GameMode chosen = kGameTypes.at(static_cast<std::size_t>(index)).Mode;
   if (!show.state.GameInProgress) {
-    show.state.GameType = index + 1;
+    show.state.GameType = chosen;
     btnReset_Click(show);
     // With nothing loaded the reset does nothing; the new type's options are offered all the same.
     ShowOptionsOfType(show);
-  } else if (index + 1 != show.state.GameType) {
+  } else if (chosen != show.state.GameType) {
     AskGameInProgress(show);
   }
   // The answer decides which type the controls follow, not the click.
-  const int gameType = show.state.GameType;
-  SetListForType(form.cboList, gameType);
-  form.lblSelectPlayer.Visible = gameType == kTriviaModeC;
-  form.btnNextPlayer.Visible = gameType != kTriviaModeC;
+  const GameNature& type = show.state.Nature();
+  SetListForType(form.cboList, type);
+  form.lblSelectPlayer.Visible = type.RingIn;
+  form.btnNextPlayer.Visible = type.Offer.NextPlayer;
   form.tmrArrowsTimer.Enabled = true;
 }
 
@@ -200,23 +194,23 @@ void cbxScore_Click(Show& show, int index) {
 
 void btnStart_Click(Show& show) {
   MainForm& form = show.frmMain;
-  const bool ringIn = show.state.GameType == kTriviaModeC;
+  const bool ringIn = show.state.Nature().RingIn;
   SendKeyPressInRingIn(show, true);
   form.shpStart.Visible = false;
   form.tmrArrowsTimer.Enabled = false;
   form.lblListLeftArrow.Visible = false;
   form.lblListRightArrow.Visible = false;
   form.tmrRotate.Enabled = false;
-  if (IsChallengeType(show.state.GameType)) {
-    StartChallenge(show);
-  } else {
+  if (show.state.Nature().Trivia) {
     StartTrivia(show);
+  } else {
+    StartChallenge(show);
   }
   if (!ringIn) {
     form.tmrMainTimer.Enabled = false;
   } else {
     form.tmrNonBuzzer.Enabled = false;
-    if (show.state.SerialComm != 8) form.tmrMainTimer.Enabled = true;
+    if (show.state.SerialComm != InterfaceCode::Keypads) form.tmrMainTimer.Enabled = true;
   }
   if (PanelVisible(show, Panel::Standby)) HidePanel(show, Panel::Standby);
   form.btnStandbyMode.Enabled = true;
@@ -227,7 +221,7 @@ void btnStart_Click(Show& show) {
 
 void btnPlayMode_Click(Show& show) {
   MainForm& form = show.frmMain;
-  const bool ringIn = show.state.GameType == kTriviaModeC;
+  const bool ringIn = show.state.Nature().RingIn;
   form.tmrRotate.Enabled = false;
   form.tmrMainTimer.Enabled = ringIn;
   form.tmrNonBuzzer.Enabled = !ringIn;

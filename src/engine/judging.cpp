@@ -52,7 +52,7 @@ void ShowVerdictPicture(Show& show, const Verdict& verdict) {
 void AnnounceVerdict(Show& show, const Verdict& verdict) {
   if (!show.state.Animation) {
     PlayEvent(show, SoundEntry(show, verdict.SoundRow));
-  } else if (IsQuestionType(show.state.GameType)) {
+  } else if (show.state.Nature().Trivia) {
     ShowVerdictPicture(show, verdict);
   }
 }
@@ -70,7 +70,7 @@ void TakePenalty(Show& show) {
 
 // Gives the turn back after an undo in the types in which a claim passes it on.
 void GiveTurnBack(Show& show, int lastPlayer) {
-  if (show.state.GameType != kChallengeModeA && show.state.GameType != kTriviaModeA) return;
+  if (show.state.Nature().AfterClaim != NextTurn::Passes) return;
   const int steps = show.state.Players == 2 && lastPlayer != 3 ? 1 : 2;
   for (int i = 0; i < steps; ++i) AdvanceToNextPlayer(show);
 }
@@ -97,7 +97,7 @@ void HandleCorrect(Show& show) {
   LiftCover(show);
   StopSoundClip(show);
   RestartBackground(show);
-  if (show.state.GameType == kTriviaModeC) form.tmrExternalCtrlFlasher.Enabled = false;
+  if (show.state.Nature().RingIn) form.tmrExternalCtrlFlasher.Enabled = false;
   form.picQuestion.Visible = false;
   form.picSound.Visible = false;
   ShowVerdictButtons(show, false, false);
@@ -109,7 +109,7 @@ void HandleCorrect(Show& show) {
   show.state.PlacementOpen = true;
   ChangeCursor(show);
   form.txtDJCommand.Enabled = true;
-  if (show.state.GameType == kTriviaModeC) {
+  if (show.state.Nature().RingIn) {
     LightScoreBox(show, 0);
     ReportVerdict(show, show.state.CurrentPlayer, true);
   }
@@ -124,7 +124,7 @@ void HandleIncorrect(Show& show) {
   AnnounceVerdict(show, kIncorrectVerdict);
   if (!show.state.Animation) SendKeyPressInRingIn(show, true);
   TakePenalty(show);
-  if (show.state.GameType != kTriviaModeC) {
+  if (show.state.Nature().AfterIncorrect == NextTurn::Passes) {
     AdvanceToNextPlayer(show);
   } else {
     form.btnCorrect.Enabled = false;
@@ -149,7 +149,7 @@ void ChangeScore(Show& show, int player, ScoreChange change, int index) {
 void btnSkipQuestion_Click(Show& show) {
   MainForm& form = show.frmMain;
   PlayEvent(show, show.AppPath("\\Sound Effects\\Skip.Wav"));
-  if (show.state.GameType == kTriviaModeC) {
+  if (show.state.Nature().RingIn) {
     LightScoreBox(show, 0);
     form.tmrExternalCtrlFlasher.Enabled = false;
   }
@@ -159,10 +159,10 @@ void btnSkipQuestion_Click(Show& show) {
   HidePanel(show, Panel::QuestionPicture);
   HidePanel(show, Panel::Sound);
   ShowVerdictButtons(show, false, false);
-  if (IsQuestionType(show.state.GameType)) form.btnContinue.Enabled = true;
+  if (show.state.Nature().Trivia) form.btnContinue.Enabled = true;
   StartAutoContinue(show);
   ReportPlayers(show, kWhite);
-  if (show.state.GameType != kTriviaModeA) show.state.CurrentPlayer = 0;
+  if (show.state.Nature().AfterSkip == NextTurn::Nobodys) show.state.CurrentPlayer = 0;
   EnableOptions(show);
 }
 

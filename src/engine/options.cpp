@@ -14,7 +14,7 @@ void SetEnabled(std::initializer_list<Control*> controls, bool enabled) {
 }
 
 void SetCommonOptions(MainForm& form, bool enabled) {
-  for (std::size_t i = 0; i < 5; ++i) form.optGameType[i].Enabled = enabled;
+  for (std::size_t i = 0; i < kGameTypes.size(); ++i) form.optGameType[i].Enabled = enabled;
   SetEnabled({&form.chkHideQuestion, &form.lblHidequestionOption, &form.chkExtKeyboardCtrl, &form.lblExtKeyboardCtrl,
               &form.chkAnimation, &form.lblShowAnimation, &form.chkIncorrectPenalty, &form.lblLose100Points,
               &form.cboTimedResponse, &form.lblTimedResponse, &form.fileClearAllScores, &form.mnuFileOptions},
@@ -23,15 +23,23 @@ void SetCommonOptions(MainForm& form, bool enabled) {
 
 }  // namespace
 
+const GameNature& SelectedType(const Show& show) {
+  for (const GameNature& type : kGameTypes) {
+    if (show.frmMain.optGameType[RowOf(type.Mode)].Value) return type;
+  }
+  return show.state.Nature();
+}
+
 void EnableOptions(Show& show) {
   MainForm& form = show.frmMain;
   SetCommonOptions(form, true);
-  const bool challenge = form.optGameType[0].Value || form.optGameType[1].Value;
-  SetEnabled({&form.cboAutoContinue, &form.lblAutoContinuePrompt, &form.btnEnableAllBuzzers, &form.btnSelectPlayer[0],
-              &form.btnSelectPlayer[1]},
-             !challenge);
-  form.btnSelectPlayer[2].Enabled = !challenge && show.state.Players == 3;
-  form.lblSelectPlayer.Visible = !challenge;
+  const Offers& offer = SelectedType(show).Offer;
+  SetEnabled({&form.cboAutoContinue, &form.lblAutoContinuePrompt}, offer.AutoContinue);
+  form.btnEnableAllBuzzers.Enabled = offer.SelectPlayer;
+  for (int player = 1; player <= kPlayers; ++player) {
+    form.btnSelectPlayer[PlayerIndex(player)].Enabled = offer.SelectPlayer && player <= show.state.Players;
+  }
+  form.lblSelectPlayer.Visible = offer.SelectPlayer;
 }
 
 void DisableOptions(Show& show) {

@@ -43,8 +43,8 @@ void ColorQuestion(Show& show, const TriviaQuestion& question) {
 
 // Offers the verdict, opens the ring-in where players ring in, and locks the options.
 void OpenQuestion(Show& show) {
-  if (IsQuestionType(show.state.GameType)) ShowVerdictButtons(show, true, true);
-  if (show.state.GameType == kTriviaModeC) SetBuzzerStates(show, true);
+  if (show.state.Nature().Trivia) ShowVerdictButtons(show, true, true);
+  if (show.state.Nature().RingIn) SetBuzzerStates(show, true);
   DisableOptions(show);
 }
 
@@ -70,7 +70,7 @@ void ShowTextQuestion(Show& show) {
   ShowPanel(show, Panel::Question);
   if (show.state.DualScreen) SetQuestion(show, text, show.frmFSMain.lblQuestion);
   OpenQuestion(show);
-  if (show.state.GameType == kTriviaModeC) show.frmMain.btnCorrect.Enabled = false;
+  if (show.state.Nature().RingIn) show.frmMain.btnCorrect.Enabled = false;
   ColorQuestion(show, question);
 }
 
@@ -95,7 +95,7 @@ void Advance(Show& show) {
   if (show.state.DualScreen) show.frmFSMain.lblQuestion[0].Caption = text;
   ShowQuestion(show, show.state.CurrentQuestion);
   show.frmMain.btnContinue.Enabled = false;
-  if (show.state.GameType == kTriviaModeC) ShowVerdictButtons(show, false, false);
+  if (show.state.Nature().RingIn) ShowVerdictButtons(show, false, false);
 }
 
 }  // namespace
@@ -157,7 +157,7 @@ void StartAutoContinue(Show& show) {
 }
 
 void btnContinue_Click(Show& show) {
-  if (!IsQuestionType(show.state.GameType)) return;
+  if (!show.state.Nature().Trivia) return;
   Advance(show);
   show.frmMain.btnUndo.Enabled = false;
 }
@@ -180,7 +180,7 @@ void tmr5QuestionTimer_Timer(Show& show) {
 
 void tmrBonus_Timer(Show& show) {
   MainForm& form = show.frmMain;
-  const bool trivia = IsQuestionType(show.state.GameType);
+  const bool trivia = show.state.Nature().Trivia;
   HidePanel(show, Panel::Bonus);
   form.tmrBonus.Enabled = false;
   form.btnUndo.Enabled = true;
@@ -205,7 +205,7 @@ void tmrCorrectSWF_Timer(Show& show) {
 
 void tmrArrowsTimer_Timer(Show& show) {
   MainForm& form = show.frmMain;
-  const bool setMissing = IsQuestionType(show.state.GameType) && !show.state.GameLoaded;
+  const bool setMissing = show.state.Nature().Trivia && !show.state.GameLoaded;
   const bool pointers = setMissing && !form.lblListRightArrow.Visible;
   form.lblListRightArrow.Visible = pointers;
   form.lblListLeftArrow.Visible = pointers;

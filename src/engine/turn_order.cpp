@@ -64,7 +64,7 @@ void ChangeCursor(Show& show) { SetCursorOnBoth(show, show.state.CurrentPlayer);
 
 void btnNextPlayer_Click(Show& show) {
   AdvanceToNextPlayer(show);
-  if (IsChallengeType(show.state.GameType)) SetConsoleCursor(show, show.state.CurrentPlayer);
+  if (!show.state.Nature().Trivia) SetConsoleCursor(show, show.state.CurrentPlayer);
 }
 
 }  // namespace pawnfield

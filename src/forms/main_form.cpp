@@ -68,13 +68,10 @@ void MainForm::SetCaptions() {
   mnuHelpProjector.Caption = "Connect to &Projector";
   mnuHelpAbout.Caption = "&About";
 
-  pawnfield::Caption(optGameType, std::array{"Challenge Mode A", "Challenge Mode B", "Trivia Mode A", "Trivia Mode B",
-                                             "Trivia Mode C"});
-  optGameType[0].ToolTipText = "Players take turns answering questions.";
-  optGameType[1].ToolTipText = "Players answer questions until the are incorrect.";
-  optGameType[2].ToolTipText = "Players take turns answering questions.";
-  optGameType[3].ToolTipText = "Players answer questions until they are incorrect.";
-  optGameType[4].ToolTipText = "Players ring in after question appears.";
+  for (const GameNature& type : kGameTypes) {
+    optGameType[RowOf(type.Mode)].Caption = type.Caption;
+    optGameType[RowOf(type.Mode)].ToolTipText = type.ToolTip;
+  }
   btnGameTypeHelp.Caption = "?";
   btnGameTypeHelp.ToolTipText = "What the game types are";
   pawnfield::Caption(optPlayers, std::array{"2", "3"});

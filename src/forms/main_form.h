@@ -1,6 +1,7 @@
 // frmMain, the operator's console: its controls, their design-time captions, sizes and states. Owned by the show.
 #pragma once
 
+#include "data/game_types.h"
 #include "data/players.h"
 #include "platform/controls.h"
 
@@ -43,7 +44,7 @@ class MainForm : public Form {
   Menu mnuHelpAbout{*this, "mnuHelpAbout"};
 
   // What is set before the show.
-  ControlArray<OptionButton, 5> optGameType{*this, "optGameType"};
+  ControlArray<OptionButton, kGameTypes.size()> optGameType{*this, "optGameType"};
   Button btnGameTypeHelp{*this, "btnGameTypeHelp"};
   ControlArray<OptionButton, 2> optPlayers{*this, "optPlayers"};
   Frame fraGridControl{*this, "fraGridControl"};

@@ -1,5 +1,7 @@
 #include "forms/small_forms.h"
 
+#include "data/game_types.h"
+
 namespace pawnfield {
 
 LoadingForm::LoadingForm() : Form("frmLoading") { lblLoading.Caption = "Loading...."; }
@@ -27,12 +29,12 @@ GameInProgressForm::GameInProgressForm() : Form("frmGameInProgress") {
 GameTypeHelpForm::GameTypeHelpForm() : Form("frmGameTypeHelp") {
   Form::Caption = "Game Types";
   btnOk.Caption = "OK";
-  lblGameTypes.Caption =
-      "Challenge Mode A\r\nPlayers take turns. The host asks; a placed piece passes the turn on.\r\n\r\n"
-      "Challenge Mode B\r\nA player goes on placing pieces until Next Player is pressed.\r\n\r\n"
-      "Trivia Mode A\r\nPlayers take turns answering questions from the loaded set.\r\n\r\n"
-      "Trivia Mode B\r\nA player answers questions from the set until one is incorrect.\r\n\r\n"
-      "Trivia Mode C\r\nThe question appears and the first player to ring in answers.";
+  std::string text;
+  for (const GameNature& type : kGameTypes) {
+    if (!text.empty()) text += "\r\n\r\n";
+    text += std::string(type.Caption) + "\r\n" + type.Help;
+  }
+  lblGameTypes.Caption = text;
 }
 
 }  // namespace pawnfield

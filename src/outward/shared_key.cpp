@@ -8,14 +8,9 @@
 
 namespace pawnfield {
 
-namespace {
-constexpr int kKeypads = 8;
-constexpr int kPublishingKeypads = 9;
-}  // namespace
+bool IsKeypadMode(const Show& show) { return AreKeypads(show.state.SerialComm); }
 
-bool IsKeypadMode(const Show& show) { return show.state.SerialComm == kKeypads || PublishesPlayers(show); }
-
-bool PublishesPlayers(const Show& show) { return show.state.SerialComm == kPublishingKeypads; }
+bool PublishesPlayers(const Show& show) { return show.state.SerialComm == InterfaceCode::PublishingKeypads; }
 
 void WriteSharedKey(Show& show, const std::string& name, const std::string& text) {
   try {
@@ -32,7 +27,7 @@ void WriteSharedKey(Show& show, const std::string& name, const std::string& text
 void SendKeyPress(Show& show, bool on) { WriteSharedKey(show, "sendkeypress", on ? "1" : "0"); }
 
 void SendKeyPressInRingIn(Show& show, bool on) {
-  if (show.state.GameType == kTriviaModeC && IsKeypadMode(show)) SendKeyPress(show, on);
+  if (show.state.Nature().RingIn && IsKeypadMode(show)) SendKeyPress(show, on);
 }
 
 void PublishScore(Show& show, const std::string& name, int player) {

@@ -95,7 +95,7 @@ void CopyVerdictAndWinner(Show& show) {
 void CoverAnsweredQuestion(Show& show) {
   const int player = show.state.CurrentPlayer;
   const bool answering = QuestionVisible(show) && IsPlayer(player) && show.frmMain.btnQuestionCorrect.Visible;
-  const bool cover = answering && show.state.GameType == kTriviaModeC && show.state.HideQuestion;
+  const bool cover = answering && show.state.Nature().RingIn && show.state.HideQuestion;
   if (cover) {
     show.frmFSMain.lblPlayerName.Caption = show.frmMain.lblPlayer1[PlayerIndex(player)].Caption;
   }

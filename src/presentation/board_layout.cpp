@@ -73,18 +73,17 @@ void OfferOption(Control& control, Control& label, bool offered) {
 
 void ShowOptionsOfType(Show& show) {
   MainForm& form = show.frmMain;
-  const bool trivia = IsQuestionType(show.state.GameType);
-  const bool ringIn = show.state.GameType == kTriviaModeC;
-  form.btnStart.Enabled = !trivia;
-  form.btnSelectGame.Visible = trivia;
-  OfferOption(form.chkAnimation, form.lblShowAnimation, trivia);
-  OfferOption(form.chkHideQuestion, form.lblHidequestionOption, ringIn);
-  OfferOption(form.chkIncorrectPenalty, form.lblLose100Points, trivia);
-  OfferOption(form.cboTimedResponse, form.lblTimedResponse, ringIn);
-  OfferOption(form.cboAutoContinue, form.lblAutoContinuePrompt, trivia);
-  form.btnEnableAllBuzzers.Enabled = ringIn;
-  form.lblSelectPlayer.Visible = ringIn;
-  form.btnNextPlayer.Visible = !ringIn;
+  const GameNature& type = show.state.Nature();
+  form.btnStart.Enabled = !type.Trivia;
+  form.btnSelectGame.Visible = type.Trivia;
+  OfferOption(form.chkAnimation, form.lblShowAnimation, type.Offer.Animation);
+  OfferOption(form.chkHideQuestion, form.lblHidequestionOption, type.Offer.HideQuestion);
+  OfferOption(form.chkIncorrectPenalty, form.lblLose100Points, type.Offer.IncorrectPenalty);
+  OfferOption(form.cboTimedResponse, form.lblTimedResponse, type.Offer.TimedResponse);
+  OfferOption(form.cboAutoContinue, form.lblAutoContinuePrompt, type.Offer.AutoContinue);
+  form.btnEnableAllBuzzers.Enabled = type.RingIn;
+  form.lblSelectPlayer.Visible = type.RingIn;
+  form.btnNextPlayer.Visible = type.Offer.NextPlayer;
 }
 
 void MakeGameBoard(Show& show, int w, int h, int n) {

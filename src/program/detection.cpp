@@ -48,7 +48,7 @@ void ServeWhatIsFound(Show& show) {
       show.platform.dialogs.MessageBox("No hardware was detected so you will be loaded in manual mode.", kAppTitle,
                                        BoxKind::Plain);
     }
-    state.SerialComm = presses.HardwareFound ? kWirelessFound : kManualMode;
+    state.SerialComm = presses.HardwareFound ? InterfaceCode::Wireless : InterfaceCode::Manual;
   }
   const bool manual = !presses.ZR610Present && !presses.HardwareFound;
   ShowAudienceAt(show, state.FSLeft + (manual ? 0 : kAudienceInset));
@@ -101,16 +101,18 @@ void tmrSplash_Timer(Show& show) {
 
 void frmSetInterface_Load(Show& show) {
   constexpr int kLastChoice = 4;
-  const int stored = GetIntSetting(show, "SerialComm", kInterfaceOutOfRange);
-  show.state.SerialComm = stored < 0 || stored > kLastChoice ? kInterfaceOutOfRange : stored;
+  const int stored = GetIntSetting(show, "SerialComm", static_cast<int>(InterfaceCode::OutOfRange));
+  const bool known = stored >= 0 && stored <= kLastChoice;
+  show.state.SerialComm = known ? static_cast<InterfaceCode>(stored) : InterfaceCode::OutOfRange;
   frmSetInterface_btnOK_Click(show);
 }
 
 void frmSetInterface_btnOK_Click(Show& show) {
   show.state.ZR650 = false;
-  show.state.SerialComm = kKeypadSharedKey;
+  show.state.SerialComm = InterfaceCode::PublishingKeypads;
   // A choice that can't be kept is told, and the console comes up all the same.
-  SaveSettingOrTell(show, "SerialComm", std::to_string(kKeypadSharedKey), show.frmSetInterface, "btnOK_Click");
+  const std::string code = std::to_string(static_cast<int>(InterfaceCode::PublishingKeypads));
+  SaveSettingOrTell(show, "SerialComm", code, show.frmSetInterface, "btnOK_Click");
   show.frmMain.Visible = true;
   ShowAudienceAt(show, show.state.FSLeft);
   show.frmSetInterface.Unload();

@@ -9,12 +9,6 @@ namespace pawnfield {
 
 struct Show;
 
-// Values of SerialComm.
-inline constexpr int kManualMode = 6;
-inline constexpr int kKeypadSharedKey = 9;
-inline constexpr int kWirelessFound = 10;
-inline constexpr int kInterfaceOutOfRange = 99;
-
 // The first control set of the system's record of devices knows one vendor more than the later ones.
 enum class ControlSet { First, Later };
 

@@ -87,28 +87,28 @@ void LoadScreenPictures(Show& show) {
 
 void ShowGameType(Show& show) {
   MainForm& form = show.frmMain;
-  const int gameType = show.state.GameType;
-  form.optGameType[static_cast<std::size_t>(gameType - 1)].SelectInGroup();
-  const bool trivia = IsQuestionType(gameType);
-  const bool ringIn = gameType == kTriviaModeC;
-  form.btnStart.Enabled = !trivia;
-  form.btnSelectGame.Visible = trivia;
-  form.cboList.Enabled = trivia;
-  form.cboTimedResponse.Enabled = ringIn;
-  form.lblTimedResponse.Enabled = ringIn;
-  form.cboAutoContinue.Enabled = trivia;
-  form.lblAutoContinuePrompt.Enabled = trivia;
-  form.chkHideQuestion.Enabled = ringIn;
-  form.lblHidequestionOption.Enabled = ringIn;
-  form.lblSelectPlayer.Visible = ringIn;
-  form.btnNextPlayer.Visible = !ringIn;
-  for (std::size_t i = 0; i < 3; ++i) form.btnSelectPlayer[i].Enabled = trivia;
+  const GameNature& type = show.state.Nature();
+  form.optGameType[RowOf(type.Mode)].SelectInGroup();
+  form.btnStart.Enabled = !type.Trivia;
+  form.btnSelectGame.Visible = type.Trivia;
+  form.cboList.Enabled = type.Trivia;
+  form.cboTimedResponse.Enabled = type.Offer.TimedResponse;
+  form.lblTimedResponse.Enabled = type.Offer.TimedResponse;
+  form.cboAutoContinue.Enabled = type.Offer.AutoContinue;
+  form.lblAutoContinuePrompt.Enabled = type.Offer.AutoContinue;
+  form.chkHideQuestion.Enabled = type.Offer.HideQuestion;
+  form.lblHidequestionOption.Enabled = type.Offer.HideQuestion;
+  form.lblSelectPlayer.Visible = type.RingIn;
+  form.btnNextPlayer.Visible = type.Offer.NextPlayer;
+  for (int player = 1; player <= kPlayers; ++player) {
+    form.btnSelectPlayer[PlayerIndex(player)].Enabled = type.Offer.SelectPlayer;
+  }
 }
 
 void LoadGameOptions(Show& show) {
   GameState& state = show.state;
   MainForm& form = show.frmMain;
-  state.GameType = IntInRange(show, "GameType", 5, 1, 5, 1);
+  state.GameType = static_cast<GameMode>(IntInRange(show, "GameType", 5, 1, static_cast<int>(kGameTypes.size()), 1));
   ShowGameType(show);
   state.GridSize = IntInRange(show, "GridControl", 5, 3, 5, 5);
   form.optGridControl[static_cast<std::size_t>(state.GridSize - 3)].SelectInGroup();
@@ -201,11 +201,10 @@ void ShowIdleBoard(Show& show) {
   form.imgDJEntry.Picture = PicturePath(show, "\\Images\\Neutral.bmp");
   HidePanel(show, Panel::Question);
   ShowPanel(show, Panel::Standby);
-  // Only here does Trivia Mode A differ from Trivia Mode B.
-  const bool triviaA = state.GameType == kTriviaModeA;
-  form.btnStandbyMode.Enabled = triviaA;
-  form.btnPlayMode.Enabled = !triviaA;
-  if (triviaA) form.txtDJCommand.BackColor = kRed;
+  const GameNature& type = state.Nature();
+  form.btnStandbyMode.Enabled = type.OffersHideAtLoad;
+  form.btnPlayMode.Enabled = !type.OffersHideAtLoad;
+  if (type.OffersHideAtLoad) form.txtDJCommand.BackColor = kRed;
   HidePanel(show, Panel::Sound);
   HidePanel(show, Panel::QuestionPicture);
   form.btnUndo.Enabled = false;
@@ -218,7 +217,7 @@ void ShowIdleBoard(Show& show) {
   state.GameInProgress = false;
   form.btnReset.Enabled = false;
   form.btnEndGame.Enabled = false;
-  if (!IsChallengeType(state.GameType)) return;
+  if (type.Trivia) return;
   for (Control* option : {static_cast<Control*>(&form.chkAnimation), static_cast<Control*>(&form.chkHideQuestion),
                           static_cast<Control*>(&form.chkIncorrectPenalty)}) {
     option->Enabled = false;
@@ -249,7 +248,7 @@ void RunStep(Show& show, void (*step)(Show&)) {
 
 void StartForm(Show& show) {
   GameState& state = show.state;
-  if (state.SerialComm == 10) {
+  if (state.SerialComm == InterfaceCode::Wireless) {
     show.frmMain.lblStatusBar.Caption = "System Initialized";
     show.frmMain.tmrMainTimer.Enabled = false;
   }

@@ -54,7 +54,7 @@ class Saver {
 
 void SaveGameOptions(const GameState& state, Saver& save) {
   save("MODPictureTimer", state.MODPictureTimer);
-  save("GameType", state.GameType);
+  save("GameType", static_cast<int>(state.GameType));
   save("Players", state.Players);
   save("HideQuestion", state.HideQuestion);
   save("GridControl", state.GridSize);
@@ -69,7 +69,7 @@ void SaveGameOptions(const GameState& state, Saver& save) {
   save("IncorrectPenalty", state.IncorrectPenalty);
   save("LedEffects", state.LedEffects);
   save("LedSpeed", state.LedSpeed);
-  save("SerialComm", state.SerialComm);
+  save("SerialComm", static_cast<int>(state.SerialComm));
   save("AutoContinue", state.AutoContinue);
   for (int player = 1; player <= kPlayers; ++player) {
     save("Player" + std::to_string(player) + "Penalty", state.PlayerPenalty[player]);

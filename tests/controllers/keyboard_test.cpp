@@ -136,13 +136,14 @@ TEST(Keyboard, LettersBringUpTheirMediaWhateverElseTheyDo) {
 
 TEST(Keyboard, KeypadsRingInByTheRouting) {
   // The mode, the key, what its pad is routed to, the player after it and the writes to the shared key.
-  const std::tuple<int, char, std::size_t, int, int, const char*> keypads[] = {
-      {8, '4', 4, 2, 2, "sendkeypress=0 "},
-      {8, '0', 10, 3, 3, "sendkeypress=0 "},
-      {8, '3', 5, 1, 0, ""},
-      {8, '^', 6, 1, 0, ""},
-      {9, '9', 9, 2, 2, "sendkeypress=0 11=PLAYER 2 "},
-      {6, '4', 4, 2, 4, ""}};
+  using enum InterfaceCode;
+  const std::tuple<InterfaceCode, char, std::size_t, int, int, const char*> keypads[] = {
+      {Keypads, '4', 4, 2, 2, "sendkeypress=0 "},
+      {Keypads, '0', 10, 3, 3, "sendkeypress=0 "},
+      {Keypads, '3', 5, 1, 0, ""},
+      {Keypads, '^', 6, 1, 0, ""},
+      {PublishingKeypads, '9', 9, 2, 2, "sendkeypress=0 11=PLAYER 2 "},
+      {Manual, '4', 4, 2, 4, ""}};
   for (const auto& [mode, key, controller, routed, player, written] : keypads) {
     Keyboard keyboard('5', "");
     keyboard.state.SerialComm = mode;
@@ -150,14 +151,14 @@ TEST(Keyboard, KeypadsRingInByTheRouting) {
     keyboard.state.Routing[controller] = routed;
     keyboard.Written();
     keyboard.form().KeyPress(key);
-    EXPECT_EQ(keyboard.state.CurrentPlayer, player) << mode << key;
-    EXPECT_EQ(keyboard.Written(), written) << mode << key;
+    EXPECT_EQ(keyboard.state.CurrentPlayer, player) << static_cast<int>(mode) << key;
+    EXPECT_EQ(keyboard.Written(), written) << static_cast<int>(mode) << key;
   }
 }
 
 TEST(Keyboard, TellsTheExternalKeyboardProgramWhenPressesAreWanted) {
   Keyboard keyboard('5', "", "mi");
-  keyboard.state.SerialComm = 9;
+  keyboard.state.SerialComm = InterfaceCode::PublishingKeypads;
   const std::string on = "sendkeypress=1 ", off = "sendkeypress=0 ";
   const std::pair<const char*, std::string> steps[] = {
       {"fileClearAllScores", "10=0 11=0 13=0 "},

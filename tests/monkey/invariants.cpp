@@ -61,8 +61,8 @@ std::string Ranges(Show& show) {
   };
   for (const std::string& fault :
        {outside("CurrentPlayer", state.CurrentPlayer, 0, kLastRingIn), outside("GridSize", state.GridSize, 3, 5),
-        outside("GameType", state.GameType, 1, 5), outside("Players", state.Players, 2, 3),
-        outside("FlashCount", show.FlashCount, 0, 5)}) {
+        outside("GameType", static_cast<int>(state.GameType), 1, static_cast<int>(kGameTypes.size())),
+        outside("Players", state.Players, 2, 3), outside("FlashCount", show.FlashCount, 0, 5)}) {
     if (!fault.empty()) return fault;
   }
   for (int r = 0; r < 7; ++r) {

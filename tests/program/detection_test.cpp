@@ -39,16 +39,17 @@ TEST(Detection, InstancePathsAndTheWalkThroughTheControlSets) {
 
 TEST(Detection, EachKindOfHardwareAtTheStart) {
   // A device under the other vendor's number is found, and not opened.
-  const std::tuple<HidDevice, int, bool> cases[] = {
-      {{3, 0x1003}, 10, true}, {{0x04FE, 0x1001}, 10, false}, {{3, 0x1002}, 6, false}};
+  const std::tuple<HidDevice, InterfaceCode, bool> cases[] = {{{3, 0x1003}, InterfaceCode::Wireless, true},
+                                                              {{0x04FE, 0x1001}, InterfaceCode::Wireless, false},
+                                                              {{3, 0x1002}, InterfaceCode::Manual, false}};
   for (const auto& [device, serialComm, opened] : cases) {
     ShowFixture fixture;
     fixture.sim.hid.Devices = {{device, {33, 33}}};
-    if (serialComm == 6) fixture.sim.dialogs.ExpectMessage("No hardware was detected");
+    if (serialComm == InterfaceCode::Manual) fixture.sim.dialogs.ExpectMessage("No hardware was detected");
     fixture.Start();
     EXPECT_EQ(fixture.show().state.SerialComm, serialComm);
     EXPECT_EQ(fixture.show().dgTransceiver->Ready(), opened);
-    EXPECT_EQ(fixture.form().lblStatusBar.Caption == "System Initialized", serialComm == 10);
+    EXPECT_EQ(fixture.form().lblStatusBar.Caption == "System Initialized", serialComm == InterfaceCode::Wireless);
   }
   ShowFixture pads;
   pads.sim.hid.PlugTransceiver();
@@ -57,7 +58,7 @@ TEST(Detection, EachKindOfHardwareAtTheStart) {
   pads.sim.dialogs.ExpectMessage("Error Number: 8002");
   pads.Start();
   EXPECT_EQ(pads.form().lblStatusBar.Caption, "ZR-610 System initialized") << "looked for first, and told";
-  EXPECT_EQ(pads.show().state.SerialComm, 99) << "left as it was";
+  EXPECT_EQ(pads.show().state.SerialComm, InterfaceCode::OutOfRange) << "left as it was";
   EXPECT_TRUE(pads.form().Visible);
 }
 
@@ -86,7 +87,7 @@ TEST(InterfaceDialog, AlwaysResultsInTheSharedKeypadMode) {
     fixture.show().state.ZR650 = true;
     fixture.show().frmSetInterface.Visible = true;
     frmSetInterface_Load(fixture.show());
-    EXPECT_EQ(fixture.show().state.SerialComm, 9);
+    EXPECT_EQ(fixture.show().state.SerialComm, InterfaceCode::PublishingKeypads);
     EXPECT_FALSE(fixture.show().state.ZR650 || fixture.show().frmSetInterface.Visible);
     EXPECT_EQ(fixture.sim.settings.GetSetting("Pawnfield", "Settings", "SerialComm", ""), "9");
     fixture.show().frmSetInterface.Visible = true;

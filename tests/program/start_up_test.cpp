@@ -32,7 +32,7 @@ TEST(StartUp, TheSplashComesBeforeTheConsoleAndTakesItsTime) {
     fixture.sim.clock.Advance(ms);
     EXPECT_EQ(shown(), forms) << ms;
   }
-  EXPECT_EQ(fixture.show().state.SerialComm, 6);
+  EXPECT_EQ(fixture.show().state.SerialComm, InterfaceCode::Manual);
 }
 
 TEST(StartUp, EveryButtonAndEntryOfEveryFormActs) {

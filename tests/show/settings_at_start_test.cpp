@@ -154,9 +154,9 @@ TEST(SettingsAtStart, EachUnreadableValueIsToldAndTheRestStillLoads) {
     fixture.sim.dialogs.ExpectMessage("Error Number: 13\r\nDescription: Type mismatch\r\nLocation: frmMain\r\n");
     fixture.Start();
     const GameState& state = fixture.show().state;
-    EXPECT_EQ((std::array{state.Routing[7], state.Routing[2], state.GameType, state.BackgroundPlayerVolume,
-                          state.ScreenFonts[3].FontSize}),
-              (std::array{7, 9, static_cast<int>(kTriviaModeC), 33, 44}))
+    EXPECT_EQ((std::array{state.Routing[7], state.Routing[2], static_cast<int>(state.GameType),
+                          state.BackgroundPlayerVolume, state.ScreenFonts[3].FontSize}),
+              (std::array{7, 9, static_cast<int>(GameMode::TriviaC), 33, 44}))
         << key;
     EXPECT_TRUE(fixture.form().Visible) << key;
   }

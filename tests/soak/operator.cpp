@@ -33,13 +33,13 @@ void Operator::Prepare(const ShowMedia& media) {
 
 void Operator::SetUp(int game) {
   const auto turn = static_cast<std::size_t>(game);
-  hands_.Press(form_.optGameType[turn % 5]);
+  hands_.Press(form_.optGameType[turn % kGameTypes.size()]);
   hands_.Press(form_.optPlayers[turn / 2 % 2]);
   for (int i = 0; i < 10 && !form_.optGridControl[0].IsReachable(); ++i) hands_.Wait(500);
   hands_.Press(form_.optGridControl[turn % 3]);
   hands_.Press(form_.optGameEnds[turn / 3 % 2]);
   if (turn % 4 == 3) hands_.Press(form_.chkAnimation);
-  if (!IsQuestionType(show_.state.GameType)) return;
+  if (!show_.state.Nature().Trivia) return;
   form_.cboList.DropDown();
   const auto& sets = form_.cboList.List.Get();
   // The first entry only asks to choose.
