@@ -90,6 +90,7 @@ void ApplySingleFile(Show& show) {
     MusicOff(show);
   } else if (MusicFileExists(show)) {
     show.state.BackgroundMusic = kMusicFileMode;
+    show.state.MusicEnabled = true;
   } else {
     show.state.BackgroundMusic = kNoMusic;
     show.state.BgMusicFileName.clear();
@@ -105,9 +106,12 @@ void ApplyMusicFolder(Show& show) {
 
 void ApplyMusic(Show& show) {
   const OptionsForm& form = show.frmOptions;
+  const bool playing = show.state.MusicEnabled && show.frmMain.tmrBGMusic.Enabled;
   if (form.optBackgroundMusic[2].Value) ApplySingleFile(show);
   if (form.optBackgroundMusic[0].Value) MusicOff(show);
   if (form.optBackgroundMusic[1].Value) ApplyMusicFolder(show);
+  // Music that is new waits for a game; in the room there may be nobody yet, or somebody speaks.
+  show.frmMain.tmrBGMusic.Enabled = playing;
 }
 
 void Close(Show& show) {

@@ -40,6 +40,12 @@ struct OptionalHeader {
   bool operator==(const OptionalHeader&) const = default;
 };
 
+struct BoardSquare {
+  int Row = 0;
+  int Column = 0;
+  bool operator==(const BoardSquare&) const = default;
+};
+
 struct GameState {
   GameMode GameType = GameMode::TriviaC;
   int Players = kPlayers;
@@ -100,6 +106,8 @@ struct GameState {
   std::string BgMusicFileName;
   // True while there is something to play. The folder's tracks; MusicIndex counts from 1, 0 is before the first.
   bool MusicEnabled = false;
+  // A question's clip has paused the music, which comes back with the clip's end.
+  bool MusicWaits = false;
   std::vector<std::string> MusicList;
   int MusicIndex = 0;
   // Only the first four are used. OptionalHeaderIndex is the next to show.

@@ -41,11 +41,12 @@ std::optional<FlipConstants> FlipConstantsOf(int gridSize) {
   }
 }
 
-// By the square's name or key, which both end in the row and the column.
-int OwnerOf(const Show& show, const std::string& key) {
-  const auto digit = [&](std::size_t fromEnd) { return static_cast<std::size_t>(key[key.size() - fromEnd] - '0'); };
-  return show.state.Board[digit(2)][digit(1)];
+int OwnerOf(const Show& show, BoardSquare square) {
+  return show.state.Board[static_cast<std::size_t>(square.Row)][static_cast<std::size_t>(square.Column)];
 }
+
+// By the square's name, which ends in the row and the column.
+BoardSquare SquareNamed(const std::string& name) { return {name[name.size() - 2] - '0', name[name.size() - 1] - '0'}; }
 
 void PrepareFlip(Flip& flip, Timer& timer, Image* square) {
   StopTurning(flip, timer);
@@ -54,13 +55,14 @@ void PrepareFlip(Flip& flip, Timer& timer, Image* square) {
   flip.RestHeight = square->Height;
 }
 
-// A claim that comes while the last one still flashes takes the flash along; the last square is left as it is at rest.
-void RestLastSquare(Show& show) {
-  const std::string& key = show.state.LastSquareKey;
-  if (!show.frmMain.tmrAnswer.Enabled || key.size() != 2) return;
-  const int owner = OwnerOf(show, key);
-  const Image& face = IsPlayer(owner) ? show.frmMain.FaceA(owner) : show.frmMain.imgBkgnd;
-  SetSquarePicture(show, key[0] - '0', key[1] - '0', face.Picture);
+// A claim that comes while the last one still flashes takes the flash along; its squares are left as they are at rest.
+void RestFlashingSquares(Show& show) {
+  if (!show.frmMain.tmrAnswer.Enabled) return;
+  for (const BoardSquare& square : show.FlashSquares) {
+    const int owner = OwnerOf(show, square);
+    const Image& face = IsPlayer(owner) ? show.frmMain.FaceA(owner) : show.frmMain.imgBkgnd;
+    SetSquarePicture(show, square.Row, square.Column, face.Picture);
+  }
 }
 
 void StartFlip(Show& show, int r, int c) {
@@ -82,10 +84,11 @@ void StartFlip(Show& show, int r, int c) {
   fsTimer.Enabled = true;
 }
 
-// Adds what the lines through the square pay to PiecePoints.
+// Adds what the lines through the square pay to PiecePoints. They flash together with the square.
 LineMade PayLines(Show& show, int r, int c) {
   const LineClaim claim{r, c, show.state.CurrentPlayer, show.state.GridSize, GetIntSetting(show, "Bonus", 5) * 10};
   bool hit = false;
+  show.FlashSquares = ClaimedSquares(show.state.Board, claim);
   for (const auto& check : {CheckRowLine, CheckColumnLine, CheckDiagonalLine, CheckAntiDiagonalLine}) {
     const LineResult result = check(show.state.Board, claim);
     show.state.PiecePoints += result.Points;
@@ -140,36 +143,44 @@ bool TurnSquare(Show& show, Flip& flip) {
   if (square.Height <= flip.FullHeight) return false;
   flip.Larger = false;
   // The flash of a claim before this one may have ended meanwhile and forgotten the player.
-  const int player = IsPlayer(show.state.FlipPlayer) ? show.state.FlipPlayer : OwnerOf(show, square.Name());
+  const int player =
+      IsPlayer(show.state.FlipPlayer) ? show.state.FlipPlayer : OwnerOf(show, SquareNamed(square.Name()));
   // Nobody's square rests as an empty one, which it is.
   square.Picture = (IsPlayer(player) ? show.frmMain.FaceA(player) : show.frmMain.imgBkgnd).Picture;
   return true;
 }
 
 void FlashSquare(Show& show) {
-  if (!IsPlayer(show.state.FlipPlayer) || show.state.LastSquareKey.size() != 2) return;
+  if (!IsPlayer(show.state.FlipPlayer) || show.FlashSquares.empty()) return;
   const int player = show.state.FlipPlayer;
   Image& face = show.FlashToggle ? show.frmMain.FaceA(player) : show.frmMain.FaceB(player);
   show.FlashToggle = !show.FlashToggle;
-  SetSquarePicture(show, show.state.LastSquareKey[0] - '0', show.state.LastSquareKey[1] - '0', face.Picture);
+  for (const BoardSquare& square : show.FlashSquares) SetSquarePicture(show, square.Row, square.Column, face.Picture);
 }
 
-void FinishPlainPiece(Show& show, bool over) {
+void FinishPlainPiece(Show& show) {
   MainForm& form = show.frmMain;
-  if (show.state.Nature().Trivia) {
-    if (over) {
-      form.btnContinue.Enabled = false;
-    } else {
-      StartAutoContinue(show);
-    }
-  }
+  if (show.state.Nature().Trivia) StartAutoContinue(show);
   form.btnUndo.Enabled = true;
   form.btnReset.Enabled = true;
   form.btnEndGame.Enabled = true;
   if (!show.state.Nature().Trivia) {
     show.state.PlacementOpen = true;
-  } else if (!over) {
+  } else {
     CheckQuestionsLeft(show);
+  }
+}
+
+// The step behind the flash. A game that was ended meanwhile has none.
+void GoOnAfterFlash(Show& show, bool bonus) {
+  if (!show.WinnerDue && !show.state.GameLoaded) return;
+  if (!show.WinnerDue && IsGameOver(show, LineMade::No)) EndGame(show);
+  if (bonus) {
+    ShowBonus(show);
+  } else if (show.WinnerDue) {
+    ShowWinner(show);
+  } else {
+    FinishPlainPiece(show);
   }
 }
 
@@ -196,7 +207,7 @@ void ClaimSquare(Show& show, int r, int c, const std::string& key) {
   state.PlacementOpen = false;
   state.GameInProgress = true;
   form.txtDJCommand.Visible = state.KeyControl;
-  RestLastSquare(show);
+  RestFlashingSquares(show);
   StartFlip(show, r, c);
   state.LastSquareKey = key;
   state.FlipPlayer = state.CurrentPlayer;
@@ -210,8 +221,8 @@ void ClaimSquare(Show& show, int r, int c, const std::string& key) {
   state.LastRow = r;
   state.LastCol = c;
   if (state.Nature().AfterClaim == NextTurn::Passes) AdvanceToNextPlayer(show);
-  PlayEvent(show, show.AppPath("\\Sound Effects\\Pawn.Wav"));
-  if (IsGameOver(show, lineMade)) GameOver(show);
+  PlayPawn(show);
+  if (IsGameOver(show, lineMade)) EndGame(show);
   form.picQuestion.Visible = false;
   form.picSound.Visible = false;
   form.picQuestionPicture.Visible = false;
@@ -234,23 +245,19 @@ void tmrAnswer_Timer(Show& show) {
   constexpr int kFlashTicks = 6;
   FlashSquare(show);
   if (++show.FlashCount < kFlashTicks) return;
+  const bool bonus = show.state.PiecePoints >= kBonusThreshold;
+  EndFlash(show);
+  GoOnAfterFlash(show, bonus);
+}
+
+void EndFlash(Show& show) {
+  RestFlashingSquares(show);
   show.frmMain.tmrAnswer.Enabled = false;
-  // A flash that was handed on to a later claim can end on the lit face; it rests on the other one.
-  if (show.FlashToggle) FlashSquare(show);
-  const bool over = IsGameOver(show, LineMade::No);
-  if (over) {
-    StopBackground(show);
-    show.frmMain.tmrBGMusic.Enabled = false;
-  }
-  if (show.state.PiecePoints < kBonusThreshold) {
-    FinishPlainPiece(show, over);
-  } else {
-    ShowBonus(show);
-  }
+  show.FlashSquares.clear();
+  show.FlashToggle = false;
+  show.FlashCount = 0;
   show.state.PiecePoints = 0;
   show.state.FlipPlayer = 0;
-  show.FlashCount = 0;
-  if (over) GameOver(show);
 }
 
 }  // namespace pawnfield

@@ -11,6 +11,8 @@ struct Show;
 bool TryClaimSquare(Show& show, int r, int c);
 // Claims a square for CurrentPlayer while PlacementOpen; key is the two digits.
 void ClaimSquare(Show& show, int r, int c, const std::string& key);
+// The flash is over, or goes no further: its squares rest as the board has them.
+void EndFlash(Show& show);
 
 void tmrFlipPlayerPiece_Timer(Show& show);
 void tmrFSFlipPlayerPiece_Timer(Show& show);

@@ -11,6 +11,7 @@
 #include "forms/main_form.h"
 #include "forms/player_names_form.h"
 #include "forms/small_forms.h"
+#include "media/background_music.h"
 #include "outward/companion.h"
 #include "outward/shared_key.h"
 #include "platform/text.h"
@@ -80,6 +81,13 @@ void StartChallenge(Show& show) {
   show.state.PlacementOpen = true;
 }
 
+void WarnOfShortSet(Show& show) {
+  const int squares = show.state.GridSize * show.state.GridSize;
+  if (show.NumGameQuestions >= squares) return;
+  show.frmMain.lblStatusBar.Caption = std::to_string(show.NumGameQuestions) + " questions for " +
+                                      std::to_string(squares) + " squares: this set ends before the board is full.";
+}
+
 void StartTrivia(Show& show) {
   GameState& state = show.state;
   MainForm& form = show.frmMain;
@@ -87,6 +95,7 @@ void StartTrivia(Show& show) {
     state.PlacementOpen = false;
     return;
   }
+  WarnOfShortSet(show);
   state.CurrentQuestion = 0;
   const std::string first = Trim(show.GameSet[0].QuestionText);
   form.lblQuestion[0].Caption = first;
@@ -120,6 +129,7 @@ void optGameType_Click(Show& show, int index) {
   MainForm& form = show.frmMain;
   const GameMode chosen = kGameTypes.at(static_cast<std::size_t>(index)).Mode;
   if (!show.state.GameInProgress) {
+    EndWinner(show);
     show.state.GameType = chosen;
     btnReset_Click(show);
     // With nothing loaded the reset does nothing; the new type's options are offered all the same.
@@ -132,7 +142,8 @@ void optGameType_Click(Show& show, int index) {
   SetListForType(form.cboList, type);
   form.lblSelectPlayer.Visible = type.RingIn;
   form.btnNextPlayer.Visible = type.Offer.NextPlayer;
-  form.tmrArrowsTimer.Enabled = true;
+  // The pointers blink for the choice of a game, and the grid is free as long as they do.
+  if (!show.state.GameInProgress) form.tmrArrowsTimer.Enabled = true;
 }
 
 void ApplyPlayerLayout(Show& show, int players) {
@@ -196,6 +207,9 @@ void btnStart_Click(Show& show) {
   MainForm& form = show.frmMain;
   const bool ringIn = show.state.Nature().RingIn;
   SendKeyPressInRingIn(show, true);
+  form.tmrWinner.Enabled = false;
+  HidePanel(show, Panel::Winner);
+  BringMusicBack(show);
   form.shpStart.Visible = false;
   form.tmrArrowsTimer.Enabled = false;
   form.lblListLeftArrow.Visible = false;
@@ -217,6 +231,7 @@ void btnStart_Click(Show& show) {
   form.btnPlayMode.Enabled = false;
   form.btnNextPlayer.Enabled = true;
   form.btnStart.Enabled = false;
+  form.fraGridControl.Enabled = false;
 }
 
 void btnPlayMode_Click(Show& show) {

@@ -2,9 +2,11 @@
 
 #include <array>
 
+#include "engine/board_play.h"
 #include "engine/options.h"
 #include "engine/question_cycle.h"
 #include "engine/turn_order.h"
+#include "engine/win_detection.h"
 #include "forms/fs_main_form.h"
 #include "forms/main_form.h"
 #include "media/sound_channels.h"
@@ -45,8 +47,8 @@ void ShowVerdictPicture(Show& show, const Verdict& verdict) {
   WriteVerdict(show.frmMain.lblRightWrong, show.frmMain.imgCorrect, verdict, path);
   if (show.state.DualScreen) WriteVerdict(show.frmFSMain.lblRightWrong, show.frmFSMain.imgCorrect, verdict, path);
   ShowPanel(show, Panel::Correct);
-  show.frmMain.tmrAnimate[0].Enabled = true;
-  show.frmMain.tmrCorrectSWF.Enabled = true;
+  BlinkAnew(show, 0);
+  show.frmMain.tmrCorrectSWF.Restart();
 }
 
 void AnnounceVerdict(Show& show, const Verdict& verdict) {
@@ -75,17 +77,26 @@ void GiveTurnBack(Show& show, int lastPlayer) {
   for (int i = 0; i < steps; ++i) AdvanceToNextPlayer(show);
 }
 
+// An undo within the flash: the piece stops where it is, and what the flash's end would have offered is offered now.
+void TakeBackFlash(Show& show) {
+  if (!show.frmMain.tmrAnswer.Enabled) return;
+  EndFlash(show);
+  ForgetClaimedSquare(show);
+  show.frmMain.btnReset.Enabled = true;
+  show.frmMain.btnEndGame.Enabled = true;
+}
+
 void TakeBackClaim(Show& show) {
   GameState& state = show.state;
   const int player = state.LastPlayer;
   if (!IsPlayer(player)) return;
   int& owner = state.Board[static_cast<std::size_t>(state.LastRow)][static_cast<std::size_t>(state.LastCol)];
   if (owner != player) return;
-  // The other displays of the score catch up with its next change.
-  show.frmMain.Score(player).Caption = NumberText(ScoreOf(show, player) - state.LastPoints);
+  SetScore(show, player, NumberText(ScoreOf(show, player) - state.LastPoints));
   if (player == 2) PublishScore(show, "11", player);
   ReportPlayer(show, player, state.ScreenFonts[player].ForeColor);
   owner = 0;
+  TakeBackFlash(show);
   RemovePiece(show, state.LastRow, state.LastCol);
   GiveTurnBack(show, player);
 }
@@ -95,7 +106,7 @@ void TakeBackClaim(Show& show) {
 void HandleCorrect(Show& show) {
   MainForm& form = show.frmMain;
   LiftCover(show);
-  StopSoundClip(show);
+  EndQuestionClip(show);
   RestartBackground(show);
   if (show.state.Nature().RingIn) form.tmrExternalCtrlFlasher.Enabled = false;
   form.picQuestion.Visible = false;
@@ -120,6 +131,8 @@ void HandleCorrect(Show& show) {
 void HandleIncorrect(Show& show) {
   MainForm& form = show.frmMain;
   LiftCover(show);
+  // The verdict is heard alone; the next player has the clip again by the console's button.
+  EndQuestionClip(show);
   form.tmrExternalCtrlFlasher.Enabled = false;
   AnnounceVerdict(show, kIncorrectVerdict);
   if (!show.state.Animation) SendKeyPressInRingIn(show, true);
@@ -148,6 +161,7 @@ void ChangeScore(Show& show, int player, ScoreChange change, int index) {
 
 void btnSkipQuestion_Click(Show& show) {
   MainForm& form = show.frmMain;
+  EndQuestionClip(show);
   PlayEvent(show, show.AppPath("\\Sound Effects\\Skip.Wav"));
   if (show.state.Nature().RingIn) {
     LightScoreBox(show, 0);

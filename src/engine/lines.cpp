@@ -1,8 +1,7 @@
 #include "engine/lines.h"
 
-#include <cstdlib>
+#include <algorithm>
 #include <initializer_list>
-#include <utility>
 
 #include "platform/text.h"
 
@@ -67,6 +66,20 @@ LineResult CheckAntiDiagonalLine(const BoardArray& board, const LineClaim& claim
   return three ? LineResult{kThree, true} : LineResult{};
 }
 
+std::vector<BoardSquare> ClaimedSquares(const BoardArray& board, const LineClaim& claim) {
+  constexpr std::size_t kLine = 3;
+  std::vector<BoardSquare> squares{{claim.Row, claim.Column}};
+  for (const Direction direction : {Direction{0, 1}, Direction{1, 0}, Direction{1, 1}, Direction{1, -1}}) {
+    std::vector<BoardSquare> others;
+    for (const int sign : {1, -1}) {
+      for (int step = sign; AllOwned(board, claim, direction, {step}); step += sign)
+        others.push_back({claim.Row + direction.Row * step, claim.Column + direction.Column * step});
+    }
+    if (others.size() + 1 >= kLine) squares.insert(squares.end(), others.begin(), others.end());
+  }
+  return squares;
+}
+
 bool IsBoardFull(const BoardArray& board, int gridSize) {
   const auto size = static_cast<std::size_t>(gridSize);
   for (std::size_t r = 0; r < size; ++r) {
@@ -77,21 +90,17 @@ bool IsBoardFull(const BoardArray& board, int gridSize) {
   return true;
 }
 
-std::string WinnerText(std::array<Standing, 4> standings, int players) {
-  const auto count = static_cast<std::size_t>(players);
-  for (std::size_t i = 0; i < count; ++i) {
-    for (std::size_t j = i + 1; j < 4; ++j) {
-      if (standings[i].Score < standings[j].Score) std::swap(standings[i], standings[j]);
-    }
+std::string WinnerText(std::vector<Standing> standings) {
+  const auto higher = [](const Standing& a, const Standing& b) { return a.Score > b.Score; };
+  std::stable_sort(standings.begin(), standings.end(), higher);
+  std::string names;
+  int leaders = 0;
+  for (const Standing& standing : standings) {
+    if (standing.Score != standings.front().Score) break;
+    if (leaders++ > 0) names += " and \r\n";
+    names += Trim(standing.Name);
   }
-  std::size_t last = 0;
-  while (last < count && standings[last].Score <= standings[last + 1].Score) ++last;
-  std::string text = "Game Over!\r\n";
-  for (std::size_t i = 0; i <= last; ++i) {
-    text += Trim(standings[i].Name);
-    if (i < last) text += " and \r\n";
-  }
-  return text + "\r\n" + (last != 0 ? "Tie!" : "Wins!");
+  return "Game Over!\r\n" + names + "\r\n" + (leaders > 1 ? "Tie!" : "Wins!");
 }
 
 }  // namespace pawnfield

@@ -3,6 +3,9 @@
 
 #include <array>
 #include <string>
+#include <vector>
+
+#include "data/game_state.h"
 
 namespace pawnfield {
 
@@ -28,6 +31,8 @@ LineResult CheckColumnLine(const BoardArray& board, const LineClaim& claim);
 LineResult CheckDiagonalLine(const BoardArray& board, const LineClaim& claim);
 // Pays 100 for a run of four and 200 for a run of three, whatever the bonus; the two runs of four may both pay.
 LineResult CheckAntiDiagonalLine(const BoardArray& board, const LineClaim& claim);
+// The claimed square, and behind it the squares of every line of three and more through it.
+std::vector<BoardSquare> ClaimedSquares(const BoardArray& board, const LineClaim& claim);
 bool IsBoardFull(const BoardArray& board, int gridSize);
 
 struct Standing {
@@ -35,7 +40,7 @@ struct Standing {
   std::string Name;
 };
 
-// "Game Over!", the leaders and "Wins!" or "Tie!". Records beyond the players stay empty and take part in the order.
-std::string WinnerText(std::array<Standing, 4> standings, int players);
+// "Game Over!", the leaders and "Wins!" or "Tie!", of those who played. Leaders of one score keep their order.
+std::string WinnerText(std::vector<Standing> standings);
 
 }  // namespace pawnfield

@@ -55,8 +55,7 @@ void ShowPictureQuestion(Show& show) {
 
 void ShowSoundQuestion(Show& show, const std::string& path) {
   ShowPanel(show, Panel::Sound);
-  if (show.state.MusicEnabled) PauseBackground(show);
-  PlaySoundClip(show, path);
+  PlayQuestionClip(show, path);
   OpenQuestion(show);
 }
 
@@ -74,28 +73,28 @@ void ShowTextQuestion(Show& show) {
   ColorQuestion(show, question);
 }
 
-void WriteNotice(Label& label, double size) {
-  label.Font = {"Courier New", size, true, true};
-  label.ForeColor = kWhite;
-  label.Caption = "5 Questions Left!\r\n\r\n\r\n";
+void WriteNotice(Show& show, ControlArray<Label, 5>& labels) {
+  constexpr double kAnySize = 28;
+  labels[0].Font = {"Courier New", kAnySize, true, true};
+  SetQuestion(show, "5 Questions Left!", labels);
 }
 
-// A notice has no outline of its own; the copies behind the last question's text would show through.
-void ShowNotice(ControlArray<Label, 5>& labels, double size) {
-  WriteNotice(labels[0], size);
-  for (std::size_t i = 1; i < 5; ++i) labels[i].Visible = false;
-}
-
-void Advance(Show& show) {
+// False when the set holds no further question; the board stays as it is.
+bool Advance(Show& show) {
   // The next question replaces the notice, which must not take the question down when its own time is up.
   if (show.frmMain.tmr5QuestionTimer.Enabled) tmr5QuestionTimer_Timer(show);
+  show.frmMain.btnContinue.Enabled = false;
+  if (show.state.CurrentQuestion + 1 >= show.NumGameQuestions) {
+    show.frmMain.lblStatusBar.Caption = "No questions left";
+    return false;
+  }
   ++show.state.CurrentQuestion;
   const std::string text = Trim(RecordAt(show.GameSet, show.state.CurrentQuestion + 1).QuestionText);
   show.frmMain.lblQuestion[0].Caption = text;
   if (show.state.DualScreen) show.frmFSMain.lblQuestion[0].Caption = text;
   ShowQuestion(show, show.state.CurrentQuestion);
-  show.frmMain.btnContinue.Enabled = false;
   if (show.state.Nature().RingIn) ShowVerdictButtons(show, false, false);
+  return true;
 }
 
 }  // namespace
@@ -129,20 +128,20 @@ void CheckQuestionsLeft(Show& show) {
   constexpr int kNoticeAt = 6;
   if (show.NumGameQuestions - show.state.CurrentQuestion != kNoticeAt) return;
   RandomQuestionBackground(show);
-  ShowNotice(show.frmMain.lblQuestion, 28);
-  if (show.state.DualScreen) ShowNotice(show.frmFSMain.lblQuestion, 60);
+  WriteNotice(show, show.frmMain.lblQuestion);
+  if (show.state.DualScreen) WriteNotice(show, show.frmFSMain.lblQuestion);
   ShowPanel(show, Panel::Question);
   show.frmMain.btnUndo.Enabled = false;
   show.frmMain.btnContinue.Enabled = false;
   show.frmMain.btnNextPlayer.Enabled = false;
-  show.frmMain.tmr5QuestionTimer.Enabled = true;
+  show.frmMain.tmr5QuestionTimer.Restart();
   ShowVerdictButtons(show, false, false);
 }
 
 void ShowBonus(Show& show) {
   PlayEvent(show, SoundEntry(show, kSoundCongratulations));
   ShowPanel(show, Panel::Bonus);
-  show.frmMain.tmrBonus.Enabled = true;
+  show.frmMain.tmrBonus.Restart();
 }
 
 void StartAutoContinue(Show& show) {
@@ -152,21 +151,19 @@ void StartAutoContinue(Show& show) {
     return;
   }
   form.tmrAutoContinue.Interval = show.state.AutoContinue * 1000;
-  form.tmrAutoContinue.Enabled = true;
+  form.tmrAutoContinue.Restart();
   form.btnContinue.Enabled = false;
 }
 
 void btnContinue_Click(Show& show) {
   if (!show.state.Nature().Trivia) return;
-  Advance(show);
-  show.frmMain.btnUndo.Enabled = false;
+  if (Advance(show)) show.frmMain.btnUndo.Enabled = false;
 }
 
 void tmrAutoContinue_Timer(Show& show) {
   // Stopped first: whatever the next question brings up, the pause has run once.
   show.frmMain.tmrAutoContinue.Enabled = false;
-  Advance(show);
-  SendKeyPressInRingIn(show, true);
+  if (Advance(show)) SendKeyPressInRingIn(show, true);
 }
 
 void tmr5QuestionTimer_Timer(Show& show) {
@@ -183,6 +180,10 @@ void tmrBonus_Timer(Show& show) {
   const bool trivia = show.state.Nature().Trivia;
   HidePanel(show, Panel::Bonus);
   form.tmrBonus.Enabled = false;
+  if (show.WinnerDue) {
+    ShowWinner(show);
+    return;
+  }
   form.btnUndo.Enabled = true;
   if (trivia) form.btnContinue.Enabled = true;
   form.btnNextPlayer.Enabled = true;
@@ -214,7 +215,8 @@ void tmrArrowsTimer_Timer(Show& show) {
 
 void tmrGridEnable_Timer(Show& show) {
   MainForm& form = show.frmMain;
-  form.fraGridControl.Enabled = form.tmrArrowsTimer.Enabled || form.btnStart.Enabled;
+  const bool running = show.state.GameInProgress;
+  form.fraGridControl.Enabled = !running && (form.tmrArrowsTimer.Enabled || form.btnStart.Enabled);
 }
 
 void tmrRotate_Timer(Show& show) {

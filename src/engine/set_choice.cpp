@@ -7,8 +7,10 @@
 #include "forms/fs_main_form.h"
 #include "forms/main_form.h"
 #include "media/background_music.h"
+#include "media/sound_channels.h"
 #include "outward/companion.h"
 #include "outward/shared_key.h"
+#include "platform/text.h"
 #include "presentation/board_layout.h"
 #include "presentation/both_screens.h"
 #include "sets/file_dialogs.h"
@@ -26,7 +28,6 @@ void ClearForNewSet(Show& show) {
   StopShowing(show);
   LightScoreBox(show, 0);
   ResetGameBoard(show);
-  ResetGameSet(show);
 }
 
 void ReadySet(Show& show) {
@@ -78,6 +79,7 @@ void ShowReadyBoard(Show& show) {
 
 void StopShowing(Show& show) {
   MainForm& form = show.frmMain;
+  EndQuestionClip(show);
   for (Timer* timer : {&form.tmrAutoContinue, &form.tmr5QuestionTimer, &form.tmrBonus}) timer->Enabled = false;
   for (const Panel panel : {Panel::Question, Panel::QuestionPicture, Panel::Sound, Panel::Bonus})
     HidePanel(show, panel);
@@ -86,16 +88,15 @@ void StopShowing(Show& show) {
 }
 
 void btnSelectGame_Click(Show& show) {
-  ClearForNewSet(show);
-  ApplyPlayerLayout(show, show.state.Players);
-  BuildFSGrid(show, show.state.GridSize);
   show.consoleDialog = {"", "Game Sets(*.txt)|*.txt", show.state.SetsFolder};
   ShowOpen(show, show.consoleDialog);
   const std::string path = show.consoleDialog.FileName;
-  if (!path.empty() && LoadGameSet(show, path)) {
-    ReadySet(show);
-    PublishScores(show);
-  }
+  if (Trim(path).empty() || !LoadGameSet(show, path)) return;
+  ClearForNewSet(show);
+  ApplyPlayerLayout(show, show.state.Players);
+  BuildFSGrid(show, show.state.GridSize);
+  ReadySet(show);
+  PublishScores(show);
   ShowReadyBoard(show);
 }
 
@@ -107,10 +108,10 @@ void cboList_DropDown(Show& show) {
 void cboList_Click(Show& show) {
   const std::string name = show.frmMain.cboList.Text();
   if (name == kFirstListItem || name.empty()) return;
-  ClearForNewSet(show);
+  if (!LoadGameSet(show, show.AppPath("\\Trivia Sets\\" + name + ".txt"))) return;
   // A repair must not go to the file that was loaded before.
   show.consoleDialog.FileName.clear();
-  if (!LoadGameSet(show, show.AppPath("\\Trivia Sets\\" + name + ".txt"))) return;
+  ClearForNewSet(show);
   ResetPlayerNames(show);
   ReadySet(show);
   ShowReadyBoard(show);

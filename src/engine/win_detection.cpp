@@ -1,6 +1,8 @@
 #include "engine/win_detection.h"
 
 #include <cmath>
+#include <utility>
+#include <vector>
 
 #include "engine/lines.h"
 #include "engine/options.h"
@@ -19,12 +21,12 @@ namespace pawnfield {
 namespace {
 
 std::string FinalText(Show& show) {
-  std::array<Standing, 4> standings;
+  std::vector<Standing> standings;
   for (int player = 1; player <= show.state.Players; ++player) {
-    const std::size_t index = PlayerIndex(player);
-    standings[index] = {std::llround(ScoreOf(show, player)), show.frmMain.lblPlayer1[index].Caption};
+    const Label& name = show.frmMain.lblPlayer1[PlayerIndex(player)];
+    standings.push_back({std::llround(ScoreOf(show, player)), name.Caption});
   }
-  return WinnerText(standings, show.state.Players);
+  return WinnerText(std::move(standings));
 }
 
 }  // namespace
@@ -34,10 +36,11 @@ bool IsGameOver(const Show& show, LineMade lineMade) {
   return IsBoardFull(show.state.Board, show.state.GridSize);
 }
 
-void GameOver(Show& show) {
+void EndGame(Show& show) {
   MainForm& form = show.frmMain;
   form.tmrBGMusic.Enabled = false;
   StopBackground(show);
+  EndQuestionClip(show);
   show.state.GameInProgress = false;
   show.state.GameLoaded = false;
   form.btnEndGame.Enabled = false;
@@ -48,15 +51,40 @@ void GameOver(Show& show) {
   form.btnQuestionCorrect.Visible = false;
   form.btnQuestionIncorrect.Visible = false;
   SetCursorOnBoth(show, 0);
+  form.btnUndo.Enabled = false;
+  form.btnContinue.Enabled = false;
+  form.btnNextPlayer.Enabled = false;
+  for (Timer* timer : {&form.tmrAutoContinue, &form.tmr5QuestionTimer, &form.tmrBonus}) timer->Enabled = false;
+  HidePanel(show, Panel::Bonus);
+  show.state.PlacementOpen = false;
+  show.WinnerDue = true;
+}
+
+void ShowWinner(Show& show) {
+  MainForm& form = show.frmMain;
+  show.WinnerDue = false;
   const std::string text = FinalText(show);
   SetWinner(show, text, form.lblWinner);
   if (show.state.DualScreen) SetWinner(show, text, show.frmFSMain.lblWinner);
   ShowPanel(show, Panel::Winner);
-  if (show.state.Animation) form.tmrAnimate[1].Enabled = true;
-  form.btnUndo.Enabled = false;
-  form.btnContinue.Enabled = false;
-  form.btnNextPlayer.Enabled = false;
-  form.tmrWinner.Enabled = true;
+  if (show.state.Animation) BlinkAnew(show, 1);
+  form.tmrWinner.Restart();
+}
+
+void GameOver(Show& show) {
+  EndGame(show);
+  ShowWinner(show);
+}
+
+void BlinkAnew(Show& show, std::size_t index) {
+  show.AnimateCount[index] = 0;
+  (index == 1 ? show.frmMain.lblWinner : show.frmMain.lblRightWrong).Visible = true;
+  if (show.state.DualScreen) (index == 1 ? show.frmFSMain.lblWinner : show.frmFSMain.lblRightWrong).Visible = true;
+  show.frmMain.tmrAnimate[index].Restart();
+}
+
+void EndWinner(Show& show) {
+  if (show.WinnerDue || show.frmMain.tmrWinner.Enabled) tmrWinner_Timer(show);
 }
 
 void tmrWinner_Timer(Show& show) {

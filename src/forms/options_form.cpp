@@ -32,7 +32,7 @@ OptionsForm::OptionsForm() : Form("frmOptions") {
   }
   btnBGMusic.Caption = "Background Music";
   lblBackgroundMusic.Caption = "BG Music Filename";
-  lblRelaunch.Caption = "Requires program restart.";
+  lblRelaunch.Caption = "Begins with the next track or game.";
   Label4.Caption = "Media On Demand Pictures Time Hold";
   Label21.Caption = "Seconds";
   for (int seconds = kShortestHold; seconds <= kLongestHold; ++seconds) {

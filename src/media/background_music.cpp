@@ -76,8 +76,18 @@ void StartMusic(Show& show) {
   RestartBackground(show);
 }
 
+void BringMusicBack(Show& show) {
+  if (show.state.MusicEnabled) show.frmMain.tmrBGMusic.Enabled = true;
+  ResumeBackground(show);
+}
+
 void tmrBGMusic_Timer(Show& show) {
   if (!show.state.MusicEnabled) return;
+  if (show.state.MusicWaits) {
+    const MediaChannel& clip = show.platform.media.SoundClipPlayer;
+    if (clip.CurrentPosition() == clip.Duration()) ResumeBackground(show);
+    return;
+  }
   const MediaChannel& player = show.platform.media.BackgroundPlayer;
   // Equal at the end of a track, and when nothing has been played yet.
   if (player.CurrentPosition() != player.Duration()) return;

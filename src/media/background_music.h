@@ -1,5 +1,5 @@
 // Music under the game on the background channel: the tracks of the music folder in turn, or one file over and over.
-// The timer tmrBGMusic sees once a second whether a track has ended.
+// The timer tmrBGMusic sees once a second whether a track has ended, or a question's clip for which the music waits.
 #pragma once
 
 namespace pawnfield {
@@ -16,6 +16,8 @@ bool LoadMusicList(Show& show);
 void DecideOnMusic(Show& show);
 // When a set has been chosen: the music begins, or its track begins anew.
 void StartMusic(Show& show);
+// When a game starts: music that a game's end stopped, or a clip paused, goes on; what plays is left alone.
+void BringMusicBack(Show& show);
 void tmrBGMusic_Timer(Show& show);
 
 }  // namespace pawnfield

@@ -1,5 +1,7 @@
 #include "media/sound_channels.h"
 
+#include <utility>
+
 #include "forms/main_form.h"
 #include "show/settings.h"
 #include "show/show.h"
@@ -24,7 +26,7 @@ void LoadVolume(Show& show, const std::string& key, int& volume, MediaChannel& c
 }
 
 void btnStopSounds_Click(Show& show) {
-  StopSoundClip(show);
+  EndQuestionClip(show);
   StopEvent(show);
   StopKeyPress(show);
 }
@@ -51,9 +53,38 @@ void StopSoundClip(Show& show) { show.platform.media.SoundClipPlayer.Stop(); }
 
 void RestartBackground(Show& show) { show.platform.media.BackgroundPlayer.SetPosition(0); }
 
-void StopBackground(Show& show) { show.platform.media.BackgroundPlayer.Stop(); }
+void StopBackground(Show& show) {
+  show.state.MusicWaits = false;
+  show.platform.media.BackgroundPlayer.Stop();
+}
 
 void PauseBackground(Show& show) { show.platform.media.BackgroundPlayer.Pause(); }
+
+void PlayQuestionClip(Show& show, const std::string& path) {
+  if (show.state.MusicEnabled) {
+    PauseBackground(show);
+    show.state.MusicWaits = true;
+  }
+  PlaySoundClip(show, path);
+}
+
+void EndQuestionClip(Show& show) {
+  StopSoundClip(show);
+  ResumeBackground(show);
+}
+
+void ResumeBackground(Show& show) {
+  if (!std::exchange(show.state.MusicWaits, false)) return;
+  MediaChannel& music = show.platform.media.BackgroundPlayer;
+  // What is not in the middle of a track has the next one begun by the music's timer.
+  if (music.CurrentPosition() != music.Duration()) music.Play();
+}
+
+void PlayPawn(Show& show) {
+  const std::string path = show.AppPath("\\Sound Effects\\Pawn.Wav");
+  const bool afterVerdict = show.state.Nature().Trivia && !show.state.Animation;
+  afterVerdict ? PlayCorrectIncorrect(show, path) : PlayEvent(show, path);
+}
 
 void LoadVolumes(Show& show) {
   GameState& state = show.state;
@@ -67,8 +98,8 @@ void LoadVolumes(Show& show) {
 
 void BindSoundChannels(Show& show) {
   MainForm& form = show.frmMain;
-  form.btnPlay.OnClick = [&show] { PlaySoundClip(show, show.frmMain.lblQuestion[0].Caption); };
-  form.btnStop.OnClick = [&show] { StopSoundClip(show); };
+  form.btnPlay.OnClick = [&show] { PlayQuestionClip(show, show.frmMain.lblQuestion[0].Caption); };
+  form.btnStop.OnClick = [&show] { EndQuestionClip(show); };
   form.btnStopSounds.OnClick = [&show] { btnStopSounds_Click(show); };
   for (std::size_t i = 0; i < form.optSoundBank.Size(); ++i) {
     form.optSoundBank[i].OnClick = [&show, i] { optSoundBank_Click(show, i); };

@@ -198,6 +198,11 @@ void Timer::Fire() {
   if (Enabled) Raise(OnTimer, "_Timer");
 }
 
+void Timer::Restart() {
+  Enabled = false;
+  Enabled = true;
+}
+
 SquareGrid::SquareGrid(Form& form) {
   for (std::size_t i = 0; i < squares_.size(); ++i) {
     squares_[i] = std::make_unique<Image>(form, "img" + std::to_string(i / 6) + std::to_string(i % 6));

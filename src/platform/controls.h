@@ -374,6 +374,8 @@ class Timer : public Control {
   Timer(Form& form, std::string name, int interval, bool enabled = false);
   // Called by the clock when the timer is due.
   void Fire();
+  // Enabled with its whole interval before it, also when it runs already.
+  void Restart();
   Property<int> Interval{*this, PropertyId::Interval, 0};
   std::function<void()> OnTimer;
 };

@@ -16,8 +16,6 @@ namespace pawnfield {
 
 namespace {
 
-constexpr double kNoticeSize = 60;
-
 void CopyBoard(Show& show) {
   BuildFSGrid(show, show.state.GridSize);
   for (int r = 0; r < 6; ++r) {
@@ -53,19 +51,13 @@ void CopyHeader(Show& show) {
   audience.lblDJCommand.Caption = console.txtDJCommand.Text.Get();
 }
 
-// A text without an outline is the notice, which the audience sees in a size of its own.
 void CopyQuestion(Show& show) {
   MainForm& console = show.frmMain;
   FSMainForm& audience = show.frmFSMain;
   const Label& source = console.lblQuestion[0];
-  const bool notice = !console.lblQuestion[1].Visible;
   audience.imgQuestionBackground.Picture = console.imgQuestionBackground.Picture;
   audience.lblQuestion[0].Font = source.Font;
   SetQuestion(show, source.Caption, audience.lblQuestion);
-  if (!notice) return;
-  const Font& font = source.Font.Get();
-  audience.lblQuestion[0].Font = {font.Name, kNoticeSize, font.Bold, font.Italic};
-  for (std::size_t i = 1; i < 5; ++i) audience.lblQuestion[i].Visible = false;
 }
 
 // A picture that has gone from the disk since it was shown leaves its panel empty.

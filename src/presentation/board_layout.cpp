@@ -159,6 +159,7 @@ void ResetGameBoard(Show& show) {
   form.tmrAnswer.Enabled = false;
   show.FlashCount = 0;
   state.FlipPlayer = 0;
+  show.WinnerDue = false;
   ResetScores(show);
   ResetPlayerNames(show);
   LightScoreBox(show, 0);
@@ -202,6 +203,7 @@ void ForgetClaimedSquare(Show& show) {
   StopTurning(show.flip, show.frmMain.tmrFlipPlayerPiece);
   StopTurning(show.fsFlip, show.frmFSMain.tmrFSFlipPlayerPiece);
   show.state.LastSquareKey.clear();
+  show.FlashSquares.clear();
   // The next flash begins with the lit face again.
   show.FlashToggle = false;
 }

@@ -98,6 +98,12 @@ void ShowGameType(Show& show) {
   form.lblAutoContinuePrompt.Enabled = type.Offer.AutoContinue;
   form.chkHideQuestion.Enabled = type.Offer.HideQuestion;
   form.lblHidequestionOption.Enabled = type.Offer.HideQuestion;
+  form.btnEnableAllBuzzers.Enabled = type.RingIn;
+  for (Control* option :
+       {static_cast<Control*>(&form.chkAnimation), static_cast<Control*>(&form.lblShowAnimation),
+        static_cast<Control*>(&form.chkIncorrectPenalty), static_cast<Control*>(&form.lblLose100Points)}) {
+    option->Enabled = type.Trivia;
+  }
   form.lblSelectPlayer.Visible = type.RingIn;
   form.btnNextPlayer.Visible = type.Offer.NextPlayer;
   for (int player = 1; player <= kPlayers; ++player) {
@@ -217,11 +223,6 @@ void ShowIdleBoard(Show& show) {
   state.GameInProgress = false;
   form.btnReset.Enabled = false;
   form.btnEndGame.Enabled = false;
-  if (type.Trivia) return;
-  for (Control* option : {static_cast<Control*>(&form.chkAnimation), static_cast<Control*>(&form.chkHideQuestion),
-                          static_cast<Control*>(&form.chkIncorrectPenalty)}) {
-    option->Enabled = false;
-  }
 }
 
 // All six are tried before the first that is missing is told.

@@ -99,16 +99,18 @@ void ResetGameSet(Show& show) {
 }
 
 bool LoadGameSet(Show& show, const std::string& path) {
-  ResetGameSet(show);
   if (Trim(path).empty()) {
+    ResetGameSet(show);
     show.NumGameQuestions = 0;
     show.frmMain.tmrOptionalHeaders.Enabled = true;
     return false;
   }
-  show.frmMain.tmrOptionalHeaders.Enabled = false;
-  show.state.LoadedSetPath = path;
   try {
-    Fill(show, path, show.platform.files.Read(path));
+    const std::string bytes = show.platform.files.Read(path);
+    show.frmMain.tmrOptionalHeaders.Enabled = false;
+    ResetGameSet(show);
+    show.state.LoadedSetPath = path;
+    Fill(show, path, bytes);
     return true;
   } catch (const RuntimeError& error) {
     if (error.Number() != kDialogCancelled) {

@@ -26,7 +26,8 @@ void CompactSet(TriviaSet& set);
 TriviaQuestion& RecordAt(TriviaSet& set, int number);
 
 void ResetGameSet(Show& show);
-// Fills GameSet. False when the path is blank or the file can't be read, which is reported.
+// Fills GameSet. False for a blank path, which empties it, and for a file that can't be read: that is reported, and
+// the set stays as it was.
 bool LoadGameSet(Show& show, const std::string& path);
 // Adds "Select Game Set" and the names of the sets folder to cboList and selects the first item.
 void FillSetList(Show& show);

@@ -93,6 +93,10 @@ struct Show {
   Flip flip, fsFlip;
   SquareEntry entry;
   bool FlashToggle = false;
+  // What flashes: the claimed square and the lines that it completed. Empty once the board was cleared under it.
+  std::vector<BoardSquare> FlashSquares;
+  // The game has ended with a claim, and its winner waits for the flash and a bonus.
+  bool WinnerDue = false;
   int FlashCount = 0;
   std::array<int, 2> AnimateCount{};
   PressState presses;

@@ -22,7 +22,7 @@ class Options : public GamePlayer, public testing::Test {
 };
 
 TEST_F(Options, OkAppliesAndClosesApplyOnlyAppliesAndCancelKeepsTheRest) {
-  const std::string applied = "3,1 hold 20 full companion music 2 off song";
+  const std::string applied = "3,1 hold 20 full companion music 2 on song";
   // The companion's switch and the file's name are taken at once.
   const std::string cancelled = "1,20 hold 5 - companion music 0 off song";
   for (const auto& [end, wanted] :
@@ -66,11 +66,11 @@ TEST_F(Options, DialogOpensWithWhatRunsNowAndDefaultsPutEachBuzzerBack) {
 
 TEST_F(Options, MusicModesTakeWhatIsThereToPlay) {
   const std::string track = sim.platform.folders.DataRoot + "\\BackgroundMusic\\a.mp3";
-  // A file chosen anew needs a restart; the folder's mode stays though it be empty.
+  // The folder's mode stays though it be empty.
   const std::tuple<const char*, bool, bool, std::string> cases[] = {{"0", true, true, "0 off song"},
                                                                     {"1", true, true, "1 on song"},
                                                                     {"1", false, true, "1 off song"},
-                                                                    {"2", false, true, "2 off song"},
+                                                                    {"2", false, true, "2 on song"},
                                                                     {"2", false, false, "0 off"}};
   for (const auto& [option, folderHasMusic, fileExists, music] : cases) {
     fileExists ? sim.files.Put(kSong, "music") : sim.files.Remove(kSong);

@@ -41,6 +41,12 @@ const Story kStates[] = {
      "00 optGameType(1) optGameType(3)@frmGameInProgress { btnCancel } optGameType(1)=1 optGameType(3)=0 "
      "board=100/000/000 scores=50/0/0 optGameType(3)@frmGameInProgress { btnReset } optGameType(3)=1 "
      "board=000/000/000 picStandby=up btnStart=off"},
+    {"TheGridStaysLockedInARunningGameWhateverWasClicked", "2 2 3 full",
+     "fraGridControl=off 00 optGameType(1) >4000 fraGridControl=off optGameType(3)@frmGameInProgress { btnCancel } "
+     ">4000 fraGridControl=off tmrArrowsTimer=off R >2000 fraGridControl=up"},
+    {"AGameStartedWhileTheWinnerStandsIsKept", "2 2 3 full",
+     "00 E picWinner'=up optGameType(1) picWinner'=- picStandby=up btnStart 11 >8000 scores=50/0/0 board=000/010/000 "
+     "picStandby=-"},
     {"TheTurnHasItsColourAndTheStatusTextSkipsTheStepFromThreeToOne", "2 3 3 full",
      "N N lblStatusBar=Player_3_Selected! lblP3Score.BackColor=255 lblP1Score.BackColor=65535 "
      "txtDJCommand.BackColor=65280 N turn=1 lblStatusBar=Player_3_Selected!"},
@@ -51,13 +57,21 @@ using ConsoleStates = StoryTest;
 TEST_P(ConsoleStates, AreAsTold) { Play(); }
 INSTANTIATE_TEST_SUITE_P(Stories, ConsoleStates, testing::ValuesIn(kStates), StoryTest::Name);
 
-TEST(Console, ClearsARunningGameForANewSetEvenWhenItsChoiceIsCancelled) {
+TEST(Console, ALoadThatIsCancelledOrRefusedLeavesTheGameAndItsQuestionAsTheyWere) {
   GamePlayer player("3 2 3 full m");
   ScriptedDialogs& dialogs = player.fixture().sim.dialogs;
+  const std::string before =
+      " scores=50/0/0 board=100/000/000 question=1 picQuestion'=up lblQuestion(0)=Question_2? btnQuestionCorrect=on "
+      "optGameType(0).Enabled=no picStandby'=-";
   dialogs.ExpectFile("");
-  player.Play("+ 00 btnSelectGame scores=0/0/0 board=000/000/000 btnStart=off");
+  player.Play("+ 00 C btnSelectGame" + before);
   EXPECT_EQ(dialogs.FileRequests().back().Filter, "Game Sets(*.txt)|*.txt");
   EXPECT_EQ(dialogs.FileRequests().back().InitialFolder, "C:\\Pawnfield\\Trivia Sets");
+  dialogs.ExpectFile("C:\\Pawnfield\\Trivia Sets\\Gone.txt");
+  player.Play("?Procedure:_LoadGameSet btnSelectGame" + before);
+  player.fixture().sim.files.Remove("C:\\Pawnfield\\Trivia Sets\\Long.txt");
+  player.Play("?Procedure:_LoadGameSet cboList:1" + before + " + optGameType(0).Enabled=yes 11 scores=50/50/0");
+  player.fixture().WriteNumberedSet("Long", 30);
   dialogs.ExpectFile("C:\\Pawnfield\\Trivia Sets\\Long.txt");
   player.Play("btnSelectGame btnStart=on picStandby'=-");
   EXPECT_EQ(player.show().NumGameQuestions, 30);

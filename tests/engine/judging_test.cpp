@@ -50,6 +50,12 @@ const Story kJudging[] = {
     {"AnAnimatedVerdictStandsFourAndAHalfSeconds", "3 2 3 full a",
      "+ verdict=Correct4swf.mp3 picCorrect=up lblRightWrong'=Correct! >200 lblRightWrong'=- "
      ">4299 picCorrect=up lblRightWrong=Correct! >1 picCorrect'=-"},
+    {"ASecondVerdictPictureStandsItsWholeTimeToo", "3 2 3 full a",
+     "- >3000 - >4499 picCorrect=up picCorrect'=up >1 picCorrect=- picCorrect'=-"},
+    {"UndoTakesTheScoreBackOnEveryDisplay", "1 2 3 full", "00 U lblP1Score=0 lblPlayer1Score=0 Label11(0)'=0"},
+    {"APawnLetsTheVerdictSoundOn", "3 2 3 full", "+ event=Correct.mp3 >450 00! event=Correct.mp3 verdict=Pawn.Wav"},
+    {"APawnLetsTheAnimatedVerdictSoundOn", "3 2 3 full a",
+     "+ verdict=Correct4swf.mp3 >450 00! verdict=Correct4swf.mp3 event=Pawn.Wav"},
     {"TheValueOfASquareAndALineChangesAtOnce", "2 2 3 full", "00 cbxScore(0):10 cbxScore(1):2 01 02 scores=270/0/0"},
 };
 

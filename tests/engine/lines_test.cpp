@@ -4,6 +4,8 @@
 
 #include <algorithm>
 #include <sstream>
+#include <utility>
+#include <vector>
 
 namespace pawnfield {
 namespace {
@@ -90,26 +92,25 @@ TEST(Lines, FullBoardCountsOnlyTheGrid) {
   EXPECT_TRUE(IsBoardFull(board, 3) && !IsBoardFull(board, 4));
 }
 
-TEST(WinnerText, NamesTheLeadersWithTheEmptyRecordsInTheOrder) {
+TEST(WinnerText, RanksAndNamesWhoPlayed) {
   const std::array names{" Ann ", "Bob", "Cid"};
   const std::pair<const char*, const char*> cases[] = {{"100 50", "Ann/Wins!"},
                                                        {"50 100", "Bob/Wins!"},
                                                        {"100 100", "Ann and /Bob/Tie!"},
-                                                       {"0 0", "Ann and /Bob and //Tie!"},
-                                                       {"-50 -100", " and //Tie!"},
+                                                       {"0 0", "Ann and /Bob/Tie!"},
+                                                       {"-50 -100", "Ann/Wins!"},
                                                        {"-50 20", "Bob/Wins!"},
                                                        {"10 30 20", "Bob/Wins!"},
                                                        {"10 30 30", "Bob and /Cid/Tie!"},
                                                        {"40 40 40", "Ann and /Bob and /Cid/Tie!"},
-                                                       {"-10 -10 -10", "/Wins!"},
-                                                       {"0 0 -10", "Ann and /Bob and //Tie!"},
+                                                       {"-10 -10 -10", "Ann and /Bob and /Cid/Tie!"},
+                                                       {"0 0 -10", "Ann and /Bob/Tie!"},
                                                        {"70000 40000 -40000", "Ann/Wins!"}};
   for (const auto& [scores, winner] : cases) {
-    std::array<Standing, 4> standings;
-    std::size_t players = 0;
+    std::vector<Standing> standings;
     std::istringstream in(scores);
-    for (long long score = 0; in >> score; ++players) standings[players] = {score, names.at(players)};
-    std::string text = WinnerText(standings, static_cast<int>(players));
+    for (long long score = 0; in >> score;) standings.push_back({score, names.at(standings.size())});
+    std::string text = WinnerText(std::move(standings));
     text.erase(std::remove(text.begin(), text.end(), '\r'), text.end());
     std::replace(text.begin(), text.end(), '\n', '/');
     EXPECT_EQ(text, "Game Over!/" + std::string(winner)) << scores;

@@ -16,8 +16,10 @@ const Story kGames[] = {
     {"ChallengeA_ThreePlayersUndoAndTie", "1 3 5 full",
      "22 33 U 44 00 E scores=50/50/50 board=30000/00000/00100/00000/00002 "
      "winner=Game_Over!/PLAYER_1_and_/PLAYER_2_and_/PLAYER_3/Tie!"},
-    {"ChallengeA_TwoPlayersAtZeroTieWithAnEmptyThird", "1 2 3 row 0",
-     "11 E scores=0/0/0 board=000/010/000 winner=Game_Over!/PLAYER_1_and_/PLAYER_2_and_//Tie!"},
+    {"ChallengeA_TwoPlayersAtZeroTie", "1 2 3 row 0",
+     "11 E scores=0/0/0 board=000/010/000 winner=Game_Over!/PLAYER_1_and_/PLAYER_2/Tie!"},
+    {"ChallengeA_TheLesserLossWins", "1 2 3 row 0",
+     "11 d13 d24 d24 d24 d24 d24 E scores=-100/-50/0 board=000/010/000 winner=Game_Over!/PLAYER_2/Wins!"},
     {"ChallengeB_FullBoardOf4x4", "2 3 4 full",
      "00 01 02 03 N 10 11 12 13 N 20 21 22 23 N 30 31 32 33 scores=600/300/300 board=1111/2222/3333/1111 "
      "winner=Game_Over!/PLAYER_1/Wins!"},
@@ -35,6 +37,7 @@ const Story kGames[] = {
      "+ 00 C + 01 > C - > + 12 C - + 02 scores=200/50/0 board=1110/0020/0000/0000 winner=Game_Over!/PLAYER_1/Wins!"},
     {"TriviaC_BonusOf300AndTheWrongRingInOpensAgain", "5 3 4 row",
      "r3 + 03 > r1 - r3 + 21 > r2 + 00 > r3 + 10 > r3 + 11 > r3 + 12 scores=0/50/500 board=2003/3330/0300/0000 "
+     "picBonus=up > "
      "winner=Game_Over!/PLAYER_3/Wins!"},
     {"TriviaC_UndoFreesTheSquareForTheNext", "5 2 5 full p",
      "r2 + 00 U > r2 - r1 + 00 E scores=50/-100/0 board=10000/00000/00000/00000/00000 "

@@ -1,5 +1,6 @@
 #include "media/background_music.h"
 
+#include "forms/options_form.h"
 #include "media/sound_channels.h"
 #include "support/show_fixture.h"
 
@@ -94,6 +95,72 @@ TEST_F(Music, ASoundQuestionPausesItAndTheEndOfTheGameStopsItUntilTheNextSet) {
   EXPECT_EQ(Heard(30), "");
   EXPECT_FALSE(music.Playing);
   ChooseSet("Mixed");
+  EXPECT_EQ(Heard(2), "a.mp3 ");
+}
+
+TEST_F(Music, AClipEndsWithItsQuestionAndTheMusicGoesOn) {
+  sim.files.Put("C:\\clip.wav", "sound");
+  WriteSet("Mixed", {"First?", "C:\\clip.wav", "Last?"});
+  Begin("1", {"a.mp3"});
+  const RecordedChannel& music = sim.media.BackgroundPlayer;
+  const RecordedChannel& clip = sim.media.SoundClipPlayer;
+  for (Button* end : {&form().btnQuestionIncorrect, &form().btnSkipQuestion, &form().btnReset, &form().btnEndGame}) {
+    sim.clock.Advance(8000);
+    form().optGameType[2].Click();
+    ChooseSet("Mixed");
+    form().btnStart.Click();
+    form().btnQuestionCorrect.Click();
+    Claim(0, 0);
+    sim.clock.Advance(4500);
+    EXPECT_TRUE(clip.Playing && music.Paused) << end->Name();
+    end->Click();
+    EXPECT_FALSE(clip.Playing || music.Paused) << end->Name();
+    EXPECT_EQ(music.Playing, end != &form().btnEndGame) << "the game's end has the music end too";
+    if (form().btnReset.Enabled) form().btnReset.Click();
+  }
+}
+
+TEST_F(Music, AClipThatEndsByItselfLetsTheMusicGoOnAndPlayAgainPausesItAgain) {
+  sim.files.Put("C:\\clip.wav", "sound");
+  sim.media.Deck.Durations["C:\\clip.wav"] = 5;
+  WriteSet("Mixed", {"C:\\clip.wav", "Next?"});
+  Begin("1", {"a.mp3"});
+  form().optGameType[2].Click();
+  ChooseSet("Mixed");
+  form().btnStart.Click();
+  const RecordedChannel& music = sim.media.BackgroundPlayer;
+  sim.clock.Advance(4000);
+  EXPECT_TRUE(music.Paused);
+  sim.clock.Advance(2000);
+  EXPECT_TRUE(music.Playing && !music.Paused);
+  form().btnPlay.Click();
+  EXPECT_TRUE(music.Paused);
+  form().btnStopSounds.Click();
+  EXPECT_FALSE(music.Paused);
+}
+
+TEST_F(Music, EachStartOfAGameBringsBackWhatTheLastGamesEndStopped) {
+  Begin("1", {"a.mp3"});
+  form().optGameType[1].Click();
+  form().btnStart.Click();
+  Claim(0, 0);
+  sim.clock.Advance(2000);
+  form().btnEndGame.Click();
+  EXPECT_EQ(Heard(10), "");
+  form().btnStart.Click();
+  EXPECT_EQ(Heard(2), "a.mp3 ");
+}
+
+TEST_F(Music, MusicChosenInTheOptionsWaitsForAGame) {
+  Begin("0", {"a.mp3"});
+  form().optGameType[1].Click();
+  sim.dialogs.ExpectForm("frmOptions", [&] {
+    show().frmOptions.optBackgroundMusic[1].Click();
+    show().frmOptions.btnOK.Click();
+  });
+  form().mnuFileOptions.Click();
+  EXPECT_EQ(Heard(30), "") << "nobody has started a game";
+  form().btnStart.Click();
   EXPECT_EQ(Heard(2), "a.mp3 ");
 }
 

@@ -287,11 +287,10 @@ void MonkeyShow::Perform(const Action& action) {
 
 std::string MonkeyShow::Do(const Action& action) {
   dialogs_.Reseed(action.Seed);
-  invariants_.Before(show_);
   Perform(action);
   const auto errors = dialogs_.TakeErrors();
   if (!errors.empty()) return "unexpected error box: " + errors.front();
-  return invariants_.Check(show_);
+  return BrokenInvariant(show_);
 }
 
 }  // namespace pawnfield

@@ -73,7 +73,6 @@ class MonkeyShow {
   MonkeyDialogs dialogs_;
   SimPlatform sim_;
   Show show_;
-  Invariants invariants_;
 };
 
 }  // namespace pawnfield

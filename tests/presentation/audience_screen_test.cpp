@@ -103,12 +103,12 @@ TEST_P(PluggedIn, ShowsWhatItWouldHaveShownFromTheStart) {
 
 INSTANTIATE_TEST_SUITE_P(Moments, PluggedIn, testing::ValuesIn(kMoments), StoryTest::Name);
 
-TEST(AudienceScreen, HasTheNoticeInASizeOfItsOwnWheneverItComes) {
+TEST(AudienceScreen, HasTheNoticeInItsOwnFitWheneverItComes) {
   for (const Screens screens : {Screens::One, Screens::Two}) {
     GamePlayer player("4 2 4 full m7", screens);
     player.Play("+ 00 C + 01");
     player.fixture().sim.displays.Change(kTwo);
-    player.Play("lblQuestion(0).Font'=60");
+    player.Play("lblQuestion(0)'=5_Questions_Left! lblQuestion(0).Font=69 lblQuestion(0).Font'=120");
   }
 }
 

@@ -165,6 +165,25 @@ TEST(Exit, OnlyYesEndsTheProgramAndSavesTheSettings) {
   }
 }
 
+TEST(StartUp, OffersTheOptionsOfTheTypeThatWasLastPlayed) {
+  const char* const trivia =
+      "chkAnimation.Enabled=yes lblShowAnimation.Enabled=yes chkIncorrectPenalty.Enabled=yes "
+      "lblLose100Points.Enabled=yes btnEnableAllBuzzers.Enabled=";
+  const std::string challenge =
+      "chkAnimation.Enabled=no lblShowAnimation.Enabled=no chkIncorrectPenalty.Enabled=no lblLose100Points.Enabled=no "
+      "chkHideQuestion.Enabled=no btnEnableAllBuzzers.Enabled=no";
+  for (const auto& [type, offered] : {std::pair<std::string, std::string>{"1", challenge},
+                                      {"2", challenge},
+                                      {"3", std::string(trivia) + "no"},
+                                      {"4", std::string(trivia) + "no"},
+                                      {"5", std::string(trivia) + "yes"}}) {
+    ShowFixture fixture;
+    fixture.Preset("GameType", type);
+    fixture.Start();
+    ExpectSeen(fixture.show(), offered, " a start in type " + type);
+  }
+}
+
 TEST(Exit, WhatWasChosenComesBackAtTheNextStart) {
   const char* const chosen =
       "optGameType(3)=1 optPlayers(0)=1 optGridControl(1)=1 optGameEnds(0)=1 cboAutoContinue=User_Advances "

@@ -56,7 +56,6 @@ class GamePlayer {
   // The form that steps go to.
   Form* shown_ = &fixture_.form();
   bool wired_ = false;
-  bool scoresAlike_ = true;
   std::string played_;
 };
 

@@ -74,7 +74,6 @@ void WindowMonkey::Tick() {
   if (!up_ && !modalBefore && depth_ == 0 && program_.Console().isVisible()) {
     up_ = true;
     world_.Join(show_);
-    invariants_.Before(show_);
     heart_.TakeLongest();
   }
   if (up_ && left_ <= 0) {
@@ -184,7 +183,7 @@ QString WindowMonkey::AudienceInTheWay() {
 }
 
 QString WindowMonkey::WhatIsBroken() {
-  const std::string fault = invariants_.Check(show_);
+  const std::string fault = BrokenInvariant(show_);
   if (!fault.empty()) return FromWindows1252(fault);
   const qint64 silence = heart_.TakeLongest();
   if (silence > kSilenceMs) return QString("the message loop was silent for %1 ms").arg(silence);
@@ -211,8 +210,6 @@ void WindowMonkey::Check() {
   CountProgress();
   const QString fault = WhatIsBroken();
   if (!fault.isEmpty()) Fail(fault);
-  // From here on, so that what timers do until the next action is seen too.
-  invariants_.Before(show_);
 }
 
 }  // namespace pawnfield

@@ -55,7 +55,6 @@ class WindowMonkey : public QObject {
   Chance& chance_;
   QFile& log_;
   RandomHand hand_;
-  Invariants invariants_;
   Heartbeat heart_;
   QElapsedTimer sinceMonitors_;
   std::deque<QString> last_;
