@@ -1,6 +1,7 @@
 #include "media/background_music.h"
 
 #include "forms/main_form.h"
+#include "media/media_kinds.h"
 #include "media/sound_channels.h"
 #include "platform/errors.h"
 #include "platform/text.h"
@@ -12,13 +13,6 @@ namespace {
 
 constexpr std::size_t kMostTracks = 100;
 constexpr std::size_t kLongestPath = 256;
-constexpr std::size_t kExtensionLength = 4;
-
-bool IsTrack(const std::string& name) {
-  if (name.size() < kExtensionLength) return false;
-  const std::string extension = ToLower(name.substr(name.size() - kExtensionLength));
-  return extension == ".wav" || extension == ".mp3";
-}
 
 bool MusicFileIsThere(const Show& show) {
   const std::string& path = show.state.BgMusicFileName;
@@ -45,7 +39,7 @@ bool LoadMusicList(Show& show) {
   std::vector<std::string>& list = show.state.MusicList;
   list.clear();
   for (const std::string& name : show.platform.files.List(folder, "")) {
-    if (!IsTrack(name)) continue;
+    if (!IsMusicTrack(name)) continue;
     if (list.size() == kMostTracks) {
       ReportError(show.platform.dialogs, SubscriptError(), "frmMain", "LoadMusicList", folder);
       break;

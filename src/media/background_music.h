@@ -10,7 +10,7 @@ inline constexpr int kMusicFolderMode = 1;
 inline constexpr int kMusicFileMode = 2;
 
 // Lists the folder's .wav and .mp3 files; true when there is at least one. Of more than 100 the first 100 are kept and
-// the rest is told once.
+// the rest is reported once.
 bool LoadMusicList(Show& show);
 // By the mode that the settings name; a mode with nothing to play becomes 0.
 void DecideOnMusic(Show& show);

@@ -5,6 +5,7 @@
 
 #include "forms/main_form.h"
 #include "forms/sound_effects_form.h"
+#include "media/media_kinds.h"
 #include "media/sound_channels.h"
 #include "media/sound_table.h"
 #include "platform/errors.h"
@@ -20,18 +21,6 @@ constexpr int kEnter = 13;
 constexpr int kErrorPastEnd = 62;
 constexpr int kFirstKeyGridRow = 8;
 constexpr const char* kDataFilter = "Data(*.dat)|*.dat";
-constexpr const char* kMediaFilter =
-    "All Media Types|*.wav;*.mp3;*.wma;*.bmp;*.jpg;*.avi;*.mpg;"
-    "*.mpeg;*.mov;*.mp4;*.3gp|"
-    "BMP Files (*.bmp)|*.bmp|"
-    "JPG Files (*.jpg)|*.jpg|"
-    "AVI Files (*.avi)|*.avi|"
-    "MPEG Files (*.mpg;*.mpeg)|*.mpg;*.mpeg|"
-    "MPEG-4 Files (*.mp4)|*.mp4|"
-    "WAV Files (*.wav)|*.wav|"
-    "MP3 Files (*.mp3)|*.mp3|"
-    "WMA Files (*.wma)|*.wma|"
-    "All Files (*.*)|*.*|";
 constexpr std::array kRowLabels{"Buzzer 1",  "Buzzer 2",        "Buzzer 3",       "Correct",
                                 "Incorrect", "Congratulations", "Question Reveal"};
 
@@ -124,7 +113,7 @@ void Grid1_DblClick(Show& show) {
   SoundEffectsForm& form = show.frmSoundEffects;
   FileDialogRequest request;
   request.Title = "Open";
-  request.Filter = kMediaFilter;
+  request.Filter = AllMediaFilter();
   request.InitialFolder = form.LastFolder.empty() ? show.AppPath("\\Sound Effects") : form.LastFolder;
   const std::string path = show.platform.dialogs.ChooseFile(request);
   if (Trim(path).empty()) return;

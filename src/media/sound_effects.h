@@ -14,7 +14,7 @@ int SoundRowOfGrid(int gridRow);
 void btnSounds_Click(Show& show);
 // Asks for a file for the selected cell.
 void Grid1_DblClick(Show& show);
-// Gives the selected cell that file; what is no file is told and changes nothing.
+// Gives the selected cell that file; what is no file is reported and changes nothing.
 void Grid1_DropFile(Show& show, const std::string& path);
 // Plays the selected cell's entry while the preview is on.
 void Grid1_Click(Show& show);

@@ -5,6 +5,7 @@
 #include <optional>
 
 #include "forms/editor_form.h"
+#include "media/media_kinds.h"
 #include "media/sound_channels.h"
 #include "platform/text.h"
 #include "sets/editor.h"
@@ -59,7 +60,7 @@ void EnableFontButtons(EditorForm& form, bool enabled) {
 }  // namespace
 
 void btnPicture_Click(Show& show) {
-  const auto path = ChooseMedium(show, "Picture(*.bmp;*.jpg)|*.bmp;*.jpg");
+  const auto path = ChooseMedium(show, MediaFilter("Picture(*.bmp;*.jpg)", Medium::Picture, ";"));
   if (!path) return;
   EditorForm& form = show.frmEditor;
   StoreMedium(show, *path, "P");
@@ -72,7 +73,7 @@ void btnPicture_Click(Show& show) {
 }
 
 void btnSound_Click(Show& show) {
-  const auto path = ChooseMedium(show, "Audio(*.wav; *.mp3; *.wma)|*.wav; *.mp3; *.wma");
+  const auto path = ChooseMedium(show, MediaFilter("Audio(*.wav; *.mp3; *.wma)", Medium::Sound, "; "));
   if (!path) return;
   EditorForm& form = show.frmEditor;
   StoreMedium(show, *path, "S");

@@ -4,6 +4,7 @@
 
 #include "forms/main_form.h"
 #include "forms/missing_media_form.h"
+#include "media/media_kinds.h"
 #include "platform/errors.h"
 #include "platform/text.h"
 #include "sets/file_dialogs.h"
@@ -17,9 +18,9 @@ namespace {
 constexpr std::size_t kLastScanned = 99;
 // Where the scan goes on after a missing file, whatever record it stood at.
 constexpr std::size_t kScanReturn = 5;
-constexpr const char* kPictureFilter = "Picture Files(*bmp; *jpg)|*.bmp; *.jpg";
-constexpr const char* kRepairSoundFilter = "Picture Files(*wav; *mp3; *.wma)|*.wav; *.mp3; *.wma";
-constexpr const char* kNextSoundFilter = "Sound Files(*wav; *.mp3; *.wma)|*.wav; *.mp3; *.wma";
+constexpr const char* kPictureTitle = "Picture Files(*bmp; *jpg)";
+constexpr const char* kRepairSoundTitle = "Picture Files(*wav; *mp3; *.wma)";
+constexpr const char* kNextSoundTitle = "Sound Files(*wav; *.mp3; *.wma)";
 
 bool IsMedium(const TriviaQuestion& question) {
   const std::string type = Trim(question.QuestionType);
@@ -65,8 +66,8 @@ void btnRepair_Click(Show& show) {
   const std::string path = Trim(MissingRecord(show).QuestionText);
   PointDialogAt(form.cdSoundPicture, path);
   const QuestionKind kind = KindOfQuestion(path);
-  if (kind == QuestionKind::Sound) form.cdSoundPicture.Filter = kRepairSoundFilter;
-  if (kind == QuestionKind::Picture) form.cdSoundPicture.Filter = kPictureFilter;
+  if (kind == QuestionKind::Sound) form.cdSoundPicture.Filter = MediaFilter(kRepairSoundTitle, Medium::Sound, "; ");
+  if (kind == QuestionKind::Picture) form.cdSoundPicture.Filter = MediaFilter(kPictureTitle, Medium::Picture, "; ");
   ShowOpen(show, form.cdSoundPicture);
   TakeFile(show, Trim(form.cdSoundPicture.FileName));
   // After the search, which keeps Finished off for as long as it finds another one.
@@ -105,7 +106,8 @@ bool FindNextMissing(Show& show) {
     TriviaQuestion& question = show.GameSet[i];
     if (!IsMissing(show, question)) continue;
     const std::string path = Trim(question.QuestionText);
-    form.cdSoundPicture.Filter = Trim(question.QuestionType) == "P" ? kPictureFilter : kNextSoundFilter;
+    form.cdSoundPicture.Filter = Trim(question.QuestionType) == "P" ? MediaFilter(kPictureTitle, Medium::Picture, "; ")
+                                                                    : MediaFilter(kNextSoundTitle, Medium::Sound, "; ");
     PointDialogAt(form.cdSoundPicture, path);
     form.txtLocation.Text = path;
     form.btnFinished.Enabled = false;

@@ -3,6 +3,7 @@
 #include <limits>
 #include <optional>
 
+#include "media/media_kinds.h"
 #include "platform/line_reader.h"
 #include "platform/text.h"
 #include "sets/set_file.h"
@@ -142,12 +143,14 @@ void CompactSet(TriviaSet& set) {
 }
 
 QuestionKind KindOfQuestion(const std::string& questionText) {
-  const std::string text = Trim(questionText);
-  if (text.size() < 4) return QuestionKind::Text;
-  const std::string ending = ToLower(text.substr(text.size() - 4));
-  if (ending == ".bmp" || ending == ".jpg") return QuestionKind::Picture;
-  if (ending == ".wav" || ending == ".mp3" || ending == ".wma") return QuestionKind::Sound;
-  return QuestionKind::Text;
+  switch (MediaKind(questionText)) {
+    case Medium::Picture:
+      return QuestionKind::Picture;
+    case Medium::Sound:
+      return QuestionKind::Sound;
+    default:
+      return QuestionKind::Text;
+  }
 }
 
 }  // namespace pawnfield

@@ -62,8 +62,12 @@ TEST_F(SoundEffects, FilesAreChosenAndDroppedIntoTheirRows) {
   EXPECT_EQ(Entry(1, 34) + Entry(2, 9) + Entry(3, 7), std::string(kHorn) + kHorn);
   const auto& requests = sim.dialogs.FileRequests();
   EXPECT_EQ(requests[0].InitialFolder + " " + requests[1].InitialFolder, "C:\\Pawnfield\\Sound Effects D:\\clips\\");
-  EXPECT_TRUE(requests[0].Filter.starts_with(
-      "All Media Types|*.wav;*.mp3;*.wma;*.bmp;*.jpg;*.avi;*.mpg;*.mpeg;*.mov;*.mp4;*.3gp|BMP Files (*.bmp)|*.bmp|"));
+  EXPECT_EQ(
+      requests[0].Filter,
+      "All Media Types|*.wav;*.mp3;*.wma;*.bmp;*.jpg;*.avi;*.mpg;*.mpeg;*.mov;*.mp4;*.3gp|BMP Files (*.bmp)|*.bmp|"
+      "JPG Files (*.jpg)|*.jpg|AVI Files (*.avi)|*.avi|MPEG Files (*.mpg;*.mpeg)|*.mpg;*.mpeg|"
+      "MPEG-4 Files (*.mp4)|*.mp4|WAV Files (*.wav)|*.wav|MP3 Files (*.mp3)|*.mp3|WMA Files (*.wma)|*.wma|"
+      "All Files (*.*)|*.*|");
   EXPECT_EQ(sim.files.Read("C:\\Ostara Show Kit Data\\Sounds.dat"), FormatSoundTable(show().soundBanks));
 }
 
