@@ -97,9 +97,7 @@ void StartTrivia(Show& show) {
   }
   WarnOfShortSet(show);
   state.CurrentQuestion = 0;
-  const std::string first = Trim(show.GameSet[0].QuestionText);
-  form.lblQuestion[0].Caption = first;
-  if (state.DualScreen) show.frmFSMain.lblQuestion[0].Caption = first;
+  form.lblQuestion[0].Caption = Trim(show.GameSet[0].QuestionText);
   ShowQuestion(show, 0);
   form.btnContinue.Enabled = false;
   form.btnSkipQuestion.Enabled = true;
@@ -158,11 +156,6 @@ void ApplyPlayerLayout(Show& show, int players) {
     form.ScoreUp(3)[i].Visible = three;
     form.ScoreDown(3)[i].Visible = three;
   }
-  if (!show.state.DualScreen) return;
-  show.frmFSMain.picPlayer[2].Visible = three;
-  show.frmFSMain.ScoreBox(3).Visible = three;
-  show.frmFSMain.lblPlayer[2].Visible = three;
-  show.frmFSMain.Label11[2].Visible = three;
 }
 
 void optPlayers_Click(Show& show, int index) {

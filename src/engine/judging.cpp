@@ -35,20 +35,15 @@ constexpr Verdict kCorrectVerdict{kSoundCorrect, "\\Sound Effects\\Correct4swf.m
 constexpr Verdict kIncorrectVerdict{kSoundIncorrect, "\\Sound Effects\\Incorrect4swf.mp3", "Incorrect", kRed,
                                     "\\Images\\Incorrect.jpg"};
 
-void WriteVerdict(Label& words, Image& picture, const Verdict& verdict, const std::string& path) {
-  words.Caption = verdict.Words;
-  words.ForeColor = verdict.WordsColor;
-  picture.Picture = path;
-}
-
 void ShowVerdictPicture(Show& show, const Verdict& verdict) {
-  const std::string path = PicturePath(show, verdict.Picture);
+  MainForm& form = show.frmMain;
   PlayCorrectIncorrect(show, show.AppPath(verdict.Sting));
-  WriteVerdict(show.frmMain.lblRightWrong, show.frmMain.imgCorrect, verdict, path);
-  if (show.state.DualScreen) WriteVerdict(show.frmFSMain.lblRightWrong, show.frmFSMain.imgCorrect, verdict, path);
+  form.lblRightWrong.Caption = verdict.Words;
+  form.lblRightWrong.ForeColor = verdict.WordsColor;
+  form.imgCorrect.Picture = PicturePath(show, verdict.Picture);
   ShowPanel(show, Panel::Correct);
   BlinkAnew(show, 0);
-  show.frmMain.tmrCorrectSWF.Restart();
+  form.tmrCorrectSWF.Restart();
 }
 
 void AnnounceVerdict(Show& show, const Verdict& verdict) {

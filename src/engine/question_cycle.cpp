@@ -91,7 +91,6 @@ bool Advance(Show& show) {
   ++show.state.CurrentQuestion;
   const std::string text = Trim(RecordAt(show.GameSet, show.state.CurrentQuestion + 1).QuestionText);
   show.frmMain.lblQuestion[0].Caption = text;
-  if (show.state.DualScreen) show.frmFSMain.lblQuestion[0].Caption = text;
   ShowQuestion(show, show.state.CurrentQuestion);
   if (show.state.Nature().RingIn) ShowVerdictButtons(show, false, false);
   return true;

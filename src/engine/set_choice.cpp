@@ -46,12 +46,7 @@ void ReadySet(Show& show) {
   LightScoreBox(show, 1);
   SetConsoleCursor(show, 0);
   state.CurrentQuestion = 0;
-  if (state.DualScreen) {
-    show.frmFSMain.imgStandby.Picture = form.imgStandby.Picture;
-    show.frmFSMain.picStandby.Visible = false;
-    show.frmFSMain.picSound.Visible = false;
-    PlaceAudienceScreen(show);
-  }
+  if (state.DualScreen) PlaceAudienceScreen(show);
   form.btnUndo.Enabled = false;
   ScanSetForMissingMedia(show);
   EnableOptions(show);

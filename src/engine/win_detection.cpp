@@ -79,7 +79,6 @@ void GameOver(Show& show) {
 void BlinkAnew(Show& show, std::size_t index) {
   show.AnimateCount[index] = 0;
   (index == 1 ? show.frmMain.lblWinner : show.frmMain.lblRightWrong).Visible = true;
-  if (show.state.DualScreen) (index == 1 ? show.frmFSMain.lblWinner : show.frmFSMain.lblRightWrong).Visible = true;
   show.frmMain.tmrAnimate[index].Restart();
 }
 
@@ -116,9 +115,6 @@ void tmrAnimate_Timer(Show& show, int index) {
     count = 0;
     show.frmMain.tmrAnimate[static_cast<std::size_t>(index)].Enabled = false;
     label.Visible = true;
-  }
-  if (show.state.DualScreen) {
-    (winner ? show.frmFSMain.lblWinner : show.frmFSMain.lblRightWrong).Visible = label.Visible;
   }
 }
 

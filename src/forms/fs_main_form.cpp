@@ -70,6 +70,10 @@ FSMainForm::FSMainForm() : Form("frmFSMain") {
   lblRightWrong.Font = {"Segoe UI", 120, true, false};
   lblRightWrong.Height = 3600;
   lblWinner.Font = {"Segoe UI", 72, true, false};
+  // The sound comes once, from the console's player.
+  MediaPlayer1.uiMode = std::string("none");
+  MediaPlayer1.stretchToFit = true;
+  MediaPlayer1.Volume = 0;
   tmrAnimate[0].Interval = 200;
   for (PictureBox* panel : {&picQuestion, &picQuestionPicture, &picHideQuestion, &picCorrect, &picWinner, &picBonus,
                             &picMOD, &picMODVideo, &picSound}) {

@@ -23,18 +23,12 @@ struct MediaType {
 };
 
 constexpr MediaType kMediaTypes[] = {
-    {".wav", Medium::Sound, "WAV Files", true},
-    {".mp3", Medium::Sound, "MP3 Files", true},
-    {".wma", Medium::Sound, "WMA Files"},
-    {".bmp", Medium::Picture, "BMP Files"},
-    {".jpg", Medium::Picture, "JPG Files"},
-    {".avi", Medium::Video, "AVI Files"},
-    {".mpg", Medium::Video, "MPEG Files"},
-    {".mpeg", Medium::Video, "MPEG Files"},
-    {".mov", Medium::Video, kUntitled},
-    {".mp4", Medium::Video, "MPEG-4 Files"},
-    {".3gp", Medium::Video, kUntitled},
-    {".wmv", Medium::Video, kHidden},
+    {".wav", Medium::Sound, "WAV Files", true}, {".mp3", Medium::Sound, "MP3 Files", true},
+    {".wma", Medium::Sound, "WMA Files"},       {".bmp", Medium::Picture, "BMP Files"},
+    {".jpg", Medium::Picture, "JPG Files"},     {".avi", Medium::Video, "AVI Files"},
+    {".mpg", Medium::Video, "MPEG Files"},      {".mpeg", Medium::Video, "MPEG Files"},
+    {".mov", Medium::Video, kUntitled},         {".mp4", Medium::Video, "MPEG-4 Files"},
+    {".3gp", Medium::Video, kUntitled},         {".wmv", Medium::Video, kHidden},
 };
 
 // Null for an ending that is no medium's.

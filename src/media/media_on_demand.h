@@ -14,13 +14,13 @@ struct Show;
 // that isn't there and an unknown extension do nothing.
 void PlayKeyMedia(Show& show, int row);
 
-// Shows the picture on both screens for MODPictureTimer seconds. What goes wrong is told, and it returns true.
+// Shows the picture on both screens for MODPictureTimer seconds. What goes wrong is reported, and it returns true.
 bool ShowMODPic(Show& show, const std::string& path);
 // Fits the picture into picMODPicture. RuntimeError 53 or 481 when it can't be read.
 void MODImageResize(Show& show, const std::string& path);
 
-// Gives an audience screen that comes up in the middle what the console has up, a running video at the same frame.
-void BringMediaInStep(Show& show);
+// Fits the picture that is up into an audience screen that comes up in the middle; without the file the board stays.
+void FitMedia(Show& show);
 
 void tmrMODPicture_Timer(Show& show);
 void tmrVideoDelay_Timer(Show& show);

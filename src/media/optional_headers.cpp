@@ -214,18 +214,12 @@ void mnuFileExit_Click(Show& show) {
 void ShowBaseHeader(Show& show) {
   show.frmMain.txtOptionalHeading.Visible = false;
   show.frmMain.imgHeader.Visible = true;
-  if (!show.state.DualScreen) return;
-  show.frmFSMain.txtOptionalHeading.Visible = false;
-  show.frmFSMain.imgHeader.Visible = true;
 }
 
-void ShowHeading(const OptionalHeader& header, double scale, TextBox& heading, Image& base) {
-  ShowInBox(heading, header);
-  Font font = FontOf(header);
-  font.Size *= scale;
-  heading.Font = font;
-  heading.Visible = true;
-  base.Visible = false;
+void ShowHeading(Show& show, const OptionalHeader& header) {
+  ShowInBox(show.frmMain.txtOptionalHeading, header);
+  show.frmMain.txtOptionalHeading.Visible = true;
+  show.frmMain.imgHeader.Visible = false;
 }
 
 }  // namespace
@@ -283,9 +277,15 @@ void tmrOptionalHeaders_Timer(Show& show) {
       return;
     }
   }
-  const OptionalHeader& header = state.OptionalHeaders[static_cast<std::size_t>(state.OptionalHeaderIndex++)];
-  ShowHeading(header, 1, show.frmMain.txtOptionalHeading, show.frmMain.imgHeader);
-  if (state.DualScreen) ShowHeading(header, 2, show.frmFSMain.txtOptionalHeading, show.frmFSMain.imgHeader);
+  ShowHeading(show, state.OptionalHeaders[static_cast<std::size_t>(state.OptionalHeaderIndex++)]);
+  if (state.DualScreen) FitHeading(show);
+}
+
+void FitHeading(Show& show) {
+  constexpr double kAudienceScale = 2;
+  Font font = show.frmMain.txtOptionalHeading.Font;
+  font.Size *= kAudienceScale;
+  show.frmFSMain.txtOptionalHeading.Font = font;
 }
 
 void AttachOptionalHeadersHandlers(Show& show) {

@@ -15,6 +15,8 @@ void SaveToOSKD(Show& show);
 void ShowOptionalHeaders(Show& show);
 // The next header, or the base header, on both screens.
 void tmrOptionalHeaders_Timer(Show& show);
+// Gives the audience's heading the console's font, in a size of its own.
+void FitHeading(Show& show);
 
 void AttachOptionalHeadersHandlers(Show& show);
 

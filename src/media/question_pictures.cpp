@@ -34,13 +34,6 @@ void MoveTo(Image& image, const FittedPicture& place) {
   image.MoveTo(place.Left, place.Top, place.Width, place.Height);
 }
 
-void ShowPicOnAudience(Show& show, const std::string& path) {
-  FSMainForm& form = show.frmFSMain;
-  form.picImageResize[0].Picture = path;
-  FSImageResize(show, path);
-  form.picQuestionPicture.Visible = true;
-}
-
 void ReportPictureError(Show& show, const RuntimeError& error, const std::string& path) {
   std::string text = "File not found: " + path;
   if (error.Number() != kErrorFileNotFound) {
@@ -73,7 +66,7 @@ bool ShowPic(Show& show) {
     FitPicture(show, path);
     form.picImageResize[0].Picture = path;
     form.picQuestionPicture.Visible = true;
-    if (show.state.DualScreen) ShowPicOnAudience(show, path);
+    if (show.state.DualScreen) FSImageResize(show, path);
     return true;
   } catch (const RuntimeError& error) {
     ReportPictureError(show, error, path);
@@ -104,7 +97,6 @@ void RandomQuestionBackground(Show& show) {
   } catch (const RuntimeError&) {
     // The draw names a picture that isn't there or can't be read: the last background stays.
   }
-  if (show.state.DualScreen) show.frmFSMain.imgQuestionBackground.Picture = background.Picture;
 }
 
 }  // namespace pawnfield

@@ -1,5 +1,5 @@
-// Control models: the properties of a form's controls as plain values. Logic reads and writes these; a mirror (a
-// widget, a canvas or a clock) is told of each change. Setting a property to the value it has is silent.
+// Control models: the properties of a form's controls as plain values. Logic reads and writes these; each change is
+// announced to the control's observers (a widget, a canvas, a clock). Setting a property to the value it has is silent.
 #pragma once
 
 #include <array>
@@ -11,6 +11,8 @@
 #include <type_traits>
 #include <utility>
 #include <vector>
+
+#include "platform/observer.h"
 
 namespace pawnfield {
 
@@ -34,32 +36,6 @@ struct Font {
   bool operator==(const Font&) const = default;
 };
 
-enum class PropertyId {
-  Caption,
-  Visible,
-  Enabled,
-  Left,
-  Top,
-  Width,
-  Height,
-  ForeColor,
-  BackColor,
-  BackStyle,
-  Font,
-  Picture,
-  List,
-  ListIndex,
-  Value,
-  Text,
-  ToolTipText,
-  Interval,
-  MouseIcon,
-  WindowState,
-  ZOrder,
-  Focus,
-  Selection
-};
-
 enum class ControlKind {
   Form,
   Label,
@@ -79,13 +55,6 @@ enum class ControlKind {
   ListView
 };
 
-// Told of every change of a control that it is attached to.
-class Mirror {
- public:
-  virtual ~Mirror() = default;
-  virtual void Changed(Control& control, PropertyId id) = 0;
-};
-
 template <typename T>
 class Property {
  public:
@@ -95,6 +64,8 @@ class Property {
   operator const T&() const { return value_; }
   const T& Get() const { return value_; }
   const T* operator->() const { return &value_; }
+  Control& Owner() const { return owner_; }
+  PropertyId Id() const { return id_; }
   Property& operator=(const T& value);
   Property& operator=(const Property& other) { return *this = other.value_; }
   friend bool operator==(const Property& property, const T& value) requires(std::is_class_v<T>) {
@@ -129,10 +100,9 @@ class Control {
   void SetFocus();
   void MoveTo(double left, double top, double width, double height);
 
-  void SetMirror(Mirror* mirror) { mirror_ = mirror; }
-  void Notify(PropertyId id) {
-    if (mirror_ != nullptr) mirror_->Changed(*this, id);
-  }
+  void AddObserver(Observer& observer) { observers_.Add(observer); }
+  void RemoveObserver(Observer& observer) { observers_.Remove(observer); }
+  void Notify(PropertyId id) { observers_.Announce(*this, id); }
 
   Property<bool> Visible{*this, PropertyId::Visible, true};
   Property<bool> Enabled{*this, PropertyId::Enabled, true};
@@ -153,7 +123,7 @@ class Control {
   Form& form_;
   std::string name_;
   ControlKind kind_;
-  Mirror* mirror_ = nullptr;
+  ObserverList observers_;
 };
 
 template <typename T>
@@ -335,8 +305,8 @@ class Grid : public Control {
   // A key on the selected cell: by its key code, and then by its character where it has one.
   void PressKey(int keyCode, int keyAscii);
 
-  Property<int> Row{*this, PropertyId::ListIndex, 1};
-  Property<int> Col{*this, PropertyId::ListIndex, 1};
+  Property<int> Row{*this, PropertyId::Row, 1};
+  Property<int> Col{*this, PropertyId::Col, 1};
   // A text that stands for an empty cell.
   std::string Placeholder;
   std::function<void(int keyCode)> OnKeyDown;
@@ -353,12 +323,12 @@ class Grid : public Control {
 class MediaPlayer : public Control {
  public:
   MediaPlayer(Form& form, std::string name) : Control(form, std::move(name), ControlKind::MediaPlayer) {}
-  Property<std::string> URL{*this, PropertyId::Picture};
-  Property<std::string> uiMode{*this, PropertyId::Text};
-  Property<bool> stretchToFit{*this, PropertyId::Value, false};
+  Property<std::string> URL{*this, PropertyId::URL};
+  Property<std::string> uiMode{*this, PropertyId::UiMode};
+  Property<bool> stretchToFit{*this, PropertyId::StretchToFit, false};
   // 0..100; 1 stopped, 2 paused, 3 playing.
-  Property<int> Volume{*this, PropertyId::Value, 100};
-  Property<int> PlayState{*this, PropertyId::Value, 1};
+  Property<int> Volume{*this, PropertyId::Volume, 100};
+  Property<int> PlayState{*this, PropertyId::PlayState, 1};
 };
 
 class Menu : public Control {
@@ -367,7 +337,7 @@ class Menu : public Control {
   Property<std::string> Caption{*this, PropertyId::Caption};
 };
 
-// Fires every Interval ms while Enabled; the platform's clock is its mirror. Starts disabled.
+// Fires every Interval ms while Enabled; the platform's clock observes it. Starts disabled.
 class Timer : public Control {
  public:
   Timer(Form& form, std::string name);

@@ -46,7 +46,7 @@ struct LocalTime {
   int Hour = 0, Minute = 0, Second = 0;
 };
 
-// Time: milliseconds of a clock that never goes back. Attach makes the clock the mirror of a form's timers, so that
+// Time: milliseconds of a clock that never goes back. Attach makes the clock an observer of a form's timers, so that
 // they run while enabled; a detached form's timers stop.
 class Clock {
  public:
@@ -113,7 +113,7 @@ class MediaChannel {
   virtual double CurrentPosition() const = 0;
   virtual double Duration() const = 0;
 
-  // Told of every change of state, by the program's wish or by the player's own controls.
+  // Called at every change of state, by the program's wish or by the player's own controls.
   std::function<void(PlayState state)> OnPlayStateChange;
 };
 
@@ -271,7 +271,7 @@ class Printing {
   virtual void Print(const PrintDocument& document, int copies) = 0;
 };
 
-// A serial port of the machine as the system lists it: the texts that tell which adapter it belongs to.
+// A serial port of the machine as the system lists it: the texts that say which adapter it belongs to.
 struct SerialDevice {
   std::string DeviceID;
   std::string Description;
@@ -288,7 +288,7 @@ struct SerialSettings {
 
 enum class SerialEvent { Received, Lost };
 
-// One serial line, told of from the message loop.
+// One serial line, whose events come from the message loop.
 class SerialPort {
  public:
   virtual ~SerialPort() = default;
@@ -301,7 +301,7 @@ class SerialPort {
   // Takes all that has arrived.
   virtual std::string Input() = 0;
   virtual std::size_t InBufferCount() const = 0;
-  // Bytes have arrived, or the device is gone; the latter may be told many times until the port is closed.
+  // Bytes have arrived, or the device is gone; the latter may be announced many times until the port is closed.
   std::function<void(SerialEvent)> OnComm;
 };
 

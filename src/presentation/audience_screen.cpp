@@ -7,6 +7,7 @@
 #include "presentation/audience_step.h"
 #include "presentation/both_screens.h"
 #include "presentation/monitors.h"
+#include "presentation/screen_pairs.h"
 #include "show/settings.h"
 #include "show/show.h"
 
@@ -30,7 +31,6 @@ void LoadAudienceScreen(Show& show) {
   show.AudienceLoaded = true;
   show.frmFSMain.Left = show.state.FSLeft;
   show.frmFSMain.Top = show.state.FSTop;
-  show.frmFSMain.imgStandby.Visible = show.frmMain.imgStandby.Visible;
   PaintGB(show);
 }
 
@@ -93,6 +93,7 @@ void AudienceScreenLost(Show& show) {
 
 void AttachAudienceHandlers(Show& show) {
   FSMainForm& form = show.frmFSMain;
+  FollowConsole(show);
   form.tmrRePaint.OnTimer = [&show] { tmrRePaint_Timer(show); };
   for (std::size_t i = 0; i < 3; ++i) {
     form.lblPlayer[i].OnDblClick = [&show, i] { show.frmMain.lblPlayer1[i].DblClick(); };
@@ -131,7 +132,9 @@ void MonitorsChanged(Show& show) {
   FindAudiencePlace(show);
   if (!show.frmMain.Visible) {
     // The console's load brings the audience screen up by itself.
-    if (!show.AudienceLoaded) show.state.DualScreen = HasSecondMonitor(show);
+    if (show.AudienceLoaded) return;
+    show.state.DualScreen = HasSecondMonitor(show);
+    if (show.state.DualScreen) CopyPairs(show);
     return;
   }
   HasSecondMonitor(show) ? AudienceScreenFound(show) : AudienceScreenLost(show);

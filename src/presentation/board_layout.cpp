@@ -164,10 +164,6 @@ void ResetGameBoard(Show& show) {
   ResetPlayerNames(show);
   LightScoreBox(show, 0);
   ClearBoardPictures(show);
-  if (state.DualScreen) {
-    show.frmFSMain.picQuestionPicture.Visible = false;
-    show.frmFSMain.picQuestion.Visible = false;
-  }
   for (Button* button : {&form.btnSkipQuestion, &form.btnNextPlayer, &form.btnContinue, &form.btnEndGame,
                          &form.btnReset, &form.btnUndo}) {
     button->Enabled = false;

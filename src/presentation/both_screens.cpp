@@ -1,7 +1,5 @@
 #include "presentation/both_screens.h"
 
-#include <utility>
-
 #include "forms/fs_main_form.h"
 #include "forms/main_form.h"
 #include "platform/errors.h"
@@ -12,41 +10,33 @@ namespace pawnfield {
 
 namespace {
 
-std::pair<PictureBox*, PictureBox*> PanelPair(Show& show, Panel panel) {
-  MainForm& console = show.frmMain;
-  FSMainForm& audience = show.frmFSMain;
+PictureBox& PanelOf(MainForm& form, Panel panel) {
   switch (panel) {
     case Panel::Question:
-      return {&console.picQuestion, &audience.picQuestion};
+      return form.picQuestion;
     case Panel::QuestionPicture:
-      return {&console.picQuestionPicture, &audience.picQuestionPicture};
+      return form.picQuestionPicture;
     case Panel::Sound:
-      return {&console.picSound, &audience.picSound};
+      return form.picSound;
     case Panel::Bonus:
-      return {&console.picBonus, &audience.picBonus};
+      return form.picBonus;
     case Panel::Correct:
-      return {&console.picCorrect, &audience.picCorrect};
+      return form.picCorrect;
     case Panel::Winner:
-      return {&console.picWinner, &audience.picWinner};
+      return form.picWinner;
     case Panel::Standby:
       break;
   }
-  return {&console.picStandby, &audience.picStandby};
-}
-
-void SetPanel(Show& show, Panel panel, bool visible) {
-  const auto [console, audience] = PanelPair(show, panel);
-  console->Visible = visible;
-  if (show.state.DualScreen) audience->Visible = visible;
+  return form.picStandby;
 }
 
 }  // namespace
 
-void ShowPanel(Show& show, Panel panel) { SetPanel(show, panel, true); }
+void ShowPanel(Show& show, Panel panel) { PanelOf(show.frmMain, panel).Visible = true; }
 
-void HidePanel(Show& show, Panel panel) { SetPanel(show, panel, false); }
+void HidePanel(Show& show, Panel panel) { PanelOf(show.frmMain, panel).Visible = false; }
 
-bool PanelVisible(const Show& show, Panel panel) { return PanelPair(const_cast<Show&>(show), panel).first->Visible; }
+bool PanelVisible(const Show& show, Panel panel) { return PanelOf(show.frmMain, panel).Visible; }
 
 bool TextOrPictureVisible(const Show& show) {
   return PanelVisible(show, Panel::Question) || PanelVisible(show, Panel::QuestionPicture);
@@ -56,16 +46,13 @@ bool QuestionVisible(const Show& show) { return TextOrPictureVisible(show) || Pa
 
 void SetScore(Show& show, int player, const std::string& text) {
   show.frmMain.Score(player).Caption = text;
-  if (show.state.DualScreen) show.frmFSMain.Label11[PlayerIndex(player)].Caption = text;
   show.frmMain.ScoreCopy(player).Caption = text;
 }
 
 double ScoreOf(Show& show, int player) { return ParseNumber(show.frmMain.Score(player).Caption).value_or(0); }
 
 void SetPlayerName(Show& show, int player, const std::string& name) {
-  const std::size_t index = PlayerIndex(player);
-  show.frmMain.lblPlayer1[index].Caption = name;
-  if (show.state.DualScreen) show.frmFSMain.lblPlayer[index].Caption = name;
+  show.frmMain.lblPlayer1[PlayerIndex(player)].Caption = name;
 }
 
 void ResetPlayerNames(Show& show) {
@@ -83,19 +70,16 @@ void LightScoreBox(Show& show, int player) {
     const std::string& picture = other == player ? lit : normal;
     show.frmMain.ScoreBox(other).Picture = picture;
     show.frmMain.PlayerBox(other).Picture = picture;
-    if (show.state.DualScreen) show.frmFSMain.picPlayer[PlayerIndex(other)].Picture = picture;
   }
 }
 
-void SetTypedCommand(Show& show, const std::string& text) {
-  show.frmMain.txtDJCommand.Text = text;
-  if (show.state.DualScreen) show.frmFSMain.lblDJCommand.Caption = text;
-}
+void SetTypedCommand(Show& show, const std::string& text) { show.frmMain.txtDJCommand.Text = text; }
 
 void SetSquarePicture(Show& show, int row, int column, const std::string& picture) {
   Image* square = show.frmMain.img.At(row, column);
   if (square == nullptr) return;
   square->Picture = picture;
+  // A square may flash while it still turns, when the pair rests.
   if (show.state.DualScreen) show.frmFSMain.img.At(row, column)->Picture = square->Picture;
 }
 

@@ -1,5 +1,5 @@
-// Changes that the audience can see, each made on the console first and then on the audience form while DualScreen is
-// True. Every room changes both screens through these.
+// Changes that the audience can see, written on the console; what both screens show alike follows by the rows of
+// presentation/screen_pairs.h.
 #pragma once
 
 #include <string>

@@ -43,10 +43,10 @@ void AttachOptions(Show& show) {
   OnClick(show, form.cboAutoContinue, cboAutoContinue_Click);
   OnClick(show, form.cboTimedResponse, cboTimedResponse_Click);
   for (std::size_t i = 0; i < 2; ++i) form.optGameEnds[i].OnClick = [&state, i] { state.GameEnds = i == 0; };
-  const auto mirror = [](CheckBox& box, bool& option) { box.OnClick = [&box, &option] { option = box.Value == 1; }; };
-  mirror(form.chkAnimation, state.Animation);
-  mirror(form.chkHideQuestion, state.HideQuestion);
-  mirror(form.chkIncorrectPenalty, state.IncorrectPenalty);
+  const auto follow = [](CheckBox& box, bool& option) { box.OnClick = [&box, &option] { option = box.Value == 1; }; };
+  follow(form.chkAnimation, state.Animation);
+  follow(form.chkHideQuestion, state.HideQuestion);
+  follow(form.chkIncorrectPenalty, state.IncorrectPenalty);
   form.chkExtKeyboardCtrl.OnClick = [&form, &state] {
     state.KeyControl = form.chkExtKeyboardCtrl.Value == 1;
     form.txtDJCommand.Visible = state.KeyControl;

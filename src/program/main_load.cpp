@@ -7,6 +7,7 @@
 #include "engine/game_flow.h"
 #include "engine/turn_order.h"
 #include "forms/board_labels.h"
+#include "forms/fs_main_form.h"
 #include "forms/main_form.h"
 #include "forms/player_names_form.h"
 #include "media/background_music.h"
@@ -17,7 +18,6 @@
 #include "platform/errors.h"
 #include "platform/text.h"
 #include "presentation/audience_screen.h"
-#include "presentation/audience_step.h"
 #include "presentation/board_layout.h"
 #include "presentation/both_screens.h"
 #include "program/interface_file.h"
@@ -50,7 +50,7 @@ void SetDesignPictures(Show& show) {
     ColumnLabels(form)[i]->Picture = picture(std::string("Col") + static_cast<char>('A' + i) + ".png");
     RowLabels(form)[i]->Picture = picture("Row" + std::to_string(i + 1) + ".png");
   }
-  if (show.state.DualScreen) CopyDesignPictures(show);
+  if (show.state.DualScreen) show.frmFSMain.picHideQuestion.Picture = picture("Cover.jpg");
 }
 
 // Numbers 0, 10 .. 100.
@@ -82,7 +82,6 @@ void LoadScreenPictures(Show& show) {
   form.imgStandby.Picture = custom ? own[0] : form.imgStandardStandby.Picture.Get();
   form.imgBonus.Picture = custom ? own[1] : form.imgStandardBonus.Picture.Get();
   form.imgHeader.Picture = custom ? own[2] : form.imgStandardHeader.Picture.Get();
-  if (show.state.DualScreen) CopyScreenPictures(show);
 }
 
 void ShowGameType(Show& show) {

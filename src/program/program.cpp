@@ -3,6 +3,7 @@
 #include "forms/small_forms.h"
 #include "platform/errors.h"
 #include "presentation/monitors.h"
+#include "presentation/screen_pairs.h"
 #include "program/handlers.h"
 #include "program/start_up.h"
 #include "show/show.h"
@@ -15,6 +16,7 @@ namespace {
 void ReadMonitors(Show& show) {
   FindAudiencePlace(show);
   show.state.DualScreen = HasSecondMonitor(show);
+  if (show.state.DualScreen) CopyPairs(show);
 }
 
 }  // namespace

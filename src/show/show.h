@@ -112,6 +112,9 @@ struct Show {
   // frmFSMain has been loaded; and the desktop's saver and sleep are held off.
   bool AudienceLoaded = false, AwakeHeld = false;
 
+  // Those who watch the forms' controls for as long as the show lives.
+  std::vector<std::unique_ptr<Observer>> Observers;
+
   // Every form, made with the show. Whoever works one includes its header; touching that rebuilds nobody else.
   MainForm& frmMain;
   FSMainForm& frmFSMain;

@@ -7,7 +7,7 @@ namespace pawnfield {
 void VirtualClock::Attach(Form& form) {
   for (Control* control : form.Controls()) {
     if (control->Kind() != ControlKind::Timer) continue;
-    control->SetMirror(this);
+    control->AddObserver(*this);
     Start(static_cast<Timer&>(*control));
   }
 }
@@ -15,7 +15,7 @@ void VirtualClock::Attach(Form& form) {
 void VirtualClock::Detach(Form& form) {
   for (Control* control : form.Controls()) {
     if (control->Kind() != ControlKind::Timer) continue;
-    control->SetMirror(nullptr);
+    control->RemoveObserver(*this);
     Stop(static_cast<Timer&>(*control));
   }
 }

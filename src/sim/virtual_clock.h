@@ -1,4 +1,4 @@
-// Time that moves only when it is told to: the mirror of the timers of the forms attached to it.
+// Time that moves only when it is told to: an observer of the timers of the forms attached to it.
 #pragma once
 
 #include <cstdint>
@@ -8,7 +8,7 @@
 
 namespace pawnfield {
 
-class VirtualClock : public Clock, public Mirror {
+class VirtualClock : public Clock, public Observer {
  public:
   std::int64_t NowMs() const override { return now_; }
   // What the calendar says; it stands still while the clock runs.

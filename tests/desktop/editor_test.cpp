@@ -38,7 +38,7 @@ class SetTextEditTest : public testing::Test {
   Form form_{"frmTest"};
   TextBox box_{form_, "txtTest"};
   SetTextEdit view_;
-  std::unique_ptr<Mirror> binding_;
+  std::unique_ptr<Observer> binding_;
 };
 
 TEST_F(SetTextEditTest, WhatIsPastedOrTypedKeepsToTheCodePageTheLimitAndOneLine) {

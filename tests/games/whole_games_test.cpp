@@ -74,13 +74,13 @@ TEST_P(WholeGame, EndsAsWorkedOutByHand) {
 }
 
 // Fails for each write to a control that it watches.
-class NoWrites : public Mirror {
+class NoWrites : public Observer {
  public:
   explicit NoWrites(FSMainForm& form) {
     for (Control* control : form.Controls()) {
-      if (control != &form.tmrRePaint) control->SetMirror(this);
+      if (control != &form.tmrRePaint) control->AddObserver(*this);
     }
-    form.SetMirror(this);
+    form.AddObserver(*this);
   }
   void Changed(Control& control, PropertyId) override { ADD_FAILURE() << control.Name() << " was written"; }
 };
@@ -90,7 +90,6 @@ TEST_P(WholeGame, LeavesTheAudienceFormAloneWithOneMonitor) {
   NoWrites watch(player.fixture().audience());
   player.Play(GetParam().script);
   player.Play("> >");
-  for (Control* control : player.fixture().audience().Controls()) control->SetMirror(nullptr);
 }
 
 TEST(OneMonitor, LoadAndExitLeaveTheAudienceFormAlone) {

@@ -2,6 +2,7 @@
 
 #include <gmock/gmock.h>
 
+#include "presentation/screen_pairs.h"
 #include "support/show_fixture.h"
 
 namespace pawnfield {
@@ -14,6 +15,7 @@ Place PlaceOf(const auto& shape) { return {shape.Left, shape.Top, shape.Width, s
 class QuestionPictures : public ShowFixture, public testing::Test {
  protected:
   QuestionPictures() {
+    FollowConsole(show());
     form().picQuestionPicture.MoveTo(0, 0, 800, 400);
     audience().picQuestionPicture.MoveTo(0, 0, 1600, 1000);
     audience().picQuestionPicture.Visible = false;
@@ -46,7 +48,10 @@ TEST_F(QuestionPictures, ThePictureStandsOnBothScreensWhileThereAreTwo) {
     EXPECT_TRUE(ShowPath("C:\\pics\\dog.jpg"));
     EXPECT_EQ(audience().picQuestionPicture.Visible, two);
     EXPECT_EQ(audience().picImageResize[0].Picture == "C:\\pics\\dog.jpg", two);
+    form().picQuestionPicture.Visible = false;
+    form().picImageResize[0].Picture = std::string();
   }
+  EXPECT_TRUE(ShowPath("C:\\pics\\dog.jpg"));
   EXPECT_EQ(form().picImageResize[0].Picture.Get(), "C:\\pics\\dog.jpg");
   EXPECT_EQ(PlaceOf(form().picImageResize[0]), (Place{0, 0, 800, 400}));
   EXPECT_EQ(PlaceOf(audience().picImageResize[0]), (Place{0, 0, 1600, 1200}));

@@ -2,6 +2,9 @@
 
 #include <gtest/gtest.h>
 
+#include <map>
+#include <memory>
+
 #include "platform/errors.h"
 #include "sim/sim_platform.h"
 
@@ -40,19 +43,76 @@ TEST(Controls, ClickReachesOnlyWhatTheUserCouldReach) {
   EXPECT_EQ(form.log, "go ");
 }
 
-TEST(Controls, OnlyAChangeIsToldToTheMirror) {
-  struct CountingMirror : Mirror {
-    void Changed(Control&, PropertyId) override { ++count; }
-    int count = 0;
-  };
+struct Watcher : Observer {
+  explicit Watcher(Control& control) { control.AddObserver(*this); }
+  void Changed(Control& control, PropertyId id) override {
+    ++changes[id];
+    if (onChange) onChange(control);
+  }
+  std::map<PropertyId, int> changes;
+  std::function<void(Control&)> onChange;
+};
+
+using Changes = std::map<PropertyId, int>;
+
+TEST(Controls, EachObserverHearsOfEachChangeByItsName) {
   SampleForm form;
-  CountingMirror mirror;
-  form.btnGo.SetMirror(&mirror);
+  Watcher first(form.btnGo);
+  const Watcher second(form.btnGo);
+  form.btnGo.AddObserver(first);
   form.btnGo.Caption = "Go";
   form.btnGo.Caption = "Go";
   form.btnGo.Enabled = true;
   form.btnGo.MoveTo(0, 0, 10, 0);
-  EXPECT_EQ(mirror.count, 2);
+  EXPECT_EQ(first.changes, (Changes{{PropertyId::Caption, 1}, {PropertyId::Width, 1}}));
+  EXPECT_EQ(second.changes, first.changes);
+  MediaPlayer player(form, "player");
+  const Watcher film(player);
+  player.URL = std::string("film.avi");
+  player.uiMode = std::string("full");
+  player.stretchToFit = true;
+  player.Volume = 0;
+  player.PlayState = 3;
+  EXPECT_EQ(film.changes, (Changes{{PropertyId::URL, 1},
+                                   {PropertyId::UiMode, 1},
+                                   {PropertyId::StretchToFit, 1},
+                                   {PropertyId::Volume, 1},
+                                   {PropertyId::PlayState, 1}}));
+}
+
+TEST(Controls, ObserversComeAndGoWhileAChangeIsAnnounced) {
+  auto form = std::make_unique<SampleForm>();
+  auto gone = std::make_unique<Watcher>(form->btnGo);
+  Watcher leaver(form->btnGo);
+  auto victim = std::make_unique<Watcher>(form->btnGo);
+  Watcher last(form->btnGo);
+  std::unique_ptr<Watcher> newcomer;
+  gone.reset();
+  leaver.onChange = [&](Control& button) {
+    button.RemoveObserver(leaver);
+    victim.reset();
+    newcomer = std::make_unique<Watcher>(button);
+    button.Visible = false;
+  };
+  form->btnGo.Caption = "Go";
+  EXPECT_EQ(leaver.changes, (Changes{{PropertyId::Caption, 1}}));
+  EXPECT_EQ(last.changes, (Changes{{PropertyId::Caption, 1}, {PropertyId::Visible, 1}}));
+  EXPECT_EQ(newcomer->changes, (Changes{{PropertyId::Visible, 1}}));
+  // The observers outlive what they watched.
+  form.reset();
+}
+
+TEST(Controls, AnObserverThatThrowsLeavesTheOthersTheNextChange) {
+  SampleForm form;
+  Watcher thrower(form.btnGo);
+  Watcher other(form.btnGo);
+  thrower.onChange = [&](Control& button) {
+    button.RemoveObserver(thrower);
+    throw std::runtime_error("no device");
+  };
+  EXPECT_THROW(form.btnGo.Caption = "Go", std::runtime_error);
+  form.btnGo.Visible = false;
+  EXPECT_EQ(thrower.changes.size() + other.changes.size(), 2U);
 }
 
 TEST(Controls, OnlyAUsersEditOfWhatCanBeReachedRunsItsHandler) {

@@ -103,6 +103,22 @@ TEST_P(PluggedIn, ShowsWhatItWouldHaveShownFromTheStart) {
 
 INSTANTIATE_TEST_SUITE_P(Moments, PluggedIn, testing::ValuesIn(kMoments), StoryTest::Name);
 
+TEST(AudienceScreen, FollowsAClaimOverAnOpenQuestionAndAnUndoAtOnce) {
+  GamePlayer player("3 3 4 full");
+  player.Play("picQuestion'=up 11 picQuestion=- picQuestion'=- scores=50/0/0 U scores=0/0/0");
+  EXPECT_EQ(player.fixture().audience().Label11[0].Caption.Get(), "0");
+}
+
+TEST(AudienceScreen, OfAProjectorThatComesWhileTheConsoleLoadsHasEverything) {
+  ShowFixture fixture(Screens::One);
+  fixture.sim.dialogs.ExpectMessage("No hardware was detected", BoxAnswer::Ok,
+                                    [&] { fixture.sim.displays.Change(kTwo); });
+  Main(fixture.show());
+  fixture.sim.clock.Advance(10000);
+  EXPECT_TRUE(fixture.show().state.DualScreen);
+  EXPECT_EQ(UnlikePairs(fixture.show()), Names());
+}
+
 TEST(AudienceScreen, HasTheNoticeInItsOwnFitWheneverItComes) {
   for (const Screens screens : {Screens::One, Screens::Two}) {
     GamePlayer player("4 2 4 full m7", screens);

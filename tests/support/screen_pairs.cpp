@@ -1,5 +1,7 @@
 #include "support/screen_pairs.h"
 
+#include <cctype>
+#include <map>
 #include <sstream>
 
 #include "forms/fs_main_form.h"
@@ -9,20 +11,39 @@ namespace pawnfield {
 
 namespace {
 
-// Pairs by one name, or by the console's and the audience's.
-const std::string kPictures =
-    "imgA imgB imgC imgD imgE img1 img2 img3 img4 img5 imgStandby imgBonus imgHeader imgSound imgQuestionBackground "
-    "imgCorrect lblRightWrong lblWinner ";
-const std::string kContents =
-    "lblPlayer1(0):lblPlayer(0) lblPlayer1(1):lblPlayer(1) lblPlayer1(2):lblPlayer(2) lblP1Score:Label11(0) "
-    "lblP2Score:Label11(1) lblP3Score:Label11(2) picPlayer1:picPlayer(0) picPlayer2:picPlayer(1) "
-    "picPlayer3:picPlayer(2) txtDJCommand:lblDJCommand txtOptionalHeading ";
-const std::string kPanels =
-    "picQuestion picQuestionPicture picSound picBonus picCorrect picWinner picStandby picMOD picPlayer1:picPlayer(0) "
-    "picPlayer2:picPlayer(1) picPlayer3:picPlayer(2) picPlayer1:lblPlayer(0) picPlayer2:lblPlayer(1) "
-    "picPlayer3:lblPlayer(2) picPlayer1:Label11(0) picPlayer2:Label11(1) picPlayer3:Label11(2) ";
+// Controls of the audience's that have another name on the console; the others have the same.
+const std::map<std::string, std::string> kOtherNames = {
+    {"lblPlayer(0)", "lblPlayer1(0)"}, {"lblPlayer(1)", "lblPlayer1(1)"}, {"lblPlayer(2)", "lblPlayer1(2)"},
+    {"Label11(0)", "lblP1Score"},      {"Label11(1)", "lblP2Score"},      {"Label11(2)", "lblP3Score"},
+    {"picPlayer(0)", "picPlayer1"},    {"picPlayer(1)", "picPlayer2"},    {"picPlayer(2)", "picPlayer3"},
+    {"picPlayer1Score", "picP1Score"}, {"picPlayer2Score", "picP2Score"}, {"picPlayer3Score", "picP3Score"},
+    {"lblDJCommand", "txtDJCommand"},
+};
 
-std::string Visible(const Control& control) { return control.Visible ? "visible" : "hidden"; }
+// What of the audience's form has nothing on the console that it must be like, and why.
+const std::map<std::string, const char*> kUnpaired = {
+    {"imgBackground", "the ground of the audience's screen alone"},
+    {"imgDJEntry", "the console's hand on the board, which the audience doesn't see"},
+    {"picHideQuestion", "the cover, from a ring-in to its verdict"},
+    {"lblPlayerName", "on the cover"},
+    {"lblWhatIsAnswer", "on the cover"},
+    {"lblDJCommand.Visible", "the console's box goes with the keyboard option; the audience's text is then empty"},
+    {"picPlayer1Score", "a ground without a picture, which the score stands on"},
+    {"picPlayer2Score", "a ground without a picture, which the score stands on"},
+    {"picPlayer3Score", "a ground without a picture, which the score stands on"},
+    {"picImageResize(1).Visible", "on the console it stands in a panel of its own, picMODPicture"},
+};
+
+bool IsSquare(const std::string& name) {
+  return name.size() == 5 && name.starts_with("img") && std::isdigit(name[3]) && std::isdigit(name[4]);
+}
+
+bool IsUnpaired(const std::string& what) { return kUnpaired.contains(what); }
+
+const Control* Counterpart(const Form& console, const std::string& name) {
+  const auto other = kOtherNames.find(name);
+  return console.Find(other == kOtherNames.end() ? name : other->second);
+}
 
 }  // namespace
 
@@ -31,26 +52,25 @@ std::string Content(const Control& control) {
   if (const auto* text = dynamic_cast<const TextBox*>(&control)) return text->Text;
   if (const auto* image = dynamic_cast<const Image*>(&control)) return image->Picture;
   if (const auto* box = dynamic_cast<const PictureBox*>(&control)) return box->Picture;
+  if (const auto* player = dynamic_cast<const MediaPlayer*>(&control)) return player->URL;
   return "";
 }
 
 std::vector<std::string> UnlikePairs(Show& show) {
   std::vector<std::string> unlike;
-  const auto compare = [&](const std::string& pairs, std::string (*what)(const Control&), const char* property) {
-    std::istringstream in(pairs);
-    for (std::string pair; in >> pair;) {
-      const Control* console = show.frmMain.Find(pair.substr(0, pair.find(':')));
-      const Control* audience = show.frmFSMain.Find(pair.substr(pair.find(':') + 1));
-      if (what(*console) != what(*audience)) unlike.push_back(audience->Name() + property);
-    }
-  };
   const bool turning = show.frmMain.tmrFlipPlayerPiece.Enabled || show.frmFSMain.tmrFSFlipPlayerPiece.Enabled;
-  std::string squares;
-  show.frmMain.img.ForEach([&](const Image& square) { squares += square.Name() + " "; });
-  const bool question = show.frmMain.picQuestion.Visible;
-  compare(squares + kPictures + kPanels + (question ? "lblQuestion(1)" : ""), Visible, ".Visible");
-  compare((turning ? "" : squares) + kPictures + kContents + (question ? "lblQuestion(0)" : ""), Content, "");
-  if (show.frmMain.picQuestionPicture.Visible) compare("picImageResize(0)", Content, "");
+  for (const Control* control : show.frmFSMain.Controls()) {
+    const std::string& name = control->Name();
+    if (control->Kind() == ControlKind::Timer || IsUnpaired(name)) continue;
+    const Control* console = Counterpart(show.frmMain, name);
+    if (console == nullptr) {
+      unlike.push_back(name + " without a pair");
+      continue;
+    }
+    if (console->IsShown() != control->IsShown() && !IsUnpaired(name + ".Visible")) unlike.push_back(name + ".Visible");
+    if (turning && IsSquare(name)) continue;
+    if (Content(*console) != Content(*control)) unlike.push_back(name);
+  }
   return unlike;
 }
 

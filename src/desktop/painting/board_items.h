@@ -1,32 +1,35 @@
-// What the console's board and the audience's screen are painted from alike.
+// How the console's board and the audience's screen are painted alike.
 #pragma once
+
+#include <map>
 
 #include "desktop/painting/canvas.h"
 #include "forms/board_labels.h"
 
 namespace pawnfield {
 
-// The labels, the typed square's picture and the squares.
+using ItemStyles = std::map<Control*, ItemStyle>;
+
+// The labels are signs, and the squares are round at their corners.
 template <typename BoardForm>
-void AddBoard(Canvas& canvas, BoardForm& form) {
-  ItemStyle sign;
-  sign.IsSign = true;
-  for (Image* label : ColumnLabels(form)) canvas.Add(*label, sign);
-  for (Image* label : RowLabels(form)) canvas.Add(*label, sign);
-  canvas.Add(form.imgDJEntry);
-  ItemStyle rounded;
-  rounded.Corner = 0.09;
-  form.img.ForEach([&](Image& square) { canvas.Add(square, rounded); });
+ItemStyles BoardStyles(BoardForm& form) {
+  ItemStyles styles;
+  for (Image* label : ColumnLabels(form)) styles[label].IsSign = true;
+  for (Image* label : RowLabels(form)) styles[label].IsSign = true;
+  form.img.ForEach([&](Image& square) { styles[&square].Corner = 0.09; });
+  return styles;
 }
 
-// The texts that a rule has fitted, which are drawn as told.
+// The texts that a rule has fitted are drawn as told.
 template <typename BoardForm>
-void AddFittedTexts(Canvas& canvas, BoardForm& form) {
+ItemStyles FittedTextStyles(BoardForm& form) {
   ItemStyle fitted;
   fitted.ShrinkToFit = false;
   fitted.Align = Qt::AlignHCenter;
-  for (std::size_t i = 0; i < 5; ++i) canvas.Add(form.lblQuestion[i], fitted);
-  canvas.Add(form.lblWinner, fitted);
+  ItemStyles styles;
+  for (std::size_t i = 0; i < 5; ++i) styles[&form.lblQuestion[i]] = fitted;
+  styles[&form.lblWinner] = fitted;
+  return styles;
 }
 
 }  // namespace pawnfield

@@ -67,12 +67,9 @@ bool ReadText(const Control& control, TextSource& source) {
 
 }  // namespace
 
-struct Canvas::Item : Mirror {
+struct Canvas::Item : Observer {
   Item(Canvas& canvas, Control& shown, const ItemStyle& itemStyle, std::size_t place)
       : owner(canvas), control(shown), style(itemStyle), declared(place) {}
-  ~Item() override { control.SetMirror(nullptr); }
-  Item(const Item&) = delete;
-  Item& operator=(const Item&) = delete;
   void Changed(Control&, PropertyId id) override { owner.ItemChanged(*this, id); }
 
   Canvas& owner;
@@ -107,7 +104,7 @@ void Canvas::Add(Control& control, const ItemStyle& style) {
   auto item = std::make_unique<Item>(*this, control, style, place);
   Item& added = *item;
   items_[&control] = std::move(item);
-  control.SetMirror(&added);
+  control.AddObserver(added);
   ItemChanged(added, PropertyId::Picture);
   Order();
 }

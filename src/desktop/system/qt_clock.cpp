@@ -8,18 +8,15 @@
 
 namespace pawnfield {
 
-// Mirrors one timer: a change of Enabled or Interval begins a new period.
-class QtClock::RunningTimer : public Mirror {
+// Runs one timer: a change of Enabled or Interval begins a new period.
+class QtClock::RunningTimer : public Observer {
  public:
   explicit RunningTimer(Timer& model) : model_(model) {
     timer_.setTimerType(Qt::PreciseTimer);
     QObject::connect(&timer_, &QTimer::timeout, &timer_, [this] { model_.Fire(); });
-    model_.SetMirror(this);
+    model_.AddObserver(*this);
     Arm();
   }
-  ~RunningTimer() override { model_.SetMirror(nullptr); }
-  RunningTimer(const RunningTimer&) = delete;
-  RunningTimer& operator=(const RunningTimer&) = delete;
 
   void Changed(Control&, PropertyId id) override {
     if (id == PropertyId::Enabled || id == PropertyId::Interval) Arm();

@@ -7,7 +7,6 @@
 #include <QFileInfo>
 #include <QFontDialog>
 #include <QMessageBox>
-#include <QTimer>
 
 #include "desktop/files/native_path.h"
 #include "desktop/files/windows_1252.h"
@@ -16,8 +15,6 @@ namespace pawnfield {
 
 namespace {
 
-// How often a modal form's window looks whether its form has ended; far below what a person notices.
-constexpr int kModalPollMs = 15;
 constexpr double kSmallestFont = 6;
 
 QMessageBox::StandardButtons ButtonsOf(BoxKind kind) {
@@ -46,6 +43,19 @@ QString StartFolder(const std::string& spelled) {
   while (!QFileInfo(folder).isDir() && !QDir(folder).isRoot()) folder = QFileInfo(folder).path();
   return folder;
 }
+
+// Ends a modal form's message loop with the form.
+class FormEnd : public Observer {
+ public:
+  FormEnd(Form& form, QEventLoop& loop) : form_(form), loop_(loop) { form_.AddObserver(*this); }
+  void Changed(Control&, PropertyId id) override {
+    if (id == PropertyId::Visible && !form_.Visible) loop_.quit();
+  }
+
+ private:
+  Form& form_;
+  QEventLoop& loop_;
+};
 
 // Whether the path as the program keeps it names the file, or for a new one its folder, that was chosen: an accent in
 // two parts or a backslash in a name would be lost on the way.
@@ -129,13 +139,8 @@ void QtDialogs::ShowModal(Form& form) {
   if (window == nullptr) return;
   window->setWindowModality(Qt::ApplicationModal);
   form.Visible = true;
-  // The form's mirror belongs to its window, so the end of the form is looked for rather than told.
   QEventLoop loop;
-  QTimer poll;
-  QObject::connect(&poll, &QTimer::timeout, &loop, [&form, &loop] {
-    if (!form.Visible) loop.quit();
-  });
-  poll.start(kModalPollMs);
+  const FormEnd end(form, loop);
   if (form.Visible) loop.exec();
 }
 

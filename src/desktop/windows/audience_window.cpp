@@ -33,57 +33,42 @@ AudienceWindow::AudienceWindow(FSMainForm& form, SecondScreenForm& copy, FormWin
   screen_->SetBackdrop(PaintGround);
   BindForm();
   Fill(form);
-  FillPanels(form);
   screen_->AddVideo(form.MediaPlayer1, video);
   Bindings()->AddCanvas(*screen_);
-  copy_.SetMirror(this);
+  copy_.AddObserver(*this);
   windows_.Add(copy_, *this);
   setWindowTitle(FromWindows1252(copy_.Form::Caption));
   screens_.Subscribe([this] { Place(); });
   connect(qGuiApp, &QGuiApplication::screenRemoved, this, &AudienceWindow::ScreenRemoved);
 }
 
-AudienceWindow::~AudienceWindow() {
-  copy_.SetMirror(nullptr);
-  windows_.Remove(copy_);
+AudienceWindow::~AudienceWindow() { windows_.Remove(copy_); }
+
+// What isn't painted plainly. Everything else on the form needs no line here.
+ItemStyles AudienceWindow::Styles(FSMainForm& form) {
+  ItemStyles styles = BoardStyles(form);
+  for (std::size_t i = 0; i < 3; ++i) {
+    for (PictureBox* box : {&form.picPlayer[i], &form.ScoreBox(static_cast<int>(i) + 1)}) {
+      styles[box].Edge = 0.03;
+      styles[box].Corner = 0.18;
+    }
+    for (Label* label : {&form.lblPlayer[i], &form.Label11[i]}) styles[label].SmallestSize = kSmallestLegible;
+  }
+  for (Control* control : form.Controls()) {
+    if (control->Kind() == ControlKind::PictureBox && !styles.contains(control)) styles[control].PaintsGround = true;
+  }
+  for (Image* image : {&form.picImageResize[0], &form.picImageResize[1]}) styles[image].Grows = true;
+  styles.merge(FittedTextStyles(form));
+  return styles;
 }
 
 void AudienceWindow::Fill(FSMainForm& form) {
-  screen_->Add(form.imgBackground);
-  screen_->Add(form.imgHeader);
-  AddBoard(*screen_, form);
-  ItemStyle legible;
-  legible.SmallestSize = kSmallestLegible;
-  ItemStyle rounded;
-  rounded.Edge = 0.03;
-  rounded.Corner = 0.18;
-  for (std::size_t i = 0; i < 3; ++i) {
-    screen_->Add(form.picPlayer[i], rounded);
-    screen_->Add(form.ScoreBox(static_cast<int>(i) + 1), rounded);
-    screen_->Add(form.lblPlayer[i], legible);
-    screen_->Add(form.Label11[i], legible);
+  const auto styles = Styles(form);
+  for (Control* control : form.Controls()) {
+    if (control->Kind() == ControlKind::Timer || control->Kind() == ControlKind::MediaPlayer) continue;
+    const auto style = styles.find(control);
+    screen_->Add(*control, style == styles.end() ? ItemStyle() : style->second);
   }
-  screen_->Add(form.txtOptionalHeading);
-  screen_->Add(form.lblDJCommand);
-}
-
-void AudienceWindow::FillPanels(FSMainForm& form) {
-  ItemStyle panel;
-  panel.PaintsGround = true;
-  for (PictureBox* box :
-       {&form.picQuestion, &form.picQuestionPicture, &form.picHideQuestion, &form.picCorrect, &form.picWinner,
-        &form.picBonus, &form.picMOD, &form.picMODVideo, &form.picSound, &form.picStandby}) {
-    screen_->Add(*box, panel);
-  }
-  for (Image* image :
-       {&form.imgQuestionBackground, &form.imgCorrect, &form.imgBonus, &form.imgSound, &form.imgStandby}) {
-    screen_->Add(*image);
-  }
-  ItemStyle fitted;
-  fitted.Grows = true;
-  for (Image* image : {&form.picImageResize[0], &form.picImageResize[1]}) screen_->Add(*image, fitted);
-  AddFittedTexts(*screen_, form);
-  for (Label* label : {&form.lblPlayerName, &form.lblWhatIsAnswer, &form.lblRightWrong}) screen_->Add(*label);
 }
 
 void AudienceWindow::Changed(Control& control, PropertyId id) {

@@ -2,7 +2,7 @@
 // monitor while frmSS is loaded, and never takes the focus from the console.
 #pragma once
 
-#include "desktop/painting/canvas.h"
+#include "desktop/painting/board_items.h"
 #include "desktop/system/screens.h"
 #include "desktop/windows/form_window.h"
 #include "forms/fs_main_form.h"
@@ -28,8 +28,8 @@ class AudienceWindow : public FormWindow {
   void moveEvent(QMoveEvent* event) override;
 
  private:
+  static ItemStyles Styles(FSMainForm& form);
   void Fill(FSMainForm& form);
-  void FillPanels(FSMainForm& form);
 
   // Fills its monitor or hides, as the monitors and frmSS have it.
   void Place();

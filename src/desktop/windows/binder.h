@@ -44,7 +44,7 @@ class Binder {
 
   Form& form_;
   QWidget& window_;
-  std::vector<std::unique_ptr<Mirror>> bindings_;
+  std::vector<std::unique_ptr<Observer>> bindings_;
   std::set<std::string> bound_;
   std::set<std::string> held_;
   std::vector<const Canvas*> canvases_;

@@ -32,7 +32,7 @@ QColor ToQColor(Color color) { return QColor(color & 0xFF, (color >> 8) & 0xFF, 
 
 // The common half: what every widget takes from its model.
 template <typename Model, typename Widget>
-class Binding : public Mirror {
+class Binding : public Observer {
  public:
   Binding(Model& boundModel, Widget& boundWidget) : model(boundModel), widget(boundWidget) {
     QSizePolicy policy = widget.sizePolicy();
@@ -41,11 +41,8 @@ class Binding : public Mirror {
     policy.setRetainSizeWhenHidden(model.Kind() != ControlKind::TextBox);
     widget.setSizePolicy(policy);
     ShowCommon();
-    model.SetMirror(this);
+    model.AddObserver(*this);
   }
-  ~Binding() override { model.SetMirror(nullptr); }
-  Binding(const Binding&) = delete;
-  Binding& operator=(const Binding&) = delete;
 
   void Changed(Control&, PropertyId id) override {
     if (id == PropertyId::Focus) {
@@ -318,16 +315,13 @@ class ListViewBinding : public Binding<ListView, QTreeWidget> {
   bool showing_ = false;
 };
 
-class ActionBinding : public Mirror {
+class ActionBinding : public Observer {
  public:
   ActionBinding(Menu& menu, QAction& action) : menu_(menu), action_(action) {
     Changed(menu, PropertyId::Caption);
-    menu.SetMirror(this);
+    menu.AddObserver(*this);
     QObject::connect(&action_, &QAction::triggered, &action_, [this] { menu_.Click(); });
   }
-  ~ActionBinding() override { menu_.SetMirror(nullptr); }
-  ActionBinding(const ActionBinding&) = delete;
-  ActionBinding& operator=(const ActionBinding&) = delete;
 
   void Changed(Control&, PropertyId) override {
     action_.setText(FromWindows1252(menu_.Caption));
@@ -341,7 +335,7 @@ class ActionBinding : public Mirror {
 };
 
 template <typename BindingType, typename Widget, typename Model>
-std::unique_ptr<Mirror> Make(Control& control, QWidget& widget) {
+std::unique_ptr<Observer> Make(Control& control, QWidget& widget) {
   auto* view = qobject_cast<Widget*>(&widget);
   if (view == nullptr) return nullptr;
   return std::make_unique<BindingType>(static_cast<Model&>(control), *view);
@@ -349,7 +343,7 @@ std::unique_ptr<Mirror> Make(Control& control, QWidget& widget) {
 
 }  // namespace
 
-std::unique_ptr<Mirror> MakeBinding(Control& control, QWidget& widget) {
+std::unique_ptr<Observer> MakeBinding(Control& control, QWidget& widget) {
   switch (control.Kind()) {
     case ControlKind::Button:
       return Make<ButtonBinding, QAbstractButton, Button>(control, widget);
@@ -383,7 +377,7 @@ std::unique_ptr<Mirror> MakeBinding(Control& control, QWidget& widget) {
   }
 }
 
-std::unique_ptr<Mirror> MakeActionBinding(Menu& menu, QAction& action) {
+std::unique_ptr<Observer> MakeActionBinding(Menu& menu, QAction& action) {
   return std::make_unique<ActionBinding>(menu, action);
 }
 

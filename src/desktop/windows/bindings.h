@@ -1,4 +1,4 @@
-// One mirror for each kind of control: widget from model, and the user's action to the model.
+// One observer for each kind of control: widget from model, and the user's action to the model.
 #pragma once
 
 #include <memory>
@@ -11,7 +11,7 @@ class QWidget;
 namespace pawnfield {
 
 // Null when a control of this kind can't be shown by such a widget.
-std::unique_ptr<Mirror> MakeBinding(Control& control, QWidget& widget);
-std::unique_ptr<Mirror> MakeActionBinding(Menu& menu, QAction& action);
+std::unique_ptr<Observer> MakeBinding(Control& control, QWidget& widget);
+std::unique_ptr<Observer> MakeActionBinding(Menu& menu, QAction& action);
 
 }  // namespace pawnfield

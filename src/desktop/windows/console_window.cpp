@@ -57,7 +57,8 @@ void ConsoleWindow::FillBoard(MainForm& form) {
   board_->SetFillsDisplay(true);
   board_->SetBackdrop(PaintGround);
   board_->Add(form.imgHeader);
-  AddBoard(*board_, form);
+  board_->Add(form.imgDJEntry);
+  for (const auto& [control, style] : BoardStyles(form)) board_->Add(*control, style);
   board_->Add(form.txtOptionalHeading);
   ItemStyle panel;
   panel.PaintsGround = true;
@@ -70,7 +71,7 @@ void ConsoleWindow::FillBoard(MainForm& form) {
                        &form.imgBonus, &form.imgCorrect, &form.imgStandby}) {
     board_->Add(*image);
   }
-  AddFittedTexts(*board_, form);
+  for (const auto& [control, style] : FittedTextStyles(form)) board_->Add(*control, style);
   board_->Add(form.lblRightWrong);
 }
 

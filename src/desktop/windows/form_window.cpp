@@ -34,16 +34,13 @@ FormWindow::FormWindow(Form& form, FormWindows& windows, Qt::WindowFlags flags)
   windows_.Add(form, *this);
 }
 
-FormWindow::~FormWindow() {
-  form_.SetMirror(nullptr);
-  windows_.Remove(form_);
-}
+FormWindow::~FormWindow() { windows_.Remove(form_); }
 
 void FormWindow::BindForm() {
   setObjectName(QString::fromStdString(form_.Name()));
   setWindowTitle(FromWindows1252(form_.Caption));
   binder_ = std::make_unique<Binder>(form_, *this);
-  form_.SetMirror(this);
+  form_.AddObserver(*this);
   if (form_.Visible) ShowForm();
 }
 

@@ -30,7 +30,7 @@ void SetUp(QMainWindow& window) {
 QVBoxLayout* MakeContent(QMainWindow& window, int edge, int spacing = 12);
 QPushButton* MakeButton(const QString& name, const QSize& least);
 
-class FormWindow : public QMainWindow, public Mirror {
+class FormWindow : public QMainWindow, public Observer {
  public:
   FormWindow(Form& form, FormWindows& windows, Qt::WindowFlags flags = Qt::Window);
   ~FormWindow() override;

@@ -23,7 +23,7 @@ QString DraggedFile(const QMimeData& data) {
   return urls.size() == 1 ? urls.first().toLocalFile() : QString();
 }
 
-class GridBinding : public Mirror {
+class GridBinding : public Observer {
  public:
   GridBinding(Grid& grid, GridView& view) : model_(grid), view_(view) {
     view_.setRowCount(model_.Rows() - 1);
@@ -43,15 +43,12 @@ class GridBinding : public Mirror {
       const auto spelled = SpelledPath(path);
       model_.DropFile(row + 1, column + 1, spelled.value_or(path.toStdString()));
     });
-    model_.SetMirror(this);
+    model_.AddObserver(*this);
   }
-  ~GridBinding() override { model_.SetMirror(nullptr); }
-  GridBinding(const GridBinding&) = delete;
-  GridBinding& operator=(const GridBinding&) = delete;
 
   void Changed(Control&, PropertyId id) override {
     if (id == PropertyId::List) ShowTexts();
-    if (id == PropertyId::ListIndex) ShowSelection();
+    if (id == PropertyId::Row || id == PropertyId::Col) ShowSelection();
     view_.setEnabled(model_.Enabled);
   }
 
@@ -140,7 +137,7 @@ void GridView::dropEvent(QDropEvent* event) {
   emit FileDropped(cell.row(), cell.column(), path);
 }
 
-std::unique_ptr<Mirror> MakeGridBinding(Grid& grid, QWidget& widget) {
+std::unique_ptr<Observer> MakeGridBinding(Grid& grid, QWidget& widget) {
   auto* view = qobject_cast<GridView*>(&widget);
   if (view == nullptr) return nullptr;
   return std::make_unique<GridBinding>(grid, *view);

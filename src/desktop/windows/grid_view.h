@@ -26,6 +26,6 @@ class GridView : public QTableWidget {
 };
 
 // Null when the widget is no grid view.
-std::unique_ptr<Mirror> MakeGridBinding(Grid& grid, QWidget& widget);
+std::unique_ptr<Observer> MakeGridBinding(Grid& grid, QWidget& widget);
 
 }  // namespace pawnfield

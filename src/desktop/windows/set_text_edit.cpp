@@ -38,18 +38,15 @@ QString NameOf(const QString& character) {
   return character.at(0).isPrint() || character.size() > 1 ? '"' + character + "\" (" + number + ')' : number;
 }
 
-class SetTextBinding : public Mirror {
+class SetTextBinding : public Observer {
  public:
   SetTextBinding(TextBox& box, SetTextEdit& view) : box_(box), view_(view) {
     view_.SetLimit(static_cast<qsizetype>(box.MaxLength));
     Changed(box, PropertyId::Text);
-    box.SetMirror(this);
+    box.AddObserver(*this);
     QObject::connect(&view_, &QPlainTextEdit::textChanged, &view_, [this] { Edited(); });
     QObject::connect(&view_, &SetTextEdit::FocusLeft, &view_, [this] { box_.LoseFocus(); });
   }
-  ~SetTextBinding() override { box_.SetMirror(nullptr); }
-  SetTextBinding(const SetTextBinding&) = delete;
-  SetTextBinding& operator=(const SetTextBinding&) = delete;
 
   void Changed(Control&, PropertyId id) override {
     view_.setVisible(box_.Visible);
@@ -134,7 +131,7 @@ void SetTextEdit::Tell(const QString& notice) {
   QToolTip::showText(mapToGlobal(QPoint(0, height())), notice, this);
 }
 
-std::unique_ptr<Mirror> MakeSetTextBinding(TextBox& box, SetTextEdit& view) {
+std::unique_ptr<Observer> MakeSetTextBinding(TextBox& box, SetTextEdit& view) {
   return std::make_unique<SetTextBinding>(box, view);
 }
 

@@ -36,6 +36,6 @@ class SetTextEdit : public QPlainTextEdit {
 };
 
 // Ties the box to its model.
-std::unique_ptr<Mirror> MakeSetTextBinding(TextBox& box, SetTextEdit& view);
+std::unique_ptr<Observer> MakeSetTextBinding(TextBox& box, SetTextEdit& view);
 
 }  // namespace pawnfield

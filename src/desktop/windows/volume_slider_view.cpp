@@ -27,13 +27,9 @@ VolumeSliderView::VolumeSliderView(QWidget* parent) : QAbstractSlider(parent) {
   });
 }
 
-VolumeSliderView::~VolumeSliderView() {
-  if (slider_ != nullptr) slider_->FakeSlider.SetMirror(nullptr);
-}
-
 void VolumeSliderView::Attach(VolumeSlider& slider) {
   slider_ = &slider;
-  slider.FakeSlider.SetMirror(this);
+  slider.FakeSlider.AddObserver(*this);
   setAccessibleName(QString::fromStdString(slider.Caption + " volume"));
 }
 

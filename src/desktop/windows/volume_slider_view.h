@@ -8,11 +8,10 @@
 
 namespace pawnfield {
 
-class VolumeSliderView : public QAbstractSlider, public Mirror {
+class VolumeSliderView : public QAbstractSlider, public Observer {
   Q_OBJECT
  public:
   explicit VolumeSliderView(QWidget* parent = nullptr);
-  ~VolumeSliderView() override;
   // Follows the slider, which must outlive this view.
   void Attach(VolumeSlider& slider);
 
