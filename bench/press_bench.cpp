@@ -40,7 +40,7 @@ void SplitFrames(benchmark::State& state) {
       splitter.Add(bytes);
       left = kFrames;
     }
-    const auto frame = splitter.Next();
+    const auto frame = splitter.Next(0);
     if (!frame) state.SkipWithError("a frame is missing");
     benchmark::DoNotOptimize(frame);
     --left;

@@ -23,7 +23,7 @@ std::vector<std::string> Split(const std::string& bytes, std::size_t step) {
   std::vector<std::string> frames;
   for (std::size_t i = 0; i < bytes.size(); i += step) {
     splitter.Add(bytes.substr(i, step));
-    while (auto frame = splitter.Next()) frames.push_back(std::move(*frame));
+    while (auto frame = splitter.Next(0)) frames.push_back(std::move(*frame));
     Require(splitter.Waiting() <= kMostWaiting);
   }
   return frames;

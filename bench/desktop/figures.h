@@ -33,6 +33,9 @@ void MeasureFits();
 // did not run.
 bool MeasureFilm();
 
+// How often the program wakes up in a second of standby. Takes 25 seconds.
+bool MeasureWakeUps();
+
 // How long a play of the ring-in clip takes to its first sample on a sink of the run's own, beside the plainest player
 // that the machine has. False where a sound server or a player is missing, or a play was not heard.
 bool MeasureSoundStart();

@@ -22,8 +22,8 @@ void PrintPercentile(const std::string& name, std::vector<double> milliseconds, 
 
 }  // namespace pawnfield
 
-// Usage: pawnfield_desktop_bench [MEASURE...], each of fits, paints, presses, sound, film and
-// start; all without one.
+// Usage: pawnfield_desktop_bench [MEASURE...], each of fits, paints, presses, sound, film,
+// standby and start; all without one.
 int main(int argc, char** argv) {
   QApplication application(argc, argv);
   pawnfield::PrepareApplication();
@@ -40,6 +40,7 @@ int main(int argc, char** argv) {
                                       {"presses", pawnfield::MeasurePresses},
                                       {"sound", pawnfield::MeasureSoundStart},
                                       {"film", pawnfield::MeasureFilm},
+                                      {"standby", pawnfield::MeasureWakeUps},
                                       {"start", pawnfield::MeasureStartUp}}) {
     if (words.isEmpty() || words.contains(name)) all = measure() && all;
   }

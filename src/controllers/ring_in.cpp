@@ -49,17 +49,6 @@ void TakePress(Show& show, std::size_t remote) {
 
 }  // namespace
 
-void CreateTransceiver(Show& show) {
-  const auto guard = [&show](const std::function<void()>& poll, const std::string&, const std::string&) {
-    RunGuarded(show.platform.dialogs, poll, show.frmMain.Name(), "dgTransceiver_OnButtonPressed");
-  };
-  // One device can be open at a time, so the old object goes before the new one comes.
-  show.dgTransceiver.reset();
-  show.dgTransceiver = std::make_unique<Transceiver>(
-      show.platform.hid, show.platform.clock,
-      [&show](const TransceiverData& data) { dgTransceiver_OnButtonPressed(show, data); }, guard);
-}
-
 void dgTransceiver_OnButtonPressed(Show& show, const TransceiverData& data) {
   try {
     TakePress(show, static_cast<std::size_t>(data.Remote));

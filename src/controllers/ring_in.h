@@ -14,8 +14,6 @@ void AcceptRingIn(Show& show, int player, RingInSource source);
 // The operator's own button for the player who rang in, by index 0..2.
 void btnSelectPlayer_Click(Show& show, int index);
 
-// Makes the show's transceiver, which presses reach from then on.
-void CreateTransceiver(Show& show);
 // A press of a wireless remote. Error 9 for a remote beyond the debounce memory, or one beyond the routing that finds
 // the question open; each such remote is an error once and then ignored.
 void dgTransceiver_OnButtonPressed(Show& show, const TransceiverData& data);

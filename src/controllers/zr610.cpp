@@ -92,19 +92,45 @@ void ProcessGuarded(Show& show, const std::string& frame) {
   }
 }
 
+// Has a frame that waits for its rest looked at again when it is to be given up.
+void WatchHead(Show& show) {
+  const auto due = show.presses.RxBuffer.GivenUpAtMs();
+  if (due)
+    show.presses.LateFrame->SetInterval(
+        static_cast<int>(std::max<std::int64_t>(*due - show.platform.clock.NowMs(), 1)));
+  show.presses.LateFrame->SetEnabled(due.has_value());
+}
+
 void TakeFrames(Show& show) {
   SerialPort& port = show.platform.serial;
+  FrameSplitter& buffer = show.presses.RxBuffer;
   do {
-    show.presses.RxBuffer.Add(port.Input());
-    while (const auto frame = show.presses.RxBuffer.Next()) ProcessGuarded(show, *frame);
+    buffer.Add(port.Input());
+    while (const auto frame = buffer.Next(show.platform.clock.NowMs())) ProcessGuarded(show, *frame);
   } while (port.InBufferCount() > 0);
+  WatchHead(show);
+}
+
+// What waits of a line that is closed has nothing to do with the line that is opened next.
+void CloseLine(Show& show) {
+  show.platform.serial.Close();
+  show.presses.RxBuffer.Clear();
+  show.presses.LateFrame->SetEnabled(false);
 }
 
 // The adapter is gone, and its port would report that without end.
 void LoseLine(Show& show) {
   if (!show.platform.serial.PortOpen()) return;
-  show.platform.serial.Close();
+  CloseLine(show);
   show.frmMain.lblStatusBar.Caption = kUnplugged;
+}
+
+void HoldOrTakeFrames(Show& show) {
+  if (show.platform.dialogs.Modal() != ModalKind::Box) {
+    TakeFrames(show);
+  } else if (!show.presses.HeldFrames->Enabled()) {
+    show.presses.HeldFrames->SetEnabled(true);
+  }
 }
 
 // Takes up the frames that a message box held back.
@@ -112,6 +138,12 @@ void HeldFrames_Timer(Show& show) {
   if (show.platform.dialogs.Modal() == ModalKind::Box) return;
   show.presses.HeldFrames->SetEnabled(false);
   TakeFrames(show);
+}
+
+// The rest of a frame that waits can lie behind a message box.
+void LateFrame_Timer(Show& show) {
+  show.presses.LateFrame->SetEnabled(false);
+  HoldOrTakeFrames(show);
 }
 
 }  // namespace
@@ -154,10 +186,8 @@ void OpenZR610Port(Show& show) { show.platform.serial.Open(show.presses.CommPort
 void mscZR610_OnComm(Show& show, SerialEvent event) {
   if (event == SerialEvent::Lost) {
     LoseLine(show);
-  } else if (show.platform.dialogs.Modal() == ModalKind::Box) {
-    if (!show.presses.HeldFrames->Enabled()) show.presses.HeldFrames->SetEnabled(true);
   } else {
-    TakeFrames(show);
+    HoldOrTakeFrames(show);
   }
 }
 
@@ -176,7 +206,7 @@ void ProcessZR610Frame(Show& show, const std::string& frame) {
 
 void mnuReconnectMF_Click(Show& show) {
   SerialPort& port = show.platform.serial;
-  if (port.PortOpen()) port.Close();
+  CloseLine(show);
   show.presses.CommPortNumber = FindZR610Port(port);
   if (show.presses.CommPortNumber < 0) {
     Tell(show, "Unable to find a ZR-610 device. Please check connections and retry.");
@@ -213,9 +243,14 @@ void AttachPressHandlers(Show& show) {
   const auto guard = [&show](const std::function<void()>& handler, const std::string&, const std::string&) {
     show.frmMain.Dispatch(handler, "mscZR610_OnComm");
   };
-  show.presses.HeldFrames = std::make_unique<SelfTimer>(
-      show.platform.clock, [&show](double) { HeldFrames_Timer(show); }, guard);
-  show.presses.HeldFrames->SetEnabled(false);
+  const auto timer = [&show, &guard](void (*handler)(Show&)) {
+    auto made = std::make_unique<SelfTimer>(
+        show.platform.clock, [&show, handler](double) { handler(show); }, guard);
+    made->SetEnabled(false);
+    return made;
+  };
+  show.presses.HeldFrames = timer(HeldFrames_Timer);
+  show.presses.LateFrame = timer(LateFrame_Timer);
   show.presses.HeldFrames->SetInterval(kHeldFramesPollMs);
   show.platform.serial.OnComm = [&show](SerialEvent event) {
     show.frmMain.Dispatch([&show, event] { mscZR610_OnComm(show, event); }, "mscZR610_OnComm");

@@ -25,6 +25,7 @@ DesktopPlatform::DesktopPlatform(const DesktopPlaces& places, std::function<void
                processes,
                random,
                hid,
+               devices,
                printing,
                pages,
                serial,

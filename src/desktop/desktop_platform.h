@@ -5,6 +5,7 @@
 #include <optional>
 
 #include "desktop/devices/hidapi_port.h"
+#include "desktop/devices/qt_device_watch.h"
 #include "desktop/devices/qt_serial_port.h"
 #include "desktop/files/desktop_folders.h"
 #include "desktop/files/qt_file_system.h"
@@ -49,6 +50,7 @@ class DesktopPlatform {
   LinuxProcesses processes;
   SeededRandom random;
   HidapiPort hid;
+  QtDeviceWatch devices;
   QtPrinting printing;
   DesktopPages pages;
   QtSerialPort serial;

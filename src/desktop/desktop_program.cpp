@@ -65,9 +65,11 @@ DesktopProgram::DesktopProgram(const DesktopPlaces& places)
       mapMF_(show_.frmMapMF, desktop_.windows),
       setInterface_(show_.frmSetInterface, desktop_.windows) {}
 
-// The clock and the serial line outlive the forms, whose timers must not be looked at any more.
+// The clock, the serial line and the watch over the devices outlive the forms, whose timers must not be looked at any
+// more.
 DesktopProgram::~DesktopProgram() {
   desktop_.serial.OnComm = {};
+  desktop_.devices.OnChanged({});
   for (Form* form : AllForms(show_)) desktop_.clock.Detach(*form);
 }
 

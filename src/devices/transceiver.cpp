@@ -47,18 +47,26 @@ std::string BuildPacket(const std::string& message, int command) {
 }
 
 Transceiver::Transceiver(HidPort& port, Clock& clock, std::function<void(const TransceiverData&)> onButtonPressed,
-                         SelfTimer::GuardFunction guard)
+                         SelfTimer::GuardFunction guard, std::function<void()> onLost)
     : port_(port),
       clock_(clock),
       onButtonPressed_(std::move(onButtonPressed)),
+      onLost_(std::move(onLost)),
       timer_(
           clock, [this](double) { Timer_Timer(); }, std::move(guard)) {
+  Open();
+}
+
+bool Transceiver::Open() {
+  if (ready_) return false;
   const auto product = port_.Open(kTransceiverVendor, {kTransceiverLong, kTransceiverShort});
-  if (!product) return;
+  if (!product) return false;
   shortCommand_ = *product == kTransceiverShort;
   lengths_ = port_.Lengths();
   timer_.SetInterval(kPollMs);
+  timer_.SetEnabled(true);
   ready_ = true;
+  return true;
 }
 
 Transceiver::~Transceiver() {
@@ -83,6 +91,7 @@ void Transceiver::Stop() {
   ready_ = false;
   lengths_ = {};
   port_.Close();
+  if (onLost_) onLost_();
 }
 
 void Transceiver::ProcessReport(const std::string& report) {

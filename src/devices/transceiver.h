@@ -21,14 +21,16 @@ inline constexpr int kTransceiverShort = 0x1001;
 
 class Transceiver {
  public:
-  // Looks for the device once; without one the object lives on and does nothing. The guard runs every poll, so that
-  // what onButtonPressed throws is told; polling has been started anew by then.
+  // Looks for the device; without one the object lives on and does nothing. The guard runs every poll, so that what
+  // onButtonPressed throws is told; polling has been started anew by then. A device that goes is told to onLost.
   Transceiver(HidPort& port, Clock& clock, std::function<void(const TransceiverData&)> onButtonPressed,
-              SelfTimer::GuardFunction guard);
+              SelfTimer::GuardFunction guard, std::function<void()> onLost = {});
   ~Transceiver();
   Transceiver(const Transceiver&) = delete;
   Transceiver& operator=(const Transceiver&) = delete;
 
+  // Looks for the device anew, unless one is served. True when one has been taken up by this call.
+  bool Open();
   // Sets the light of the remote with that number.
   void LED_Set(int number, int color);
   // Sends the text in pieces, 60 ms each.
@@ -47,6 +49,7 @@ class Transceiver {
   HidPort& port_;
   Clock& clock_;
   std::function<void(const TransceiverData&)> onButtonPressed_;
+  std::function<void()> onLost_;
   HidLengths lengths_;
   bool shortCommand_ = false;
   bool ready_ = false;

@@ -56,6 +56,7 @@ void MainForm::SetCaptions() {
   mnuFileOptions.Caption = "&Options";
   mnuFileAddPlayerNames.Caption = "Add Player &Names";
   mnuFileOptionalHeaders.Caption = "Optional &Headers";
+  mnuFileInterface.Caption = "&Interface Wizard...";
   mnuFileExit.Caption = "E&xit";
   mnuZR610.Caption = "ZR-610 System";
   mnuMapMF.Caption = "Map Players";

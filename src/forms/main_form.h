@@ -31,6 +31,7 @@ class MainForm : public Form {
   Menu mnuFileOptions{*this, "mnuFileOptions"};
   Menu mnuFileAddPlayerNames{*this, "mnuFileAddPlayerNames"};
   Menu mnuFileOptionalHeaders{*this, "mnuFileOptionalHeaders"};
+  Menu mnuFileInterface{*this, "mnuFileInterface"};
   Menu mnuFileExit{*this, "mnuFileExit"};
   Menu mnuZR610{*this, "mnuZR610"};
   Menu mnuMapMF{*this, "mnuMapMF"};

@@ -15,9 +15,15 @@ MapMFForm::MapMFForm() : Form("frmMapMF") {
 }
 
 SetInterfaceForm::SetInterfaceForm() : Form("frmSetInterface") {
-  constexpr std::array<const char*, 9> kCaptions{"ZR Series Type A", "ZR Series Type B", "ZR Series Type C",
-                                                 "ZR Series Type C", "ZR Series Type C", "ZR Series Type D",
-                                                 "Wireless Remotes", "Keypad",           "Keyboard"};
+  constexpr std::array<const char*, 9> kCaptions{"ZR Series Type A",
+                                                 "ZR Series Type B",
+                                                 "ZR Series Type C",
+                                                 "ZR Series Type C",
+                                                 "ZR Series Type C",
+                                                 "ZR Series Type D",
+                                                 "As found: remotes, pads or manual",
+                                                 "Keypads",
+                                                 "Keypads and the keyboard program"};
   Form::Caption = "Interface Wizard";
   for (std::size_t i = 0; i < kCaptions.size(); ++i) {
     optInterfaceType[i].Caption = kCaptions[i];

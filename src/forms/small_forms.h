@@ -15,6 +15,8 @@ struct AlwaysLoadedForm : Form {
   Timer tmrAlwaysLoaded{*this, "tmrAlwaysLoaded", 50};
   // Runs while reports to the companion wait.
   Timer tmrCompanion{*this, "tmrCompanion", 1};
+  // Runs while values of the external keyboard program's key wait; long enough for a press to be seen and heard first.
+  Timer tmrSharedKey{*this, "tmrSharedKey", 50};
 };
 
 struct SplashForm : Form {

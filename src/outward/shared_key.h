@@ -12,8 +12,12 @@ struct Show;
 bool IsKeypadMode(const Show& show);
 bool PublishesPlayers(const Show& show);
 
-// Writes a value of the shared key. A failure is told once and stops nothing; the next one is told after a success.
+// Sets a value of the shared key. It is written when the present event is done, and only when it has changed since it
+// was written last.
 void WriteSharedKey(Show& show, const std::string& name, const std::string& text);
+// Writes the values that wait, all at once. A failure is told once and stops nothing: the values wait for the next
+// write, and the next failure is told after a success.
+void FlushSharedKey(Show& show);
 // Writes "sendkeypress", "1" while keystrokes are wanted.
 void SendKeyPress(Show& show, bool on);
 // The same in a ring-in game with keypads, and nothing in any other.

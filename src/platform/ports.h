@@ -254,6 +254,14 @@ class HidPort {
   virtual void Close() = 0;
 };
 
+// Tells of devices that come and go, because the system tells; nothing looks for them over and over.
+class DeviceWatch {
+ public:
+  virtual ~DeviceWatch() = default;
+  // Called from now on, between events, soon after a device has come, gone or become free to be opened.
+  virtual void OnChanged(std::function<void()> changed) = 0;
+};
+
 // Lines that belong on one page where a page can hold them.
 using PrintBlock = std::vector<std::string>;
 
@@ -353,6 +361,7 @@ struct Platform {
   Processes& processes;
   RandomSource& random;
   HidPort& hid;
+  DeviceWatch& devices;
   Printing& printing;
   HelpPages& pages;
   SerialPort& serial;

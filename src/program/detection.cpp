@@ -7,12 +7,10 @@
 
 #include "controllers/zr610.h"
 #include "forms/main_form.h"
-#include "forms/press_forms.h"
 #include "forms/small_forms.h"
 #include "platform/text.h"
 #include "presentation/audience_screen.h"
 #include "program/main_load.h"
-#include "show/settings.h"
 #include "show/show.h"
 
 namespace pawnfield {
@@ -97,30 +95,6 @@ void tmrSplash_Timer(Show& show) {
   ServeWhatIsFound(show);
   show.frmLoading.Visible = false;
   show.frmSplash.Visible = false;
-}
-
-void frmSetInterface_Load(Show& show) {
-  constexpr int kLastChoice = 4;
-  const int stored = GetIntSetting(show, "SerialComm", static_cast<int>(InterfaceCode::OutOfRange));
-  const bool known = stored >= 0 && stored <= kLastChoice;
-  show.state.SerialComm = known ? static_cast<InterfaceCode>(stored) : InterfaceCode::OutOfRange;
-  frmSetInterface_btnOK_Click(show);
-}
-
-void frmSetInterface_btnOK_Click(Show& show) {
-  show.state.ZR650 = false;
-  show.state.SerialComm = InterfaceCode::PublishingKeypads;
-  // A choice that can't be kept is told, and the console comes up all the same.
-  const std::string code = std::to_string(static_cast<int>(InterfaceCode::PublishingKeypads));
-  SaveSettingOrTell(show, "SerialComm", code, show.frmSetInterface, "btnOK_Click");
-  show.frmMain.Visible = true;
-  ShowAudienceAt(show, show.state.FSLeft);
-  show.frmSetInterface.Unload();
-}
-
-void frmSetInterface_btnCancel_Click(Show& show) {
-  show.frmSetInterface.Unload();
-  show.platform.processes.EndProgram();
 }
 
 }  // namespace pawnfield

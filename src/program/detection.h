@@ -1,4 +1,4 @@
-// Which controller hardware the show serves: the transceiver's search and the interface dialog.
+// Which controller hardware the show serves: the order of the search, and the transceiver's.
 #pragma once
 
 #include <functional>
@@ -23,10 +23,5 @@ bool DetectHIDTransceiver(Show& show);
 
 // The end of the splash: finds what is attached, or tells of manual mode, and brings up the screens.
 void tmrSplash_Timer(Show& show);
-
-// The dialog's load, which accepts it at once.
-void frmSetInterface_Load(Show& show);
-void frmSetInterface_btnOK_Click(Show& show);
-void frmSetInterface_btnCancel_Click(Show& show);
 
 }  // namespace pawnfield

@@ -21,11 +21,14 @@
 #include "media/media_handlers.h"
 #include "media/sound_channels.h"
 #include "outward/companion.h"
+#include "outward/shared_key.h"
 #include "platform/attach.h"
 #include "platform/errors.h"
 #include "presentation/audience_screen.h"
 #include "program/detection.h"
+#include "program/interface_wizard.h"
 #include "program/start_up.h"
+#include "program/wireless.h"
 #include "sets/editor_handlers.h"
 #include "show/show.h"
 
@@ -117,6 +120,7 @@ void AttachTimers(Show& show) {
   OnTimer(show, show.frmFSMain.tmrFSFlipPlayerPiece, tmrFSFlipPlayerPiece_Timer);
   OnTimer(show, show.frmAlwaysLoaded.tmrAlwaysLoaded, tmrAlwaysLoaded_Timer);
   OnTimer(show, show.frmAlwaysLoaded.tmrCompanion, tmrCompanion_Timer);
+  OnTimer(show, show.frmAlwaysLoaded.tmrSharedKey, FlushSharedKey);
   OnTimer(show, show.frmSplash.tmrProgress, tmrProgress_Timer);
   OnTimer(show, show.frmSplash.tmrSplash, tmrSplash_Timer);
   for (std::size_t i = 0; i < 2; ++i) {
@@ -147,8 +151,8 @@ void AttachHandlers(Show& show) {
   AttachConfigKeysHandlers(show);
   AttachOptionsDialogHandlers(show);
   AttachPressHandlers(show);
-  OnClick(show, show.frmSetInterface.btnOK, frmSetInterface_btnOK_Click);
-  OnClick(show, show.frmSetInterface.btnCancel, frmSetInterface_btnCancel_Click);
+  AttachDeviceWatch(show);
+  AttachInterfaceWizard(show);
   BindSoundChannels(show);
   AttachAudienceHandlers(show);
   AttachMediaHandlers(show);

@@ -21,6 +21,7 @@
 #include "presentation/board_layout.h"
 #include "presentation/both_screens.h"
 #include "program/interface_file.h"
+#include "program/wireless.h"
 #include "sets/set_file.h"
 #include "show/settings.h"
 #include "show/show.h"

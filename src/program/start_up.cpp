@@ -77,6 +77,7 @@ bool Form_QueryUnload(Show& show) {
 void fileExit(Show& show) {
   MainForm& form = show.frmMain;
   SendKeyPress(show, false);
+  FlushSharedKey(show);
   for (Timer* timer :
        {&form.tmr5QuestionTimer, &form.tmrAnswer, &form.tmrArrowsTimer, &form.tmrAutoContinue, &form.tmrBGMusic,
         &form.tmrBonus, &form.tmrExternalCtrlFlasher, &form.tmrFlipPlayerPiece, &form.tmrMainTimer, &form.tmrNonBuzzer,

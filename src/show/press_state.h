@@ -26,9 +26,13 @@ struct PressState {
   bool BrokenFrameTold = false;
   // Runs while frames wait behind a message box.
   std::unique_ptr<SelfTimer> HeldFrames;
+  // Runs while half a frame waits for its rest.
+  std::unique_ptr<SelfTimer> LateFrame;
   PadMap MFMap{};
 
   bool HardwareFound = false;
+  // The operator has been told that the transceiver is gone.
+  bool TransceiverLost = false;
   // The first five fields of Interface.txt, which are carried through.
   std::array<int, 5> InterfaceFields{4, 0, 0, 0, 0};
 };

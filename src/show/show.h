@@ -108,6 +108,9 @@ struct Show {
   std::deque<std::string> CompanionReports;
   // Whether the last report, and the last write to the external keyboard program's key, failed; that has been told.
   bool CompanionFails = false, SharedKeyFails = false;
+  // The values of that key: those that wait until the present event is done, and what each was when it was written.
+  std::vector<Setting> SharedKeyWaiting;
+  std::map<std::string, std::string> SharedKeyWritten;
   std::vector<MonitorInfo> Monitors;
   // frmFSMain has been loaded; and the desktop's saver and sleep are held off.
   bool AudienceLoaded = false, AwakeHeld = false;

@@ -53,6 +53,18 @@ class SimDisplays : public Displays {
   std::function<void()> changed_;
 };
 
+class SimDeviceWatch : public DeviceWatch {
+ public:
+  void OnChanged(std::function<void()> changed) override { changed_ = std::move(changed); }
+  // The system tells of a device that was plugged in or pulled.
+  void Tell() const {
+    if (changed_) changed_();
+  }
+
+ private:
+  std::function<void()> changed_;
+};
+
 class SimPrinter : public Printing {
  public:
   std::optional<int> ChoosePrinter() override;

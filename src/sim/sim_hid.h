@@ -28,15 +28,17 @@ class SimHid : public HidPort {
   HidLengths Lengths() const override;
   HidRead Read(std::string& report) override;
   std::size_t Write(const std::string& report) override;
-  void Close() override { open_ = -1; }
+  void Close() override;
 
   // A transceiver with the report lengths of its kind: 33 bytes each way, or 3 in and 9 out for the short form.
   void PlugTransceiver(int product = 0x1003);
-  // Every read and write fails from now on.
-  void Pull() { pulled_ = true; }
+  // All devices are gone, with what they have reported: reads and writes of an open one fail until it is closed.
+  void Pull();
   // The place of the open device in Devices, -1 for none.
   int Opened() const { return open_; }
 
+  // Another port that answers in this one's place, null for none.
+  HidPort* Instead = nullptr;
   std::vector<Device> Devices;
   // What waits to be read, oldest first.
   std::deque<std::string> Reports;

@@ -28,6 +28,7 @@ struct SimPlatform {
   SimProcesses processes;
   SimRandom random;
   SimHid hid{clock};
+  SimDeviceWatch devices;
   SimPrinter printing;
   SimPages pages;
   SimSerial serial;

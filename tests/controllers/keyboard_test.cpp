@@ -30,8 +30,9 @@ class Keyboard : public GamePlayer {
     }
     return changes.empty() ? "." : changes;
   }
-  // The writes to the shared key since the last look.
+  // The writes to the shared key since the last look, once the present event is done.
   std::string Written() {
+    FlushSharedKey(show());
     std::string text;
     for (const auto& [name, value] : fixture().sim.settings.Writes) text += name + "=" + value + " ";
     fixture().sim.settings.Writes.clear();
@@ -160,22 +161,40 @@ TEST(Keyboard, TellsTheExternalKeyboardProgramWhenPressesAreWanted) {
   Keyboard keyboard('5', "", "mi");
   keyboard.state.SerialComm = InterfaceCode::PublishingKeypads;
   const std::string on = "sendkeypress=1 ", off = "sendkeypress=0 ";
+  // Only what has changed is written.
   const std::pair<const char*, std::string> steps[] = {
       {"fileClearAllScores", "10=0 11=0 13=0 "},
-      {"file:C:\\Pawnfield\\Trivia_Sets\\Long.txt btnSelectGame", "10=0 11=0 12=0 "},
-      {"btnStart", on + on},
-      {"r2 -", off + on},
-      {"r2 + 11 U", off + "11=0 "},
+      {"file:C:\\Pawnfield\\Trivia_Sets\\Long.txt btnSelectGame", "12=0 "},
+      {"btnStart", on},
+      // Back to what stands there.
+      {"r2 -", ""},
+      {"r2", off},
+      {"+ 11 U", ""},
       // The question and the automatic continue.
-      {"cboAutoContinue:0 S >", on + on}};
+      {"cboAutoContinue:0 S >", on}};
   for (const auto& [script, written] : steps) {
     keyboard.Play(script);
     EXPECT_EQ(keyboard.Written(), written) << script;
   }
   keyboard.fixture().sim.settings.FailSaves = 3;
   keyboard.Play("?Procedure:_WriteSharedKey");
-  for (int i = 0; i < 4; ++i) SendKeyPress(keyboard.show(), false);
+  for (int i = 0; i < 4; ++i) {
+    SendKeyPress(keyboard.show(), false);
+    FlushSharedKey(keyboard.show());
+  }
   EXPECT_EQ(keyboard.Written(), off) << "three failures are told once";
+}
+
+TEST(Keyboard, APressIsSeenBeforeTheKeyboardProgramReadsOfIt) {
+  Keyboard keyboard('5', "");
+  keyboard.state.SerialComm = InterfaceCode::PublishingKeypads;
+  const auto& writes = keyboard.fixture().sim.settings.Writes;
+  keyboard.fixture().sim.settings.Writes.clear();
+  keyboard.form().KeyPress('2');
+  keyboard.Play("turn=2 btnQuestionCorrect=on");
+  EXPECT_TRUE(writes.empty()) << "nothing goes to the disk between the press and its light";
+  keyboard.fixture().sim.clock.Advance(100);
+  EXPECT_EQ(writes.size(), 2U) << "the press is wanted no more, and whose it is";
 }
 
 }  // namespace

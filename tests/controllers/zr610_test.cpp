@@ -36,7 +36,7 @@ TEST(FrameSplitter, CutsFramesOutOfAnyReadsAndStaysSmall) {
     Strings cut;
     for (const std::string& read : reads) {
       splitter.Add(read);
-      while (const auto frame = splitter.Next()) cut.push_back(*frame);
+      while (const auto frame = splitter.Next(0)) cut.push_back(*frame);
       EXPECT_LE(splitter.Waiting(), 70000U) << what;
     }
     EXPECT_EQ(cut, frames) << what;
@@ -84,6 +84,29 @@ TEST(Pads, BrokenFramesAreToldOnceAndAPulledAdapterUntilReconnected) {
   port.FailNextOpen = kErrorInvalidPort;
   player.Play("?Error_Number:_8002 mnuReconnectMF mnuReconnectMF 2 turn=2");
   EXPECT_EQ(port.Number, 4);
+}
+
+TEST(Pads, HalfAFrameAndAWrongLengthCostNoLaterPress) {
+  GamePlayer player("5 3 3 full lm");
+  SimSerial& port = player.fixture().sim.serial;
+  // An adapter pulled amid a frame, and put back.
+  port.Feed(Pad(102).substr(0, 6));
+  port.Pull();
+  port.Plug();
+  player.Play("mnuReconnectMF 1 turn=1 -");
+  port.Feed(Pad(102).substr(0, 6));
+  player.Play("mnuReconnectMF 1 turn=1 -");
+  // A head whose frame never ends.
+  port.Feed("MF\xFF\xFF\1");
+  player.Play(">1000 3 turn=3 -");
+  // What was pressed behind such a head counts as soon as the head is given up, in its order.
+  port.Feed("MF\xFF\xFF");
+  player.Play(">500 2 1 turn=0 >499 turn=0 >1 turn=2 -");
+  // A frame in two parts, half a second apart, and one whose rest waits behind a message box.
+  port.Feed(Pad(103).substr(0, 5));
+  player.Play(">500");
+  port.Feed(Pad(103).substr(5));
+  player.Play("turn=3 -");
 }
 
 TEST(Pads, TheDialogWalksDownAndAPadStandsInOneRow) {

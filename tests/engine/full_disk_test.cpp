@@ -4,7 +4,7 @@
 #include "../support/show_fixture.h"
 #include "forms/optional_headers_form.h"
 #include "media/optional_headers.h"
-#include "program/detection.h"
+#include "program/interface_wizard.h"
 
 namespace pawnfield {
 namespace {
@@ -24,12 +24,14 @@ TEST(FullDisk, HeadersComeUpThoughTheirSettingIsNotKept) {
   EXPECT_TRUE(fixture.sim.files.CanOpen("C:\\Ostara Show Kit Data\\Headers.txt"));
 }
 
-TEST(FullDisk, TheConsoleComesUpThoughTheInterfaceIsNotKept) {
+TEST(FullDisk, AnInterfaceIsServedThoughItIsNotKept) {
   ShowFixture fixture;
+  fixture.Start();
+  frmSetInterface_Load(fixture.show());
   fixture.sim.settings.FailSaves = 1;
   fixture.sim.dialogs.ExpectMessage("Procedure: btnOK_Click");
   frmSetInterface_btnOK_Click(fixture.show());
-  EXPECT_TRUE(fixture.form().Visible);
+  EXPECT_EQ(fixture.show().state.SerialComm, InterfaceCode::PublishingKeypads);
 }
 
 }  // namespace

@@ -152,6 +152,7 @@ void SaveEverySetting(Rig& rig, int variant) {
 
 void SaveSharedKey(Rig& rig, int variant) {
   WriteSharedKey(rig.show, "10", Words(variant, 1, 60));
+  FlushSharedKey(rig.show);
   // Told once in a show; here each refusal counts.
   rig.show.SharedKeyFails = false;
 }

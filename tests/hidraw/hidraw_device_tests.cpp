@@ -2,6 +2,7 @@
 #include <gtest/gtest.h>
 
 #include "controllers/ring_in.h"
+#include "desktop/devices/device_folder.h"
 #include "desktop/devices/hidapi_port.h"
 #include "devices/packing.h"
 #include "devices/transceiver.h"
@@ -39,6 +40,7 @@ class Hidraw : public ::testing::Test {
       std::this_thread::sleep_for(Milliseconds(kPollMs));
       fixture_.sim.clock.Advance(kPollMs);
       clock_.Advance(kPollMs);
+      if (fixture_.sim.hid.Instead != nullptr && folder_.TakeChanges()) fixture_.sim.devices.Tell();
     }
     return condition();
   }
@@ -53,6 +55,14 @@ class Hidraw : public ::testing::Test {
         SelfTimer::GuardFunction());
     EXPECT_TRUE(transceiver->Ready());
     return *transceiver;
+  }
+  bool Says(const std::string& text) {
+    return Polls([&] { return fixture_.form().lblStatusBar.Caption == text; });
+  }
+  static void Press(UhidDevice& device, char remote) {
+    std::string report = BuildPacket({remote, '\5', '\0', '\0'}, 0).substr(1);
+    report.resize(32);
+    device.Report(report);
   }
   bool Holds(int player) {
     return Polls([&] { return fixture_.show().state.CurrentPlayer == player; });
@@ -69,6 +79,7 @@ class Hidraw : public ::testing::Test {
   }
 
   PacedClock clock_;
+  DeviceFolder folder_;
   HidapiPort port_;
   ShowFixture fixture_;
 };
@@ -83,11 +94,7 @@ TEST_F(Hidraw, TheFirstOfTwoTransceiversIsFoundAmongOthersAndItsPressesRingIn) {
   EXPECT_EQ(port_.Lengths().Input, 33u);
   EXPECT_EQ(port_.Lengths().Output, 33u);
 
-  for (const char remote : {'\2', '\1'}) {
-    std::string report = BuildPacket({remote, '\5', '\0', '\0'}, 0).substr(1);
-    report.resize(32);
-    first->Report(report);
-  }
+  for (const char remote : {'\2', '\1'}) Press(*first, remote);
   ASSERT_TRUE(Holds(2));
   EXPECT_EQ(Sent(*first, 1), std::vector{BuildPacket("\2\0\2"s, 1)}) << "the first is lit, the second shut out";
   for (UhidDevice* other : {&keyboard, &relative, &cousin, &second}) EXPECT_TRUE(other->Outputs().empty());
@@ -97,6 +104,31 @@ TEST_F(Hidraw, TheFirstOfTwoTransceiversIsFoundAmongOthersAndItsPressesRingIn) {
   fixture_.form().btnQuestionIncorrect.Click();
   fixture_.form().KeyPress('3');
   EXPECT_EQ(fixture_.show().state.CurrentPlayer, 3) << "the show goes on";
+}
+
+TEST_F(Hidraw, ATransceiverThatComesAfterTheStartIsPulledAmidAGameAndComesBack) {
+  fixture_.sim.hid.Instead = &port_;
+  auto device = std::make_unique<UhidDevice>(3, 0x1003, 32, 32);
+  EXPECT_TRUE(Says("Wireless transceiver found"));
+  for (int round = 0; round < 2; ++round) {
+    Press(*device, '\2');
+    EXPECT_TRUE(Holds(2)) << "round " << round;
+    fixture_.form().btnQuestionIncorrect.Click();
+    Press(*device, '\1');
+    device.reset();
+    EXPECT_TRUE(Says("Wireless transceiver lost"));
+    // A press that came through before the pull counts as any other.
+    if (fixture_.show().state.CurrentPlayer != 0) fixture_.form().btnQuestionIncorrect.Click();
+    fixture_.form().KeyPress('3');
+    EXPECT_EQ(fixture_.show().state.CurrentPlayer, 3) << "the show goes on";
+    fixture_.form().btnQuestionIncorrect.Click();
+    const auto put = std::chrono::steady_clock::now();
+    device = std::make_unique<UhidDevice>(3, 0x1003, 32, 32);
+    EXPECT_TRUE(Says("Wireless transceiver back"));
+    EXPECT_LT(std::chrono::steady_clock::now() - put, Milliseconds(2000));
+    Polls([] { return false; });
+    EXPECT_EQ(fixture_.show().state.CurrentPlayer, 0) << "no press is invented";
+  }
 }
 
 TEST_F(Hidraw, AReportOf114CharactersKeepsItsPace) {

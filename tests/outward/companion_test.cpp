@@ -1,9 +1,9 @@
 // The report to the companion as bytes, who sends it when, and the life of its flags.
 #include "outward/companion.h"
 
-#include "controllers/ring_in.h"
 #include "devices/transceiver.h"
 #include "forms/small_forms.h"
+#include "program/wireless.h"
 #include "support/game_player.h"
 
 namespace pawnfield {

@@ -1,9 +1,9 @@
-// What is attached at the start: the order of the search, the text rules, the interface dialog and its file.
+// What is attached at the start: the order of the search, the text rules, the interface's wizard and file.
 #include "program/detection.h"
 
-#include "../support/show_fixture.h"
 #include "devices/transceiver.h"
 #include "forms/press_forms.h"
+#include "support/game_player.h"
 
 namespace pawnfield {
 namespace {
@@ -79,20 +79,30 @@ TEST(InterfaceFile, IsReadFieldByFieldAndWrittenAtTheExit) {
   }
 }
 
-TEST(InterfaceDialog, AlwaysResultsInTheSharedKeypadMode) {
-  for (const char* stored : {"0", "4", "5", "99"}) {
-    ShowFixture fixture;
-    fixture.Start();
-    fixture.Preset("SerialComm", stored);
-    fixture.show().state.ZR650 = true;
-    fixture.show().frmSetInterface.Visible = true;
-    frmSetInterface_Load(fixture.show());
-    EXPECT_EQ(fixture.show().state.SerialComm, InterfaceCode::PublishingKeypads);
-    EXPECT_FALSE(fixture.show().state.ZR650 || fixture.show().frmSetInterface.Visible);
-    EXPECT_EQ(fixture.sim.settings.GetSetting("Pawnfield", "Settings", "SerialComm", ""), "9");
-    fixture.show().frmSetInterface.Visible = true;
-    fixture.show().frmSetInterface.btnCancel.Click();
-    EXPECT_TRUE(fixture.sim.processes.Ended);
+TEST(InterfaceWizard, WhatIsChosenInAGameWorksAtOnceAndIsKept) {
+  GamePlayer player("5 3 3 full");
+  Show& show = player.show();
+  const auto stored = [&](const char* application, const char* key) {
+    return player.fixture().sim.settings.GetSetting(application, "Settings", key, "");
+  };
+  player.Play("mnuFileInterface@frmSetInterface { btnCancel }");
+  EXPECT_FALSE(player.fixture().sim.processes.Ended);
+  EXPECT_EQ(show.state.SerialComm, InterfaceCode::Manual) << "as it was";
+  show.state.Routing[4] = 2;
+  player.Play("mnuFileInterface@frmSetInterface { btnOK } >100");
+  EXPECT_EQ(stored("Pawnfield", "SerialComm") + stored("PadBridge", "sendkeypress"), "91") << "a question waits";
+  player.Play("keys:4 turn=2 >100");
+  EXPECT_EQ(stored("PadBridge", "11"), "PLAYER 2");
+  // The option that is chosen, and the interface that it gives.
+  const std::pair<const char*, int> choices[] = {{"0", 0}, {"2", 2}, {"6", 6}, {"7", 8}, {"8", 9}, {"6", 6}};
+  for (const auto& [option, serialComm] : choices) {
+    player.Play(std::string("mnuFileInterface@frmSetInterface { optInterfaceType(") + option + ") btnOK } >100");
+    EXPECT_EQ(static_cast<int>(show.state.SerialComm), serialComm) << option;
+    EXPECT_EQ(stored("Pawnfield", "SerialComm"), std::to_string(serialComm));
+  }
+  player.Play("- keys:4 turn=0 keys:3 turn=3");
+  for (const std::size_t nothing : {1U, 3U, 4U, 5U}) {
+    EXPECT_FALSE(show.frmSetInterface.optInterfaceType[nothing].Enabled) << nothing << " stands for no interface";
   }
 }
 

@@ -10,7 +10,7 @@ namespace pawnfield {
 std::vector<MonitorInfo> QtDisplays::Enumerate() const {
   std::vector<MonitorInfo> monitors;
   for (const QScreen* screen : screens_.List()) {
-    const QRect area = screen->geometry();
+    const QRect area = screens_.Place(*screen);
     monitors.push_back({area.left(), area.top(), area.left() + area.width(), area.top() + area.height()});
   }
   return monitors;

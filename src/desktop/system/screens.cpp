@@ -1,8 +1,5 @@
 #include "desktop/system/screens.h"
 
-#include <qpa/qplatformscreen.h>
-#include <qpa/qwindowsysteminterface.h>
-
 #include <QGuiApplication>
 
 namespace pawnfield {
@@ -11,7 +8,6 @@ namespace {
 // A change of monitors comes as a burst of signals, and the window manager has its say after it.
 constexpr int kSoonMs = 30;
 constexpr int kSettledMs = 600;
-constexpr int kRefreshMs = 250;
 }  // namespace
 
 bool WindowsHavePlaces() { return !QGuiApplication::platformName().startsWith("wayland"); }
@@ -22,8 +18,6 @@ Screens::Screens() {
     timer->setInterval(wait);
     timer->callOnTimeout(this, [this] { Tell(); });
   }
-  refresh_.callOnTimeout(this, [this] { Refresh(); });
-  refresh_.start(kRefreshMs);
   if (const QScreen* primary = QGuiApplication::primaryScreen()) home_ = primary->name();
   for (QScreen* screen : QGuiApplication::screens()) Watch(*screen);
   connect(qGuiApp, &QGuiApplication::screenAdded, this, [this](QScreen* screen) {
@@ -36,16 +30,6 @@ Screens::Screens() {
 
 void Screens::Watch(QScreen& screen) {
   connect(&screen, &QScreen::geometryChanged, this, [this] { Change(); });
-}
-
-// On X the toolkit's lower half learns of a new mode or place, but tells of it only when the work area changes with it.
-// So it is asked, and what it knows is passed on.
-void Screens::Refresh() {
-  for (QScreen* screen : QGuiApplication::screens()) {
-    const QPlatformScreen* known = screen->handle();
-    if (known->deviceIndependentGeometry() == screen->geometry()) continue;
-    QWindowSystemInterface::handleScreenGeometryChange(screen, known->geometry(), known->availableGeometry());
-  }
 }
 
 void Screens::Change() {
@@ -73,6 +57,20 @@ QList<QScreen*> Screens::List() const {
   const qsizetype home = screens.indexOf(First());
   if (home > 0) screens.move(home, 0);
   return screens;
+}
+
+QRect Screens::Place(const QScreen& screen) const { return server_.Place(screen).value_or(screen.geometry()); }
+
+QRect Screens::Room(const QScreen& screen) const {
+  const QRect place = Place(screen);
+  return place == screen.geometry() ? screen.availableGeometry() : place;
+}
+
+QScreen* Screens::At(QPoint point) const {
+  for (QScreen* screen : QGuiApplication::screens()) {
+    if (Place(*screen).contains(point)) return screen;
+  }
+  return nullptr;
 }
 
 QScreen* Screens::Second() const {

@@ -8,6 +8,8 @@
 #include <functional>
 #include <vector>
 
+#include "desktop/system/x_monitors.h"
+
 namespace pawnfield {
 
 // False in a Wayland session, where a window knows its screen but not its place on it.
@@ -22,6 +24,11 @@ class Screens : public QObject {
   QScreen* First() const;
   // The audience's, null when there is none.
   QScreen* Second() const;
+  // Where the screen stands now, and what the desktop leaves of it to windows.
+  QRect Place(const QScreen& screen) const;
+  QRect Room(const QScreen& screen) const;
+  // The screen that shows the point, null when none does.
+  QScreen* At(QPoint point) const;
   // The operator has put the console on another monitor.
   void MoveHome(const QScreen& screen);
   // True from a change of the monitors until it has settled: what moves meanwhile is not the operator's doing.
@@ -32,13 +39,13 @@ class Screens : public QObject {
 
  private:
   void Watch(QScreen& screen);
-  void Refresh();
   void Change();
   void Tell();
 
   // By name, so that a monitor which comes back is known again.
   QString home_;
-  QTimer refresh_, soon_, settled_;
+  QTimer soon_, settled_;
+  mutable XMonitors server_{[this] { Change(); }};
   std::vector<std::function<void()>> subscribers_;
 };
 

@@ -88,15 +88,16 @@ void AudienceWindow::Place() {
   }
   winId();
   // The window manager keeps a full-screen window at its monitor's size, also where the toolkit has not heard of it.
-  if (isVisible() && windowHandle()->screen() == target && pos() == target->geometry().topLeft()) return;
+  const QRect place = screens_.Place(*target);
+  if (isVisible() && windowHandle()->screen() == target && pos() == place.topLeft()) return;
   // Where windows have no coordinates, a full-screen window goes to the monitor it had when it was shown.
   if (isVisible() && windowHandle()->screen() != target) hide();
   windowHandle()->setScreen(target);
-  setGeometry(target->geometry());
+  setGeometry(place);
   // The toolkit's own call for this would also ask for the focus.
   setWindowState(Qt::WindowFullScreen);
   show();
-  setGeometry(target->geometry());
+  setGeometry(place);
 }
 
 void AudienceWindow::ScreenRemoved(const QScreen* screen) {
@@ -113,7 +114,8 @@ void AudienceWindow::changeEvent(QEvent* event) {
 void AudienceWindow::moveEvent(QMoveEvent* event) {
   FormWindow::moveEvent(event);
   const QScreen* target = screens_.Second();
-  if (!isVisible() || screens_.IsChanging() || target == nullptr || pos() == target->geometry().topLeft()) return;
+  if (!isVisible() || screens_.IsChanging() || target == nullptr) return;
+  if (pos() == screens_.Place(*target).topLeft()) return;
   if (copy_.OnMove) copy_.Dispatch(copy_.OnMove, "Form_Move");
   QTimer::singleShot(0, this, [this] { Place(); });
 }

@@ -1,6 +1,5 @@
 #include "desktop/windows/console_window.h"
 
-#include <QGuiApplication>
 #include <QPainter>
 #include <QScreen>
 #include <QWindow>
@@ -94,7 +93,7 @@ void ConsoleWindow::HoldUnseen() {
 }
 
 void ConsoleWindow::ShowForm() {
-  if (const QScreen* screen = screens_.First()) setGeometry(screen->availableGeometry());
+  if (const QScreen* screen = screens_.First()) setGeometry(screens_.Room(*screen));
   showMaximized();
   connect(windowHandle(), &QWindow::screenChanged, this, &ConsoleWindow::NoteHome, Qt::UniqueConnection);
   raise();
@@ -103,10 +102,11 @@ void ConsoleWindow::ShowForm() {
 
 void ConsoleWindow::ReturnHome() {
   const QScreen* home = screens_.First();
-  if (!WindowsHavePlaces() || !isVisible() || home == nullptr || home->geometry().contains(geometry().center())) return;
+  if (!WindowsHavePlaces() || !isVisible() || home == nullptr) return;
+  if (screens_.Place(*home).contains(geometry().center())) return;
   const bool maximised = isMaximized();
   if (maximised) showNormal();
-  setGeometry(home->availableGeometry());
+  setGeometry(screens_.Room(*home));
   if (maximised) showMaximized();
 }
 
@@ -116,7 +116,7 @@ void ConsoleWindow::moveEvent(QMoveEvent* event) {
 }
 
 void ConsoleWindow::NoteHome() {
-  const QScreen* screen = WindowsHavePlaces() ? QGuiApplication::screenAt(geometry().center()) : this->screen();
+  const QScreen* screen = WindowsHavePlaces() ? screens_.At(geometry().center()) : this->screen();
   if (isVisible() && screen != nullptr) screens_.MoveHome(*screen);
 }
 
