@@ -14,6 +14,7 @@
 #include "outward/shared_key.h"
 #include "platform/errors.h"
 #include "platform/text.h"
+#include "presentation/audience_screen.h"
 #include "presentation/both_screens.h"
 #include "presentation/text_fitting.h"
 #include "sets/set_file.h"
@@ -216,6 +217,7 @@ void tmrGridEnable_Timer(Show& show) {
   MainForm& form = show.frmMain;
   const bool running = show.state.GameInProgress;
   form.fraGridControl.Enabled = !running && (form.tmrArrowsTimer.Enabled || form.btnStart.Enabled);
+  KeepAwakeWhileShowing(show);
 }
 
 void tmrRotate_Timer(Show& show) {

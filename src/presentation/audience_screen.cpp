@@ -49,17 +49,10 @@ void SecondScreenMoved(Show& show) {
   show.frmFSMain.Left = show.state.FSLeft;
 }
 
-// Saver and sleep are held off while the board or a question is up, whoever brought it up.
-void KeepAwakeWhileShowing(Show& show) {
-  const bool showing = show.frmMain.Visible && !show.frmMain.picStandby.Visible;
-  if (showing == show.AwakeHeld) return;
-  show.AwakeHeld = showing;
-  show.platform.displays.KeepAwake(showing);
-}
-
+// What happens on this timer is told of by the monitors as well; nothing is looked for over and over.
 void tmrRePaint_Timer(Show& show) {
+  show.frmFSMain.tmrRePaint.Enabled = false;
   PaintGB(show);
-  KeepAwakeWhileShowing(show);
 }
 
 void mnuHelpProjector_Click(Show& show) {
@@ -116,6 +109,13 @@ void PaintGB(Show& show) {
   if (show.AudienceLoaded && HasSecondMonitor(show) && !show.frmSS.Visible) LoadSecondScreen(show);
 }
 
+void KeepAwakeWhileShowing(Show& show) {
+  const bool showing = show.frmMain.Visible && !show.frmMain.picStandby.Visible;
+  if (showing == show.AwakeHeld) return;
+  show.AwakeHeld = showing;
+  show.platform.displays.KeepAwake(showing);
+}
+
 void UnloadAudienceScreen(Show& show) {
   if (show.AwakeHeld) show.platform.displays.KeepAwake(false);
   show.AwakeHeld = false;
@@ -130,6 +130,7 @@ void UnloadAudienceScreen(Show& show) {
 
 void MonitorsChanged(Show& show) {
   FindAudiencePlace(show);
+  show.frmFSMain.tmrRePaint.Enabled = true;
   if (!show.frmMain.Visible) {
     // The console's load brings the audience screen up by itself.
     if (show.AudienceLoaded) return;

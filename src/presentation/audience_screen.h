@@ -14,6 +14,9 @@ void ShowAudienceScreen(Show& show, int left);
 // Loads frmSS where a second monitor is and frmSS is not loaded. The canvas paints each change at once, so that a tick
 // without a change costs nothing.
 void PaintGB(Show& show);
+// Holds the desktop's saver and sleep off while the board or a question is up, whoever brought it up. Looked after
+// every two seconds, on a timer that runs anyway; no saver is that quick.
+void KeepAwakeWhileShowing(Show& show);
 // Records frmFSMain's place and unloads both forms.
 void UnloadAudienceScreen(Show& show);
 // A monitor came, went or changed: the audience screen follows it, in step with the console.

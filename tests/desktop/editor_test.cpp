@@ -143,7 +143,7 @@ class EditorShow : public ShowSuite {
   static bool Won() { return Main().picWinner.Visible; }
   static bool PlayedToTheWinner() {
     for (int square = 0; square < 9 && !Won(); ++square) {
-      if (!Wait([] { return Main().btnContinue.Enabled || Asked() || Won(); }, 15000)) return false;
+      if (!Wait([] { return Main().btnContinue.Enabled || Asked() || Won(); })) return false;
       if (Main().btnContinue.Enabled) Press({"btnContinue"});
       if (!Wait([] { return Asked() || Won(); })) return false;
       if (Won()) break;
@@ -151,7 +151,7 @@ class EditorShow : public ShowSuite {
       bool claimed = false;
       if (!Wait([&] { return claimed = claimed || driver_->PressSquare(square / 3, square % 3); })) return false;
     }
-    return Wait(Won, 15000);
+    return Wait(Won);
   }
 };
 

@@ -187,7 +187,7 @@ TEST_F(ProcessesTest, ASecondInstanceRaisesTheFirstAndAMarkOfNobodyRefusesNone) 
     EXPECT_FALSE(first.AnotherInstanceRuns());
     EXPECT_TRUE(second.AnotherInstanceRuns());
     second.Activate(0);
-    EXPECT_TRUE(QTest::qWaitFor([&] { return raised == 1; }, 2000));
+    EXPECT_TRUE(QTest::qWaitFor([&] { return raised == 1; }, 30000));
   }
   // What a crash leaves: a lock of a process that is gone, and one that was not yet written.
   for (const QByteArray& mark : {"999999999\npawnfield\n" + QSysInfo::machineHostName().toUtf8() + "\n", {}}) {
@@ -256,8 +256,8 @@ TEST_F(SoundTest, PlaysToTheEndCutsAndStopsWithoutADevice) {
   Make("short.wav", ToneFile(0, 200));
   Make("long.wav", ToneFile(0, 20000));
   MpvChannel channel;
-  const auto plays = [&] { return QTest::qWaitFor([&] { return channel.IsPlaying(); }, 5000); };
-  const auto ends = [&](int count) { return QTest::qWaitFor([&] { return channel.Ended() == count; }, 5000); };
+  const auto plays = [&] { return QTest::qWaitFor([&] { return channel.IsPlaying(); }, 30000); };
+  const auto ends = [&](int count) { return QTest::qWaitFor([&] { return channel.Ended() == count; }, 30000); };
   channel.SetPosition(0);
   channel.SetUrl(Spelled("\\SHORT.WAV"));
   EXPECT_TRUE(ends(1));
@@ -289,7 +289,7 @@ TEST_F(SoundTest, WhatIsNoSoundIsSilence) {
     EXPECT_FALSE(channel.IsPlaying()) << path;
   }
   channel.SetUrl(Spelled("\\broken.wav"));
-  EXPECT_TRUE(QTest::qWaitFor([&] { return channel.Failed() == 1; }, 5000));
+  EXPECT_TRUE(QTest::qWaitFor([&] { return channel.Failed() == 1; }, 30000));
 }
 
 TEST(VolumeTest, IsHeardAsSet) {

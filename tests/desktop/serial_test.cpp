@@ -70,7 +70,7 @@ class SerialLineTest : public testing::Test {
   }
   // That player rings in, nobody after him shuts him out, and the question is open again.
   void ExpectRingsIn(int player) {
-    EXPECT_TRUE(QTest::qWaitFor([&] { return show_.state.CurrentPlayer == player; }, 3000));
+    EXPECT_TRUE(QTest::qWaitFor([&] { return show_.state.CurrentPlayer == player; }, 30000));
     QTest::qWait(30);
     EXPECT_EQ(show_.state.CurrentPlayer, player);
     form_.btnQuestionIncorrect.Click();
@@ -115,7 +115,7 @@ TEST_F(SerialLineTest, APulledAdapterIsClosedOnceAndComesBackInTheSameQuestion) 
     onComm(event);
   };
   line_->Pull();
-  EXPECT_TRUE(QTest::qWaitFor([&] { return !show_.platform.serial.PortOpen(); }, 3000));
+  EXPECT_TRUE(QTest::qWaitFor([&] { return !show_.platform.serial.PortOpen(); }, 30000));
   QTest::qWait(100);
   EXPECT_EQ(lost, 1);
   EXPECT_NE(form_.lblStatusBar.Caption->find("was unplugged"), std::string::npos);

@@ -33,7 +33,7 @@ class ShowSuite : public testing::Test {
   void SetUp() override { ASSERT_TRUE(ready_); }
 
   static bool Xrandr(const QString& arguments) { return QProcess::execute("xrandr", arguments.split(' ')) == 0; }
-  static bool Wait(const std::function<bool()>& condition, int ms = 8000) { return driver_->WaitFor(condition, ms); }
+  static bool Wait(const std::function<bool()>& condition, int ms = 60000) { return driver_->WaitFor(condition, ms); }
   static bool Press(const QStringList& widgets) {
     return std::all_of(widgets.begin(), widgets.end(), [](const QString& widget) { return driver_->Press(widget); });
   }

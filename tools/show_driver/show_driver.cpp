@@ -4,6 +4,7 @@
 #include <QApplication>
 #include <QDir>
 #include <QElapsedTimer>
+#include <QKeyEvent>
 #include <QMessageBox>
 #include <QProcess>
 #include <QPushButton>
@@ -23,7 +24,25 @@ namespace pawnfield {
 namespace {
 
 constexpr int kStepMs = 20;
-constexpr int kStartMs = 20000;
+constexpr int kStartMs = 120000;
+// A key whose window closes at its press may never be seen to go up.
+constexpr int kKeyMs = 2000;
+
+// Waits for a key that the display server was given: it has come through when it is seen to go up.
+class KeyUp : public QObject {
+ public:
+  KeyUp() { qApp->installEventFilter(this); }
+  bool Seen() const { return seen_; }
+  bool eventFilter(QObject*, QEvent* event) override {
+    if (event->type() != QEvent::KeyRelease || !event->spontaneous()) return false;
+    const int key = static_cast<QKeyEvent*>(event)->key();
+    seen_ = seen_ || (key != Qt::Key_Control && key != Qt::Key_Shift && key != Qt::Key_Alt);
+    return false;
+  }
+
+ private:
+  bool seen_ = false;
+};
 
 }  // namespace
 
@@ -102,6 +121,7 @@ bool ShowDriver::Choose(const QString& combo, const QString& item) {
   auto* box = program_.Console().findChild<ModelComboBox*>(combo);
   if (box == nullptr || !box->isEnabled() || !box->isVisible()) return false;
   QTest::mouseClick(box, Qt::LeftButton);
+  WaitFor([box] { return box->view()->isVisible(); }, kKeyMs);
   Pause(200);
   const int row = box->findText(item);
   if (row < 0) {
@@ -153,7 +173,9 @@ bool ShowDriver::PictureOfForm(const QString& form, const std::function<void()>&
 
 bool ShowDriver::Type(const QStringList& keys) {
   for (const QString& key : keys) {
+    const KeyUp up;
     if (QProcess::execute("xdotool", {"key", "--clearmodifiers", key}) != 0) return false;
+    WaitFor([&up] { return up.Seen(); }, kKeyMs);
     Pause(kStepMs * 2);
   }
   return true;

@@ -26,7 +26,7 @@ class ShowDriver {
   // Opens the list and picks the item of that text with the mouse.
   bool Choose(const QString& combo, const QString& item);
   // Lets the program run until the condition holds, at most the given time.
-  bool WaitFor(const std::function<bool()>& condition, int milliseconds = 8000);
+  bool WaitFor(const std::function<bool()>& condition, int milliseconds = 60000);
   void Pause(int milliseconds);
   // Sends keys to whatever window is in front, as a keyboard would: names as in "c", "Return", "ctrl+n". False when
   // nothing can send them.

@@ -1,5 +1,5 @@
-// The monitors' places as the X server tells them. The toolkit can keep an old place for a while, of a monitor whose mode
-// alone has changed for good.
+// The monitors' places as the X server tells them. The toolkit can keep an old place for a while, of a monitor whose
+// mode alone has changed for good.
 #pragma once
 
 #include <QAbstractNativeEventFilter>

@@ -1,13 +1,14 @@
 #include "desktop/windows/form_window.h"
 
+#include <QApplication>
 #include <QCloseEvent>
-#include <QGuiApplication>
 #include <QPushButton>
 #include <QScreen>
 #include <QVBoxLayout>
 
 #include "desktop/files/native_path.h"
 #include "desktop/files/windows_1252.h"
+#include "desktop/system/screens.h"
 
 namespace pawnfield {
 
@@ -60,9 +61,13 @@ void FormWindow::ShowForm() {
   if (first != nullptr) first->setFocus();
   // The toolkit's own adjustment keeps a window to two thirds of the screen and would press its contents together.
   resize(sizeHint());
-  if (const QScreen* screen = QGuiApplication::primaryScreen()) {
-    resize(size().boundedTo(screen->availableGeometry().size()));
-    move(screen->availableGeometry().center() - rect().center());
+  if (const QScreen* screen = QApplication::primaryScreen()) {
+    const QRect room = screen->availableGeometry();
+    resize(size().boundedTo(room.size()));
+    // Over the window that the operator works with, wherever he has put that; the full-screen one is the room's.
+    const QWidget* worked = QApplication::activeWindow();
+    const bool stands = WindowsHavePlaces() && worked != nullptr && worked->isVisible() && !worked->isFullScreen();
+    move((stands ? worked->frameGeometry() : room).center() - rect().center());
   }
   show();
   raise();

@@ -6,7 +6,6 @@
 #include <QPushButton>
 #include <QSlider>
 #include <QStyle>
-#include <QTimer>
 #include <QVBoxLayout>
 
 #include "desktop/media/film.h"
@@ -46,11 +45,8 @@ PlayerView::PlayerView(MpvVideo& video, QWidget* parent) : QWidget(parent), vide
   setAttribute(Qt::WA_OpaquePaintEvent);
   MakeBar();
   connect(&video_, &MpvVideo::FrameChanged, this, [this] { update(FilmRect()); });
-  auto* refresh = new QTimer(this);
-  connect(refresh, &QTimer::timeout, this, [this] {
-    if (isVisible()) ShowState();
-  });
-  refresh->start(kRefreshMs);
+  refresh_.setInterval(kRefreshMs);
+  connect(&refresh_, &QTimer::timeout, this, &PlayerView::ShowState);
 }
 
 void PlayerView::MakeBar() {
@@ -112,7 +108,12 @@ void PlayerView::ShowState() {
 
 QRect PlayerView::FilmRect() const { return rect().adjusted(0, 0, 0, -kBarHeight); }
 
-void PlayerView::showEvent(QShowEvent*) { ShowState(); }
+void PlayerView::showEvent(QShowEvent*) {
+  ShowState();
+  refresh_.start();
+}
+
+void PlayerView::hideEvent(QHideEvent*) { refresh_.stop(); }
 
 void PlayerView::paintEvent(QPaintEvent*) {
   QPainter painter(this);

@@ -1,6 +1,7 @@
 // The operator's player of media on demand: the film and, below it, its controls. What they do is seen on both screens.
 #pragma once
 
+#include <QTimer>
 #include <QWidget>
 
 class QLabel;
@@ -19,6 +20,7 @@ class PlayerView : public QWidget {
  protected:
   void paintEvent(QPaintEvent* event) override;
   void showEvent(QShowEvent* event) override;
+  void hideEvent(QHideEvent* event) override;
 
  private:
   void MakeBar();
@@ -26,6 +28,8 @@ class PlayerView : public QWidget {
   QRect FilmRect() const;
 
   MpvVideo& video_;
+  // Runs while the controls are seen.
+  QTimer refresh_;
   QWidget* bar_ = nullptr;
   QPushButton* play_ = nullptr;
   QPushButton* stop_ = nullptr;
