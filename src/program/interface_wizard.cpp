@@ -17,8 +17,8 @@ namespace pawnfield {
 
 namespace {
 
-// An option of the dialog and the interface that it stands for, none for what was found on the machine. The other options
-// stand for nothing.
+// An option of the dialog and the interface that it stands for, none for what was found on the machine. The other
+// options stand for nothing.
 struct Choice {
   std::size_t Option;
   std::optional<InterfaceCode> SerialComm;
@@ -77,8 +77,8 @@ void frmSetInterface_btnOK_Click(Show& show) {
   show.state.ZR650 = false;
   TakeUp(show, ChosenInterface(show));
   // A choice that can't be kept is told, and holds for this evening all the same.
-  SaveSettingOrTell(show, "SerialComm", std::to_string(static_cast<int>(show.state.SerialComm)),
-                     show.frmSetInterface, "btnOK_Click");
+  SaveSettingOrTell(show, "SerialComm", std::to_string(static_cast<int>(show.state.SerialComm)), show.frmSetInterface,
+                    "btnOK_Click");
   show.frmSetInterface.Unload();
 }
 

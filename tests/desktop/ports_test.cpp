@@ -9,6 +9,7 @@
 #include <QTest>
 #include <csignal>
 
+#include "desktop/devices/qt_device_watch.h"
 #include "desktop/files/user_copy.h"
 #include "desktop/files/windows_1252.h"
 #include "places.h"
@@ -296,6 +297,26 @@ TEST(VolumeTest, IsHeardAsSet) {
   for (const auto& [volume, cubic] : {std::pair{0, 0.0}, {75, 90.86}, {100, 100.0}, {900, 100.0}}) {
     EXPECT_NEAR(CubicVolume(volume), cubic, 0.01) << volume;
   }
+}
+
+TEST(DeviceWatch, TellsOfADeviceItsRightsAndItsEndAndOfNothingElse) {
+  const QTemporaryDir folder;
+  QtDeviceWatch watch(folder.path().toStdString());
+  int told = 0;
+  watch.OnChanged([&] { ++told; });
+  const auto make = [&](const char* name) {
+    QFile file(folder.filePath(name));
+    EXPECT_TRUE(file.open(QIODevice::WriteOnly));
+  };
+  make("random");
+  QTest::qWait(200);
+  EXPECT_EQ(told, 0);
+  make("hidraw0");
+  EXPECT_TRUE(QTest::qWaitFor([&] { return told == 1; }, 30000));
+  QFile::setPermissions(folder.filePath("hidraw0"), QFile::ReadOwner);
+  EXPECT_TRUE(QTest::qWaitFor([&] { return told == 2; }, 30000));
+  QFile::remove(folder.filePath("hidraw0"));
+  EXPECT_TRUE(QTest::qWaitFor([&] { return told == 3; }, 30000));
 }
 
 }  // namespace
