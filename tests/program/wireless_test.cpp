@@ -16,7 +16,7 @@ class WirelessEvening {
     sim.clock.Advance(60);
   }
   void Plug() {
-    sim.hid.PlugTransceiver();
+    sim.hid.PlugTransceiver(kTransceiverShort);
     sim.devices.Tell();
   }
   std::string Status() { return player.form().lblStatusBar.Caption; }
@@ -26,9 +26,9 @@ class WirelessEvening {
 };
 
 TEST(WirelessEvening, PulledAmidAQuestionItIsMissedOnceAndBackByItself) {
-  WirelessEvening evening("5 3 3 full Wm");
-  evening.player.Play("2 turn=2 -");
-  evening.sim.hid.Reports.push_back(BuildPacket("\x03\x05\0\0", 0));
+  WirelessEvening evening("5 3 3 full wm");
+  evening.player.Play("2 >30 turn=2 -");
+  evening.sim.hid.Reports.push_back({'\0', '\0', '\3'});
   evening.Pull();
   EXPECT_EQ(evening.Status(), "Wireless transceiver lost");
   evening.player.form().lblStatusBar.Caption = "";
@@ -38,13 +38,13 @@ TEST(WirelessEvening, PulledAmidAQuestionItIsMissedOnceAndBackByItself) {
   EXPECT_EQ(evening.Status(), "") << "told once";
   evening.Plug();
   EXPECT_EQ(evening.Status(), "Wireless transceiver back");
-  evening.player.Play(">300 turn=0 1 turn=1 -");
+  evening.player.Play(">300 turn=0 1 >30 turn=1 -");
   // One that no poll has missed yet is put back at once.
   evening.sim.hid.Pull();
   evening.Plug();
   evening.sim.clock.Advance(30);
   EXPECT_EQ(evening.Status(), "Wireless transceiver back");
-  evening.player.Play(">300 3 turn=3");
+  evening.player.Play(">300 3 >30 turn=3");
 }
 
 TEST(WirelessEvening, PluggedInFirstWhenTheConsoleIsUpItServesTheGame) {
@@ -55,8 +55,7 @@ TEST(WirelessEvening, PluggedInFirstWhenTheConsoleIsUpItServesTheGame) {
   evening.Plug();
   EXPECT_EQ(evening.Status(), "Wireless transceiver found");
   EXPECT_EQ(evening.player.show().state.SerialComm, InterfaceCode::Wireless);
-  evening.sim.hid.Reports.push_back(BuildPacket(std::string("\x02\x05\0\0", 4), 0));
-  evening.player.Play(">30 turn=2 -");
+  evening.player.Play("2 >30 turn=2 -");
   evening.Pull();
   EXPECT_EQ(evening.Status(), "Wireless transceiver lost");
   // Keypads that were chosen meanwhile stay chosen.
