@@ -48,6 +48,7 @@ TEST_F(SoundEffects, TheGridShowsTheTable) {
 }
 
 TEST_F(SoundEffects, FilesAreChosenAndDroppedIntoTheirRows) {
+  const std::string before = Entry(2, 11);
   InDialog([&] {
     sim.dialogs.ExpectFile(kHorn);
     grid.DblClickCell(33, 1);
@@ -58,6 +59,13 @@ TEST_F(SoundEffects, FilesAreChosenAndDroppedIntoTheirRows) {
     sim.dialogs.ExpectMessage("File not found: D:\\clips");
     grid.DropFile(9, 2, "D:\\clips");
     grid.DropFile(0, 2, kHorn);
+    // Neither a text nor a film's subtitles are heard.
+    for (const char* name : {"words.txt", "film.mp4.srt"}) {
+      sim.files.Put(std::string("D:\\clips\\") + name, "Q");
+      sim.dialogs.ExpectMessage(std::string(name) + " can't be played and was not taken.");
+      grid.DropFile(10, 2, std::string("D:\\clips\\") + name);
+    }
+    EXPECT_EQ(Entry(2, 11), before);
   });
   EXPECT_EQ(Entry(1, 34) + Entry(2, 9) + Entry(3, 7), std::string(kHorn) + kHorn);
   const auto& requests = sim.dialogs.FileRequests();

@@ -1,8 +1,10 @@
 #include "desktop/windows/grid_view.h"
 
+#include <QCursor>
 #include <QDragEnterEvent>
 #include <QHeaderView>
 #include <QMimeData>
+#include <QToolTip>
 #include <QUrl>
 
 #include "desktop/files/native_path.h"
@@ -17,10 +19,12 @@ constexpr int kEnterCode = 13;
 const QColor kTextColor("#E6EAF2");
 const QColor kPlaceholderColor("#7A87A3");
 
-// The file that is dragged; empty when it is several things or none of this machine's.
-QString DraggedFile(const QMimeData& data) {
-  const QList<QUrl> urls = data.urls();
-  return urls.size() == 1 ? urls.first().toLocalFile() : QString();
+// Those dragged that are files of this machine.
+QStringList DraggedFiles(const QMimeData& data) {
+  QStringList files;
+  for (const QUrl& url : data.urls()) files << url.toLocalFile();
+  files.removeAll(QString());
+  return files;
 }
 
 class GridBinding : public Observer {
@@ -116,12 +120,12 @@ void GridView::keyPressEvent(QKeyEvent* event) {
 }
 
 void GridView::dragEnterEvent(QDragEnterEvent* event) {
-  if (!DraggedFile(*event->mimeData()).isEmpty()) event->acceptProposedAction();
+  if (!DraggedFiles(*event->mimeData()).isEmpty()) event->acceptProposedAction();
 }
 
 void GridView::dragMoveEvent(QDragMoveEvent* event) {
   const QModelIndex cell = indexAt(event->position().toPoint());
-  if (!cell.isValid() || DraggedFile(*event->mimeData()).isEmpty()) {
+  if (!cell.isValid() || DraggedFiles(*event->mimeData()).isEmpty()) {
     event->ignore();
     return;
   }
@@ -131,10 +135,16 @@ void GridView::dragMoveEvent(QDragMoveEvent* event) {
 
 void GridView::dropEvent(QDropEvent* event) {
   const QModelIndex cell = indexAt(event->position().toPoint());
-  const QString path = DraggedFile(*event->mimeData());
-  if (!cell.isValid() || path.isEmpty()) return;
+  const QStringList files = DraggedFiles(*event->mimeData());
+  if (!cell.isValid() || files.isEmpty()) return;
   event->acceptProposedAction();
-  emit FileDropped(cell.row(), cell.column(), path);
+  const int room = rowCount() - cell.row();
+  for (int i = 0; i < qMin<int>(room, static_cast<int>(files.size())); ++i) {
+    emit FileDropped(cell.row() + i, cell.column(), files[i]);
+  }
+  if (files.size() <= room) return;
+  QToolTip::showText(QCursor::pos(), QString("%1 files found no cell left in this column.").arg(files.size() - room),
+                     this);
 }
 
 std::unique_ptr<Observer> MakeGridBinding(Grid& grid, QWidget& widget) {

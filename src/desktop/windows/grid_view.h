@@ -1,5 +1,5 @@
 // The widget of a grid's model: a table whose headings are the model's row 0 and column 0, and whose cells take files
-// dropped on them.
+// dropped on them: several take a cell each, downwards.
 #pragma once
 
 #include <QTableWidget>
