@@ -26,12 +26,6 @@ namespace {
 
 bool IsBlank(const std::string& field) { return field.empty() || field == " "; }
 
-Font FontOf(const TriviaQuestion& question) {
-  constexpr double kDefaultSize = 28;
-  if (IsBlank(question.FontName)) return {"Courier New", kDefaultSize, true, true};
-  return {question.FontName, kDefaultSize, question.FontBold, question.FontItalic};
-}
-
 // The console's label takes the question's colour. One that is no number is told, and the fit's white stays.
 void ColorQuestion(Show& show, const TriviaQuestion& question) {
   if (IsBlank(question.FontColor)) return;
@@ -63,8 +57,8 @@ void ShowSoundQuestion(Show& show, const std::string& path) {
 void ShowTextQuestion(Show& show) {
   const TriviaQuestion& question = RecordAt(show.GameSet, show.state.CurrentQuestion + 1);
   const std::string text = Trim(question.QuestionText);
-  show.frmMain.lblQuestion[0].Font = FontOf(question);
-  if (show.state.DualScreen) show.frmFSMain.lblQuestion[0].Font = FontOf(question);
+  show.frmMain.lblQuestion[0].Font = QuestionFont(question);
+  if (show.state.DualScreen) show.frmFSMain.lblQuestion[0].Font = QuestionFont(question);
   SetQuestion(show, text, show.frmMain.lblQuestion);
   RandomQuestionBackground(show);
   ShowPanel(show, Panel::Question);

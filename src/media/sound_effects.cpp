@@ -1,6 +1,5 @@
 #include "media/sound_effects.h"
 
-#include <algorithm>
 #include <array>
 #include <utility>
 
@@ -77,14 +76,6 @@ void SetEntry(Show& show, const std::string& path) {
   grid.SetCell(grid.Row, grid.Col, ExtractFileName(path));
 }
 
-// By the ending, which is all that a key's player looks at.
-bool CanPlay(const std::string& path) {
-  constexpr std::array kEndings{".wav", ".mp3", ".wma", ".bmp",  ".jpg", ".avi",
-                                ".mpg", ".wmv", ".mov", ".mpeg", ".mp4", ".3gp"};
-  const std::string name = ToLower(path);
-  return std::any_of(kEndings.begin(), kEndings.end(), [&](const char* ending) { return name.ends_with(ending); });
-}
-
 void ReportTableError(Show& show, const RuntimeError& error, const std::string& procedure) {
   std::string text = UntrappedErrorText(error.Number(), error.what(), show.frmSoundEffects.Name(), procedure);
   const std::string shared = "note of the following information:";
@@ -135,7 +126,7 @@ void Grid1_DropFile(Show& show, const std::string& path) {
     show.platform.dialogs.MessageBox("File not found: " + path, kAppTitle, BoxKind::Critical);
     return;
   }
-  if (!CanPlay(path)) {
+  if (MediaKind(path) == Medium::None) {
     show.platform.dialogs.MessageBox(ExtractFileName(path) + " can't be played and was not taken.", kAppTitle,
                                      BoxKind::Exclamation);
     return;

@@ -30,14 +30,16 @@ void EnableFontButtons(EditorForm& form, bool enabled) {
   for (Button* button : {&form.btnFont, &form.btnFontColor, &form.btnDefault}) button->Enabled = enabled;
 }
 
-// The preview in the record's font. A size that is none leaves the preview's.
+// The preview in the font of the show. A size that is none leaves the preview's.
 void TakeRecordFont(TextBox& preview, const TriviaQuestion& record) {
-  if (Trim(record.FontName).empty()) return;
+  Font font = QuestionFont(record);
   const double size = LeadingNumber(record.FontSize);
-  preview.Font = Font{record.FontName, size > 0 ? size : preview.Font->Size, record.FontBold, record.FontItalic};
+  font.Size = size > 0 ? size : preview.Font->Size;
+  preview.Font = font;
 }
 
 void TakeRecordColor(TextBox& preview, const TriviaQuestion& record) {
+  preview.ForeColor = kWhite;
   if (Trim(record.FontColor).empty()) return;
   const auto number = ParseNumber(record.FontColor);
   if (!number) throw RuntimeError(kErrorTypeMismatch, "Type mismatch");
@@ -67,6 +69,12 @@ void ShowSoundRecord(EditorForm& form, const std::string& path) {
   HideWording(form);
 }
 
+// A blank question holds everything up until it is written, wherever it was come to from.
+void BlockAllButTheWayBack(Show& show) {
+  EnableEditorControls(show, false);
+  show.frmEditor.btnBack.Enabled = true;
+}
+
 void ShowTextRecord(Show& show, const TriviaQuestion& record, const std::string& text) {
   EditorForm& form = show.frmEditor;
   SetShown({&form.picQuestionPicture, &form.lblPath, &form.txtPath}, false);
@@ -78,6 +86,8 @@ void ShowTextRecord(Show& show, const TriviaQuestion& record, const std::string&
   }
   TakeRecordFont(form.txtDisplayQuestion, record);
   form.txtDisplayQuestion.Text = text;
+  const bool blank = text.empty() && Trim(record.AnswerText).empty();
+  if (blank && show.NumEditQuestions > 0) BlockAllButTheWayBack(show);
 }
 
 void ShowRecord(Show& show) {
@@ -118,7 +128,7 @@ void PrepareForm(Show& show) {
     form.EditFileName = show.state.LoadedSetPath;
   }
   SetNumEditQuestions(show, show.NumEditQuestions);
-  if (show.EditCurrentSet) DisplayEditQuestion(show);
+  DisplayEditQuestion(show);
 }
 
 void FitPreview(Show& show) {
@@ -166,20 +176,6 @@ void ShowEditor(Show& show) {
 
 void ResetEditSet(Show& show) { show.EditSet.fill({}); }
 
-void CopyGameSetToEdit(Show& show) {
-  const auto last = std::min(static_cast<std::size_t>(show.NumGameQuestions), show.EditSet.size() - 1);
-  for (std::size_t i = 0; i <= last; ++i) show.EditSet[i] = show.GameSet[i];
-  show.NumEditQuestions = show.NumGameQuestions;
-}
-
-void CopyEditSetToGame(Show& show) {
-  for (std::size_t i = 0; i + 1 < show.GameSet.size(); ++i) {
-    const std::string size = show.GameSet[i].FontSize;
-    show.GameSet[i] = show.EditSet[i];
-    show.GameSet[i].FontSize = size;
-  }
-}
-
 TriviaQuestion& ShownRecord(Show& show) { return RecordAt(show.EditSet, show.frmEditor.EditQuestionNumber); }
 
 void DisplayEditQuestion(Show& show) {
@@ -219,6 +215,11 @@ void EnableEditorControls(Show& show, bool enabled) {
 void UpdateEditorControls(Show& show) {
   const TriviaQuestion& record = ShownRecord(show);
   EnableEditorControls(show, !Trim(record.QuestionText).empty() || !Trim(record.AnswerText).empty());
+}
+
+void FocusWording(Show& show) {
+  TextBox& wording = show.frmEditor.txtEnterQuestion;
+  if (wording.Visible) wording.SetFocus();
 }
 
 void SetNumEditQuestions(Show& show, int count) {

@@ -22,7 +22,8 @@ void ShowEditor(Show& show);
 void ResetEditSet(Show& show);
 // Records up to the one after the last question, and the count.
 void CopyGameSetToEdit(Show& show);
-// The first 100 records but for FontSize; the game's count stays.
+// The first 100 records but for FontSize. The game goes on behind the question that it stands at, and the count of
+// questions that are left stays.
 void CopyEditSetToGame(Show& show);
 
 // The record that the editor shows. RuntimeError 9 when the number is outside the set.
@@ -35,6 +36,8 @@ void ClearEditorDisplay(Show& show);
 void EnableEditorControls(Show& show, bool enabled);
 // Enables the controls that a question with neither text nor answer keeps off.
 void UpdateEditorControls(Show& show);
+// The next letters typed are a wording and press no button.
+void FocusWording(Show& show);
 void SetNumEditQuestions(Show& show, int count);
 
 void txtEnterQuestion_Change(Show& show);

@@ -6,6 +6,7 @@
 #include "platform/text.h"
 #include "sets/editor.h"
 #include "sets/file_dialogs.h"
+#include "sets/media_paths.h"
 #include "sets/set_file.h"
 #include "show/show.h"
 
@@ -14,19 +15,24 @@ namespace pawnfield::editor {
 namespace {
 
 constexpr const char* kSetFilter = "Game Sets(*.txt)|*.txt";
+constexpr const char* kOverwriteQuestion = "File already exists. Do you want to overwrite?";
 constexpr const char* kSiblingFolder = "\\Program Files\\Ostara Panel Pro 4\\";
 
 std::string SetsFolder(const Show& show) { return show.AppPath("\\Trivia Sets"); }
 
-// The path to save under, in the form that SaveFile gives it; empty after a cancel.
-std::string AskSavePath(Show& show, FileDialogMode mode, const std::string& title, const std::string& fileName) {
-  const std::string chosen = Trim(ShowFileDialog(show, {mode, title, kSetFilter, "txt", fileName, SetsFolder(show)}));
-  return chosen.empty() ? chosen : NormalSetPath(chosen);
-}
-
 bool MayOverwrite(Show& show, const std::string& path, const std::string& question) {
   if (!FileExists(show, path)) return true;
   return show.platform.dialogs.MessageBox(question, kAppTitle, BoxKind::YesNo) == BoxAnswer::Yes;
+}
+
+// The path to save under, in the form that SaveFile gives it; empty after a cancel.
+std::string AskSavePath(Show& show, FileDialogMode mode, const std::string& title, const std::string& fileName) {
+  const std::string chosen = Trim(ShowFileDialog(show, {mode, title, kSetFilter, "txt", fileName, SetsFolder(show)}));
+  if (chosen.empty()) return chosen;
+  const std::string path = NormalSetPath(chosen);
+  // The dialog has asked about the name that was typed and not about the one with its ".txt".
+  const bool asked = mode != FileDialogMode::SaveAskingOverwrite || path == chosen;
+  return asked || MayOverwrite(show, path, kOverwriteQuestion) ? path : "";
 }
 
 // A set that could not be saved stays unsaved and keeps its name.
@@ -67,7 +73,14 @@ void ShowFirstQuestion(Show& show) {
 }
 
 std::string PrintTitle(const std::string& fileName) {
-  return Trim(fileName).empty() ? "Untitled" : StripExtension(ExtractFileName(fileName));
+  return Trim(fileName).empty() ? "Untitled" : SetName(ExtractFileName(fileName));
+}
+
+// A medium goes by its file's name: the folders above it are nothing to read out.
+std::string PrintedText(const TriviaQuestion& question) {
+  const std::string text = Trim(question.QuestionText);
+  const std::string name = ExtractFileName(text);
+  return KindOfQuestion(text) == QuestionKind::Text || name.empty() ? text : name;
 }
 
 PrintDocument DocumentOf(const Show& show) {
@@ -75,8 +88,7 @@ PrintDocument DocumentOf(const Show& show) {
   document.Blocks.push_back({document.Title, " "});
   for (int i = 0; i < show.NumEditQuestions; ++i) {
     const TriviaQuestion& question = show.EditSet[static_cast<std::size_t>(i)];
-    document.Blocks.push_back(
-        {std::to_string(i + 1) + ". " + Trim(question.QuestionText), Trim(question.AnswerText), " "});
+    document.Blocks.push_back({std::to_string(i + 1) + ". " + PrintedText(question), Trim(question.AnswerText), " "});
   }
   return document;
 }
@@ -89,17 +101,34 @@ std::string ImportFolder(const Show& show) {
   return SetsFolder(show);
 }
 
+// Nothing of a file of another form is taken.
+bool TakeImport(Show& show, const std::string& bytes) {
+  TriviaSet imported;
+  if (ParseImportedSet(bytes, imported)) {
+    show.EditSet = imported;
+    return true;
+  }
+  show.platform.dialogs.MessageBox("This file is no trivia set of Ostara Panel. Nothing was imported.", kAppTitle,
+                                   BoxKind::Exclamation);
+  return false;
+}
+
 }  // namespace
 
 void mnuFileNew_Click(Show& show) {
   EditorForm& form = show.frmEditor;
+  if (!SavedFirst(show)) return;
   form.btnPicture.Enabled = true;
   form.btnSound.Enabled = true;
   form.txtDisplayQuestion.Enabled = true;
   ResetEditSet(show);
   SetNumEditQuestions(show, 0);
   form.EditQuestionKind = "T";
+  // The new set is nobody's file: a save asks for a name.
+  form.EditFileName.clear();
+  form.EditDirty = false;
   ShowFirstQuestion(show);
+  FocusWording(show);
 }
 
 void mnuFileOpen_Click(Show& show) {
@@ -109,9 +138,8 @@ void mnuFileOpen_Click(Show& show) {
   ShowOpen(show, form.cd1EditorDialog);
   const std::string path = form.cd1EditorDialog.FileName;
   if (path.empty()) return;
-  const bool read = OpenFile(show, path);
-  // A set that could not be read must not be written over by the empty one that stands in its place.
-  form.EditFileName = read ? path : "";
+  if (!OpenFile(show, path)) return;
+  form.EditFileName = path;
   form.EditDirty = false;
   show.state.SetFolder = ExtractFolder(path);
   form.btnPicture.Enabled = true;
@@ -127,12 +155,11 @@ void mnuFileSave_Click(Show& show) {
     return;
   }
   name = NormalSetPath(name);
-  if (SaveFile(show, name) && !show.state.LoadedSetPath.empty()) CopyEditSetToGame(show);
+  if (SaveFile(show, name) && IsSamePath(name, show.state.LoadedSetPath)) CopyEditSetToGame(show);
 }
 
 void mnuSaveAs_Click(Show& show) {
-  SaveUnder(show, AskSavePath(show, FileDialogMode::Save, "Save Trivia Set", ""),
-            "File already exists. Do you want to overwrite?");
+  SaveUnder(show, AskSavePath(show, FileDialogMode::Save, "Save Trivia Set", ""), kOverwriteQuestion);
 }
 
 bool Editor_QueryUnload(Show& show) {
@@ -157,34 +184,26 @@ void mnuFilePrint_Click(Show& show) {
 }
 
 bool OpenFile(Show& show, const std::string& path) {
-  ResetEditSet(show);
-  SetNumEditQuestions(show, 0);
-  try {
-    SetNumEditQuestions(show, ParseSet(show.platform.files.Read(path), show.EditSet));
-    return true;
-  } catch (const RuntimeError& error) {
-    ReportError(show.platform.dialogs, error, show.frmEditor.Name(), "OpenFile", path);
-    return false;
-  }
+  const auto bytes = ReadSetBytes(show, path, show.frmEditor.Name(), "OpenFile");
+  if (!bytes) return false;
+  SetNumEditQuestions(show, ParseSet(*bytes, show.EditSet));
+  TakeWholePaths(show, show.EditSet);
+  return true;
 }
 
-// The editor is emptied before the operator is asked, so a cancel leaves it empty.
 void btnImport_Click(Show& show) {
   EditorForm& form = show.frmEditor;
-  ResetEditSet(show);
-  ClearEditorDisplay(show);
+  if (!SavedFirst(show)) return;
   form.cd1EditorDialog = {"", "Trivia Sets (*.txt)|*.txt", ImportFolder(show)};
   ShowOpen(show, form.cd1EditorDialog);
   const std::string path = Trim(form.cd1EditorDialog.FileName);
-  SetNumEditQuestions(show, 0);
-  try {
-    if (!path.empty()) {
-      ParseImportedSet(show.platform.files.Read(path), show.EditSet);
-      SetNumEditQuestions(show, kImportedQuestions);
-    }
-  } catch (const RuntimeError& error) {
-    ReportError(show.platform.dialogs, error, form.Name(), "OpenFile", path);
-  }
+  if (path.empty()) return;
+  const auto bytes = ReadSetBytes(show, path, form.Name(), "OpenFile");
+  if (!bytes || !TakeImport(show, *bytes)) return;
+  // It has no file in the program's own form yet.
+  form.EditFileName.clear();
+  form.EditDirty = true;
+  SetNumEditQuestions(show, kImportedQuestions);
   ShowFirstQuestion(show);
 }
 

@@ -98,7 +98,9 @@ void btnText_Click(Show& show) {
   }
   EnableFontButtons(form, true);
   StopSoundClip(show);
-  ShownRecord(show).QuestionType = "T";
+  TriviaQuestion& record = ShownRecord(show);
+  if (record.QuestionType != "T") form.EditDirty = true;
+  record.QuestionType = "T";
 }
 
 void btnDefault_Click(Show& show) {
@@ -116,18 +118,22 @@ void btnFont_Click(Show& show) {
     show.platform.dialogs.MessageBox("A set can't keep a font whose name holds a #.", kAppTitle, BoxKind::Plain);
     return;
   }
+  // OK alone changes nothing; and the size shown is the fitted one, which isn't the record's.
+  if (*chosen == start) return;
+  form.EditDirty = true;
   form.txtDisplayQuestion.Font = *chosen;
   TriviaQuestion& record = ShownRecord(show);
   record.FontBold = chosen->Bold;
   record.FontItalic = chosen->Italic;
-  record.FontSize = SizeText(chosen->Size);
+  if (chosen->Size != start.Size) record.FontSize = SizeText(chosen->Size);
   record.FontName = chosen->Name;
 }
 
 void btnFontColor_Click(Show& show) {
   EditorForm& form = show.frmEditor;
   const auto chosen = show.platform.dialogs.ChooseColor(form.txtDisplayQuestion.ForeColor);
-  if (!chosen) return;
+  if (!chosen || *chosen == form.txtDisplayQuestion.ForeColor) return;
+  form.EditDirty = true;
   form.txtDisplayQuestion.ForeColor = *chosen;
   ShownRecord(show).FontColor = std::to_string(*chosen);
 }

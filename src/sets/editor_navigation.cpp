@@ -21,6 +21,13 @@ void DropBlank(Show& show) {
   if (IsShownBlank(show)) SetNumEditQuestions(show, show.NumEditQuestions - 1);
 }
 
+bool MayDelete(Show& show) {
+  if (IsShownBlank(show) && Trim(ShownRecord(show).AnswerText).empty()) return true;
+  const std::string number = std::to_string(show.frmEditor.EditQuestionNumber);
+  return show.platform.dialogs.MessageBox("Would you like to delete question " + number + "?", kAppTitle,
+                                          BoxKind::YesNo) == BoxAnswer::Yes;
+}
+
 void GoTo(Show& show, int number) {
   show.frmEditor.EditQuestionNumber = number;
   DisplayEditQuestion(show);
@@ -78,7 +85,7 @@ void btnNext_Click(Show& show) {
   DisplayEditQuestion(show);
   // A new question keeps everything else off, and there must be a way back from it.
   form.btnBack.Enabled = true;
-  if (form.txtEnterQuestion.Visible) form.txtEnterQuestion.SetFocus();
+  FocusWording(show);
 }
 
 void btnInsertQuestion_Click(Show& show) {
@@ -88,13 +95,17 @@ void btnInsertQuestion_Click(Show& show) {
   ShownRecord(show) = TriviaQuestion();
   ShownRecord(show).QuestionType = "T";
   SetNumEditQuestions(show, show.NumEditQuestions + 1);
+  show.frmEditor.EditDirty = true;
   DisplayEditQuestion(show);
   EnableEditorControls(show, false);
+  // The button that was pressed hands the focus on to its neighbour, which deletes.
+  FocusWording(show);
 }
 
 void btnDeleteQuestion_Click(Show& show) {
   EditorForm& form = show.frmEditor;
-  if (form.EditQuestionNumber > show.NumEditQuestions) return;
+  if (form.EditQuestionNumber > show.NumEditQuestions || !MayDelete(show)) return;
+  form.EditDirty = true;
   ShiftDown(show, form.EditQuestionNumber);
   if (form.EditQuestionNumber == show.NumEditQuestions) --form.EditQuestionNumber;
   SetNumEditQuestions(show, show.NumEditQuestions - 1);

@@ -1,21 +1,21 @@
-// Media that a loaded set names and that are not there: found after the load, and repaired one at a time.
+// Media that a loaded set names and that are not there: found after the load, and repaired one after the other.
 #pragma once
 
 namespace pawnfield {
 
 struct Show;
 
-// Looks at the pictures and sounds of GameSet and writes the whole path where one starts with ".". A file that is
-// missing sends the scan on to the sixth record, and it ends where it would look at a record again. Shows frmDialog2
-// for the last one found.
+// Looks at the first 100 pictures and sounds of GameSet and writes the whole path where one starts with ".". Shows
+// frmDialog2 while any is missing, from the first one on.
 void ScanSetForMissingMedia(Show& show);
 
 // Gives frmDialog2 its handlers.
 void AttachRepairHandlers(Show& show);
 
-// Shows the last missing file behind MissingQuestion, which then goes back to 1. Always true.
+// Shows the next missing file behind MissingQuestion, which takes its number; behind the last one the first. True when
+// none is missing.
 bool FindNextMissing(Show& show);
-// Writes GameSet up to its last question over the file that it was loaded from.
+// Writes GameSet up to its last question over the file that it was loaded from, which is kept beside it.
 void SaveRepairedSet(Show& show);
 
 }  // namespace pawnfield

@@ -4,7 +4,11 @@
 
 #include "forms/main_form.h"
 #include "platform/errors.h"
+#include "platform/large_file.h"
 #include "platform/text.h"
+#include "sets/file_dialogs.h"
+#include "sets/media_paths.h"
+#include "sets/table_text.h"
 #include "show/show.h"
 
 namespace pawnfield {
@@ -12,34 +16,13 @@ namespace pawnfield {
 namespace {
 
 constexpr int kDialogCancelled = 32755;
-
-// How many bytes follow a byte that opens a character in UTF-8; 0 when it opens none.
-std::size_t Utf8Followers(unsigned char lead) {
-  if (lead >= 0xC2 && lead <= 0xDF) return 1;
-  if (lead >= 0xE0 && lead <= 0xEF) return 2;
-  if (lead >= 0xF0 && lead <= 0xF4) return 3;
-  return 0;
-}
-
-bool IsUtf8Sequence(const std::string& bytes, std::size_t at, std::size_t followers) {
-  if (followers == 0 || at + followers >= bytes.size()) return false;
-  return std::all_of(bytes.begin() + static_cast<std::ptrdiff_t>(at + 1),
-                     bytes.begin() + static_cast<std::ptrdiff_t>(at + followers + 1),
-                     [](char c) { return (static_cast<unsigned char>(c) & 0xC0) == 0x80; });
-}
+constexpr std::size_t kExtensionLength = 4;
 
 // True when there are characters beyond ASCII and all of them are well-formed UTF-8; a byte order mark is one.
 bool LooksLikeUtf8(const std::string& bytes) {
-  bool found = false;
-  for (std::size_t i = 0; i < bytes.size(); ++i) {
-    const auto byte = static_cast<unsigned char>(bytes[i]);
-    if (byte < 0x80) continue;
-    const std::size_t followers = Utf8Followers(byte);
-    if (!IsUtf8Sequence(bytes, i, followers)) return false;
-    found = true;
-    i += followers;
-  }
-  return found;
+  const bool plain =
+      std::all_of(bytes.begin(), bytes.end(), [](char c) { return static_cast<unsigned char>(c) < 0x80; });
+  return !plain && IsUtf8(bytes);
 }
 
 constexpr const char* kNoCarriageReturns = "No carriage returns found in this set: save it with CR LF line ends.";
@@ -78,22 +61,44 @@ void ReportSaveError(Show& show, const RuntimeError& error, const std::string& p
       kAppTitle, BoxKind::Plain);
 }
 
+bool IsSetName(const std::string& name) { return ToLower(name).ends_with(".txt"); }
+
 }  // namespace
+
+std::string SetName(const std::string& fileName) {
+  return IsSetName(fileName) ? fileName.substr(0, fileName.size() - kExtensionLength) : fileName;
+}
 
 std::string NormalSetPath(const std::string& path) {
   std::string result = path;
   std::erase(result, '\0');
   result = Trim(result);
-  const bool isText = result.size() >= 4 && ToLower(result.substr(result.size() - 4)) == ".txt";
-  return isText ? result : result + ".txt";
+  return IsSetName(result) ? result : result + ".txt";
 }
+
+std::string BackupPath(const std::string& path) { return SetName(path) + ".bak"; }
 
 TriviaQuestion& RecordAt(TriviaSet& set, int number) {
   if (number < 1 || number > kSetCapacity) throw SubscriptError();
   return set[static_cast<std::size_t>(number - 1)];
 }
 
+std::optional<std::string> ReadSetBytes(Show& show, const std::string& path, const std::string& form,
+                                        const std::string& procedure) {
+  try {
+    return show.platform.files.Read(path);
+  } catch (const FileTooLarge& error) {
+    const std::string name = ExtractFileName(path);
+    show.platform.dialogs.MessageBox("\"" + name + "\" was not opened. " + error.what() + ".", kAppTitle,
+                                     BoxKind::Exclamation);
+  } catch (const RuntimeError& error) {
+    if (error.Number() != kDialogCancelled) ReportError(show.platform.dialogs, error, form, procedure, path);
+  }
+  return std::nullopt;
+}
+
 void ResetGameSet(Show& show) {
+  show.state.LoadedSetPath.clear();
   show.GameSet.fill({});
   for (auto& row : show.state.Board) row.fill(0);
 }
@@ -105,25 +110,19 @@ bool LoadGameSet(Show& show, const std::string& path) {
     show.frmMain.tmrOptionalHeaders.Enabled = true;
     return false;
   }
-  try {
-    const std::string bytes = show.platform.files.Read(path);
-    show.frmMain.tmrOptionalHeaders.Enabled = false;
-    ResetGameSet(show);
-    show.state.LoadedSetPath = path;
-    Fill(show, path, bytes);
-    return true;
-  } catch (const RuntimeError& error) {
-    if (error.Number() != kDialogCancelled) {
-      ReportError(show.platform.dialogs, error, show.frmMain.Name(), "LoadGameSet", path);
-    }
-    return false;
-  }
+  const auto bytes = ReadSetBytes(show, path, show.frmMain.Name(), "LoadGameSet");
+  if (!bytes) return false;
+  show.frmMain.tmrOptionalHeaders.Enabled = false;
+  ResetGameSet(show);
+  show.state.LoadedSetPath = path;
+  Fill(show, path, *bytes);
+  return true;
 }
 
 void FillSetList(Show& show) {
   ComboBox& list = show.frmMain.cboList;
   std::vector<std::string> names = show.platform.files.List(show.AppPath("\\Trivia Sets"), ".txt");
-  for (std::string& name : names) name = StripExtension(name);
+  for (std::string& name : names) name = SetName(name);
   std::stable_sort(names.begin(), names.end(),
                    [](const std::string& a, const std::string& b) { return ToLower(a) < ToLower(b); });
   std::vector<std::string> items = list.List.Get();
@@ -133,11 +132,19 @@ void FillSetList(Show& show) {
   list.ListIndex = 0;
 }
 
+void ReplaceSetFile(Show& show, const std::string& path, const std::string& bytes) {
+  FileSystem& files = show.platform.files;
+  // The old file stays under its own name until the new one takes its place.
+  const std::string old = FileExists(show, path) ? files.Read(path) : bytes;
+  if (old != bytes) files.Write(BackupPath(path), old);
+  files.Write(path, bytes);
+}
+
 bool SaveSetFile(Show& show, TriviaSet& set, std::string& path) {
   CompactSet(set);
   path = NormalSetPath(path);
   try {
-    show.platform.files.Write(path, FormatSet(set));
+    ReplaceSetFile(show, path, FormatSet(WithStoredPaths(show, set)));
     return true;
   } catch (const RuntimeError& error) {
     ReportSaveError(show, error, path);

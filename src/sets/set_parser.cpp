@@ -1,4 +1,5 @@
 // The set file's format: its records, its format line, and the text form of a set.
+#include <algorithm>
 #include <cstdint>
 #include <limits>
 #include <optional>
@@ -46,6 +47,12 @@ void ReadFormat(const std::string& rawLine, TriviaQuestion& question) {
   question.FontItalic = ParseFontItalic(line);
   question.FontColor = ParseFontColor(line);
   question.QuestionType = line.substr(0, 1);
+}
+
+// A type alone, or with fields behind it.
+bool IsFormat(const std::string& line) {
+  if (line.empty() || std::string("TPS").find(line[0]) == std::string::npos) return false;
+  return line.size() == 1 || line[1] == '#';
 }
 
 std::string FormatLine(const TriviaQuestion& question) {
@@ -107,17 +114,35 @@ int ParseSet(const std::string& bytes, TriviaSet& set) {
   return count;
 }
 
-void ParseImportedSet(const std::string& bytes, TriviaSet& set) {
+Font QuestionFont(const TriviaQuestion& question) {
+  constexpr double kSize = 28;
+  if (Trim(question.FontName).empty()) return {"Courier New", kSize, true, true};
+  return {question.FontName, kSize, question.FontBold, question.FontItalic};
+}
+
+int CountQuestions(const TriviaSet& set) {
+  const auto blank = std::find_if(set.begin(), set.end(),
+                                  [](const TriviaQuestion& question) { return Trim(question.QuestionText).empty(); });
+  return static_cast<int>(blank - set.begin());
+}
+
+bool ParseImportedSet(const std::string& bytes, TriviaSet& set) {
   constexpr std::size_t kBlockLength = 5;
   set.fill({});
   LineReader reader(bytes);
+  bool found = false;
   for (std::size_t i = 0; i < kImportedQuestions; ++i) {
     if (i % kBlockLength == 0) reader.Next();
     set[i].QuestionText = NextLine(reader, kQuestionLength);
     set[i].AnswerText = NextLine(reader, kAnswerLength);
     reader.Next();
-    ReadFormat(NextLine(reader), set[i]);
+    const std::string format = NextLine(reader);
+    ReadFormat(format, set[i]);
+    const bool isQuestion = !Trim(set[i].QuestionText).empty();
+    if (isQuestion && !IsFormat(Trim(format))) return false;
+    found = found || isQuestion;
   }
+  return found;
 }
 
 std::string FormatSet(const TriviaSet& set) {

@@ -5,6 +5,7 @@
 #include <fstream>
 #include <iterator>
 
+#include "platform/large_file.h"
 #include "platform/text.h"
 
 namespace pawnfield {
@@ -60,7 +61,10 @@ std::string SimFiles::Read(const std::string& path) const {
   const std::string key = Key(path);
   if (IsDenied(key)) Throw(kErrorPathAccess);
   const auto found = files_.find(key);
-  if (found != files_.end()) return found->second.bytes;
+  if (found != files_.end()) {
+    CheckSize(found->second.bytes.size());
+    return found->second.bytes;
+  }
   Throw(folders_.contains(Parent(key)) ? kErrorFileNotFound : kErrorPathNotFound);
 }
 

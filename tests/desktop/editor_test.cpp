@@ -2,12 +2,17 @@
 // played in the real windows.
 
 #include <QApplication>
+#include <QBuffer>
 #include <QClipboard>
 #include <QDir>
 #include <QFile>
 #include <QFileDialog>
+#include <QFontDialog>
+#include <QFontInfo>
 #include <QKeyEvent>
 #include <QLineEdit>
+#include <QPaintEngine>
+#include <QPdfWriter>
 #include <QPrinter>
 #include <QTest>
 #include <QTimer>
@@ -105,6 +110,61 @@ TEST(PrintTest, PagesBreakBetweenQuestionsAndCopiesBeginAnew) {
   EXPECT_THROW(PrintOn(nowhere, LongQuestions(1), 1), RuntimeError);
 }
 
+// Keeps the words that are printed, page by page, as one text.
+class ReadEngine : public QPaintEngine {
+ public:
+  bool begin(QPaintDevice*) override { return true; }
+  bool end() override { return true; }
+  void updateState(const QPaintEngineState&) override {}
+  void drawPixmap(const QRectF&, const QPixmap&, const QRectF&) override {}
+  void drawTextItem(const QPointF&, const QTextItem& item) override { Words += item.text() + ' '; }
+  Type type() const override { return User; }
+  QString Words;
+};
+
+class ReadPrinter : public QPdfWriter {
+ public:
+  explicit ReadPrinter(QIODevice* paper) : QPdfWriter(paper) {}
+  QPaintEngine* paintEngine() const override { return &engine_; }
+  bool newPage() override {
+    engine_.Words += "/ ";
+    return true;
+  }
+  const QString& Words() const { return engine_.Words; }
+
+ private:
+  mutable ReadEngine engine_;
+};
+
+TEST(PrintTest, EachPageOfACopyHasItsNumberAndTheCount) {
+  QBuffer paper;
+  paper.open(QIODevice::WriteOnly);
+  ReadPrinter printer(&paper);
+  PaintDocument(printer, {"T", {{"T"}, PrintBlock(60, "line")}}, 2);
+  const QString numbers = QString(printer.Words()).remove("line ").remove("T ").simplified();
+  EXPECT_EQ(numbers.toStdString(), "Page 1 of 2 / Page 2 of 2 / Page 1 of 2 / Page 2 of 2");
+  EXPECT_EQ(printer.Words().count("line "), 120);
+}
+
+// What the font dialog opens on; OK is pressed then.
+TEST(FontDialogTest, OpensOnWhatIsShownAndOkAloneChangesNothing) {
+  FormWindows windows;
+  QtDialogs dialogs(windows);
+  for (const Font& start : {Font{"Courier New", 28, true, true}, Font{"Comic Sans MS", 11, false, false},
+                            Font{"Liberation Sans", 80, true, false}}) {
+    QString opened;
+    QTimer::singleShot(200, qApp, [&] {
+      auto* dialog = qobject_cast<QFontDialog*>(QApplication::activeModalWidget());
+      if (dialog == nullptr) return;
+      opened = QString("%1 %2").arg(dialog->currentFont().family()).arg(dialog->currentFont().pointSizeF());
+      dialog->accept();
+    });
+    EXPECT_EQ(dialogs.ChooseFont(start), std::optional(start));
+    const QString shown = QFontInfo(QFont(QString::fromStdString(start.Name))).family();
+    EXPECT_EQ(opened, QString("%1 %2").arg(shown).arg(start.Size));
+  }
+}
+
 // Answers the file dialog that is open by a press of Escape, and tells where it began.
 QString WhereItBegins(QtDialogs& dialogs, const FileDialogRequest& request) {
   QString folder;
@@ -159,10 +219,17 @@ TEST_F(EditorShow, ASetIsWrittenSavedLoadedAndPlayedToTheWinner) {
   EditorDriver editor(*driver_);
   const QString sets = driver_->AppFolder() + "/Trivia Sets/";
   const bool written = editor.WithNewSet([&] {
-    EXPECT_TRUE(editor.Write("Question 1?", "Answer 1") && editor.Press("btnNext"));
+    EXPECT_TRUE(editor.Write("Question 1?", "Answer 1"));
+    // What is typed behind Insert is the question, blanks and all.
+    editor.Window("frmEditor")->findChild<QWidget*>("btnInsertQuestion")->setFocus();
+    EXPECT_TRUE(editor.Press("btnInsertQuestion"));
+    QTest::keyClicks(QApplication::focusWidget(), "What is the capital of Spain");
+    EXPECT_EQ(TheShow().EditSet[0].QuestionText, "What is the capital of Spain");
+    EXPECT_EQ(TheShow().NumEditQuestions, 2);
+    EXPECT_TRUE(editor.Press("btnNext") && editor.Press("btnNext"));
     EXPECT_TRUE(editor.Write("", "Answer 2", "btnPicture", sets + "Media/Flag 1.jpg") && editor.Press("btnNext"));
     EXPECT_TRUE(editor.Write("", "Answer 3", "btnSound", sets + "Media/Tune 1.mp3"));
-    for (int i = 4; i <= 10; ++i) {
+    for (int i = 4; i <= 9; ++i) {
       EXPECT_TRUE(editor.Press("btnNext") && editor.Write(QString("Question %1?").arg(i), "Answer")) << i;
     }
     EXPECT_TRUE(editor.PressAndChoose("frmEditor", "btnSave", sets + "Ten"));

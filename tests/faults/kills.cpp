@@ -61,11 +61,12 @@ Reference::Reference(const Writer& writer) {
   rig.places.MakeFolders();
   QElapsedTimer timer;
   timer.start();
-  for (int variant = 0; variant < kVariants; ++variant) {
-    writer.Write(rig, variant);
-    Left.push_back(Take(folder.path() + '/' + writer.Folder, writer.Files));
+  // What a file leaves beside it comes from the one before, the first one's from the last.
+  for (int write = 0; write < 2 * kVariants; ++write) {
+    writer.Write(rig, write % kVariants);
+    if (write >= kVariants) Left.push_back(Take(folder.path() + '/' + writer.Folder, writer.Files));
   }
-  WriteTime = static_cast<useconds_t>(timer.nsecsElapsed() / 1000 / kVariants);
+  WriteTime = static_cast<useconds_t>(timer.nsecsElapsed() / 1000 / (2 * kVariants));
 }
 
 int KillWriter(const Writer& writer, const QString& root, int kills, Progress& progress) {

@@ -21,6 +21,7 @@ int main(int argc, char** argv) {
   if (mode == "prepare") faults = PrepareReadOnly(root);
   if (mode == "readonly") faults = RunReadOnly(root);
   if (mode == "gone") faults = RunVanished(root);
+  if (mode == "hostile") faults = RunHostile(root);
   if (faults < 0) return 2;
   if (faults > 0) std::printf("%d faults\n", faults);
   return faults == 0 ? 0 : 1;

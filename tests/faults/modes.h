@@ -18,4 +18,7 @@ int RunReadOnly(const QString& root);
 // The folder goes and comes back.
 int RunVanished(const QString& root);
 
+// Sets that are meant to do harm are read: pipes, devices, links in circles, huge files, and media of that kind.
+int RunHostile(const QString& root);
+
 }  // namespace pawnfield::faults

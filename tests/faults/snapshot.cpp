@@ -55,6 +55,18 @@ Verdict JudgeCopy(const Snapshot& now, const Snapshot& before, const Snapshot& a
   return JudgeFiles(files, old, fresh) == Verdict::Torn ? Verdict::Torn : Verdict::Between;
 }
 
+Verdict JudgeSet(const Snapshot& now, const Snapshot& before, const Snapshot& after) {
+  Snapshot sets[] = {now, before, after};
+  QByteArray kept[3];
+  for (int i = 0; i < 3; ++i) {
+    for (const QString& name : sets[i].keys()) {
+      if (name.endsWith(".bak")) kept[i] = sets[i].take(name);
+    }
+  }
+  const bool known = before.isEmpty() || kept[0].isEmpty() || kept[0] == kept[1] || sets[1].values().contains(kept[0]);
+  return known ? JudgeFiles(sets[0], sets[1], sets[2]) : Verdict::Torn;
+}
+
 Verdict JudgePages(const Snapshot& now, const Snapshot& before, const Snapshot& after) {
   if (now == before) return Verdict::Old;
   if (now.isEmpty() || !IsWholePage(now.first())) return Verdict::Torn;

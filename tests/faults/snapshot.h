@@ -22,6 +22,8 @@ Snapshot Take(const QString& folder, const QStringList& files);
 Verdict JudgeFiles(const Snapshot& now, const Snapshot& before, const Snapshot& after);
 // The same, and the list of what was shipped may have lines of both.
 Verdict JudgeCopy(const Snapshot& now, const Snapshot& before, const Snapshot& after);
+// The set is the old one or the new one, and beside it lies what it replaced, or still what the old one replaced.
+Verdict JudgeSet(const Snapshot& now, const Snapshot& before, const Snapshot& after);
 // A page carries its own time, so that it is judged by its frame: head, table of places and end.
 Verdict JudgePages(const Snapshot& now, const Snapshot& before, const Snapshot& after);
 

@@ -60,14 +60,18 @@ TEST(EditorNavigation, InsertAndDeleteMoveWholeRecords) {
   for (const auto& [letters, from, button, after, shown] : cases) {
     fixture.OpenEditor(letters);
     fixture.GoTo(from);
+    const bool deletes = button == &editor.btnDeleteQuestion && from <= static_cast<int>(letters.size());
+    if (deletes) fixture.sim.dialogs.ExpectMessage("Would you like to delete question", BoxAnswer::Yes);
     button->Click();
     EXPECT_EQ(fixture.Letters() + "|" + fixture.Shown(), after + "|" + shown) << button->Name() << " " << from;
-    EXPECT_FALSE(editor.EditDirty);
+    EXPECT_EQ(editor.EditDirty, fixture.Letters() != letters);
   }
   fixture.OpenEditor("abc");
   fixture.record(1).FontName = "Own";
   fixture.GoTo(2);
+  editor.ActiveControl = &editor.btnInsertQuestion;
   editor.btnInsertQuestion.Click();
+  EXPECT_EQ(editor.ActiveControl, &editor.txtEnterQuestion) << "the next letters are a wording";
   EXPECT_EQ(fixture.record(1).QuestionType + fixture.record(1).FontName, "TCourier New");
   EXPECT_EQ(fixture.record(2).FontName, "Own");
   EXPECT_FALSE(editor.btnNext.Enabled || editor.mnuFileSave.Enabled);
@@ -78,6 +82,7 @@ TEST(EditorNavigation, InsertAndDeleteMoveWholeRecords) {
 TEST(EditorNavigation, WhatTheSetDoesNotHaveIsToldAndLeavesAnEmptyEditorThatWorks) {
   EditorFixture fixture;
   fixture.OpenEditor("a");
+  fixture.sim.dialogs.ExpectMessage("Would you like to delete question 1?", BoxAnswer::Yes);
   fixture.sim.dialogs.ExpectMessage("Error Number: 9\r\nDescription: Subscript out of range\r\nLocation: frmEditor");
   fixture.editor().btnDeleteQuestion.Click();
   EXPECT_EQ(fixture.Shown(), "1/0 ");
@@ -98,6 +103,16 @@ TEST(EditorNavigation, WhatTheSetDoesNotHaveIsToldAndLeavesAnEmptyEditorThatWork
 TEST(EditorNavigation, ABlankQuestionBlocksAllButTheWayBack) {
   EditorFixture fixture;
   EditorForm& editor = fixture.editor();
+  for (const char* before : {"C:\\tune.wav", "C:\\flag.jpg", "words"}) {
+    fixture.sim.files.Put("C:\\flag.jpg", SimPictures::PictureBytes(9, 9));
+    fixture.OpenEditor("abc");
+    fixture.record(0).QuestionText = before;
+    fixture.record(1).QuestionText.clear();
+    fixture.GoTo(1);
+    editor.btnForward.Click();
+    EXPECT_TRUE(editor.btnBack.Enabled && !editor.btnForward.Enabled && !editor.btnSave.Enabled) << "behind " << before;
+    EXPECT_TRUE(editor.txtEnterQuestion.Visible);
+  }
   fixture.OpenEditor("a");
   editor.btnNext.Click();
   EXPECT_EQ(editor.ActiveControl, &editor.txtEnterQuestion);

@@ -40,15 +40,18 @@ class MissingMedia : public ShowFixture, public testing::Test {
   MissingMediaForm& dialog = show().frmDialog2;
 };
 
-TEST_F(MissingMedia, TheScanEndsWhereItWouldGoRoundAndNamesTheLastItFound) {
-  const std::pair<std::vector<int>, int> cases[] = {{{0}, 1},    {{1}, 2},    {{3}, 4},        {{4}, 5},
-                                                    {{5}, 6},    {{50}, 51},  {{99}, 100},     {{1, 3}, 2},
-                                                    {{1, 4}, 2}, {{1, 7}, 8}, {{0, 5, 60}, 6}, {{50, 60}, 51}};
-  for (const auto& [missing, question] : cases) {
+TEST_F(MissingMedia, TheScanLooksAtAllAndBeginsWithTheFirst) {
+  const std::tuple<std::vector<int>, int, const char*> cases[] = {
+      {{0}, 1, "1 file is missing."},         {{5}, 6, "1 file is missing."},
+      {{99}, 100, "1 file is missing."},      {{1, 3}, 2, "2 files are missing."},
+      {{50, 60}, 51, "2 files are missing."}, {{7, 0, 5, 60}, 1, "4 files are missing."}};
+  for (const auto& [missing, question, count] : cases) {
     int asked = 0;
-    Load(missing, [&] {
+    Load(missing, [&, told = std::string(count)] {
       asked = show().MissingQuestion;
       EXPECT_EQ(dialog.txtLocation.Text.Get(), Text(asked - 1));
+      EXPECT_EQ(dialog.lblQuestionNum.Caption.Get(), "Question " + std::to_string(asked));
+      EXPECT_EQ(dialog.lblCatNum.Caption.Get(), told);
       EXPECT_TRUE(dialog.btnRepair.Enabled && dialog.btnCancel.Enabled && !dialog.btnFinished.Enabled);
       dialog.btnCancel.Click();
     });
@@ -71,27 +74,47 @@ TEST_F(MissingMedia, OnlyTheLetterMakesAMedium) {
   ChooseSet("Media");
 }
 
-TEST_F(MissingMedia, OneFileIsRepairedAndTheSetWrittenBackWhereItCameFrom) {
-  const std::string sets = "C:\\Pawnfield\\Trivia Sets\\";
-  const std::tuple<std::vector<int>, std::string, std::string, std::string> cases[] = {
-      {{2}, kHere, kHere, kHere},
-      {{2}, "", sets + "gone2.jpg", sets + "gone2.jpg"},
-      {{2}, "C:\\vanished.jpg", sets + "gone2.jpg", sets + "gone2.jpg"},
-      {{2, 3, 4}, kHere, kHere, sets + "gone4.jpg"}};
-  for (const auto& [missing, chosen, repaired, location] : cases) {
-    const auto act = [&, file = chosen, left = location] {
-      EXPECT_EQ(Repair(file), "Picture Files(*bmp; *jpg)|*.bmp; *.jpg, " + sets + ", gone2.jpg");
-      EXPECT_TRUE(!dialog.btnRepair.Enabled && dialog.btnFinished.Enabled);
-      EXPECT_EQ(dialog.txtLocation.Text.Get(), left);
-      dialog.btnFinished.Click();
-    };
-    Load(missing, act, 8);
-    EXPECT_EQ(Text(2), repaired);
+TEST_F(MissingMedia, TheWindowStaysUntilAllAreFoundAndTheSetGoesBackWhereItCameFrom) {
+  const std::string sets = "C:\\Pawnfield\\Trivia Sets\\", moved = "D:\\Moved\\";
+  for (const char* name : {"gone3.jpg", "gone6.jpg", "other.jpg"}) sim.files.Put(moved + name, "picture");
+  // The missing ones, and what is chosen for each, with what the window shows then.
+  using Steps = std::vector<std::pair<std::string, const char*>>;
+  const std::pair<std::vector<int>, Steps> cases[] = {
+      {{2}, {{kHere, "All files are found.  found"}}},
+      {{2}, {{"", "1 file is missing. Question 3 repair"}, {kHere, "All files are found.  found"}}},
+      {{2}, {{"C:\\vanished.jpg", "1 file is missing. Question 3 repair"}, {kHere, "All files are found.  found"}}},
+      {{2, 4, 5},
+       {{kHere, "2 files are missing. Question 5 repair found"},
+        {"", "2 files are missing. Question 6 repair found"},
+        {kHere, "1 file is missing. Question 5 repair found"},
+        {kHere, "All files are found.  found"}}},
+      // The folder in which one is found has others too.
+      {{2, 3, 5, 6},
+       {{moved + "other.jpg", "1 file is missing. Question 6 repair found"}, {kHere, "All files are found.  found"}}}};
+  for (const auto& [missing, steps] : cases) {
+    Load(
+        missing,
+        [&, todo = steps] {
+          for (const auto& [chosen, window] : todo) {
+            const std::string expected = "Picture Files(*bmp; *jpg)|*.bmp; *.jpg, " + sets + ", ";
+            EXPECT_TRUE(Repair(chosen).starts_with(expected));
+            EXPECT_EQ(dialog.lblCatNum.Caption.Get() + " " + dialog.lblQuestionNum.Caption.Get() +
+                          (dialog.btnRepair.Enabled ? " repair" : "") + (dialog.btnFinished.Enabled ? " found" : ""),
+                      window);
+          }
+          dialog.btnFinished.Click();
+        },
+        8);
+    TriviaSet again;
     const std::string bytes = sim.files.Read(kSet);
     EXPECT_EQ(std::count(bytes.begin(), bytes.end(), '\n'), 24) << "three lines for each question and none more";
-    TriviaSet again;
     EXPECT_EQ(ParseSet(bytes, again), 8);
-    EXPECT_EQ(again[2].QuestionText, repaired);
+    for (const int index : missing) {
+      const bool beside = missing.size() == 4 && index != 5;
+      EXPECT_EQ(again[static_cast<std::size_t>(index)].QuestionText.starts_with(beside ? moved : ".\\here"), true);
+    }
+    EXPECT_EQ(again[0].QuestionText, ".\\here.jpg") << "as it was, for the next computer";
+    EXPECT_TRUE(sim.files.Read("C:\\Pawnfield\\Trivia Sets\\Media.bak").find("gone") != std::string::npos);
     EXPECT_EQ(show().MissingQuestion, 1);
   }
 }
@@ -120,10 +143,10 @@ TEST_F(MissingMedia, ASetThatCannotBeWrittenIsTold) {
     dialog.btnFinished.Click();
   });
   form().btnSelectGame.Click();
-  EXPECT_EQ(sim.files.Read(kOwn), kHere + "\r\nA\r\nS\r\n");
+  EXPECT_EQ(sim.files.Read(kOwn), ".\\here.jpg\r\nA\r\nS\r\n");
   Load({0}, finish, 3);
-  EXPECT_TRUE(sim.files.Read(kSet).starts_with(kHere));
-  EXPECT_EQ(sim.files.Read(kOwn), kHere + "\r\nA\r\nS\r\n");
+  EXPECT_TRUE(sim.files.Read(kSet).starts_with(".\\here.jpg"));
+  EXPECT_EQ(sim.files.Read(kOwn), ".\\here.jpg\r\nA\r\nS\r\n");
 }
 
 }  // namespace

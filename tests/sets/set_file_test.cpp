@@ -4,6 +4,7 @@
 
 #include <algorithm>
 
+#include "platform/large_file.h"
 #include "support/show_fixture.h"
 
 namespace pawnfield {
@@ -180,10 +181,16 @@ TEST_F(SetFile, LoadingFillsTheSetAndClearsTheBoard) {
   EXPECT_FALSE(LoadGameSet(show(), "   ")) << "a blank path empties the set without a word";
   EXPECT_EQ(Loaded(), " 0 headers");
 
-  LoadBytes("Q\r\nA\r\nP\r\n");
-  sim.dialogs.ExpectMessage("Procedure: LoadGameSet");
-  EXPECT_FALSE(LoadGameSet(show(), kSets + "gone.txt"));
-  EXPECT_EQ(Loaded(), "Q 1 headers") << "a file that can't be read leaves the set as it was";
+  sim.files.Put(kSets + "huge.txt", std::string(kLargestRead + 1, 'q'));
+  for (const auto& [name, message] : {std::pair{"gone.txt", "Procedure: LoadGameSet"},
+                                      {"huge.txt", "The file has 4.1 MB, and 4 MB are the limit."}}) {
+    LoadBytes("Q\r\nA\r\nP\r\n");
+    sim.dialogs.ExpectMessage(message);
+    EXPECT_FALSE(LoadGameSet(show(), kSets + name));
+    EXPECT_EQ(Loaded() + show().state.LoadedSetPath, "Q 1 headers" + kPath)
+        << "a file that can't be read leaves the set as it was";
+  }
+  EXPECT_TRUE(LoadBytes(std::string(kLargestRead, 'q')));
   EXPECT_THAT(sim.dialogs.Boxes().at(0).Text, testing::ContainsRegex("Error Number: 53\r\n(.|\n)*gone.txt"));
 }
 
@@ -208,10 +215,17 @@ TEST_F(SetFile, TheStatusBarTellsWhatIsWrongWithAFilesBytes) {
 }
 
 TEST_F(SetFile, TheListOffersTheFolderByNameBehindItsFirstEntry) {
-  for (const char* name : {"zoo.txt", "Animals.TXT", "b.c.txt", "notes.doc"}) sim.files.Put(kSets + name, "");
+  for (const char* name : {"zoo.txt", "Animals.TXT", "Round 1.txt", "Round 1.5.txt", "notes.doc"}) {
+    sim.files.Put(kSets + name, std::string(name) + "\r\nA\r\nT\r\n");
+  }
   FillSetList(show());
-  EXPECT_THAT(form().cboList.List.Get(), ElementsAre("Select Game Set", "Animals", "b", "zoo"));
+  EXPECT_THAT(form().cboList.List.Get(), ElementsAre("Select Game Set", "Animals", "Round 1", "Round 1.5", "zoo"));
   EXPECT_EQ(form().cboList.ListIndex, 0);
+  Start();
+  for (const char* name : {"Animals", "Round 1", "Round 1.5", "zoo"}) {
+    ChooseSet(name);
+    EXPECT_EQ(SetName(show().GameSet[0].QuestionText), name);
+  }
 }
 
 TEST_F(SetFile, SavingNormalisesThePathAndReadsBackOrLeavesTheOldFileWhole) {

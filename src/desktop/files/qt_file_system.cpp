@@ -10,10 +10,18 @@
 #include "desktop/files/native_path.h"
 #include "desktop/files/whole_file.h"
 #include "desktop/files/windows_1252.h"
+#include "platform/large_file.h"
 
 namespace pawnfield {
 
-std::string QtFileSystem::Read(const std::string& path) const { return ReadFile(NativePath(path)).toStdString(); }
+std::string QtFileSystem::Read(const std::string& path) const {
+  const QString native = NativePath(path);
+  const QFileInfo info(native);
+  // Reading a pipe or a device might never end.
+  if (info.exists() && !info.isFile()) throw FileError(EISDIR);
+  CheckSize(static_cast<std::uint64_t>(info.size()));
+  return ReadFile(native).toStdString();
+}
 
 void QtFileSystem::Write(const std::string& path, const std::string& bytes) { ReplaceFile(NativePath(path), bytes); }
 

@@ -6,6 +6,7 @@
 #include <QFileDialog>
 #include <QFileInfo>
 #include <QFontDialog>
+#include <QFontInfo>
 #include <QMessageBox>
 
 #include "desktop/files/native_path.h"
@@ -116,15 +117,23 @@ std::optional<Font> QtDialogs::ChooseFont(const Font& start) {
   first.setPointSizeF(start.Size > 0 ? start.Size : kSmallestFont);
   first.setBold(start.Bold);
   first.setItalic(start.Italic);
-  bool chosen = false;
-  const QFont font = QFontDialog::getFont(&chosen, first, QApplication::activeWindow());
-  if (!chosen) return std::nullopt;
-  const auto name = ToWindows1252(font.family());
+  // A face that isn't installed is painted by another; the dialog lists and opens on that one.
+  first.setFamily(QFontInfo(first).family());
+  QFontDialog dialog(first, QApplication::activeWindow());
+  dialog.setOption(QFontDialog::DontUseNativeDialog);
+  const QFont opened = dialog.currentFont();
+  if (dialog.exec() != QDialog::Accepted) return std::nullopt;
+  const QFont font = dialog.selectedFont();
+  // What the operator left as it was stays as it was spelled, installed or not.
+  const bool sameFace = font.family() == opened.family();
+  const bool sameStyle = font.bold() == opened.bold() && font.italic() == opened.italic();
+  const auto name = sameFace ? start.Name : ToWindows1252(font.family());
   if (!name) {
     MessageBox("The font's name holds characters that can't be used here.", "Font", BoxKind::Plain);
     return std::nullopt;
   }
-  return Font{*name, font.pointSizeF(), font.bold(), font.italic()};
+  return Font{*name, font.pointSizeF() == opened.pointSizeF() ? start.Size : font.pointSizeF(),
+              sameStyle ? start.Bold : font.bold(), sameStyle ? start.Italic : font.italic()};
 }
 
 std::optional<Color> QtDialogs::ChooseColor(Color start) {

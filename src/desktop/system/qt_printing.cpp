@@ -20,6 +20,9 @@ constexpr double kTextPoints = 11;
 constexpr double kMarginMm = 18;
 // The answer stands a little to the right of its question.
 constexpr double kIndentPoints = 18;
+constexpr double kNumberPoints = 9;
+// The foot of each page, for its number.
+constexpr double kFootPoints = 24;
 
 QFont PrintFont(double points, bool bold) {
   QFont font("Liberation Sans");
@@ -50,9 +53,15 @@ Paragraph Wrap(const std::string& text, const QFont& font, double indent, QPaint
   return paragraph;
 }
 
+// One copy. Without a total of pages nothing is drawn, and the pages are only counted.
 class PrintedPages {
  public:
-  PrintedPages(QPagedPaintDevice& device, QPainter& painter) : device_(device), painter_(painter) {}
+  PrintedPages(QPagedPaintDevice& device, QPainter& painter, int total)
+      : device_(device), painter_(painter), total_(total) {
+    BeginPage();
+  }
+
+  int Count() const { return page_; }
 
   void Add(const PrintBlock& block, bool isTitle) {
     std::vector<Paragraph> paragraphs;
@@ -69,14 +78,23 @@ class PrintedPages {
     for (const Paragraph& paragraph : paragraphs) Draw(paragraph);
   }
 
+ private:
   void BreakPage() {
-    device_.newPage();
-    y_ = 0;
+    if (total_ > 0) device_.newPage();
+    BeginPage();
   }
 
- private:
+  void BeginPage() {
+    ++page_;
+    y_ = 0;
+    if (total_ == 0) return;
+    painter_.setFont(PrintFont(kNumberPoints, false));
+    const QString number = QString("Page %1 of %2").arg(page_).arg(total_);
+    painter_.drawText(painter_.viewport(), Qt::AlignRight | Qt::AlignBottom, number);
+  }
+
   static bool Trailing(const PrintBlock& block, std::size_t i) { return i + 1 == block.size() && block[i] == " "; }
-  double PageHeight() const { return painter_.viewport().height(); }
+  double PageHeight() const { return painter_.viewport().height() - kFootPoints * device_.logicalDpiY() / 72; }
 
   void Draw(const Paragraph& paragraph) {
     const QTextLayout& layout = *paragraph.layout;
@@ -87,15 +105,23 @@ class PrintedPages {
         if (layout.text().trimmed().isEmpty()) return;
         BreakPage();
       }
-      line.draw(&painter_, QPointF(paragraph.indent, y_ - line.y()));
+      if (total_ > 0) line.draw(&painter_, QPointF(paragraph.indent, y_ - line.y()));
       y_ += line.height();
     }
   }
 
   QPagedPaintDevice& device_;
   QPainter& painter_;
+  int total_;
+  int page_ = 0;
   double y_ = 0;
 };
+
+int PrintCopy(QPagedPaintDevice& device, QPainter& painter, const PrintDocument& document, int total) {
+  PrintedPages pages(device, painter, total);
+  for (std::size_t i = 0; i < document.Blocks.size(); ++i) pages.Add(document.Blocks[i], i == 0);
+  return pages.Count();
+}
 
 }  // namespace
 
@@ -139,10 +165,10 @@ void PaintDocument(QPagedPaintDevice& device, const PrintDocument& document, int
   device.setPageMargins(QMarginsF(kMarginMm, kMarginMm, kMarginMm, kMarginMm), QPageLayout::Millimeter);
   QPainter painter;
   if (!painter.begin(&device)) throw RuntimeError(kErrorPrinter, "Printer error");
-  PrintedPages pages(device, painter);
+  const int total = PrintCopy(device, painter, document, 0);
   for (int copy = 0; copy < copies; ++copy) {
-    if (copy > 0) pages.BreakPage();
-    for (std::size_t i = 0; i < document.Blocks.size(); ++i) pages.Add(document.Blocks[i], i == 0);
+    if (copy > 0) device.newPage();
+    PrintCopy(device, painter, document, total);
   }
   if (!painter.end()) throw RuntimeError(kErrorPrinter, "Printer error");
 }

@@ -204,8 +204,9 @@ MissingMediaWindow::MissingMediaWindow(MissingMediaForm& form, FormWindows& wind
   QVBoxLayout& column = *MakeContent(*this, 24);
   column.addWidget(MakeLabel("lblMissingMedia"));
   QHBoxLayout& numbers = *AddRow(column);
-  numbers.addWidget(MakeLabel("lblCatNum"));
   numbers.addWidget(MakeLabel("lblQuestionNum"));
+  numbers.addSpacing(kGap);
+  numbers.addWidget(MakeLabel("lblCatNum"));
   numbers.addStretch();
   column.addWidget(MakeLabel("Label2", "quiet"));
   auto* location = MakePath("txtLocation", "Location of the missing file");
