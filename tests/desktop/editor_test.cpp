@@ -140,7 +140,7 @@ TEST(PrintTest, EachPageOfACopyHasItsNumberAndTheCount) {
   QBuffer paper;
   paper.open(QIODevice::WriteOnly);
   ReadPrinter printer(&paper);
-  PaintDocument(printer, {"T", {{"T"}, PrintBlock(60, "line")}}, 2);
+  PaintDocument(printer, {"T", {{"T"}, PrintBlock(30, "line"), PrintBlock(30, "line")}}, 2);
   const QString numbers = QString(printer.Words()).remove("line ").remove("T ").simplified();
   EXPECT_EQ(numbers.toStdString(), "Page 1 of 2 / Page 2 of 2 / Page 1 of 2 / Page 2 of 2");
   EXPECT_EQ(printer.Words().count("line "), 120);
