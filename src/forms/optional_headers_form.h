@@ -1,8 +1,10 @@
 // frmOptionalHeaders: up to four texts that take the header's place, each with its font and colours.
 #pragma once
 
+#include <array>
 #include <string>
 
+#include "data/game_state.h"
 #include "platform/controls.h"
 
 namespace pawnfield {
@@ -28,6 +30,8 @@ struct OptionalHeadersForm : Form {
 
   // True until the form is unloaded; a hidden form keeps what its boxes hold.
   bool Loaded = false;
+  // The boxes as they were when the dialog came up, which Cancel and the close box go back to.
+  std::array<OptionalHeader, 4> Before;
   // What the file dialog chose last.
   std::string FileName;
 };

@@ -75,19 +75,16 @@ void LoadSlider(VolumeSlider& slider, int volume) {
   slider.Background.Left = knobWidth;
   slider.Background.Width = slider.RealBackground.Width - 2 * knobWidth;
   slider.SliderOffset = WholePart(slider.RealBackground.Left + slider.Background.Left);
-  slider.FakeSlider.Left = slider.RealSlider.Left + slider.SliderOffset;
   slider.FakeSlider.Width = knobWidth;
-  slider.RealSlider.Left = slider.RealBackground.Left;
-  if (volume > 0) {
-    slider.RealSlider.Left = KnobLeftAt(slider.Track(), volume);
-    slider.FakeSlider.Left = slider.RealSlider.Left - slider.SliderOffset;
-  }
+  MoveKnobTo(slider, volume);
 }
 
 void GrabKnob(VolumeSlider& slider, MouseButton button, double x) {
   slider.SlideTimer.Enabled = true;
   if (button != MouseButton::Left) return;
   slider.Dragging = true;
+  // A knob that stands at an end is let go of at the next tick, and this one has just been taken.
+  slider.RealSlider.Left = StopAtEnds(slider.Track(), slider.RealSlider.Left).Left;
   slider.GrabX = static_cast<std::int16_t>(WholePart(x));
 }
 

@@ -103,8 +103,14 @@ void btnClearAll_Click(Show& show) {
   for (std::size_t i = 0; i < kHeaderCount; ++i) ShowInBox(show.frmOptionalHeaders.txtOptionalHeader[i], kDefaultLook);
 }
 
+// What was typed and not taken goes: the boxes say again what the rotation shows.
+void RestoreBoxes(Show& show) {
+  OptionalHeadersForm& form = show.frmOptionalHeaders;
+  for (std::size_t i = 0; i < kHeaderCount; ++i) ShowInBox(form.txtOptionalHeader[i], form.Before[i]);
+}
+
 void btnCancel_Click(Show& show) {
-  btnClearAll_Click(show);
+  RestoreBoxes(show);
   show.frmOptionalHeaders.Visible = false;
   show.frmMain.SetFocus();
 }
@@ -136,10 +142,12 @@ void btnOpt1Font_Click(Show& show, std::size_t index) {
   OptionalHeader& record = show.state.OptionalHeaders[index];
   if (record.HeaderFontSize == 0) record.HeaderFontSize = kUnsetSize;
   if (record.HeaderFont.empty()) record.HeaderFont = kUnsetFont;
-  auto font = show.platform.dialogs.ChooseFont(FontOf(record));
+  TextBox& box = show.frmOptionalHeaders.txtOptionalHeader[index];
+  // A file that was opened has filled the box and not the record.
+  auto font = show.platform.dialogs.ChooseFont(show.frmOptionalHeaders.FileName.empty() ? FontOf(record) : box.Font);
   if (!font) return;
   font->Size = WholeSize(font->Size);
-  show.frmOptionalHeaders.txtOptionalHeader[index].Font = *font;
+  box.Font = *font;
   record.HeaderFont = font->Name;
   record.HeaderFontSize = WholeSize(font->Size);
   record.HeaderFontBold = font->Bold;
@@ -232,6 +240,7 @@ void LoadOptionalHeaders(Show& show) {
   state.OptionalHeaderIndex = 0;
   btnClearAll_Click(show);
   OptionalHeaders_Load(show);
+  show.frmOptionalHeaders.Before = FromBoxes(show);
 }
 
 void ReadFromHeaderFile(Show& show) {
@@ -260,8 +269,10 @@ void SaveToOSKD(Show& show) { WriteBoxes(show, HeaderPath(show), "SaveToOSKD"); 
 
 void ShowOptionalHeaders(Show& show) {
   if (!show.frmOptionalHeaders.Loaded) OptionalHeaders_Load(show);
-  show.frmOptionalHeaders.chkBaseImage.Value = show.state.ShowBaseHeader ? 1 : 0;
-  show.platform.dialogs.ShowModal(show.frmOptionalHeaders);
+  OptionalHeadersForm& form = show.frmOptionalHeaders;
+  form.chkBaseImage.Value = show.state.ShowBaseHeader ? 1 : 0;
+  form.Before = FromBoxes(show);
+  show.platform.dialogs.ShowModal(form);
 }
 
 void tmrOptionalHeaders_Timer(Show& show) {
@@ -307,7 +318,11 @@ void AttachOptionalHeadersHandlers(Show& show) {
   form.btnSave.OnClick = form.mnuFileSave.OnClick = [&show] { mnuFileSave_Click(show); };
   form.mnuFileSaveAs.OnClick = [&show] { mnuFileSaveAs_Click(show); };
   form.mnuFileExit.OnClick = [&show] { mnuFileExit_Click(show); };
-  form.OnUnload = [&show] { show.frmOptionalHeaders.Loaded = false; };
+  form.OnUnload = [&show] {
+    // The program's end unloads the form too, which may never have come up.
+    if (show.frmOptionalHeaders.Loaded) RestoreBoxes(show);
+    show.frmOptionalHeaders.Loaded = false;
+  };
 }
 
 }  // namespace pawnfield

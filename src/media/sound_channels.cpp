@@ -25,10 +25,14 @@ void LoadVolume(Show& show, const std::string& key, int& volume, MediaChannel& c
   channel.SetVolume(volume);
 }
 
+// Every player but the music's; a film that ends so leaves the screens.
 void btnStopSounds_Click(Show& show) {
   EndQuestionClip(show);
   StopEvent(show);
   StopKeyPress(show);
+  show.platform.media.CorrectIncorrectPlayer.Stop();
+  show.platform.media.MediaPlayer1.Stop();
+  show.frmMain.lblStatusBar.Caption = "Sounds stopped, all but the music";
 }
 
 void optSoundBank_Click(Show& show, std::size_t index) { show.state.SoundSet = static_cast<int>(index) + 1; }

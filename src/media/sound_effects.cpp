@@ -76,11 +76,9 @@ void SetEntry(Show& show, const std::string& path) {
   grid.SetCell(grid.Row, grid.Col, ExtractFileName(path));
 }
 
-void ReportTableError(Show& show, const RuntimeError& error, const std::string& procedure) {
-  std::string text = UntrappedErrorText(error.Number(), error.what(), show.frmSoundEffects.Name(), procedure);
-  const std::string shared = "note of the following information:";
-  text.replace(text.find(shared), shared.size(), "note of the following information.");
-  show.platform.dialogs.MessageBox(text, kAppTitle, BoxKind::Critical);
+void ReportTableError(Show& show, const RuntimeError& error, const std::string& procedure, const std::string& path) {
+  show.platform.dialogs.MessageBox(NotedErrorText(error, show.frmSoundEffects.Name(), procedure, path), kAppTitle,
+                                   BoxKind::Critical);
 }
 
 void ImportTable(Show& show, const std::string& path) {
@@ -92,7 +90,7 @@ void ImportTable(Show& show, const std::string& path) {
     return;
   }
   if (!ReadSoundTable(bytes, show.soundBanks)) {
-    ReportTableError(show, RuntimeError(kErrorPastEnd, "Input past end of file"), "btnImportSoundFiles");
+    ReportTableError(show, RuntimeError(kErrorPastEnd, "Input past end of file"), "btnImportSoundFiles", path);
   }
 }
 
@@ -150,7 +148,7 @@ void btnExport_Click(Show& show) {
   try {
     show.platform.files.Write(path, FormatSoundTable(show.soundBanks));
   } catch (const RuntimeError& error) {
-    ReportTableError(show, error, "btnExportSoundFiles");
+    ReportTableError(show, error, "btnExportSoundFiles", path);
   }
 }
 

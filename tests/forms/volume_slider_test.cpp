@@ -79,7 +79,24 @@ TEST_F(Sliders, DraggedPastAnEndItStopsThereAndOnePercentIsSilence) {
   }
 }
 
-TEST_F(Sliders, AnotherButtonTakesThePlaceAsItStandsAndTheKnobOfVolumeZeroStaysOnTheWay) {
+// A hand that takes the knob at an end moves it on only after the first tick.
+TEST_F(Sliders, AKnobAtAnEndIsTakenAndAPressThereChangesNothing) {
+  VolumeSlider& slider = options.picEvent;
+  for (const auto& [volume, share] : {std::pair{0, 0.5}, {100, -0.5}}) {
+    state.EventPlayerVolume = volume;
+    Open([&, at = volume, by = share] {
+      slider.RealSlider.MouseDown(MouseButton::Left, 60);
+      sim.clock.Advance(300);
+      EXPECT_EQ(slider.Volume.Caption.Get(), std::to_string(at) + "%");
+      slider.RealSlider.MouseMove(60 + by * (slider.RealBackground.Width - slider.RealSlider.Width));
+      sim.clock.Advance(100);
+      slider.RealSlider.MouseUp();
+    });
+    EXPECT_EQ(state.EventPlayerVolume, 50) << volume;
+  }
+}
+
+TEST_F(Sliders, AnotherButtonTakesThePlaceAsItStandsAndTheKnobOfVolumeZeroStandsAtTheEnd) {
   VolumeSlider& slider = options.picEvent;
   Open([&] {
     slider.RealSlider.MouseDown(MouseButton::Other, 10);
@@ -88,7 +105,7 @@ TEST_F(Sliders, AnotherButtonTakesThePlaceAsItStandsAndTheKnobOfVolumeZeroStaysO
     EXPECT_EQ(slider.Volume.Caption.Get(), "75%");
     EXPECT_TRUE(slider.SlideTimer.Enabled);
   });
-  for (const auto& [volume, place] : {std::pair{50, 2100 - 120.0}, {0, 2100 + 120.0}}) {
+  for (const auto& [volume, place] : {std::pair{50, 2100 - 120.0}, {0, -120.0}}) {
     state.EventPlayerVolume = volume;
     Open([&, at = place] { EXPECT_EQ(slider.FakeSlider.Left, at); });
   }

@@ -125,15 +125,44 @@ TEST_F(Headers, TheDialogWritesTheBoxesAndEndsAtTheFirstBlankOne) {
   EXPECT_EQ(show().state.OptionalHeaderCount, 2) << "reading counts lines that are not blank";
 }
 
-TEST_F(Headers, CancelClearsTheBoxesAndLeavesTheHeaders) {
+TEST_F(Headers, WhatIsCancelledOrClosedIsGoneAndTheHeadersAreInTheBoxesAgain) {
   Begin(kFile);
-  InDialog("txtOptionalHeader(1)=Sponsor,_and_friends txtOptionalHeader(0):Other btnCancel");
-  EXPECT_EQ(dialog.txtOptionalHeader[1].Font.Get(), (Font{"Comic Sans MS", 18, true, false}));
-  EXPECT_EQ(sim.files.Read(kPath) + show().state.OptionalHeaders[0].HeaderText, kFile + "Welcome to the show");
-  // A hidden form keeps its boxes, empty here.
-  InDialog("txtOptionalHeader(0)= txtOptionalHeader(1)= btnOk");
-  EXPECT_FALSE(show().state.OptionalHeadersOn);
-  EXPECT_EQ(Rotate(2), "--");
+  for (const bool closes : {false, true}) {
+    sim.dialogs.ExpectForm("frmOptionalHeaders", [&] {
+      dialog.txtOptionalHeader[0].Type("Other");
+      dialog.btnClearAll.Click();
+      dialog.txtOptionalHeader[2].Type("Typed and not taken");
+      closes ? dialog.Unload() : dialog.btnCancel.Click();
+    });
+    form().mnuFileOptionalHeaders.Click();
+    EXPECT_EQ(sim.files.Read(kPath) + show().state.OptionalHeaders[0].HeaderText, kFile + "Welcome to the show");
+    // OK after it writes what rotates, and no empty boxes over it.
+    InDialog("txtOptionalHeader(0)=Welcome_to_the_show txtOptionalHeader(2)= btnOk");
+    EXPECT_EQ(Rotate(3), "WS-") << closes;
+    EXPECT_THAT(sim.files.Read(kPath), HasSubstr("\"Sponsor, and friends\""));
+    sim.files.Put(kPath, kFile);
+  }
+  sim.files.Remove(kPath);
+  show().state.OptionalHeadersOn = false;
+  sim.dialogs.ExpectForm("frmOptionalHeaders", [&] {
+    dialog.txtOptionalHeader[3].Type("Never taken");
+    dialog.Unload();
+  });
+  form().mnuFileOptionalHeaders.Click();
+  InDialog("txtOptionalHeader(3)= btnCancel");
+}
+
+TEST_F(Headers, TheFontOfAnOpenedFileIsTheOneToChangeFrom) {
+  sim.files.Put("D:\\old.txt", "no stamp\r\n\"Old\",\"Arial\",30,#TRUE#,#TRUE#,255,0\r\n");
+  sim.dialogs.ExpectForm("frmOptionalHeaders", [&] {
+    sim.dialogs.ExpectFile("D:\\old.txt");
+    dialog.btnOpen.Click();
+    sim.dialogs.ExpectFont(std::nullopt);
+    dialog.btnOpt1Font[0].Click();
+    dialog.btnCancel.Click();
+  });
+  form().mnuFileOptionalHeaders.Click();
+  EXPECT_EQ(sim.dialogs.FontStart, (Font{"Arial", 30, true, true}));
 }
 
 TEST_F(Headers, FilesOfTheOperatorsOwnAreOpenedAndSaved) {
