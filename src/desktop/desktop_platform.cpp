@@ -7,7 +7,8 @@
 namespace pawnfield {
 
 DesktopPlatform::DesktopPlatform(const DesktopPlaces& places, std::function<void()> onActivate)
-    : dialogs(windows),
+    : windows(pictures),
+      dialogs(windows),
       settings(places.configFolder),
       displays(screens, [this](Form& form) { return windows.Find(form); }),
       processes(places.runtimeFolder, std::move(onActivate),
@@ -21,6 +22,7 @@ DesktopPlatform::DesktopPlatform(const DesktopPlaces& places, std::function<void
                files,
                text,
                pictures,
+               mediaFiles,
                displays,
                processes,
                random,
@@ -29,6 +31,8 @@ DesktopPlatform::DesktopPlatform(const DesktopPlaces& places, std::function<void
                printing,
                pages,
                serial,
-               places.folders} {}
+               places.folders} {
+  for (const char* own : {"\\Images", "\\Question Backgrounds"}) pictures.HoldFolder(places.folders.App + own);
+}
 
 }  // namespace pawnfield

@@ -10,7 +10,9 @@
 #include "desktop/files/desktop_folders.h"
 #include "desktop/files/qt_file_system.h"
 #include "desktop/files/qt_settings_store.h"
+#include "desktop/media/media_files.h"
 #include "desktop/media/mpv_video.h"
+#include "desktop/painting/picture_cache.h"
 #include "desktop/system/form_windows.h"
 #include "desktop/system/linux_processes.h"
 #include "desktop/system/qt_clock.h"
@@ -36,6 +38,7 @@ class DesktopPlatform {
  public:
   DesktopPlatform(const DesktopPlaces& places, std::function<void()> onActivate);
 
+  PictureCache pictures;
   FormWindows windows;
   Screens screens;
   QtClock clock;
@@ -45,7 +48,7 @@ class DesktopPlatform {
   QtSettingsStore settings;
   QtFileSystem files;
   QtTextMeasurer text;
-  QtPictureReader pictures;
+  MediaFiles mediaFiles;
   QtDisplays displays;
   LinuxProcesses processes;
   SeededRandom random;

@@ -34,7 +34,6 @@ class DesktopProgram {
   std::vector<FormWindow*> Windows();
 
  private:
-  PictureCache pictures_;
   DesktopPlatform desktop_;
   Show show_;
   ConsoleWindow console_;

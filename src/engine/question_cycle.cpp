@@ -16,6 +16,7 @@
 #include "platform/text.h"
 #include "presentation/audience_screen.h"
 #include "presentation/both_screens.h"
+#include "presentation/picture_question.h"
 #include "presentation/text_fitting.h"
 #include "sets/set_file.h"
 #include "show/show.h"
@@ -116,6 +117,13 @@ void ShowQuestion(Show& show, int index) {
       break;
   }
   SendKeyPressInRingIn(show, true);
+  HoldPicture(show, index + 2);
+}
+
+void HoldPicture(Show& show, int number) {
+  if (number < 1 || number > kSetCapacity) return;
+  const std::string text = Trim(RecordAt(show.GameSet, number).QuestionText);
+  if (KindOfQuestion(text) == QuestionKind::Picture) show.platform.pictures.Hold(text);
 }
 
 void CheckQuestionsLeft(Show& show) {

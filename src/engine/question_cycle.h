@@ -8,6 +8,8 @@ struct Show;
 // Shows the question at the index 0..100 of GameSet: text, picture or sound, with its answer on the console.
 // RuntimeError 9 for any other index.
 void ShowQuestion(Show& show, int index);
+// Reads the picture of the question of that number ahead, where it has one.
+void HoldPicture(Show& show, int number);
 // "5 Questions Left!", when exactly six records are left to come.
 void CheckQuestionsLeft(Show& show);
 // The bonus screen for 3000 ms.

@@ -14,6 +14,7 @@
 #include "presentation/board_layout.h"
 #include "presentation/both_screens.h"
 #include "sets/file_dialogs.h"
+#include "sets/media_check.h"
 #include "sets/missing_media.h"
 #include "sets/set_file.h"
 #include "show/show.h"
@@ -52,6 +53,7 @@ void ReadySet(Show& show) {
   EnableOptions(show);
   StartMusic(show);
   ReportPlayers(show, kWhite);
+  HoldPicture(show, 1);
 }
 
 // The external keyboard program knows the scores from the choice of a file on.
@@ -93,6 +95,7 @@ void btnSelectGame_Click(Show& show) {
   ReadySet(show);
   PublishScores(show);
   ShowReadyBoard(show);
+  if (show.state.GameLoaded) CheckSetMedia(show);
 }
 
 void cboList_DropDown(Show& show) {
@@ -110,6 +113,7 @@ void cboList_Click(Show& show) {
   ResetPlayerNames(show);
   ReadySet(show);
   ShowReadyBoard(show);
+  CheckSetMedia(show);
 }
 
 }  // namespace pawnfield

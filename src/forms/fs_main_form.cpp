@@ -92,11 +92,13 @@ void FSMainForm::Form_Resize() {
   picStandby.BringToFront();
   picQuestionPicture.MoveTo(0, 0, Width, Height);
   picQuestionPicture.BringToFront();
-  for (PictureBox* panel : {&picQuestion, &picHideQuestion, &picCorrect, &picWinner, &picBonus, &picMOD, &picSound}) {
+  for (PictureBox* panel : {&picQuestion, &picHideQuestion, &picCorrect, &picWinner, &picBonus, &picSound}) {
     MoveLike(*panel, picStandby, Extent::Copy);
     panel->BringToFront();
   }
   picStandby.BringToFront();
+  MoveLike(picMOD, picStandby, Extent::Copy);
+  picMOD.BringToFront();
   picMODVideo.MoveTo(0, 0, picMOD.Width, picMOD.Height);
   MediaPlayer1.MoveTo(0, 0, picMODVideo.Width, picMODVideo.Height);
   for (Image* fill : {&imgQuestionBackground, &imgCorrect, &imgBonus, &imgSound, &imgStandby}) {

@@ -10,8 +10,8 @@ class FSMainForm : public Form {
  public:
   FSMainForm();
 
-  // Gives the full-size panels the form's size and stacks them: question, cover, verdict, winner, bonus, media, sound,
-  // and standby in front of all.
+  // Gives the full-size panels the form's size and stacks them: question, cover, verdict, winner, bonus, sound,
+  // standby, and media on demand in front of all.
   void Form_Resize();
   // By player 1..3; another number is error 9.
   PictureBox& ScoreBox(int player);

@@ -140,7 +140,7 @@ void MainForm::SetCaptions() {
 void MainForm::PlaceControls() {
   picEntScreen.MoveTo(0, 0, 6735, 7815);
   for (PictureBox* panel :
-       {&picQuestion, &picQuestionPicture, &picSound, &picBonus, &picMOD, &picCorrect, &picWinner, &picStandby}) {
+       {&picQuestion, &picQuestionPicture, &picSound, &picBonus, &picCorrect, &picWinner, &picStandby, &picMOD}) {
     panel->MoveTo(0, 0, kPanelWidth, kPanelHeight);
     panel->BringToFront();
   }

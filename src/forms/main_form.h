@@ -171,6 +171,8 @@ class MainForm : public Form {
   Label lblAnswerAutoResize{*this, "lblAnswerAutoResize"};
   Label lblWinnerResize{*this, "lblWinnerResize"};
   Label lblStatusBar{*this, "lblStatusBar"};
+  // How far the look at a set's media has come.
+  ProgressBar prgMediaCheck{*this, "prgMediaCheck"};
 
   // Intervals are milliseconds.
   Timer tmrAutoContinue{*this, "tmrAutoContinue", 3000};
@@ -190,6 +192,8 @@ class MainForm : public Form {
   Timer tmrBGMusic{*this, "tmrBGMusic", 1000, true};
   Timer tmrMODPicture{*this, "tmrMODPicture", 5000};
   Timer tmrVideoDelay{*this, "tmrVideoDelay", 500};
+  // A look at a set's media that takes longer is shown.
+  Timer tmrMediaCheck{*this, "tmrMediaCheck", 500};
   ControlArray<Timer, 2> tmrAnimate{*this, "tmrAnimate"};
 
  private:

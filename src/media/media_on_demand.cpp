@@ -6,7 +6,6 @@
 #include "media/question_pictures.h"
 #include "media/sound_channels.h"
 #include "media/sound_table.h"
-#include "platform/errors.h"
 #include "platform/text.h"
 #include "show/show.h"
 
@@ -16,9 +15,11 @@ namespace {
 
 constexpr int kMsPerSecond = 1000;
 
+// What was on demand before leaves the screens; a picture's time ends with it.
 void PlayVideo(Show& show, const std::string& path) {
   MainForm& form = show.frmMain;
   MediaChannel& player = show.platform.media.MediaPlayer1;
+  form.tmrMODPicture.Enabled = false;
   form.picMODVideo.Visible = true;
   form.picMODPicture.Visible = false;
   form.picMOD.Visible = true;
@@ -32,84 +33,86 @@ void MoveTo(Image& image, const FittedPicture& place) {
   image.MoveTo(place.Left, place.Top, place.Width, place.Height);
 }
 
-void FitMODPicOnAudience(Show& show, const std::string& path) {
+void FitMODPicOnAudience(Show& show, PixelSize size) {
   const PictureBox& frame = show.frmFSMain.picMOD;
-  MoveTo(show.frmFSMain.picImageResize[1],
-         FitPictureOnAudience(show.platform.pictures.Size(path), frame.Width, frame.Height));
+  MoveTo(show.frmFSMain.picImageResize[1], FitPictureOnAudience(size, frame.Width, frame.Height));
 }
 
-void ReportPictureError(Show& show, const RuntimeError& error, const std::string& path) {
-  if (error.Number() == kErrorFileNotFound) {
-    show.platform.dialogs.MessageBox("File not found:" + path, kAppTitle, BoxKind::Critical);
-    return;
-  }
-  std::string text = UntrappedErrorText(error.Number(), error.what(), show.frmMain.Name(), "ShowMODPic", path);
-  const std::string shared = "note of the following information:";
-  text.replace(text.find(shared), shared.size(), "note of the following information.");
-  show.platform.dialogs.MessageBox(text, kAppTitle, BoxKind::Critical);
+void PlaceMODPic(Show& show, const std::string& path, PixelSize size) {
+  MainForm& form = show.frmMain;
+  // A film that still runs would be heard on, and its end is not the picture's.
+  form.picMODVideo.Visible = false;
+  form.MediaPlayer1.URL = std::string();
+  show.platform.media.MediaPlayer1.Stop();
+  // A picture that is already up gets its whole time again.
+  form.tmrMODPicture.Enabled = false;
+  form.tmrMODPicture.Interval = show.state.MODPictureTimer * kMsPerSecond;
+  form.tmrMODPicture.Enabled = true;
+  MODImageResize(show, size);
+  form.picImageResize[1].Picture = path;
+  form.picMODPicture.Visible = true;
+  if (show.state.DualScreen) FitMODPicOnAudience(show, size);
+  form.picMOD.Visible = true;
+}
+
+void LookAndPlay(Show& show, const std::string& path, Medium kind) {
+  const int asked = kind == Medium::Video ? ++show.MediaAsked : 0;
+  show.platform.mediaFiles.Look(path, [&show, path, kind, asked](bool plays) {
+    if (!plays) return;
+    if (kind == Medium::Sound) PlayKeyPress(show, path);
+    // The operator has called for another film or picture meanwhile.
+    if (kind == Medium::Video && asked == show.MediaAsked) PlayVideo(show, Trim(path));
+  });
 }
 
 }  // namespace
 
 void PlayKeyMedia(Show& show, int row) {
   const std::string path = SoundEntry(show, row);
-  if (Trim(path).empty() || !show.platform.files.CanOpen(path)) return;
-  switch (MediaKind(path)) {
-    case Medium::Sound:
-      PlayKeyPress(show, path);
-      break;
-    case Medium::Video:
-      PlayVideo(show, Trim(path));
-      break;
-    case Medium::Picture:
-      ShowMODPic(show, path);
-      show.frmMain.tmrVideoDelay.Enabled = true;
-      break;
-    case Medium::None:
-      break;
+  if (Trim(path).empty()) return;
+  const Medium kind = MediaKind(path);
+  if (kind == Medium::Picture) {
+    ShowMODPic(show, path);
+    show.frmMain.tmrVideoDelay.Enabled = true;
+  } else if (kind != Medium::None) {
+    LookAndPlay(show, path, kind);
   }
 }
 
-bool ShowMODPic(Show& show, const std::string& path) {
-  MainForm& form = show.frmMain;
-  // A picture that is already up gets its whole time again.
-  form.tmrMODPicture.Enabled = false;
-  form.tmrMODPicture.Interval = show.state.MODPictureTimer * kMsPerSecond;
-  form.tmrMODPicture.Enabled = true;
-  try {
-    MODImageResize(show, path);
-    form.picImageResize[1].Picture = path;
-    form.picMODVideo.Visible = false;
-    form.picMODPicture.Visible = true;
-    if (show.state.DualScreen) FitMODPicOnAudience(show, path);
-    form.picMOD.Visible = true;
-  } catch (const RuntimeError& error) {
-    ReportPictureError(show, error, path);
-  }
-  return true;
+void ShowMODPic(Show& show, const std::string& path) {
+  show.platform.pictures.Look(path, [&show, path, asked = ++show.MediaAsked](const PictureFacts& facts) {
+    if (asked != show.MediaAsked || facts.Error == kErrorFileNotFound) return;
+    if (facts.Error == 0) {
+      PlaceMODPic(show, path, facts.Size);
+    } else {
+      show.frmMain.lblStatusBar.Caption = ExtractFileName(path) + " can't be shown";
+    }
+  });
 }
 
-void MODImageResize(Show& show, const std::string& path) {
+void MODImageResize(Show& show, PixelSize size) {
   const PictureBox& frame = show.frmMain.picMODPicture;
-  MoveTo(show.frmMain.picImageResize[1],
-         FitPictureInFrame(show.platform.pictures.Size(path), frame.Width, frame.Height));
+  MoveTo(show.frmMain.picImageResize[1], FitPictureInFrame(size, frame.Width, frame.Height));
 }
 
 void FitMedia(Show& show) {
   const MainForm& form = show.frmMain;
   if (!form.picMOD.Visible || !form.picMODPicture.Visible) return;
-  try {
-    FitMODPicOnAudience(show, form.picImageResize[1].Picture);
-  } catch (const RuntimeError&) {
-    // The file has gone since the console took it, and the board beneath is better than an empty frame.
-    show.frmFSMain.picMOD.Visible = false;
-  }
+  const std::string path = form.picImageResize[1].Picture;
+  show.platform.pictures.Look(path, [&show, path](const PictureFacts& facts) {
+    if (show.frmMain.picImageResize[1].Picture != path) return;
+    if (facts.Error == 0) {
+      FitMODPicOnAudience(show, facts.Size);
+    } else {
+      // The file has gone since the console took it, and the board beneath is better than an empty frame.
+      show.frmFSMain.picMOD.Visible = false;
+    }
+  });
 }
 
 void tmrMODPicture_Timer(Show& show) {
   show.frmMain.tmrMODPicture.Enabled = false;
   show.frmMain.picMOD.Visible = false;
-  show.frmMain.SetFocus();
 }
 
 void tmrVideoDelay_Timer(Show& show) { show.frmMain.tmrVideoDelay.Enabled = false; }
@@ -118,7 +121,8 @@ void MediaPlayer1_PlayStateChange(Show& show, PlayState state) {
   MainForm& form = show.frmMain;
   form.MediaPlayer1.PlayState = static_cast<int>(state);
   form.btnPlayVideo.Caption = std::string(state == PlayState::Playing ? "II" : ">");
-  if (state == PlayState::Stopped) form.picMOD.Visible = false;
+  // A film that a picture has followed takes nothing down.
+  if (state == PlayState::Stopped && form.picMODVideo.Visible) form.picMOD.Visible = false;
 }
 
 void AttachMediaOnDemandHandlers(Show& show) {

@@ -14,17 +14,18 @@ struct Show;
 // that isn't there and an unknown extension do nothing.
 void PlayKeyMedia(Show& show, int row);
 
-// Shows the picture on both screens for MODPictureTimer seconds. What goes wrong is reported, and it returns true.
-bool ShowMODPic(Show& show, const std::string& path);
-// Fits the picture into picMODPicture. RuntimeError 53 or 481 when it can't be read.
-void MODImageResize(Show& show, const std::string& path);
+// Shows the picture on both screens for MODPictureTimer seconds, as soon as it has been read; a film ends with that.
+// One that can't be shown is told in the status bar.
+void ShowMODPic(Show& show, const std::string& path);
+// Fits a picture of that size into picMODPicture.
+void MODImageResize(Show& show, PixelSize size);
 
 // Fits the picture that is up into an audience screen that comes up in the middle; without the file the board stays.
 void FitMedia(Show& show);
 
 void tmrMODPicture_Timer(Show& show);
 void tmrVideoDelay_Timer(Show& show);
-// The operator's player has stopped, paused or gone on: the audience's copy follows, and a stop takes both away.
+// The operator's player has stopped, paused or gone on: the audience's copy follows, and a stop takes the film away.
 void MediaPlayer1_PlayStateChange(Show& show, PlayState state);
 
 // Gives the timers and the player their handlers.

@@ -2,7 +2,6 @@
 
 #include "forms/fs_main_form.h"
 #include "forms/main_form.h"
-#include "platform/errors.h"
 #include "platform/text.h"
 #include "show/show.h"
 
@@ -34,16 +33,6 @@ void MoveTo(Image& image, const FittedPicture& place) {
   image.MoveTo(place.Left, place.Top, place.Width, place.Height);
 }
 
-void ReportPictureError(Show& show, const RuntimeError& error, const std::string& path) {
-  std::string text = "File not found: " + path;
-  if (error.Number() != kErrorFileNotFound) {
-    text = UntrappedErrorText(error.Number(), error.what(), show.frmMain.Name(), "ShowPic", path);
-    text.replace(0, text.find("\r\n"),
-                 "An untrapped error has occurred.  Please make a note of the following information.");
-  }
-  show.platform.dialogs.MessageBox(text, kAppTitle, BoxKind::Critical);
-}
-
 }  // namespace
 
 FittedPicture FitPictureInFrame(PixelSize picture, double frameWidth, double frameHeight) {
@@ -59,44 +48,27 @@ FittedPicture FitPictureOnAudience(PixelSize picture, double frameWidth, double 
   return fitted;
 }
 
-bool ShowPic(Show& show) {
-  MainForm& form = show.frmMain;
-  const std::string path = form.lblQuestion[0].Caption;
-  try {
-    FitPicture(show, path);
-    form.picImageResize[0].Picture = path;
-    form.picQuestionPicture.Visible = true;
-    if (show.state.DualScreen) FSImageResize(show, path);
-    return true;
-  } catch (const RuntimeError& error) {
-    ReportPictureError(show, error, path);
-    return false;
-  }
-}
-
-void FitPicture(Show& show, const std::string& path) {
+void FitPicture(Show& show, PixelSize size) {
   const PictureBox& frame = show.frmMain.picQuestionPicture;
-  MoveTo(show.frmMain.picImageResize[0],
-         FitPictureInFrame(show.platform.pictures.Size(path), frame.Width, frame.Height));
+  MoveTo(show.frmMain.picImageResize[0], FitPictureInFrame(size, frame.Width, frame.Height));
 }
 
-void FSImageResize(Show& show, const std::string& path) {
+void ShowPicOnAudience(Show& show, const std::string& path, PixelSize size) {
   const PictureBox& frame = show.frmFSMain.picQuestionPicture;
-  MoveTo(show.frmFSMain.picImageResize[0],
-         FitPictureOnAudience(show.platform.pictures.Size(path), frame.Width, frame.Height));
+  Image& image = show.frmFSMain.picImageResize[0];
+  image.Picture = path;
+  MoveTo(image, FitPictureOnAudience(size, frame.Width, frame.Height));
 }
 
 void RandomQuestionBackground(Show& show) {
   show.platform.random.Randomize();
   const long long number = RoundHalfEven(show.platform.random.Next() * kBackgroundCount);
-  const std::string path = show.AppPath("\\Question Backgrounds\\" + std::to_string(number) + ".jpg");
-  Image& background = show.frmMain.imgQuestionBackground;
-  try {
-    show.platform.pictures.Size(path);
-    background.Picture = path;
-  } catch (const RuntimeError&) {
-    // The draw names a picture that isn't there or can't be read: the last background stays.
-  }
+  show.DrawnBackground = show.AppPath("\\Question Backgrounds\\" + std::to_string(number) + ".jpg");
+  show.platform.pictures.Look(show.DrawnBackground, [&show, path = show.DrawnBackground](const PictureFacts& facts) {
+    // The draw names a picture that isn't there or can't be read, or another has been drawn: the last one stays.
+    if (facts.Error != 0 || path != show.DrawnBackground) return;
+    show.frmMain.imgQuestionBackground.Picture = path;
+  });
 }
 
 }  // namespace pawnfield

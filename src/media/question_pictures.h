@@ -18,10 +18,11 @@ FittedPicture FitPictureInFrame(PixelSize picture, double frameWidth, double fra
 // The audience's fit: by the longer side; may overrun the frame's height.
 FittedPicture FitPictureOnAudience(PixelSize picture, double frameWidth, double frameHeight);
 
-// Shows the picture whose path stands in lblQuestion(0), on both screens. False, after a message, when it can't.
-bool ShowPic(Show& show);
-void FitPicture(Show& show, const std::string& path);
-void FSImageResize(Show& show, const std::string& path);
+// Places the question's picture, of that size, in the console's frame.
+void FitPicture(Show& show, PixelSize size);
+// Puts the question's picture on the audience's panel.
+void ShowPicOnAudience(Show& show, const std::string& path, PixelSize size);
+// Draws a background by chance; it stands behind the question as soon as it has been read.
 void RandomQuestionBackground(Show& show);
 
 }  // namespace pawnfield

@@ -173,11 +173,33 @@ struct PixelSize {
   int Height = 0;
 };
 
+// What is known of a picture: its size as it stands upright, and the number of the error that keeps it from being
+// shown: 0 for none, 53 for no such file, 481 for a file that holds no picture or one that is too large.
+struct PictureFacts {
+  PixelSize Size;
+  int Error = 0;
+};
+
 class PictureReader {
  public:
   virtual ~PictureReader() = default;
-  // The picture's own size. RuntimeError 53 when there is no such file, 481 when it holds no picture.
-  virtual PixelSize Size(const std::string& path) const = 0;
+  // The picture's size, a look at the disk included. RuntimeError with the numbers above.
+  virtual PixelSize Size(const std::string& path) = 0;
+  // Tells what is known: at once of a picture that is held, else between events when it has been read beside. It can
+  // be painted then without the disk.
+  virtual void Look(const std::string& path, std::function<void(const PictureFacts&)> then) = 0;
+  // Reads the whole file beside, keeps nothing of it and tells, later than any Look.
+  virtual void Check(const std::string& path, std::function<void(const PictureFacts&)> then) = 0;
+  // Reads the picture ahead, so that a Look finds it.
+  virtual void Hold(const std::string& path) = 0;
+};
+
+// Looks at sounds and films beside the program.
+class MediaReader {
+ public:
+  virtual ~MediaReader() = default;
+  // Tells, at once or between events, whether the path is a file that a player takes.
+  virtual void Look(const std::string& path, std::function<void(bool plays)> then) = 0;
 };
 
 struct MonitorInfo {
@@ -357,6 +379,7 @@ struct Platform {
   FileSystem& files;
   TextMeasurer& text;
   PictureReader& pictures;
+  MediaReader& mediaFiles;
   Displays& displays;
   Processes& processes;
   RandomSource& random;

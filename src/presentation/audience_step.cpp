@@ -4,9 +4,9 @@
 #include "forms/main_form.h"
 #include "media/media_on_demand.h"
 #include "media/optional_headers.h"
-#include "media/question_pictures.h"
 #include "presentation/board_layout.h"
 #include "presentation/both_screens.h"
+#include "presentation/picture_question.h"
 #include "presentation/screen_pairs.h"
 #include "presentation/text_fitting.h"
 #include "show/show.h"
@@ -24,17 +24,6 @@ void FitQuestion(Show& show) {
 void FitWinner(Show& show) {
   const std::string text = show.frmMain.lblWinner.Caption;
   if (!text.empty()) SetWinner(show, text, show.frmFSMain.lblWinner);
-}
-
-// A picture that has gone from the disk since it was shown leaves its panel empty.
-void FitQuestionPicture(Show& show) {
-  const std::string path = show.frmMain.picImageResize[0].Picture;
-  if (path.empty()) return;
-  try {
-    FSImageResize(show, path);
-  } catch (const RuntimeError&) {
-    show.frmFSMain.picImageResize[0].Picture = "";
-  }
 }
 
 // The cover is the audience's alone: it is up from a ring-in to its verdict.
@@ -57,8 +46,9 @@ void BringAudienceInStep(Show& show) {
   FitWinner(show);
   FitHeading(show);
   CopyPairs(show);
+  if (IsPictureMissing(show)) WriteMissingPictureCard(show);
   // Last, because a picture whose file has gone must not be shown.
-  FitQuestionPicture(show);
+  BringQuestionPictureInStep(show);
   FitMedia(show);
   CoverAnsweredQuestion(show);
   show.frmFSMain.MouseIcon = show.frmMain.MouseIcon;

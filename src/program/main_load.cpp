@@ -229,6 +229,8 @@ void ShowIdleBoard(Show& show) {
 void LoadPieces(Show& show) {
   MainForm& form = show.frmMain;
   std::string missing;
+  // The disk isn't asked for these in the show.
+  for (const char* verdict : {"\\Images\\Correct.jpg", "\\Images\\Incorrect.jpg"}) PicturePath(show, verdict);
   const auto load = [&](Image& face, const std::string& tail) {
     face.Picture = PicturePath(show, tail);
     if (face.Picture->empty() && missing.empty()) missing = show.AppPath(tail);

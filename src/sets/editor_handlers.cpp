@@ -8,6 +8,7 @@
 #include "sets/editor_files.h"
 #include "sets/editor_media.h"
 #include "sets/editor_navigation.h"
+#include "sets/media_check.h"
 #include "sets/missing_media.h"
 #include "show/show.h"
 
@@ -77,6 +78,7 @@ void AttachEditorHandlers(Show& show) {
   AttachFiles(show);
   AttachQuestions(show);
   AttachRepairHandlers(show);
+  AttachMediaCheckHandlers(show);
 }
 
 }  // namespace pawnfield

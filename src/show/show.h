@@ -68,6 +68,15 @@ struct SquareEntry {
 // Paths of media files by bank 1..3 and row 1..34; index 0 of both is unused.
 using SoundBanks = std::array<std::array<std::string, 35>, 4>;
 
+// The look at the media of a set that has been loaded.
+struct MediaCheck {
+  // Counts the looks, so that what is told of an earlier set is known to be late.
+  int Number = 0;
+  int Files = 0, Left = 0;
+  // What can't be shown, by the question's number.
+  std::map<int, std::string> Faults;
+};
+
 // All forms of the program, which the show's references below name.
 struct Forms;
 
@@ -104,6 +113,11 @@ struct Show {
   std::unique_ptr<Transceiver> dgTransceiver;
   // Whether a picture of the program could be opened when it was first asked for.
   std::map<std::string, bool> PictureFound;
+  MediaCheck mediaCheck;
+  // Counts the films and pictures that the operator has called for on demand.
+  int MediaAsked = 0;
+  // The background that was drawn last, which may still be on its way.
+  std::string DrawnBackground;
   // Texts for the companion that wait until the present event is done, oldest first.
   std::deque<std::string> CompanionReports;
   // Whether the last report, and the last write to the external keyboard program's key, failed; that has been told.

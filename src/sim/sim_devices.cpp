@@ -58,13 +58,34 @@ TextSize LinearTextMeasurer::Measure(const Font& font, const std::string& text, 
   return {std::max(wrapWidth, widest * unit), lines * kLineHeight * font.Size * kTwipsPerPoint};
 }
 
-PixelSize SimPictures::Size(const std::string& path) const {
+PixelSize SimPictures::Size(const std::string& path) {
   if (!files_.CanOpen(path)) throw RuntimeError(kErrorFileNotFound, "File not found");
   const std::string bytes = files_.Read(path);
   PixelSize size;
   std::istringstream in(bytes.starts_with(kPictureMark) ? bytes.substr(std::string(kPictureMark).size()) : "");
   if (!(in >> size.Width >> size.Height)) throw RuntimeError(kErrorInvalidPicture, "Invalid picture");
   return size;
+}
+
+void SimPictures::Look(const std::string& path, std::function<void(const PictureFacts&)> then) {
+  const auto tell = [this, path, then] {
+    PictureFacts facts;
+    try {
+      facts.Size = Size(path);
+    } catch (const RuntimeError& error) {
+      facts.Error = error.Number();
+    }
+    then(facts);
+  };
+  if (Slow) {
+    waiting_.emplace_back(tell);
+  } else {
+    tell();
+  }
+}
+
+void SimPictures::Answer() {
+  for (auto waiting = std::exchange(waiting_, {}); !waiting.empty(); waiting.pop_front()) waiting.front()();
 }
 
 std::string SimPictures::PictureBytes(int width, int height) {

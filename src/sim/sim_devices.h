@@ -3,6 +3,7 @@
 
 #include <cstdint>
 #include <deque>
+#include <functional>
 #include <map>
 #include <string>
 #include <utility>
@@ -26,8 +27,30 @@ class LinearTextMeasurer : public TextMeasurer {
 class SimPictures : public PictureReader {
  public:
   explicit SimPictures(const SimFiles& files) : files_(files) {}
-  PixelSize Size(const std::string& path) const override;
+  PixelSize Size(const std::string& path) override;
+  void Look(const std::string& path, std::function<void(const PictureFacts&)> then) override;
+  void Check(const std::string& path, std::function<void(const PictureFacts&)> then) override { Look(path, then); }
+  void Hold(const std::string& path) override { Held.push_back(path); }
+  // The disk gives what was asked of it while it was slow, in order.
+  void Answer();
+  // Where true, each look waits for Answer.
+  bool Slow = false;
+  // What was read ahead, in order.
+  std::vector<std::string> Held;
   static std::string PictureBytes(int width, int height);
+
+ private:
+  const SimFiles& files_;
+  std::deque<std::function<void()>> waiting_;
+};
+
+// Any file that is not empty plays.
+class SimMediaFiles : public MediaReader {
+ public:
+  explicit SimMediaFiles(const SimFiles& files) : files_(files) {}
+  void Look(const std::string& path, std::function<void(bool plays)> then) override {
+    then(files_.CanOpen(path) && !files_.Read(path).empty());
+  }
 
  private:
   const SimFiles& files_;

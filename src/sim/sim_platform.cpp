@@ -19,7 +19,7 @@ void PutImages(SimFiles& files, const std::string& folder) {
 }  // namespace
 
 SimPlatform::SimPlatform(Folders where)
-    : platform{clock,  dialogs, media.Channels(), settings, files, text,   pictures,        displays, processes,
+    : platform{clock,  dialogs, media.Channels(), settings, files, text,   pictures, mediaFiles, displays, processes,
                random, hid,     devices,          printing, pages, serial, std::move(where)} {
   media.Deck.Time = &clock;
   const std::string app = platform.folders.App;

@@ -24,6 +24,7 @@ struct SimPlatform {
   SimFiles files;
   LinearTextMeasurer text;
   SimPictures pictures{files};
+  SimMediaFiles mediaFiles{files};
   SimDisplays displays;
   SimProcesses processes;
   SimRandom random;

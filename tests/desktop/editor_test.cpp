@@ -182,7 +182,8 @@ QString WhereItBegins(QtDialogs& dialogs, const FileDialogRequest& request) {
 
 TEST(FileDialogTest, BeginsWhereItIsToldAndRemembersNothing) {
   const QTemporaryDir folder;
-  FormWindows windows;
+  PictureCache pictures;
+  FormWindows windows{pictures};
   QtDialogs dialogs(windows);
   FileDialogRequest request;
   request.Filter = "Game Sets(*.txt)|*.txt";

@@ -150,7 +150,7 @@ using PictureTest = FolderTest;
 TEST_F(PictureTest, TellsSizeAndWhatIsWrong) {
   QImage(37, 21, QImage::Format_RGB32).save(Native("a.png"));
   Make("broken.jpg", "no picture");
-  const QtPictureReader reader;
+  PictureCache reader;
   const PixelSize size = reader.Size(Spelled("\\A.PNG"));
   EXPECT_EQ(std::pair(size.Width, size.Height), std::pair(37, 21));
   EXPECT_EQ(ErrorOf([&] { reader.Size(Spelled("\\broken.jpg")); }), kErrorInvalidPicture);

@@ -27,15 +27,16 @@ class Faults : public testing::Test {
   ShowFixture fixture;
 };
 
-TEST_F(Faults, BrokenAndMissingMediaAreToldAndTheGameGoesOn) {
+TEST_F(Faults, BrokenAndMissingMediaAreToldBeforeTheGameAndOpenNoBoxInIt) {
   fixture.sim.files.Put("C:\\Shows\\broken.jpg", "no picture at all");
   fixture.WriteSet("Media", {"C:\\Shows\\broken.jpg", "C:\\Shows\\missing.jpg", "C:\\Shows\\missing.wav", "The last?"});
   fixture.Start();
   fixture.sim.dialogs.ExpectForm("frmDialog2", [&] { fixture.show().frmDialog2.btnCancel.Click(); });
-  Play("Media", "", "An untrapped error has occurred.  Please make a ");
-  ExpectSeen(fixture.show(), "btnQuestionCorrect=on", " the broken picture");
-  fixture.sim.dialogs.ExpectMessage("File not found:");
-  PlaySquare(0, 0, "question=1");
+  Play("Media", "Question 1: broken.jpg: no picture, or too large a one\r\nQuestion 2: missing.jpg: no such file\r\n",
+       "");
+  const char* card = "picQuestion=up picQuestion'=up lblQuestion(0)=Picture_missing:_read_the_question,_or_Skip ";
+  ExpectSeen(fixture.show(), std::string(card) + "lblQuestion(0)'=Question_1 btnQuestionCorrect=on", " the broken one");
+  PlaySquare(0, 0, (std::string(card) + "lblQuestion(0)'=Question_2 question=1").c_str());
   PlaySquare(1, 0, "question=2 picSound=up");
   EXPECT_EQ(fixture.sim.media.SoundClipPlayer.Url, "C:\\Shows\\missing.wav");
   PlaySquare(2, 1, "lblQuestion(0)=The_last? picQuestion'=up scores=50/50/50");

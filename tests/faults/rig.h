@@ -58,7 +58,8 @@ struct Rig {
   ToldDialogs dialogs;
   QtFileSystem files;
   QtSettingsStore settings;
-  QtPictureReader pictures;
+  PictureCache pictures;
+  MediaFiles mediaFiles;
   FilePrinting printing;
   Platform platform;
   Show show;

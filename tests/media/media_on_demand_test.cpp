@@ -65,9 +65,9 @@ TEST(MediaOnDemand, APictureFillsBothScreensForItsTime) {
              " a picture");
   media.sim.clock.Advance(1);
   ExpectSeen(media.show(), "picMOD=- picMOD'=-", " its time");
-  media.sim.dialogs.ExpectMessage("note of the following information.\x20\r\nError Number: 481");
   media.Press("C:\\media\\broken.jpg", "no picture");
-  ExpectSeen(media.show(), "picMOD=- picMOD'=-", " a broken one");
+  ExpectSeen(media.show(), "picMOD=- picMOD'=-", " a broken one, which opens no box");
+  EXPECT_EQ(media.form().lblStatusBar.Caption.Get(), "broken.jpg can't be shown");
 }
 
 TEST(MediaOnDemand, TheOperatorsPlayerDrivesBothScreens) {
@@ -98,6 +98,37 @@ TEST(MediaOnDemand, EachKeyReplacesWhatIsUpAndSoundsGoBeside) {
     EXPECT_EQ(media.WhatPlays(), what) << path;
   }
   EXPECT_EQ(media.sim.media.MediaPlayer1.Url, "C:\\media\\second.avi");
+}
+
+TEST(MediaOnDemand, WhatIsLastIsAloneAndItsEndIsItsOwn) {
+  MediaShow media;
+  media.Press("C:\\media\\p.jpg");
+  media.sim.clock.Advance(2000);
+  media.Press("C:\\media\\clip.mp4");
+  media.sim.clock.Advance(5000);
+  EXPECT_EQ(media.WhatPlays(), "V/V") << "the picture's time takes no film down";
+  media.Press("C:\\media\\p.jpg");
+  EXPECT_FALSE(media.sim.media.MediaPlayer1.Playing) << "no film is heard under a picture";
+  media.sim.media.MediaPlayer1.Report(PlayState::Stopped);
+  EXPECT_EQ(media.WhatPlays(), "P/P") << "nor does its end take the picture down";
+}
+
+TEST(MediaOnDemand, OfTwoThatTheDiskHoldsUpTheLastIsShown) {
+  MediaShow media;
+  media.sim.pictures.Slow = true;
+  media.Press("C:\\media\\p.jpg");
+  media.Press("C:\\media\\clip.mp4");
+  media.sim.pictures.Answer();
+  EXPECT_EQ(media.WhatPlays(), "V/V");
+}
+
+TEST(MediaOnDemand, StandsAboveStandbyQuestionAndLoudspeakerOnBothScreens) {
+  MediaShow media;
+  for (const char* below : {"picStandby", "picQuestion", "picQuestionPicture", "picSound", "picBonus", "picWinner"}) {
+    for (const Form* form : {static_cast<Form*>(&media.form()), static_cast<Form*>(&media.audience())}) {
+      EXPECT_GT(form->Find("picMOD")->ZOrder.Get(), form->Find(below)->ZOrder.Get()) << form->Name() << below;
+    }
+  }
 }
 
 TEST(MediaOnDemand, AScreenThatComesUpShowsWhatTheConsoleHasUp) {

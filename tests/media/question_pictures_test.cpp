@@ -2,6 +2,9 @@
 
 #include <gmock/gmock.h>
 
+#include "presentation/audience_step.h"
+#include "presentation/both_screens.h"
+#include "presentation/picture_question.h"
 #include "presentation/screen_pairs.h"
 #include "support/show_fixture.h"
 
@@ -21,9 +24,12 @@ class QuestionPictures : public ShowFixture, public testing::Test {
     audience().picQuestionPicture.Visible = false;
     sim.files.Put("C:\\pics\\dog.jpg", SimPictures::PictureBytes(400, 300));
   }
+  // True when the picture is up.
   bool ShowPath(const std::string& path) {
+    form().picQuestion.Visible = false;
     form().lblQuestion[0].Caption = path;
-    return ShowPic(show());
+    ShowPic(show());
+    return form().picQuestionPicture.Visible && form().picImageResize[0].Picture == path;
   }
 };
 
@@ -45,6 +51,7 @@ TEST(PictureFit, FollowsTheLongerSideOfThePicture) {
 TEST_F(QuestionPictures, ThePictureStandsOnBothScreensWhileThereAreTwo) {
   for (const bool two : {false, true}) {
     show().state.DualScreen = two;
+    audience().picImageResize[0].Picture = "";
     EXPECT_TRUE(ShowPath("C:\\pics\\dog.jpg"));
     EXPECT_EQ(audience().picQuestionPicture.Visible, two);
     EXPECT_EQ(audience().picImageResize[0].Picture == "C:\\pics\\dog.jpg", two);
@@ -57,15 +64,34 @@ TEST_F(QuestionPictures, ThePictureStandsOnBothScreensWhileThereAreTwo) {
   EXPECT_EQ(PlaceOf(audience().picImageResize[0]), (Place{0, 0, 1600, 1200}));
 }
 
-TEST_F(QuestionPictures, APictureThatCannotBeShownIsTold) {
+TEST_F(QuestionPictures, WithoutItsPictureTheConsoleSaysSoTheRoomSeesACardAndNoBoxOpens) {
   sim.files.Put("C:\\pics\\broken.jpg", "no picture");
-  sim.dialogs.ExpectMessage("File not found: C:\\pics\\gone.jpg");
-  EXPECT_FALSE(ShowPath("C:\\pics\\gone.jpg"));
-  sim.dialogs.ExpectMessage(
-      "An untrapped error has occurred.  Please make a note of the following information.\r\nError Number: 481\r\n");
-  EXPECT_FALSE(ShowPath("C:\\pics\\broken.jpg"));
-  EXPECT_FALSE(form().picQuestionPicture.Visible);
-  EXPECT_THAT(sim.dialogs.Boxes().back().Text, testing::HasSubstr("Procedure: ShowPic\r\n"));
+  show().state.DualScreen = true;
+  show().state.CurrentQuestion = 6;
+  for (const char* path : {"C:\\pics\\gone.jpg", "C:\\pics\\broken.jpg"}) {
+    EXPECT_FALSE(ShowPath(path));
+    for (const bool joined : {false, true}) {
+      if (joined) BringAudienceInStep(show());
+      EXPECT_TRUE(form().picQuestion.Visible && audience().picQuestion.Visible) << path;
+      EXPECT_FALSE(form().picQuestionPicture.Visible || audience().picQuestionPicture.Visible) << path;
+      EXPECT_EQ(form().lblQuestion[0].Caption.Get(), "Picture missing: read the question, or Skip");
+      EXPECT_EQ(audience().lblQuestion[0].Caption.Get(), "Question 7") << "a screen that comes up: " << joined;
+    }
+  }
+}
+
+TEST_F(QuestionPictures, ASlowDiskHoldsThePictureUpAndNotTheQuestion) {
+  sim.pictures.Slow = true;
+  show().state.DualScreen = true;
+  EXPECT_FALSE(ShowPath("C:\\pics\\dog.jpg"));
+  EXPECT_TRUE(form().picQuestionPicture.Visible && audience().picQuestionPicture.Visible) << "the question is up";
+  sim.pictures.Answer();
+  EXPECT_EQ(audience().picImageResize[0].Picture.Get(), "C:\\pics\\dog.jpg");
+  // The question has gone before its picture has come.
+  ShowPath("C:\\pics\\gone.jpg");
+  HidePanel(show(), Panel::QuestionPicture);
+  sim.pictures.Answer();
+  EXPECT_FALSE(form().picQuestion.Visible);
 }
 
 TEST_F(QuestionPictures, BackgroundsAreDrawnByNumberAndTheLastStaysWhenThereIsNone) {

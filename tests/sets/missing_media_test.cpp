@@ -7,6 +7,7 @@
 namespace pawnfield {
 namespace {
 
+constexpr const char* kNamed = "These questions' files can't be shown";
 constexpr const char* kSet = "C:\\Pawnfield\\Trivia Sets\\Media.txt";
 constexpr const char* kOwn = "C:\\Shows\\Own.txt";
 const std::string kHere = "C:\\Pawnfield\\Trivia Sets\\here.jpg";
@@ -15,10 +16,10 @@ class MissingMedia : public ShowFixture, public testing::Test {
  protected:
   MissingMedia() {
     Start();
-    sim.files.Put(kHere, "picture");
+    sim.files.Put(kHere, SimPictures::PictureBytes(4, 3));
   }
   // A set of pictures, those of the given indices missing, chosen from the list. act runs in the dialog.
-  void Load(const std::vector<int>& missing, const std::function<void()>& act, int count = 100) {
+  void Load(const std::vector<int>& missing, const std::function<void()>& act, int count = 100, bool isNamed = false) {
     std::string bytes;
     for (int i = 0; i < count; ++i) {
       const bool gone = std::find(missing.begin(), missing.end(), i) != missing.end();
@@ -26,6 +27,7 @@ class MissingMedia : public ShowFixture, public testing::Test {
     }
     sim.files.Put(kSet, bytes);
     if (act) sim.dialogs.ExpectForm("frmDialog2", act);
+    if (isNamed) sim.dialogs.ExpectMessage(kNamed);
     ChooseSet("Media");
   }
   // Chooses a file for the one that is missing, and gives the filter and the folder that were offered.
@@ -54,7 +56,7 @@ TEST_F(MissingMedia, TheScanLooksAtAllAndBeginsWithTheFirst) {
       EXPECT_EQ(dialog.lblCatNum.Caption.Get(), told);
       EXPECT_TRUE(dialog.btnRepair.Enabled && dialog.btnCancel.Enabled && !dialog.btnFinished.Enabled);
       dialog.btnCancel.Click();
-    });
+    }, 100, true);
     EXPECT_EQ(asked, question);
     EXPECT_EQ(show().MissingQuestion, 1);
     EXPECT_TRUE(form().btnStart.Enabled);
@@ -65,6 +67,7 @@ TEST_F(MissingMedia, TheScanLooksAtAllAndBeginsWithTheFirst) {
 
 TEST_F(MissingMedia, OnlyTheLetterMakesAMedium) {
   sim.files.Put(kSet, "none.jpg\r\nA\r\nT\r\nnone.wav\r\nA\r\n\r\nnone.bmp\r\nA\r\nP#\r\n");
+  sim.dialogs.ExpectMessage(kNamed);
   ChooseSet("Media");
   sim.files.Put(kSet, "Q\r\nA\r\nT\r\nnothing\r\nA\r\nS\r\n");
   sim.dialogs.ExpectForm("frmDialog2", [&] {
@@ -76,7 +79,9 @@ TEST_F(MissingMedia, OnlyTheLetterMakesAMedium) {
 
 TEST_F(MissingMedia, TheWindowStaysUntilAllAreFoundAndTheSetGoesBackWhereItCameFrom) {
   const std::string sets = "C:\\Pawnfield\\Trivia Sets\\", moved = "D:\\Moved\\";
-  for (const char* name : {"gone3.jpg", "gone6.jpg", "other.jpg"}) sim.files.Put(moved + name, "picture");
+  for (const char* name : {"gone3.jpg", "gone6.jpg", "other.jpg"}) {
+    sim.files.Put(moved + name, SimPictures::PictureBytes(4, 3));
+  }
   // The missing ones, and what is chosen for each, with what the window shows then.
   using Steps = std::vector<std::pair<std::string, const char*>>;
   const std::pair<std::vector<int>, Steps> cases[] = {
@@ -134,7 +139,7 @@ TEST_F(MissingMedia, ASetThatCannotBeWrittenIsTold) {
     sim.dialogs.ExpectMessage("We encountered an error trying to fix the file. Please report if this error continues.");
     SaveRepairedSet(show());
     dialog.btnCancel.Click();
-  });
+  }, 3, true);
   // A set of the file dialog goes back to its file, and one of the list never to that.
   sim.files.Put(kOwn, ".\\gone.wav\r\nA\r\nS\r\n");
   sim.dialogs.ExpectFile(kOwn);

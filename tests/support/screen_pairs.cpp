@@ -6,6 +6,8 @@
 
 #include "forms/fs_main_form.h"
 #include "forms/main_form.h"
+#include "presentation/picture_question.h"
+#include "presentation/picture_question.h"
 
 namespace pawnfield {
 
@@ -69,6 +71,8 @@ std::vector<std::string> UnlikePairs(Show& show) {
     }
     if (console->IsShown() != control->IsShown() && !IsUnpaired(name + ".Visible")) unlike.push_back(name + ".Visible");
     if (turning && IsSquare(name)) continue;
+    // Of a missing picture the room learns nothing.
+    if (IsPictureMissing(show) && name.starts_with("lblQuestion(")) continue;
     if (Content(*console) != Content(*control)) unlike.push_back(name);
   }
   return unlike;

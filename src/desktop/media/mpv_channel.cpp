@@ -1,32 +1,26 @@
 #include "desktop/media/mpv_channel.h"
 
 #include <QFile>
-#include <QFileInfo>
 #include <QMetaObject>
 #include <algorithm>
 #include <cmath>
 #include <cstring>
 #include <vector>
 
-#include "desktop/files/native_path.h"
+#include "desktop/media/media_files.h"
 #include "desktop/media/sound_devices.h"
 
 namespace pawnfield {
 
 namespace {
 
-constexpr qint64 kSniffBytes = 512;
 constexpr int kDeviceWatchMs = 1000;
+constexpr int kFinderIdleMs = 1000;
 // A file that is still playing is never at its very end.
 constexpr double kBeforeEnd = 0.001;
 constexpr double kUnknownDuration = -1;
 
 enum Observed : std::uint64_t { kPosition = 1, kDuration, kPause, kOutput };
-
-bool IsTextByte(char byte) {
-  const auto value = static_cast<unsigned char>(byte);
-  return value >= 0x20 || value == '\t' || value == '\r' || value == '\n';
-}
 
 // The list entry that a load command made, 0 when it made none.
 std::int64_t EntryOf(const mpv_node& result) {
@@ -40,13 +34,6 @@ std::int64_t EntryOf(const mpv_node& result) {
 }  // namespace
 
 double CubicVolume(int volume) { return 100 * std::cbrt(std::clamp(volume, 0, 100) / 100.0); }
-
-bool IsPlayableFile(const QString& path) {
-  QFile file(path);
-  if (!QFileInfo(path).isFile() || !file.open(QIODevice::ReadOnly)) return false;
-  const QByteArray start = file.read(kSniffBytes);
-  return !start.isEmpty() && !std::all_of(start.begin(), start.end(), IsTextByte);
-}
 
 MpvChannel::MpvChannel() : MpvChannel({{"vid", "no"}, {"vo", "null"}}) {}
 
@@ -95,11 +82,16 @@ MpvChannel::MpvChannel(std::initializer_list<Option> options) : player_(mpv_crea
             channel, [channel] { channel->Drain(); }, Qt::QueuedConnection);
       },
       this);
+  finder_.setMaxThreadCount(1);
+  finder_.setExpiryTimeout(kFinderIdleMs);
   deviceWatch_.setInterval(kDeviceWatchMs);
   QObject::connect(&deviceWatch_, &QTimer::timeout, this, [this] { LookForDevice(); });
 }
 
-MpvChannel::~MpvChannel() { Close(); }
+MpvChannel::~MpvChannel() {
+  finder_.waitForDone();
+  Close();
+}
 
 void MpvChannel::Close() {
   if (player_ == nullptr) return;
@@ -124,19 +116,33 @@ void MpvChannel::SetUrl(const std::string& path) {
   // What stood of the old file ends here; a seek that was asked for it must not reach the new one.
   told_.reset();
   pendingSeek_.reset();
-  const auto native = NativePlainFile(path);
-  if (!native || !IsPlayableFile(*native)) {
-    file_.clear();
+  file_ = path;
+  if (path.empty()) {
     Stop();
     return;
   }
-  file_ = QFile::encodeName(*native);
   state_ = State::Loading;
   position_ = 0;
   duration_ = 0;
   wanted_ = 0;
-  Command({"loadfile", file_.constData(), "replace"}, ++load_);
-  SetPaused(false);
+  paused_ = false;
+  // The disk may take its time to tell whether the file is there.
+  finder_.start([this, path, load = ++load_] {
+    const std::optional<QString> native = FindPlayableFile(path);
+    QMetaObject::invokeMethod(
+        this, [this, native, load] { Load(native, load); }, Qt::QueuedConnection);
+  });
+}
+
+void MpvChannel::Load(const std::optional<QString>& native, std::uint64_t load) {
+  if (player_ == nullptr || load != load_) return;
+  if (!native) {
+    file_.clear();
+    Stop();
+    return;
+  }
+  Command({"loadfile", QFile::encodeName(*native).constData(), "replace"}, load);
+  SetPaused(paused_);
 }
 
 void MpvChannel::SetPosition(double seconds) {
@@ -165,8 +171,8 @@ void MpvChannel::Play() {
   if (player_ == nullptr) return;
   if (state_ != State::Idle) {
     SetPaused(false);
-  } else if (!file_.isEmpty()) {
-    SetUrl(SpelledPath(QFile::decodeName(file_)).value_or(""));
+  } else if (!file_.empty()) {
+    SetUrl(std::string(file_));
   }
 }
 

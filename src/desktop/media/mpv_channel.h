@@ -6,6 +6,7 @@
 #include <QByteArray>
 #include <QObject>
 #include <QString>
+#include <QThreadPool>
 #include <QTimer>
 #include <initializer_list>
 #include <optional>
@@ -65,10 +66,12 @@ class MpvChannel : public QObject, public MediaChannel {
   void SetPaused(bool paused);
   void Tell(PlayState state);
   void LookForDevice();
+  void Load(const std::optional<QString>& native, std::uint64_t load);
 
   mpv_handle* player_ = nullptr;
   State state_ = State::Idle;
-  QByteArray file_;
+  // As the program spells it.
+  std::string file_;
   // The file that counts: the number of its load command, and its entry of the player's list once that is known.
   // Events of earlier ones are late.
   std::uint64_t load_ = 0;
@@ -81,12 +84,12 @@ class MpvChannel : public QObject, public MediaChannel {
   std::optional<PlayState> told_;
   QByteArray output_;
   QTimer deviceWatch_;
+  // Finds the files, one after another.
+  QThreadPool finder_;
   int ended_ = 0;
   int failed_ = 0;
 };
 
-// True for a plain file that is not text: a list of other files in a text is not followed.
-bool IsPlayableFile(const QString& path);
 // The player's scale is cubic: the console's 0..100 as it is heard.
 double CubicVolume(int volume);
 

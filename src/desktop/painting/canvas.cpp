@@ -76,7 +76,8 @@ struct Canvas::Item : Observer {
   Control& control;
   ItemStyle style;
   std::size_t declared;
-  QString pictureKey;
+  // The path of what it shows, empty for none.
+  std::string picture;
   // Laid out text, kept until caption, font or width changes.
   std::unique_ptr<TextBlock> text;
   double textWidth = 0;
@@ -88,6 +89,7 @@ struct Canvas::Item : Observer {
 
 Canvas::Canvas(PictureCache& pictures, QWidget* parent) : QWidget(parent), pictures_(pictures) {
   setAttribute(Qt::WA_OpaquePaintEvent);
+  connect(&pictures, &PictureCache::Decoded, this, &Canvas::PictureDecoded);
 }
 
 Canvas::~Canvas() = default;
@@ -129,15 +131,19 @@ void Canvas::Embed(Control& control, QWidget& widget) {
 
 void Canvas::ItemChanged(Item& item, PropertyId id) {
   if (id == PropertyId::Picture) {
-    if (const auto* image = dynamic_cast<Image*>(&item.control)) item.pictureKey = PictureCache::KeyOf(image->Picture);
-    if (const auto* box = dynamic_cast<PictureBox*>(&item.control)) {
-      item.pictureKey = PictureCache::KeyOf(box->Picture);
-    }
+    if (const auto* image = dynamic_cast<Image*>(&item.control)) item.picture = image->Picture;
+    if (const auto* box = dynamic_cast<PictureBox*>(&item.control)) item.picture = box->Picture;
   }
   if (id == PropertyId::Caption || id == PropertyId::Text || id == PropertyId::Font) item.text.reset();
   if (id == PropertyId::ZOrder) Order();
   if (item.control.Kind() == ControlKind::PictureBox || item.control.Kind() == ControlKind::Frame) PlaceEmbedded();
   Refresh(item);
+}
+
+void Canvas::PictureDecoded(const std::string& path) {
+  for (const auto& [control, item] : items_) {
+    if (item->picture == path) Refresh(*item);
+  }
 }
 
 void Canvas::Refresh(Item& item) {
@@ -257,7 +263,7 @@ void Canvas::PaintItem(QPainter& painter, Item& item) {
     const bool hasFile = !static_cast<MediaPlayer&>(item.control).URL->empty();
     PaintFilm(painter, rect, hasFile ? video_->Frame() : QImage());
   }
-  if (!item.pictureKey.isEmpty()) PaintPicture(painter, item, rect);
+  if (!item.picture.empty()) PaintPicture(painter, item, rect);
   PaintText(painter, item, PixelRect(item.control));
 }
 
@@ -265,21 +271,21 @@ void Canvas::PaintPicture(QPainter& painter, Item& item, const QRectF& rect) {
   const QSize size = rect.toRect().size();
   if (size.isEmpty()) return;
   if (item.style.IsSign) {
-    PaintSign(painter, pictures_.Original(item.pictureKey), rect);
+    PaintSign(painter, pictures_.Original(item.picture), rect);
     return;
   }
   if (item.style.Corner > 0) {
-    PaintRounded(painter, pictures_.Original(item.pictureKey), rect, item.style);
+    PaintRounded(painter, pictures_.Original(item.picture), rect, item.style);
     return;
   }
   if (size.width() * size.height() < kCachedArea) {
-    const QPixmap picture = pictures_.Original(item.pictureKey);
+    const QPixmap picture = pictures_.Original(item.picture);
     if (!picture.isNull()) painter.drawPixmap(rect, picture, QRectF(picture.rect()));
     return;
   }
   const auto fill =
       item.style.PaintsGround || FillsItsPanel(item.control) ? PictureCache::Fill::Cover : PictureCache::Fill::Stretch;
-  const QPixmap picture = pictures_.Scaled(item.pictureKey, size * devicePixelRatioF(), fill);
+  const QPixmap picture = pictures_.Scaled(item.picture, size * devicePixelRatioF(), fill);
   if (devicePixelRatioF() == 1) {
     painter.drawPixmap(rect.toRect().topLeft(), picture);
   } else {

@@ -70,6 +70,7 @@ class Canvas : public QWidget {
  private:
   struct Item;
   void ItemChanged(Item& item, PropertyId id);
+  void PictureDecoded(const std::string& path);
   void Refresh(Item& item);
   void Order();
   QRectF FillRect(const Item& item) const;

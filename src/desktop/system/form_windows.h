@@ -8,8 +8,13 @@
 
 namespace pawnfield {
 
+class PictureCache;
+
 class FormWindows {
  public:
+  explicit FormWindows(PictureCache& pictures) : pictures_(pictures) {}
+  // What every window's pictures come from.
+  PictureCache& Pictures() const { return pictures_; }
   void Add(const Form& form, QWidget& window) { windows_[&form] = &window; }
   void Remove(const Form& form) { windows_.erase(&form); }
   QWidget* Find(const Form& form) const {
@@ -18,6 +23,7 @@ class FormWindows {
   }
 
  private:
+  PictureCache& pictures_;
   std::map<const Form*, QWidget*> windows_;
 };
 

@@ -1,9 +1,7 @@
 #include "desktop/system/qt_readers.h"
 
-#include <QImageReader>
 #include <QRandomGenerator>
 
-#include "desktop/files/native_path.h"
 #include "desktop/painting/text_layout.h"
 
 namespace pawnfield {
@@ -11,17 +9,6 @@ namespace pawnfield {
 TextSize QtTextMeasurer::Measure(const Font& font, const std::string& text, double wrapWidth) const {
   const TextBlock block(font, text, wrapWidth);
   return {block.Width(), block.Height()};
-}
-
-PixelSize QtPictureReader::Size(const std::string& path) const {
-  const auto native = NativePlainFile(path);
-  if (!native) throw RuntimeError(kErrorFileNotFound, "File not found");
-  QImageReader reader(*native);
-  reader.setDecideFormatFromContent(true);
-  // The header alone may promise a picture that the rest of the file does not hold.
-  const QImage image = reader.read();
-  if (image.isNull()) throw RuntimeError(kErrorInvalidPicture, "Invalid picture");
-  return {image.width(), image.height()};
 }
 
 void SeededRandom::Randomize() { state_ = QRandomGenerator::system()->generate64(); }

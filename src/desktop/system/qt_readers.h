@@ -1,4 +1,4 @@
-// What the machine can tell of text and pictures: the measuring ports.
+// What the machine can tell of text, and chance.
 #pragma once
 
 #include "platform/ports.h"
@@ -8,11 +8,6 @@ namespace pawnfield {
 class QtTextMeasurer : public TextMeasurer {
  public:
   TextSize Measure(const Font& font, const std::string& text, double wrapWidth) const override;
-};
-
-class QtPictureReader : public PictureReader {
- public:
-  PixelSize Size(const std::string& path) const override;
 };
 
 class SeededRandom : public RandomSource {

@@ -36,7 +36,8 @@ QString WidgetName(const std::string& controlName) {
   return name;
 }
 
-Binder::Binder(Form& form, QWidget& window) : form_(form), window_(window) {
+Binder::Binder(Form& form, QWidget& window, PictureCache& pictures)
+    : form_(form), window_(window), pictures_(pictures) {
   for (Control* control : form.Controls()) {
     const QString name = WidgetName(control->Name());
     if (control->Kind() == ControlKind::Menu) {
@@ -53,7 +54,7 @@ Binder::Binder(Form& form, QWidget& window) : form_(form), window_(window) {
 Binder::~Binder() = default;
 
 void Binder::Bind(Control& control, QWidget& widget) {
-  auto binding = MakeBinding(control, widget);
+  auto binding = MakeBinding(control, widget, pictures_);
   if (!binding) return;
   bindings_.push_back(std::move(binding));
   bound_.insert(control.Name());

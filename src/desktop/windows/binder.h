@@ -16,6 +16,7 @@ class QAction;
 namespace pawnfield {
 
 class Canvas;
+class PictureCache;
 
 // "lblPlayer1(0)" is named lblPlayer1_0 where only identifiers will do.
 QString WidgetName(const std::string& controlName);
@@ -23,7 +24,7 @@ QString WidgetName(const std::string& controlName);
 class Binder {
  public:
   // Binds every control that has a widget or an action of its name in the window.
-  Binder(Form& form, QWidget& window);
+  Binder(Form& form, QWidget& window, PictureCache& pictures);
   ~Binder();
   Binder(const Binder&) = delete;
   Binder& operator=(const Binder&) = delete;
@@ -44,6 +45,7 @@ class Binder {
 
   Form& form_;
   QWidget& window_;
+  PictureCache& pictures_;
   std::vector<std::unique_ptr<Observer>> bindings_;
   std::set<std::string> bound_;
   std::set<std::string> held_;

@@ -15,8 +15,8 @@
 #include <QTreeWidget>
 #include <algorithm>
 
-#include "desktop/files/native_path.h"
 #include "desktop/files/windows_1252.h"
+#include "desktop/painting/picture_cache.h"
 #include "desktop/windows/grid_view.h"
 #include "desktop/windows/model_widgets.h"
 #include "desktop/windows/set_text_edit.h"
@@ -249,17 +249,20 @@ class FrameBinding : public Binding<Frame, QWidget> {
 template <typename Model>
 class PictureBinding : public Binding<Model, PictureFrame> {
  public:
-  PictureBinding(Model& picture, PictureFrame& view) : Binding<Model, PictureFrame>(picture, view) {
+  PictureBinding(Model& picture, PictureFrame& view, PictureCache& pictures)
+      : Binding<Model, PictureFrame>(picture, view), pictures_(pictures) {
     ShowOwn(PropertyId::Picture);
+    QObject::connect(&pictures_, &PictureCache::Decoded, &view, [this](const std::string& path) {
+      if (path == this->model.Picture.Get()) ShowOwn(PropertyId::Picture);
+    });
     QObject::connect(&view, &PictureFrame::Clicked, &view, [this] { this->model.Click(); });
   }
 
  private:
   void ShowOwn(PropertyId id) override {
-    if (id != PropertyId::Picture) return;
-    const auto path = NativePlainFile(this->model.Picture);
-    this->widget.SetPicture(path ? QPixmap(*path) : QPixmap());
+    if (id == PropertyId::Picture) this->widget.SetPicture(pictures_.Original(this->model.Picture));
   }
+  PictureCache& pictures_;
 };
 
 // A bar that grows: its share of the form's width is the progress.
@@ -335,15 +338,15 @@ class ActionBinding : public Observer {
 };
 
 template <typename BindingType, typename Widget, typename Model>
-std::unique_ptr<Observer> Make(Control& control, QWidget& widget) {
+std::unique_ptr<Observer> Make(Control& control, QWidget& widget, auto&... more) {
   auto* view = qobject_cast<Widget*>(&widget);
   if (view == nullptr) return nullptr;
-  return std::make_unique<BindingType>(static_cast<Model&>(control), *view);
+  return std::make_unique<BindingType>(static_cast<Model&>(control), *view, more...);
 }
 
 }  // namespace
 
-std::unique_ptr<Observer> MakeBinding(Control& control, QWidget& widget) {
+std::unique_ptr<Observer> MakeBinding(Control& control, QWidget& widget, PictureCache& pictures) {
   switch (control.Kind()) {
     case ControlKind::Button:
       return Make<ButtonBinding, QAbstractButton, Button>(control, widget);
@@ -363,9 +366,9 @@ std::unique_ptr<Observer> MakeBinding(Control& control, QWidget& widget) {
     case ControlKind::Frame:
       return Make<FrameBinding, QWidget, Frame>(control, widget);
     case ControlKind::Image:
-      return Make<PictureBinding<Image>, PictureFrame, Image>(control, widget);
+      return Make<PictureBinding<Image>, PictureFrame, Image>(control, widget, pictures);
     case ControlKind::PictureBox:
-      return Make<PictureBinding<PictureBox>, PictureFrame, PictureBox>(control, widget);
+      return Make<PictureBinding<PictureBox>, PictureFrame, PictureBox>(control, widget, pictures);
     case ControlKind::Grid:
       return MakeGridBinding(static_cast<Grid&>(control), widget);
     case ControlKind::ProgressBar:

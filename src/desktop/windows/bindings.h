@@ -10,8 +10,10 @@ class QWidget;
 
 namespace pawnfield {
 
+class PictureCache;
+
 // Null when a control of this kind can't be shown by such a widget.
-std::unique_ptr<Observer> MakeBinding(Control& control, QWidget& widget);
+std::unique_ptr<Observer> MakeBinding(Control& control, QWidget& widget, PictureCache& pictures);
 std::unique_ptr<Observer> MakeActionBinding(Menu& menu, QAction& action);
 
 }  // namespace pawnfield

@@ -6,8 +6,8 @@
 #include <QScreen>
 #include <QVBoxLayout>
 
-#include "desktop/files/native_path.h"
 #include "desktop/files/windows_1252.h"
+#include "desktop/painting/picture_cache.h"
 #include "desktop/system/screens.h"
 
 namespace pawnfield {
@@ -40,7 +40,7 @@ FormWindow::~FormWindow() { windows_.Remove(form_); }
 void FormWindow::BindForm() {
   setObjectName(QString::fromStdString(form_.Name()));
   setWindowTitle(FromWindows1252(form_.Caption));
-  binder_ = std::make_unique<Binder>(form_, *this);
+  binder_ = std::make_unique<Binder>(form_, *this, windows_.Pictures());
   form_.AddObserver(*this);
   if (form_.Visible) ShowForm();
 }
@@ -51,8 +51,8 @@ void FormWindow::Changed(Control&, PropertyId id) {
   if (id == PropertyId::Focus) activateWindow();
   if (id == PropertyId::ZOrder && isVisible()) raise();
   if (id == PropertyId::MouseIcon) {
-    const auto path = NativePlainFile(form_.MouseIcon);
-    path ? setCursor(QCursor(QPixmap(*path))) : unsetCursor();
+    const QPixmap picture = windows_.Pictures().Original(form_.MouseIcon);
+    picture.isNull() ? unsetCursor() : setCursor(QCursor(picture));
   }
 }
 

@@ -1,0 +1,53 @@
+#include "desktop/media/media_files.h"
+
+#include <QFile>
+#include <QFileInfo>
+#include <algorithm>
+
+#include "desktop/files/native_path.h"
+
+namespace pawnfield {
+
+namespace {
+
+constexpr qint64 kSniffBytes = 512;
+constexpr int kIdleMs = 5000;
+// A look at a key's film goes on while a whole set's sounds are looked at.
+constexpr int kWorkers = 2;
+
+bool IsTextByte(char byte) {
+  const auto value = static_cast<unsigned char>(byte);
+  return value >= 0x20 || value == '\t' || value == '\r' || value == '\n';
+}
+
+}  // namespace
+
+std::optional<QString> FindPlayableFile(const std::string& path) {
+  const auto native = NativePlainFile(path);
+  if (!native) return std::nullopt;
+  QFile file(*native);
+  if (!file.open(QIODevice::ReadOnly)) return std::nullopt;
+  const QByteArray start = file.read(kSniffBytes);
+  const bool isText = std::all_of(start.begin(), start.end(), IsTextByte);
+  return isText ? std::nullopt : native;
+}
+
+MediaFiles::MediaFiles() {
+  workers_.setMaxThreadCount(kWorkers);
+  workers_.setExpiryTimeout(kIdleMs);
+}
+
+MediaFiles::~MediaFiles() {
+  workers_.clear();
+  workers_.waitForDone();
+}
+
+void MediaFiles::Look(const std::string& path, std::function<void(bool plays)> then) {
+  workers_.start([this, path, then = std::move(then)] {
+    const bool plays = FindPlayableFile(path).has_value();
+    QMetaObject::invokeMethod(
+        this, [then, plays] { then(plays); }, Qt::QueuedConnection);
+  });
+}
+
+}  // namespace pawnfield

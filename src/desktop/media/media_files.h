@@ -1,0 +1,28 @@
+// Looks at sounds and films on threads of their own, so that no disk holds the program up.
+#pragma once
+
+#include <QObject>
+#include <QThreadPool>
+#include <optional>
+
+#include "platform/ports.h"
+
+namespace pawnfield {
+
+// The native path of a file that a player takes; nothing for anything else. Waits for the disk.
+std::optional<QString> FindPlayableFile(const std::string& path);
+
+class MediaFiles : public QObject, public MediaReader {
+ public:
+  MediaFiles();
+  ~MediaFiles() override;
+  MediaFiles(const MediaFiles&) = delete;
+  MediaFiles& operator=(const MediaFiles&) = delete;
+
+  void Look(const std::string& path, std::function<void(bool plays)> then) override;
+
+ private:
+  QThreadPool workers_;
+};
+
+}  // namespace pawnfield

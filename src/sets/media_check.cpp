@@ -1,0 +1,106 @@
+#include "sets/media_check.h"
+
+#include "forms/main_form.h"
+#include "platform/text.h"
+#include "sets/set_file.h"
+#include "show/show.h"
+
+namespace pawnfield {
+
+namespace {
+
+// More lines would run off the box.
+constexpr std::size_t kMostNamed = 15;
+
+std::string WholePath(Show& show, const std::string& text) {
+  return text.starts_with('.') ? show.AppPath("\\Trivia Sets") + text.substr(1) : text;
+}
+
+const char* FaultOf(const PictureFacts& facts) {
+  if (facts.Error == 0) return "";
+  return facts.Error == kErrorFileNotFound ? "no such file" : "no picture, or too large a one";
+}
+
+std::string BoxText(const MediaCheck& check) {
+  std::string text = "These questions' files can't be shown:\r\n\r\n";
+  std::size_t named = 0;
+  for (const auto& [number, fault] : check.Faults) {
+    if (++named > kMostNamed) break;
+    text += "Question " + std::to_string(number) + ": " + fault + "\r\n";
+  }
+  if (check.Faults.size() > kMostNamed) {
+    text += "and " + std::to_string(check.Faults.size() - kMostNamed) + " more\r\n";
+  }
+  return text;
+}
+
+std::string StatusText(const MediaCheck& check) {
+  std::string numbers;
+  for (const auto& [number, fault] : check.Faults) numbers += (numbers.empty() ? "" : ", ") + std::to_string(number);
+  return "Can't be shown: the files of questions " + numbers;
+}
+
+void ShowProgress(Show& show) {
+  const MediaCheck& check = show.mediaCheck;
+  const double share = check.Files == 0 ? 1 : 1.0 - static_cast<double>(check.Left) / check.Files;
+  show.frmMain.prgMediaCheck.Width = show.frmMain.Width * share;
+}
+
+void EndCheck(Show& show) {
+  MainForm& form = show.frmMain;
+  form.tmrMediaCheck.Enabled = false;
+  form.prgMediaCheck.Visible = false;
+  if (show.mediaCheck.Faults.empty()) return;
+  form.lblStatusBar.Caption = StatusText(show.mediaCheck);
+  // Start is enabled from the load to the start of the game: no box comes up in a show.
+  if (!form.btnStart.Enabled) return;
+  show.platform.dialogs.MessageBox(BoxText(show.mediaCheck), kAppTitle, BoxKind::Exclamation);
+}
+
+void NoteFile(Show& show, int check, int number, const std::string& path, const std::string& fault) {
+  if (check != show.mediaCheck.Number) return;
+  if (!fault.empty()) show.mediaCheck.Faults[number] = ExtractFileName(path) + ": " + fault;
+  --show.mediaCheck.Left;
+  ShowProgress(show);
+  if (show.mediaCheck.Left == 0) show.frmMain.Dispatch([&] { EndCheck(show); }, "CheckSetMedia");
+}
+
+void LookAt(Show& show, int number, QuestionKind kind, const std::string& path) {
+  const int check = show.mediaCheck.Number;
+  if (kind == QuestionKind::Picture) {
+    show.platform.pictures.Check(path, [&show, check, number, path](const PictureFacts& facts) {
+      NoteFile(show, check, number, path, FaultOf(facts));
+    });
+  } else {
+    show.platform.mediaFiles.Look(path, [&show, check, number, path](bool plays) {
+      NoteFile(show, check, number, path, plays ? "" : "no such file, or no sound");
+    });
+  }
+}
+
+}  // namespace
+
+void CheckSetMedia(Show& show) {
+  std::map<int, std::string> files;
+  for (int number = 1; number <= show.NumGameQuestions; ++number) {
+    const std::string text = Trim(RecordAt(show.GameSet, number).QuestionText);
+    if (KindOfQuestion(text) != QuestionKind::Text) files[number] = WholePath(show, text);
+  }
+  const int count = static_cast<int>(files.size());
+  show.mediaCheck = {show.mediaCheck.Number + 1, count, count, {}};
+  show.frmMain.prgMediaCheck.Visible = false;
+  show.frmMain.tmrMediaCheck.Enabled = false;
+  show.frmMain.tmrMediaCheck.Enabled = count > 0;
+  for (const auto& [number, path] : files) LookAt(show, number, KindOfQuestion(path), path);
+}
+
+void AttachMediaCheckHandlers(Show& show) {
+  show.frmMain.prgMediaCheck.Visible = false;
+  show.frmMain.tmrMediaCheck.OnTimer = [&show] {
+    show.frmMain.tmrMediaCheck.Enabled = false;
+    ShowProgress(show);
+    show.frmMain.prgMediaCheck.Visible = true;
+  };
+}
+
+}  // namespace pawnfield

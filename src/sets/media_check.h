@@ -1,0 +1,17 @@
+// A look at every picture and sound of a set that has just been loaded, beside the program: what can't be shown is
+// named before the show and not in it.
+#pragma once
+
+namespace pawnfield {
+
+struct Show;
+
+// Starts the look at GameSet's files; one that runs for an earlier set ends unheard. A bar shows how far it is when it
+// takes over half a second. At its end the operator is told which questions' files can't be shown and why: in a box
+// until the game is started, and in the status bar.
+void CheckSetMedia(Show& show);
+
+// Gives the bar's timer its handler.
+void AttachMediaCheckHandlers(Show& show);
+
+}  // namespace pawnfield
