@@ -49,14 +49,17 @@ TEST_F(MissingMedia, TheScanLooksAtAllAndBeginsWithTheFirst) {
       {{50, 60}, 51, "2 files are missing."}, {{7, 0, 5, 60}, 1, "4 files are missing."}};
   for (const auto& [missing, question, count] : cases) {
     int asked = 0;
-    Load(missing, [&, told = std::string(count)] {
-      asked = show().MissingQuestion;
-      EXPECT_EQ(dialog.txtLocation.Text.Get(), Text(asked - 1));
-      EXPECT_EQ(dialog.lblQuestionNum.Caption.Get(), "Question " + std::to_string(asked));
-      EXPECT_EQ(dialog.lblCatNum.Caption.Get(), told);
-      EXPECT_TRUE(dialog.btnRepair.Enabled && dialog.btnCancel.Enabled && !dialog.btnFinished.Enabled);
-      dialog.btnCancel.Click();
-    }, 100, true);
+    Load(
+        missing,
+        [&, told = std::string(count)] {
+          asked = show().MissingQuestion;
+          EXPECT_EQ(dialog.txtLocation.Text.Get(), Text(asked - 1));
+          EXPECT_EQ(dialog.lblQuestionNum.Caption.Get(), "Question " + std::to_string(asked));
+          EXPECT_EQ(dialog.lblCatNum.Caption.Get(), told);
+          EXPECT_TRUE(dialog.btnRepair.Enabled && dialog.btnCancel.Enabled && !dialog.btnFinished.Enabled);
+          dialog.btnCancel.Click();
+        },
+        100, true);
     EXPECT_EQ(asked, question);
     EXPECT_EQ(show().MissingQuestion, 1);
     EXPECT_TRUE(form().btnStart.Enabled);
@@ -134,12 +137,16 @@ TEST_F(MissingMedia, ASetThatCannotBeWrittenIsTold) {
   };
   Load({0}, finish, 3);
   EXPECT_TRUE(sim.files.Read(kSet).starts_with(".\\gone0.jpg"));
-  Load({0}, [&] {
-    sim.files.Remove(kSet);
-    sim.dialogs.ExpectMessage("We encountered an error trying to fix the file. Please report if this error continues.");
-    SaveRepairedSet(show());
-    dialog.btnCancel.Click();
-  }, 3, true);
+  Load(
+      {0},
+      [&] {
+        sim.files.Remove(kSet);
+        sim.dialogs.ExpectMessage(
+            "We encountered an error trying to fix the file. Please report if this error continues.");
+        SaveRepairedSet(show());
+        dialog.btnCancel.Click();
+      },
+      3, true);
   // A set of the file dialog goes back to its file, and one of the list never to that.
   sim.files.Put(kOwn, ".\\gone.wav\r\nA\r\nS\r\n");
   sim.dialogs.ExpectFile(kOwn);

@@ -7,7 +7,6 @@
 #include "forms/fs_main_form.h"
 #include "forms/main_form.h"
 #include "presentation/picture_question.h"
-#include "presentation/picture_question.h"
 
 namespace pawnfield {
 
