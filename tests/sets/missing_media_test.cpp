@@ -144,9 +144,10 @@ TEST_F(MissingMedia, ASetThatCannotBeWrittenIsTold) {
         sim.dialogs.ExpectMessage(
             "We encountered an error trying to fix the file. Please report if this error continues.");
         SaveRepairedSet(show());
+        sim.dialogs.ExpectMessage(kNamed);
         dialog.btnCancel.Click();
       },
-      3, true);
+      3);
   // A set of the file dialog goes back to its file, and one of the list never to that.
   sim.files.Put(kOwn, ".\\gone.wav\r\nA\r\nS\r\n");
   sim.dialogs.ExpectFile(kOwn);
