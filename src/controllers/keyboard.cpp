@@ -12,6 +12,7 @@
 #include "outward/shared_key.h"
 #include "platform/text.h"
 #include "presentation/both_screens.h"
+#include "show/phase.h"
 #include "show/show.h"
 
 namespace pawnfield {
@@ -26,15 +27,11 @@ constexpr int kCtrlU = 21;
 constexpr int kCtrlZ = 26;
 constexpr int kNoColumn = 99;
 
-bool MayRingIn(const Show& show) {
-  return TextOrPictureVisible(show) && !IsPlayer(show.state.CurrentPlayer) && !PanelVisible(show, Panel::Standby);
-}
-
 void RingInKey(Show& show, int key) {
   const bool digit = key >= '0' && key <= '9';
   if (!MayRingIn(show) || (!digit && key != '^')) return;
   if (!IsKeypadMode(show)) {
-    AcceptRingIn(show, key - '0', RingInSource::Other);
+    AcceptRingIn(show, key - '0');
   } else if (key == '^') {
     SelectControllerPlayer(show, 1, 6);
   } else {
@@ -48,16 +45,18 @@ void ControlKey(Show& show, int key) {
   if (key == kCtrlN && form.btnNextPlayer.Enabled) btnNextPlayer_Click(show);
   if (key == kCtrlS && form.btnSkipQuestion.Enabled) btnSkipQuestion_Click(show);
   if (key == kCtrlU && form.btnUndo.Enabled) btnUndo_Click(show);
-  if (key == kCtrlZ && !PanelVisible(show, Panel::Standby)) form.lblPlayer1[0].DblClick();
+  if (key == kCtrlZ && !ScreenCovered(show)) form.lblPlayer1[0].DblClick();
 }
 
 void JudgingKey(Show& show, int key) {
   MainForm& form = show.frmMain;
   if (!show.state.KeyControl || !show.state.Nature().Trivia) return;
-  if ((key == 'Y' || key == 'y') && form.btnQuestionCorrect.Visible) HandleCorrect(show);
-  if ((key == 'N' || key == 'n') && form.btnQuestionIncorrect.Visible) HandleIncorrect(show);
+  if ((key == 'Y' || key == 'y') && QuestionIsUp(show)) HandleCorrect(show);
+  if ((key == 'N' || key == 'n') && QuestionIsUp(show)) HandleIncorrect(show);
   const bool typing = !Trim(form.txtDJCommand.Text).empty();
-  if ((key == 'C' || key == 'c') && form.btnContinue.Enabled && !typing) btnContinue_Click(show);
+  if ((key == 'C' || key == 'c') && form.btnContinue.Enabled && !typing && !IsPhase(show, PhaseKind::Claiming)) {
+    btnContinue_Click(show);
+  }
 }
 
 void ShowEntry(Show& show, const std::string& entry) {
@@ -67,7 +66,7 @@ void ShowEntry(Show& show, const std::string& entry) {
 
 void LetterOfSquare(Show& show, int key) {
   if (key == kEnter) {
-    AdvanceToNextPlayer(show);
+    if (!show.state.Nature().RingIn) AdvanceToNextPlayer(show);
     if (!show.state.Nature().Trivia) ChangeCursor(show);
     return;
   }
@@ -100,7 +99,7 @@ void EndOfSquare(Show& show, int key) {
 }
 
 void SquareKey(Show& show, int key) {
-  if (!show.state.PlacementOpen || PanelVisible(show, Panel::Standby)) return;
+  if (!IsPhase(show, PhaseKind::Claiming) || ScreenCovered(show)) return;
   switch (show.entry.DJEntry.size()) {
     case 0:
       LetterOfSquare(show, key);
@@ -128,7 +127,7 @@ void SelectControllerPlayer(Show& show, int group, int number) {
   if (group == 2 && number == 0) controller = 20;
   if (controller == 0) return;
   const int player = show.state.Routing[static_cast<std::size_t>(controller)];
-  if (!IsPlayer(player)) return;
+  if (!IsPlayer(player) || RefuseWhoDoesNotPlay(show, player)) return;
   btnSelectPlayer_Click(show, player - 1);
   if (!PublishesPlayers(show)) return;
   WriteSharedKey(show, std::to_string(9 + player), "PLAYER " + std::to_string(player));

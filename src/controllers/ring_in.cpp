@@ -10,6 +10,7 @@
 #include "outward/shared_key.h"
 #include "platform/errors.h"
 #include "presentation/both_screens.h"
+#include "show/phase.h"
 #include "show/show.h"
 
 namespace pawnfield {
@@ -27,21 +28,21 @@ bool PassesDebounce(PressState& presses, std::size_t remote, std::int64_t now) {
   return true;
 }
 
-bool QuestionIsOpen(Show& show) {
+// The console is there to judge a press: nothing modal stands before it.
+bool ConsoleListens(const Show& show) {
   const MainForm& form = show.frmMain;
-  const bool dialogUp = show.platform.dialogs.Modal() != ModalKind::None;
-  if (!form.Visible || !form.Enabled || dialogUp || PanelVisible(show, Panel::Standby)) return false;
-  return TextOrPictureVisible(show) && !IsPlayer(show.state.CurrentPlayer);
+  return form.Visible && form.Enabled && show.platform.dialogs.Modal() == ModalKind::None;
 }
 
 void PlayRingIn(Show& show, int player) { PlayEvent(show, SoundEntry(show, kSoundBuzzer1 + player - 1)); }
 
 void TakePress(Show& show, std::size_t remote) {
-  if (!PassesDebounce(show.presses, remote, show.platform.clock.NowMs()) || !QuestionIsOpen(show)) return;
+  if (!PassesDebounce(show.presses, remote, show.platform.clock.NowMs())) return;
+  if (!ConsoleListens(show) || !MayRingIn(show)) return;
   if (remote >= show.state.Routing.size()) throw SubscriptError();
   const int player = show.state.Routing[remote];
   if (!IsPlayer(player)) return;
-  AcceptRingIn(show, player, RingInSource::Wireless);
+  if (!AcceptRingIn(show, player)) return;
   // The clip starts a second time, as players of wireless remotes know it.
   PlayRingIn(show, player);
   if (show.dgTransceiver) show.dgTransceiver->LED_Set(static_cast<int>(remote), kLampColor);
@@ -60,29 +61,41 @@ void dgTransceiver_OnButtonPressed(Show& show, const TransceiverData& data) {
   }
 }
 
-void AcceptRingIn(Show& show, int player, [[maybe_unused]] RingInSource source) {
+bool MayRingIn(const Show& show) { return IsPhase(show, PhaseKind::QuestionOpen) && !ScreenCovered(show); }
+
+bool RefuseWhoDoesNotPlay(Show& show, int player) {
+  if (Plays(show.state, player)) return false;
+  const bool named = player > 0 && player < 10 && show.presses.ToldPlayers.insert(player).second;
+  if (named) {
+    show.frmMain.lblStatusBar.Caption = "Player " + std::to_string(player) + " isn't in this game of " +
+                                        std::to_string(show.state.Players) + " players.";
+  }
+  return true;
+}
+
+bool AcceptRingIn(Show& show, int player) {
+  if (RefuseWhoDoesNotPlay(show, player)) return false;
   MainForm& form = show.frmMain;
-  const bool isPlayer = IsPlayer(player);
   SendKeyPressInRingIn(show, false);
   SetBuzzerStates(show, false);
   show.state.CurrentPlayer = player;
-  LightScoreBox(show, isPlayer ? player : 0);
-  if (isPlayer) PlayRingIn(show, player);
+  // Outside Trivia C the turn goes on from the player who took it.
+  if (!show.state.Nature().RingIn) GiveTurnTo(show, player);
+  ShowRingIn(show, player);
+  PlayRingIn(show, player);
   form.btnCorrect.Enabled = true;
   ShowVerdictButtons(show, true, true);
   const bool cover = show.state.Nature().RingIn && show.state.HideQuestion && show.state.DualScreen;
-  if (!cover) return;
-  if (isPlayer) {
-    show.frmFSMain.lblPlayerName.Caption = form.lblPlayer1[PlayerIndex(player)].Caption;
-  }
+  if (!cover) return true;
+  show.frmFSMain.lblPlayerName.Caption = form.lblPlayer1[PlayerIndex(player)].Caption;
   show.frmFSMain.picHideQuestion.Visible = true;
+  return true;
 }
 
 void btnSelectPlayer_Click(Show& show, int index) {
-  if (IsPlayer(index + 1)) show.frmMain.imgDJEntry.Picture = show.frmMain.FaceA(index + 1).Picture;
-  if (!show.state.Nature().RingIn || !QuestionVisible(show)) return;
-  AcceptRingIn(show, index + 1, RingInSource::Other);
-  ShowVerdictButtons(show, true, true);
+  // In Trivia C the operator may give the question that a player holds to another one.
+  const bool given = show.state.Nature().RingIn && QuestionIsUp(show);
+  if (given || IsPhase(show, PhaseKind::QuestionOpen)) AcceptRingIn(show, index + 1);
 }
 
 }  // namespace pawnfield

@@ -7,10 +7,13 @@ struct Show;
 
 class TransceiverData;
 
-enum class RingInSource { Other = 1, Wireless = 2 };
-
-// Gives the question to the player: score boxes, ring-in clip, verdict buttons, the cover on the audience screen.
-void AcceptRingIn(Show& show, int player, RingInSource source);
+// A question of any kind is open to all, and the room sees it.
+bool MayRingIn(const Show& show);
+// True for a number that isn't among the game's players; the status line tells of each once a game.
+bool RefuseWhoDoesNotPlay(Show& show, int player);
+// Gives the question to the player: score boxes, ring-in clip, verdict buttons, the cover on the audience screen. False
+// for who doesn't play.
+bool AcceptRingIn(Show& show, int player);
 // The operator's own button for the player who rang in, by index 0..2.
 void btnSelectPlayer_Click(Show& show, int index);
 

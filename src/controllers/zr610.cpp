@@ -15,6 +15,7 @@
 #include "platform/errors.h"
 #include "platform/text.h"
 #include "presentation/both_screens.h"
+#include "show/phase.h"
 #include "show/show.h"
 
 namespace pawnfield {
@@ -46,11 +47,6 @@ void Tell(Show& show, const std::string& text) {
   show.platform.dialogs.MessageBox(text, kAppTitle, BoxKind::Exclamation);
 }
 
-// The operator may give the question to another player by hand; a pad that comes second may not.
-bool QuestionIsHeld(const Show& show) {
-  return show.state.Nature().RingIn && IsPlayer(show.state.CurrentPlayer) && QuestionVisible(show);
-}
-
 void PressPad(Show& show, std::int32_t id) {
   if (IsFormVisible(show, show.frmMapMF.Name())) {
     MapID(show, id);
@@ -63,9 +59,10 @@ void PressPad(Show& show, std::int32_t id) {
     Tell(show,
          "This game only uses 3 player controls. A controller outside of this range has been used and will be "
          "ignored.");
-  } else {
+  } else if (MayRingIn(show) && !RefuseWhoDoesNotPlay(show, slot)) {
+    // The operator may give the question to another player by hand; a pad that comes second may not.
     const Button& button = show.frmMain.btnSelectPlayer[static_cast<std::size_t>(slot - 1)];
-    if (button.Visible && button.Enabled && !QuestionIsHeld(show)) btnSelectPlayer_Click(show, slot - 1);
+    if (button.Visible && button.Enabled) btnSelectPlayer_Click(show, slot - 1);
   }
 }
 
@@ -73,11 +70,11 @@ void PressPad(Show& show, std::int32_t id) {
 void PressHostKey(Show& show, int key) {
   MainForm& form = show.frmMain;
   const bool incorrect = key == 2 || key == 5;
-  if (incorrect && form.btnQuestionIncorrect.Visible) {
+  if (incorrect && QuestionIsUp(show)) {
     HandleIncorrect(show);
   } else if (key == 2 && form.btnContinue.Visible && form.btnContinue.Enabled) {
     btnContinue_Click(show);
-  } else if ((key == 3 || key == 6) && form.btnQuestionCorrect.Visible) {
+  } else if ((key == 3 || key == 6) && QuestionIsUp(show)) {
     HandleCorrect(show);
   }
 }

@@ -58,7 +58,11 @@ struct GameState {
   bool GameLoaded = false;
   bool GameInProgress = false;
   bool PlacementOpen = false;
+  // Start has been pressed for the loaded game, and a question of it waits for its answer.
+  bool GameStarted = false;
+  bool QuestionUp = false;
 
+  // Who may answer or claim; 0 is nobody.
   int CurrentPlayer = 0;
   int FlipPlayer = 0;
   PerPlayer<int> Lamp{kLampOn, kLampOff, kLampOff};
@@ -129,5 +133,8 @@ struct GameState {
 
   const GameNature& Nature() const { return NatureOf(GameType); }
 };
+
+// Who takes part; with two players the third neither rings in nor judges nor claims.
+inline bool Plays(const GameState& state, int number) { return number >= 1 && number <= state.Players; }
 
 }  // namespace pawnfield

@@ -10,7 +10,7 @@ namespace pawnfield {
 
 inline constexpr int kPlayers = 3;
 
-// The numbers of players; a ring-in by a key can make CurrentPlayer another one.
+// The numbers of players, whether or not all of them play.
 constexpr bool IsPlayer(int number) { return number >= 1 && number <= kPlayers; }
 
 // The place of a player's part in an array of controls. Any other number is error 9, and never a neighbour's part.

@@ -13,6 +13,7 @@
 #include "platform/text.h"
 #include "presentation/board_layout.h"
 #include "presentation/both_screens.h"
+#include "show/phase.h"
 #include "show/settings.h"
 #include "show/show.h"
 
@@ -104,10 +105,16 @@ void PayScore(Show& show) {
   ReportPlayer(show, player, kRed);
 }
 
+// A square belongs to a player, so it waits until one has the turn.
+bool MayClaim(Show& show) {
+  const bool nobody = show.state.PlacementOpen && show.state.CurrentPlayer == 0;
+  if (nobody && IsPhase(show, PhaseKind::Pause)) SayNobodyHasTurn(show);
+  return IsPhase(show, PhaseKind::Claiming);
+}
+
 void CloseTurnOfRingIn(Show& show) {
   show.frmMain.btnCorrect.Enabled = false;
-  LightScoreBox(show, 0);
-  show.state.CurrentPlayer = 0;
+  TakeTurn(show);
 }
 
 // The face of the turning piece at the edge. The O piece has no change of face.
@@ -160,6 +167,8 @@ void FlashSquare(Show& show) {
 
 void FinishPlainPiece(Show& show) {
   MainForm& form = show.frmMain;
+  // The claim has ended its game: nothing of that goes on.
+  if (!show.state.GameLoaded) return;
   if (show.state.Nature().Trivia) StartAutoContinue(show);
   form.btnUndo.Enabled = true;
   form.btnReset.Enabled = true;
@@ -197,15 +206,15 @@ bool TryClaimSquare(Show& show, int r, int c) {
 void ClaimSquare(Show& show, int r, int c, const std::string& key) {
   GameState& state = show.state;
   MainForm& form = show.frmMain;
-  if (!state.PlacementOpen) return;
+  if (!MayClaim(show)) return;
   show.entry.DJEntry.clear();
   SetTypedCommand(show, "");
-  if (!TryClaimSquare(show, r, c)) {
-    state.PlacementOpen = true;
-    return;
-  }
+  if (!TryClaimSquare(show, r, c)) return;
   state.PlacementOpen = false;
   state.GameInProgress = true;
+  // A claim after a skip or an undo gets its own whole pause.
+  form.tmrAutoContinue.Enabled = false;
+  form.btnContinue.Enabled = false;
   form.txtDJCommand.Visible = state.KeyControl;
   RestFlashingSquares(show);
   StartFlip(show, r, c);
@@ -223,9 +232,6 @@ void ClaimSquare(Show& show, int r, int c, const std::string& key) {
   if (state.Nature().AfterClaim == NextTurn::Passes) AdvanceToNextPlayer(show);
   PlayPawn(show);
   if (IsGameOver(show, lineMade)) EndGame(show);
-  form.picQuestion.Visible = false;
-  form.picSound.Visible = false;
-  form.picQuestionPicture.Visible = false;
   if (state.Nature().AfterClaim == NextTurn::Nobodys) CloseTurnOfRingIn(show);
 }
 

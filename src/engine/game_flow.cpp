@@ -18,6 +18,7 @@
 #include "presentation/board_layout.h"
 #include "presentation/both_screens.h"
 #include "sets/set_file.h"
+#include "show/phase.h"
 #include "show/settings.h"
 #include "show/show.h"
 
@@ -78,6 +79,7 @@ void StartChallenge(Show& show) {
   SetCursorOnBoth(show, 1);
   ReportFirstTurn(show);
   show.state.GameLoaded = true;
+  show.state.GameStarted = true;
   show.state.PlacementOpen = true;
 }
 
@@ -96,29 +98,29 @@ void StartTrivia(Show& show) {
     return;
   }
   WarnOfShortSet(show);
+  state.GameStarted = true;
   state.CurrentQuestion = 0;
   form.lblQuestion[0].Caption = Trim(show.GameSet[0].QuestionText);
   ShowQuestion(show, 0);
   form.btnContinue.Enabled = false;
   form.btnSkipQuestion.Enabled = true;
-  state.PlacementOpen = true;
+  // The first square is claimed as every other, after a right answer.
+  state.PlacementOpen = false;
   form.cboList.ListIndex = 0;
   if (state.Nature().RingIn) {
     form.btnCorrect.Enabled = false;
     ShowVerdictButtons(show, false, false);
-    state.CurrentPlayer = 0;
-  } else {
-    GiveTurnTo(show, 1);
-    ReportFirstTurn(show);
   }
+  GiveFirstTurn(show);
+  if (!state.Nature().RingIn) ReportFirstTurn(show);
 }
 
 // The cursor that fits the moment at which the board comes back from standby.
 int CursorAfterStandby(const Show& show) {
-  const MainForm& form = show.frmMain;
   if (!show.state.Nature().Trivia) return show.state.CurrentPlayer;
-  const bool between = form.btnStart.Visible && !show.state.PlacementOpen && form.btnContinue.Enabled;
-  return between || form.btnStart.Enabled ? 0 : show.state.CurrentPlayer;
+  const PhaseKind kind = Phase(show).Kind;
+  const bool between = kind == PhaseKind::Pause && show.frmMain.btnContinue.Enabled;
+  return between || kind == PhaseKind::Ready ? 0 : show.state.CurrentPlayer;
 }
 
 }  // namespace
@@ -158,12 +160,40 @@ void ApplyPlayerLayout(Show& show, int players) {
   }
 }
 
+namespace {
+
+// The player who leaves the game had the turn. His question opens to the others; his square stays free.
+void LeaveRingIn(Show& show) {
+  const PhaseKind kind = Phase(show).Kind;
+  TakeTurn(show);
+  show.frmMain.btnCorrect.Enabled = false;
+  if (kind == PhaseKind::Answering) {
+    ReopenQuestion(show);
+    SendKeyPressInRingIn(show, true);
+  } else if (kind == PhaseKind::Claiming) {
+    show.state.PlacementOpen = false;
+    StartAutoContinue(show);
+  }
+}
+
+void LeaveTurn(Show& show) {
+  if (show.state.Nature().RingIn) {
+    LeaveRingIn(show);
+  } else {
+    btnNextPlayer_Click(show);
+  }
+}
+
+}  // namespace
+
 void optPlayers_Click(Show& show, int index) {
   show.state.Players = index + 2;
   ApplyPlayerLayout(show, show.state.Players);
-  const bool focusVanished = index == 0 && !show.frmMain.MouseIcon->empty() &&
-                             show.frmMain.MouseIcon == show.frmMain.imgCursor[3].Picture.Get();
-  if (focusVanished) btnNextPlayer_Click(show);
+  show.presses.ToldPlayers.clear();
+  MainForm& form = show.frmMain;
+  form.btnSelectPlayer[2].Enabled = index == 1 && form.btnSelectPlayer[1].Enabled;
+  form.btnBuzzer[2].Enabled = index == 1 && form.btnBuzzer[1].Enabled;
+  if (IsPlayer(show.state.CurrentPlayer) && !Plays(show.state, show.state.CurrentPlayer)) LeaveTurn(show);
 }
 
 void optGridControl_Click(Show& show, int index) {
@@ -171,13 +201,12 @@ void optGridControl_Click(Show& show, int index) {
   HidePanel(show, Panel::Winner);
   fileClearAllScores_Click(show);
   state.GridSize = index + 3;
-  for (int player = 1; player <= kPlayers; ++player) state.Lamp[player] = player == kPlayers ? kLampOn : kLampOff;
-  state.CurrentPlayer = kPlayers;
-  AdvanceToNextPlayer(show);
+  if (!state.Nature().RingIn) {
+    for (int player = 1; player <= kPlayers; ++player) state.Lamp[player] = player == kPlayers ? kLampOn : kLampOff;
+    AdvanceToNextPlayer(show);
+  }
   BuildGrid(show, state.GridSize);
   state.LastSquareKey.clear();
-  state.LastPlayer = 0;
-  state.LastPoints = 0;
 }
 
 void cboAutoContinue_Click(Show& show) {
@@ -203,6 +232,9 @@ void btnStart_Click(Show& show) {
   form.tmrWinner.Enabled = false;
   HidePanel(show, Panel::Winner);
   BringMusicBack(show);
+  show.presses.ToldPlayers.clear();
+  show.state.LastPlayer = 0;
+  show.state.LastPoints = 0;
   form.shpStart.Visible = false;
   form.tmrArrowsTimer.Enabled = false;
   form.lblListLeftArrow.Visible = false;
@@ -219,7 +251,7 @@ void btnStart_Click(Show& show) {
     form.tmrNonBuzzer.Enabled = false;
     if (show.state.SerialComm != InterfaceCode::Keypads) form.tmrMainTimer.Enabled = true;
   }
-  if (PanelVisible(show, Panel::Standby)) HidePanel(show, Panel::Standby);
+  HidePanel(show, Panel::Standby);
   form.btnStandbyMode.Enabled = true;
   form.btnPlayMode.Enabled = false;
   form.btnNextPlayer.Enabled = true;
@@ -235,7 +267,7 @@ void btnPlayMode_Click(Show& show) {
   form.tmrNonBuzzer.Enabled = !ringIn;
   HidePanel(show, Panel::Standby);
   SetConsoleCursor(show, CursorAfterStandby(show));
-  LightScoreBox(show, show.state.CurrentPlayer);
+  LightScoreBox(show, HolderOfTurn(show));
   form.btnStandbyMode.Enabled = true;
   form.btnPlayMode.Enabled = false;
 }
@@ -262,7 +294,7 @@ void btnReset_Click(Show& show) {
 }
 
 void btnEndGame_Click(Show& show) {
-  if (!PanelVisible(show, Panel::Standby)) GameOver(show);
+  if (!ScreenCovered(show)) GameOver(show);
 }
 
 void fileClearAllScores_Click(Show& show) {
@@ -270,7 +302,12 @@ void fileClearAllScores_Click(Show& show) {
   ResetScores(show);
   ClearBoardPictures(show);
   ClearBoardArray(show);
-  GiveTurnTo(show, 1);
+  // A claim that has gone with the board can't be undone.
+  show.state.LastPlayer = 0;
+  show.state.LastPoints = 0;
+  show.frmMain.btnUndo.Enabled = false;
+  // In Trivia C the turn is the ring-in's: who answers or claims keeps it, and nobody else gets it.
+  if (!show.state.Nature().RingIn || HolderOfTurn(show) == 0) GiveFirstTurn(show);
   ReportFirstTurn(show);
   PublishScore(show, "10", 1);
   PublishScore(show, "11", 2);

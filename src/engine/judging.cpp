@@ -16,6 +16,7 @@
 #include "platform/text.h"
 #include "presentation/board_layout.h"
 #include "presentation/both_screens.h"
+#include "show/phase.h"
 #include "show/show.h"
 
 namespace pawnfield {
@@ -58,6 +59,18 @@ void LiftCover(Show& show) {
   if (show.state.DualScreen) show.frmFSMain.picHideQuestion.Visible = false;
 }
 
+// A verdict belongs to a player. While nobody has the turn everything stays as it is.
+bool MayJudge(Show& show) {
+  if (IsPhase(show, PhaseKind::QuestionOpen)) SayNobodyHasTurn(show);
+  return IsPhase(show, PhaseKind::Answering);
+}
+
+// While a piece flashes, a bonus or the notice stands, there is no question to skip, and what comes next has its time.
+bool MaySkip(const Show& show) {
+  const PhaseKind kind = Phase(show).Kind;
+  return show.state.Nature().Trivia && (QuestionIsUp(show) || kind == PhaseKind::Claiming || kind == PhaseKind::Pause);
+}
+
 void TakePenalty(Show& show) {
   constexpr double kPenalty = 100;
   const int player = show.state.CurrentPlayer;
@@ -65,11 +78,16 @@ void TakePenalty(Show& show) {
   SetScore(show, player, NumberText(ScoreOf(show, player) - kPenalty));
 }
 
-// Gives the turn back after an undo in the types in which a claim passes it on.
-void GiveTurnBack(Show& show, int lastPlayer) {
-  if (show.state.Nature().AfterClaim != NextTurn::Passes) return;
-  const int steps = show.state.Players == 2 && lastPlayer != 3 ? 1 : 2;
-  for (int i = 0; i < steps; ++i) AdvanceToNextPlayer(show);
+// Gives the turn back to the player whose claim is taken back. One who has left the game since gets none.
+void GiveTurnBack(Show& show, int player) {
+  if (!Plays(show.state, player)) return;
+  if (show.state.Nature().RingIn) {
+    show.state.CurrentPlayer = player;
+    ShowRingIn(show, player);
+  } else if (show.state.CurrentPlayer != player) {
+    PassTurnTo(show, player);
+    show.frmMain.lblStatusBar.Caption = "Player " + std::to_string(player) + " Selected!";
+  }
 }
 
 // An undo within the flash: the piece stops where it is, and what the flash's end would have offered is offered now.
@@ -81,17 +99,28 @@ void TakeBackFlash(Show& show) {
   show.frmMain.btnEndGame.Enabled = true;
 }
 
+// What the claim has brought with it goes too: its flash, its bonus and the pause behind it, which would bring the next
+// question over the open placement. From here the operator continues.
+void StopWhatFollowsClaim(Show& show) {
+  MainForm& form = show.frmMain;
+  TakeBackFlash(show);
+  form.tmrBonus.Enabled = false;
+  HidePanel(show, Panel::Bonus);
+  form.tmrAutoContinue.Enabled = false;
+  form.btnContinue.Enabled = show.state.Nature().Trivia;
+}
+
 void TakeBackClaim(Show& show) {
   GameState& state = show.state;
   const int player = state.LastPlayer;
   if (!IsPlayer(player)) return;
   int& owner = state.Board[static_cast<std::size_t>(state.LastRow)][static_cast<std::size_t>(state.LastCol)];
   if (owner != player) return;
+  StopWhatFollowsClaim(show);
   SetScore(show, player, NumberText(ScoreOf(show, player) - state.LastPoints));
   if (player == 2) PublishScore(show, "11", player);
   ReportPlayer(show, player, state.ScreenFonts[player].ForeColor);
   owner = 0;
-  TakeBackFlash(show);
   RemovePiece(show, state.LastRow, state.LastCol);
   GiveTurnBack(show, player);
 }
@@ -99,31 +128,24 @@ void TakeBackClaim(Show& show) {
 }  // namespace
 
 void HandleCorrect(Show& show) {
+  if (!MayJudge(show)) return;
   MainForm& form = show.frmMain;
-  LiftCover(show);
   EndQuestionClip(show);
   RestartBackground(show);
   if (show.state.Nature().RingIn) form.tmrExternalCtrlFlasher.Enabled = false;
-  form.picQuestion.Visible = false;
-  form.picSound.Visible = false;
-  ShowVerdictButtons(show, false, false);
+  // A picture goes too: the board under it is where the hand goes next.
+  CloseQuestion(show);
   AnnounceVerdict(show, kCorrectVerdict);
-  HidePanel(show, Panel::Question);
-  HidePanel(show, Panel::Sound);
-  // The picture goes too: the board under it is where the hand goes next.
-  HidePanel(show, Panel::QuestionPicture);
   show.state.PlacementOpen = true;
   ChangeCursor(show);
   form.txtDJCommand.Enabled = true;
-  if (show.state.Nature().RingIn) {
-    LightScoreBox(show, 0);
-    ReportVerdict(show, show.state.CurrentPlayer, true);
-  }
+  if (show.state.Nature().RingIn) ReportVerdict(show, show.state.CurrentPlayer, true);
   EnableOptions(show);
   form.txtDJCommand.SetFocus();
 }
 
 void HandleIncorrect(Show& show) {
+  if (!MayJudge(show)) return;
   MainForm& form = show.frmMain;
   LiftCover(show);
   // The verdict is heard alone; the next player has the clip again by the console's button.
@@ -136,10 +158,9 @@ void HandleIncorrect(Show& show) {
     AdvanceToNextPlayer(show);
   } else {
     form.btnCorrect.Enabled = false;
-    ShowVerdictButtons(show, false, false);
-    LightScoreBox(show, 0);
     ReportVerdict(show, show.state.CurrentPlayer, false);
-    show.state.CurrentPlayer = 0;
+    TakeTurn(show);
+    ReopenQuestion(show);
   }
   SetBuzzerStates(show, true);
   form.txtDJCommand.SetFocus();
@@ -155,23 +176,15 @@ void ChangeScore(Show& show, int player, ScoreChange change, int index) {
 }
 
 void btnSkipQuestion_Click(Show& show) {
+  if (!MaySkip(show)) return;
   MainForm& form = show.frmMain;
   EndQuestionClip(show);
   PlayEvent(show, show.AppPath("\\Sound Effects\\Skip.Wav"));
-  if (show.state.Nature().RingIn) {
-    LightScoreBox(show, 0);
-    form.tmrExternalCtrlFlasher.Enabled = false;
-  }
-  // The cover belongs to the question; left up it would hide the next one from the room.
-  LiftCover(show);
-  HidePanel(show, Panel::Question);
-  HidePanel(show, Panel::QuestionPicture);
-  HidePanel(show, Panel::Sound);
-  ShowVerdictButtons(show, false, false);
-  if (show.state.Nature().Trivia) form.btnContinue.Enabled = true;
+  if (show.state.Nature().RingIn) form.tmrExternalCtrlFlasher.Enabled = false;
+  CloseQuestion(show);
   StartAutoContinue(show);
   ReportPlayers(show, kWhite);
-  if (show.state.Nature().AfterSkip == NextTurn::Nobodys) show.state.CurrentPlayer = 0;
+  if (show.state.Nature().AfterSkip == NextTurn::Nobodys) TakeTurn(show);
   EnableOptions(show);
 }
 

@@ -19,6 +19,7 @@
 #include "presentation/picture_question.h"
 #include "presentation/text_fitting.h"
 #include "sets/set_file.h"
+#include "show/phase.h"
 #include "show/show.h"
 
 namespace pawnfield {
@@ -77,6 +78,7 @@ void WriteNotice(Show& show, ControlArray<Label, 5>& labels) {
 
 // False when the set holds no further question; the board stays as it is.
 bool Advance(Show& show) {
+  show.frmMain.tmrAutoContinue.Enabled = false;
   // The next question replaces the notice, which must not take the question down when its own time is up.
   if (show.frmMain.tmr5QuestionTimer.Enabled) tmr5QuestionTimer_Timer(show);
   show.frmMain.btnContinue.Enabled = false;
@@ -87,7 +89,11 @@ bool Advance(Show& show) {
   ++show.state.CurrentQuestion;
   const std::string text = Trim(RecordAt(show.GameSet, show.state.CurrentQuestion + 1).QuestionText);
   show.frmMain.lblQuestion[0].Caption = text;
+  // What the last question left open ends with the next one: a placement that nobody took, a ring-in.
+  show.state.PlacementOpen = false;
+  if (show.state.Nature().RingIn) TakeTurn(show);
   ShowQuestion(show, show.state.CurrentQuestion);
+  show.frmMain.btnUndo.Enabled = false;
   if (show.state.Nature().RingIn) ShowVerdictButtons(show, false, false);
   return true;
 }
@@ -99,8 +105,23 @@ void ShowVerdictButtons(Show& show, bool correct, bool incorrect) {
   show.frmMain.btnQuestionIncorrect.Visible = incorrect;
 }
 
+void CloseQuestion(Show& show) {
+  show.state.QuestionUp = false;
+  for (const Panel panel : {Panel::Question, Panel::QuestionPicture, Panel::Sound}) HidePanel(show, panel);
+  // The cover belongs to the question; left up it would hide the next one from the room.
+  if (show.state.DualScreen) show.frmFSMain.picHideQuestion.Visible = false;
+  ShowVerdictButtons(show, false, false);
+}
+
+void ReopenQuestion(Show& show) {
+  if (show.state.DualScreen) show.frmFSMain.picHideQuestion.Visible = false;
+  ShowVerdictButtons(show, false, false);
+  SetBuzzerStates(show, true);
+}
+
 void ShowQuestion(Show& show, int index) {
   const TriviaQuestion& question = RecordAt(show.GameSet, index + 1);
+  show.state.QuestionUp = true;
   const std::string text = Trim(question.QuestionText);
   SetQuestion(show, text, show.frmMain.lblQuestion);
   SetAnswer(show, Trim(question.AnswerText));
@@ -158,13 +179,12 @@ void StartAutoContinue(Show& show) {
 }
 
 void btnContinue_Click(Show& show) {
-  if (!show.state.Nature().Trivia) return;
-  if (Advance(show)) show.frmMain.btnUndo.Enabled = false;
+  const PhaseKind kind = Phase(show).Kind;
+  const bool between = kind == PhaseKind::Pause || kind == PhaseKind::Claiming;
+  if (show.state.Nature().Trivia && between) Advance(show);
 }
 
 void tmrAutoContinue_Timer(Show& show) {
-  // Stopped first: whatever the next question brings up, the pause has run once.
-  show.frmMain.tmrAutoContinue.Enabled = false;
   if (Advance(show)) SendKeyPressInRingIn(show, true);
 }
 
@@ -172,7 +192,8 @@ void tmr5QuestionTimer_Timer(Show& show) {
   MainForm& form = show.frmMain;
   HidePanel(show, Panel::Question);
   form.btnUndo.Enabled = true;
-  form.btnContinue.Enabled = true;
+  // While the pause runs the timer continues, and not the operator too.
+  form.btnContinue.Enabled = !form.tmrAutoContinue.Enabled;
   form.btnNextPlayer.Enabled = true;
   form.tmr5QuestionTimer.Enabled = false;
 }

@@ -10,6 +10,10 @@ struct Show;
 void ShowQuestion(Show& show, int index);
 // Reads the picture of the question of that number ahead, where it has one.
 void HoldPicture(Show& show, int number);
+// Takes down the question that is up: its panels, the cover over it and the verdict buttons.
+void CloseQuestion(Show& show);
+// The question that is up is open to all again, in Trivia C.
+void ReopenQuestion(Show& show);
 // "5 Questions Left!", when exactly six records are left to come.
 void CheckQuestionsLeft(Show& show);
 // The bonus screen for 3000 ms.

@@ -44,7 +44,7 @@ void ReadySet(Show& show) {
   form.btnCorrect.Enabled = false;
   SetBuzzerStates(show, false);
   form.picStandby.Visible = false;
-  LightScoreBox(show, 1);
+  GiveFirstTurn(show);
   SetConsoleCursor(show, 0);
   state.CurrentQuestion = 0;
   if (state.DualScreen) PlaceAudienceScreen(show);
@@ -67,7 +67,7 @@ void ShowReadyBoard(Show& show) {
   MainForm& form = show.frmMain;
   form.btnPlayMode.Enabled = false;
   form.btnStandbyMode.Enabled = true;
-  for (const Panel panel : {Panel::Question, Panel::Sound, Panel::QuestionPicture}) HidePanel(show, panel);
+  CloseQuestion(show);
   form.btnContinue.Visible = true;
   form.btnStart.Visible = true;
 }
@@ -78,10 +78,8 @@ void StopShowing(Show& show) {
   MainForm& form = show.frmMain;
   EndQuestionClip(show);
   for (Timer* timer : {&form.tmrAutoContinue, &form.tmr5QuestionTimer, &form.tmrBonus}) timer->Enabled = false;
-  for (const Panel panel : {Panel::Question, Panel::QuestionPicture, Panel::Sound, Panel::Bonus})
-    HidePanel(show, panel);
-  if (show.state.DualScreen) show.frmFSMain.picHideQuestion.Visible = false;
-  ShowVerdictButtons(show, false, false);
+  HidePanel(show, Panel::Bonus);
+  CloseQuestion(show);
 }
 
 void btnSelectGame_Click(Show& show) {

@@ -6,6 +6,7 @@
 
 #include "engine/lines.h"
 #include "engine/options.h"
+#include "engine/question_cycle.h"
 #include "engine/set_choice.h"
 #include "forms/fs_main_form.h"
 #include "forms/main_form.h"
@@ -43,20 +44,19 @@ void EndGame(Show& show) {
   EndQuestionClip(show);
   show.state.GameInProgress = false;
   show.state.GameLoaded = false;
+  show.state.GameStarted = false;
+  show.state.PlacementOpen = false;
+  // Nothing of the game comes after its end: no next question, no notice, no bonus.
+  for (Timer* timer : {&form.tmrAutoContinue, &form.tmr5QuestionTimer, &form.tmrBonus}) timer->Enabled = false;
+  HidePanel(show, Panel::Bonus);
   form.btnEndGame.Enabled = false;
   form.btnReset.Enabled = false;
-  HidePanel(show, Panel::QuestionPicture);
-  HidePanel(show, Panel::Sound);
-  HidePanel(show, Panel::Question);
-  form.btnQuestionCorrect.Visible = false;
-  form.btnQuestionIncorrect.Visible = false;
+  CloseQuestion(show);
   SetCursorOnBoth(show, 0);
   form.btnUndo.Enabled = false;
   form.btnContinue.Enabled = false;
   form.btnNextPlayer.Enabled = false;
-  for (Timer* timer : {&form.tmrAutoContinue, &form.tmr5QuestionTimer, &form.tmrBonus}) timer->Enabled = false;
-  HidePanel(show, Panel::Bonus);
-  show.state.PlacementOpen = false;
+  form.btnSkipQuestion.Enabled = false;
   show.WinnerDue = true;
 }
 
@@ -91,8 +91,7 @@ void tmrWinner_Timer(Show& show) {
   ShowPanel(show, Panel::Standby);
   form.btnStandbyMode.Enabled = false;
   form.btnPlayMode.Enabled = true;
-  for (const Panel panel : {Panel::Question, Panel::QuestionPicture, Panel::Sound, Panel::Winner})
-    HidePanel(show, panel);
+  HidePanel(show, Panel::Winner);
   form.btnUndo.Enabled = false;
   form.btnContinue.Enabled = false;
   ResetGameBoard(show);

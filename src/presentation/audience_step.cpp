@@ -9,6 +9,7 @@
 #include "presentation/picture_question.h"
 #include "presentation/screen_pairs.h"
 #include "presentation/text_fitting.h"
+#include "show/phase.h"
 #include "show/show.h"
 
 namespace pawnfield {
@@ -28,9 +29,8 @@ void FitWinner(Show& show) {
 
 // The cover is the audience's alone: it is up from a ring-in to its verdict.
 void CoverAnsweredQuestion(Show& show) {
-  const int player = show.state.CurrentPlayer;
-  const bool answering = QuestionVisible(show) && IsPlayer(player) && show.frmMain.btnQuestionCorrect.Visible;
-  const bool cover = answering && show.state.Nature().RingIn && show.state.HideQuestion;
+  const auto [kind, player] = Phase(show);
+  const bool cover = kind == PhaseKind::Answering && show.state.Nature().RingIn && show.state.HideQuestion;
   if (cover) {
     show.frmFSMain.lblPlayerName.Caption = show.frmMain.lblPlayer1[PlayerIndex(player)].Caption;
   }

@@ -171,6 +171,8 @@ void ResetGameBoard(Show& show) {
   state.GameLoaded = false;
   state.GameInProgress = false;
   state.PlacementOpen = false;
+  state.GameStarted = false;
+  state.QuestionUp = false;
   SetCursorOnBoth(show, 0);
   ShowOptionsOfType(show);
   ShowPanel(show, Panel::Standby);

@@ -38,12 +38,6 @@ void HidePanel(Show& show, Panel panel) { PanelOf(show.frmMain, panel).Visible =
 
 bool PanelVisible(const Show& show, Panel panel) { return PanelOf(show.frmMain, panel).Visible; }
 
-bool TextOrPictureVisible(const Show& show) {
-  return PanelVisible(show, Panel::Question) || PanelVisible(show, Panel::QuestionPicture);
-}
-
-bool QuestionVisible(const Show& show) { return TextOrPictureVisible(show) || PanelVisible(show, Panel::Sound); }
-
 void SetScore(Show& show, int player, const std::string& text) {
   show.frmMain.Score(player).Caption = text;
   show.frmMain.ScoreCopy(player).Caption = text;

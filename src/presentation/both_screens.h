@@ -16,9 +16,6 @@ void ShowPanel(Show& show, Panel panel);
 void HidePanel(Show& show, Panel panel);
 // True when the console shows the panel.
 bool PanelVisible(const Show& show, Panel panel);
-// A question stands on the console: as a text or a picture, or as a sound too.
-bool TextOrPictureVisible(const Show& show);
-bool QuestionVisible(const Show& show);
 
 // The score on every display of a player 1..3.
 void SetScore(Show& show, int player, const std::string& text);

@@ -5,11 +5,11 @@
 #include <optional>
 #include <string>
 
+#include "controllers/ring_in.h"
 #include "forms/main_form.h"
 #include "forms/press_forms.h"
 #include "outward/shared_key.h"
 #include "platform/attach.h"
-#include "presentation/both_screens.h"
 #include "show/settings.h"
 #include "show/show.h"
 
@@ -41,16 +41,12 @@ InterfaceCode ChosenInterface(const Show& show) {
   return FoundInterface(show);
 }
 
-bool PressIsWanted(Show& show) {
-  return TextOrPictureVisible(show) && !IsPlayer(show.state.CurrentPlayer) && !PanelVisible(show, Panel::Standby);
-}
-
 // What hangs on the interface and is already under way follows it.
 void TakeUp(Show& show, InterfaceCode serialComm) {
   const bool typedForUs = IsKeypadMode(show);
   show.state.SerialComm = serialComm;
   if (IsKeypadMode(show)) {
-    SendKeyPressInRingIn(show, PressIsWanted(show));
+    SendKeyPressInRingIn(show, MayRingIn(show));
   } else if (typedForUs) {
     SendKeyPress(show, false);
   }

@@ -19,6 +19,9 @@ struct PressState {
   // Remotes that the operator has been told of because the show has no place for them.
   std::set<int> ToldRemotes;
 
+  // Numbers beyond the players of whose presses the operator has been told in this game.
+  std::set<int> ToldPlayers;
+
   bool ZR610Present = false;
   // The wired pads' port, -1 for none.
   int CommPortNumber = -1;

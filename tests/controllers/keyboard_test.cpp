@@ -62,10 +62,10 @@ TEST(Keyboard, EachKeyDoesItsPartInEachPhase) {
   const std::tuple<std::string, const char*, bool, const char*> phases[] = {
       // 1 7 ^ Ctrl+N Ctrl+S Ctrl+U Ctrl+Z y n c X Enter Backspace
       {"12", "", true, ". . . p . . d . . e . p ."},
-      {"3", "", true, ". . . p vhk . d vh p e . p ."},
-      {"4", "", true, ". . . p pvhk . d vh p e . p ."},
-      {"5", "", true, "pv pv pv p hk . d . . e . p ."},
-      {"5", "r2", true, ". . . . pvhk . d vh pv e . . ."},
+      {"3", "", true, ". . . p vhk . d vh p . . . ."},
+      {"4", "", true, ". . . p pvhk . d vh p . . . ."},
+      {"5", "", true, "pv . . . hk . d . . . . . ."},
+      {"5", "r2", true, ". . . . pvhk . d vh pv . . . ."},
       {"3", "+", true, ". . . p k . d . . e . p ."},
       {"4", "+", true, ". . . p pk . d . . e . p ."},
       {"5", "r2 +", true, ". . . . pk . d . . e . . ."},
@@ -78,12 +78,13 @@ TEST(Keyboard, EachKeyDoesItsPartInEachPhase) {
       {"2", "00", true, ". . . p . b d . . e . p ."},
       {"3", "+ 00", true, ". . . p . pb d . . vqhk . . ."},
       {"4", "+ 00", true, ". . . p p b d . . vqhk . . ."},
-      {"5", "r2 + 00", true, ". . . p . b d . . qhk . . ."},
+      {"5", "r2 + 00", true, ". . . . . pb d . . qhk . . ."},
       {"1", "H", true, ". . . p . . . . . . . . ."},
       {"3", "+ H", true, ". . . p k . . . . . . . ."},
       {"5", "r2 + H", true, ". . . . pk . . . . . . . ."},
-      {"13", "", false, ". . . . . . . . . e . p ."},
-      {"5", "", false, "pv pv pv . . . . . . e . p ."},
+      {"1", "", false, ". . . . . . . . . e . p ."},
+      {"3", "", false, ". . . . . . . . . . . . ."},
+      {"5", "", false, "pv . . . . . . . . . . . ."},
       {"3", "+ 00", false, ". . . . . . . . . . . . ."}};
   for (const auto& [types, script, keyControl, effects] : phases) {
     for (const char type : types) {
@@ -102,7 +103,7 @@ TEST(Keyboard, EachKeyDoesItsPartInEachPhase) {
 
 const Story kEntries[] = {
     {"NoKeyActsBeforeTheStart", "5 3 3 full mi",
-     "keys:27^^^N^S^UyncX^M^H turn=1 question=0 board=000/000/000 names="
+     "keys:27^^^N^S^UyncX^M^H turn=0 question=0 board=000/000/000 names="
      "PLAYER_1/PLAYER_2/PLAYER_3"},
     {"OnABoardOf3x3", "1 3 3 full",
      "keys:d txtDJCommand= keys:b4 txtDJCommand=B keys:^HC2^M board=000/001/000 txtDJCommand="},
@@ -132,7 +133,7 @@ TEST(Keyboard, LettersBringUpTheirMediaWhateverElseTheyDo) {
     played += sim.media.KeyPressPlayer.Url;
   }
   EXPECT_EQ(played, "C:\\9.wavC:\\34.wavC:\\33.wavC:\\11.wav");
-  keyboard.Play("btnQuestionCorrect=on txtDJCommand=A");
+  keyboard.Play("btnQuestionCorrect=on txtDJCommand=");
 }
 
 TEST(Keyboard, KeypadsRingInByTheRouting) {
@@ -144,7 +145,8 @@ TEST(Keyboard, KeypadsRingInByTheRouting) {
       {Keypads, '3', 5, 1, 0, ""},
       {Keypads, '^', 6, 1, 0, ""},
       {PublishingKeypads, '9', 9, 2, 2, "sendkeypress=0 11=PLAYER 2 "},
-      {Manual, '4', 4, 2, 4, ""}};
+      {Manual, '4', 4, 2, 0, ""},
+      {Manual, '2', 4, 3, 2, ""}};
   for (const auto& [mode, key, controller, routed, player, written] : keypads) {
     Keyboard keyboard('5', "");
     keyboard.state.SerialComm = mode;

@@ -44,7 +44,7 @@ const Story kJudging[] = {
     {"UndoLeavesTheTurnInChallengeB", "2 3 3 full", "00 N 01 U scores=50/0/0 turn=2"},
     {"UndoGivesTheTurnBackInTriviaA", "3 2 3 full", "+ 00 > + 01 U scores=50/0/0 turn=2"},
     {"UndoLeavesTheTurnInTriviaB", "4 2 3 full", "+ 00 U scores=0/0/0 turn=1"},
-    {"UndoGivesNobodyTheTurnInTriviaC", "5 2 3 full", "r2 + 00 U scores=0/0/0 turn=0"},
+    {"UndoTakesTheScoreBackInTriviaC", "5 2 3 full", "r2 + 00 U scores=0/0/0 turn=2"},
     {"AClaimOfNoPointsCantBeUndone", "1 2 3 full 0", "11 U scores=0/0/0 turn=2 board=000/010/000"},
     {"AVerdictSounds", "3 2 3 full", "- event=Incorrect.mp3 picCorrect=-"},
     {"AnAnimatedVerdictStandsFourAndAHalfSeconds", "3 2 3 full a",

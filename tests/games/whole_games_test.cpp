@@ -1,6 +1,8 @@
 // Whole games by clicks on the console and by recorded presses of the controllers, in virtual time. A square is worth
 // 50 and a line 50 more unless a row says otherwise; an anti-diagonal pays 200 for three.
+#include "forms/editor_form.h"
 #include "forms/fs_main_form.h"
+#include "forms/small_forms.h"
 #include "support/game_player.h"
 
 namespace pawnfield {
@@ -40,7 +42,7 @@ const Story kGames[] = {
      "picBonus=up > "
      "winner=Game_Over!/PLAYER_3/Wins!"},
     {"TriviaC_UndoFreesTheSquareForTheNext", "5 2 5 full p",
-     "r2 + 00 U > r2 - r1 + 00 E scores=50/-100/0 board=10000/00000/00000/00000/00000 "
+     "r2 + 00 U C r2 - r1 + 00 E scores=50/-100/0 board=10000/00000/00000/00000/00000 "
      "winner=Game_Over!/PLAYER_1/Wins!"},
     {"TriviaC_BonusPausesAndTheGameGoesOn", "5 2 3 full a",
      "r1 + 02 > r1 + 20 > r1 + 00 > r1 + 22 > r1 + 11 > > r2 + 01 E scores=500/50/0 board=121/010/101 "
@@ -98,6 +100,25 @@ TEST(OneMonitor, LoadAndExitLeaveTheAudienceFormAlone) {
   fixture.Start();
   fixture.sim.dialogs.ExpectMessage("Are you sure you want to exit?", BoxAnswer::Yes);
   fixture.form().mnuFileExit.Click();
+}
+
+// The set has gone with its game; an editor that still held its name would save nothing over it.
+TEST(AfterTheEnd, AnEditorOfTheCurrentSetAsksForANameAndLeavesTheFile) {
+  GamePlayer player("3 2 3 row");
+  player.Play("+ 00 E > >");
+  ScriptedDialogs& dialogs = player.fixture().sim.dialogs;
+  SimFiles& files = player.fixture().sim.files;
+  const std::string set = "C:\\Pawnfield\\Trivia Sets\\Long.txt", before = files.Read(set);
+  player.form().cboList.List = {"Select Game Set"};
+  player.form().cboList.ListIndex = 0;
+  dialogs.ExpectForm("frmEditChoice", [&] { player.show().frmEditChoice.btnCurrent.Click(); });
+  dialogs.ExpectForm("frmEditor", [&] {
+    dialogs.ExpectFile("");
+    player.show().frmEditor.mnuFileSave.Click();
+    player.show().frmEditor.mnuFileExit.Click();
+  });
+  player.Play("btnStartGame");
+  EXPECT_EQ(files.Read(set), before);
 }
 
 TEST_P(PressGame, GoesByTheFirstPress) { Play(); }

@@ -287,10 +287,12 @@ void MonkeyShow::Perform(const Action& action) {
 
 std::string MonkeyShow::Do(const Action& action) {
   dialogs_.Reseed(action.Seed);
+  lastAction_.Before(show_);
   Perform(action);
   const auto errors = dialogs_.TakeErrors();
   if (!errors.empty()) return "unexpected error box: " + errors.front();
-  return BrokenInvariant(show_);
+  const std::string broken = BrokenInvariant(show_);
+  return broken.empty() ? lastAction_.Broken(show_) : broken;
 }
 
 }  // namespace pawnfield

@@ -73,6 +73,7 @@ class MonkeyShow {
   MonkeyDialogs dialogs_;
   SimPlatform sim_;
   Show show_;
+  LastAction lastAction_;
 };
 
 }  // namespace pawnfield

@@ -103,9 +103,9 @@ TEST_P(PluggedIn, ShowsWhatItWouldHaveShownFromTheStart) {
 
 INSTANTIATE_TEST_SUITE_P(Moments, PluggedIn, testing::ValuesIn(kMoments), StoryTest::Name);
 
-TEST(AudienceScreen, FollowsAClaimOverAnOpenQuestionAndAnUndoAtOnce) {
+TEST(AudienceScreen, FollowsAVerdictAClaimAndAnUndoAtOnce) {
   GamePlayer player("3 3 4 full");
-  player.Play("picQuestion'=up 11 picQuestion=- picQuestion'=- scores=50/0/0 U scores=0/0/0");
+  player.Play("picQuestion'=up + picQuestion=- picQuestion'=- 11 scores=50/0/0 U scores=0/0/0");
   EXPECT_EQ(player.fixture().audience().Label11[0].Caption.Get(), "0");
 }
 

@@ -74,6 +74,7 @@ void GamePlayer::PrepareMachine(const std::string& options) {
   for (const char* cursor : {"Neutral", "X", "O", "T"}) {
     fixture_.sim.files.Put("C:\\Pawnfield\\Images\\Cursor"s + cursor + ".png", "");
   }
+  fixture_.sim.files.Put("C:\\Pawnfield\\Images\\Neutral.bmp", "");
   fixture_.sim.files.Put("C:\\Shows\\photo.jpg", SimPictures::PictureBytes(800, 600));
   fixture_.sim.files.Put("C:\\Shows\\clip.WAV", "sound");
   wired_ = options.find('l') != std::string::npos;
@@ -126,6 +127,8 @@ void GamePlayer::Step(const std::string& step) {
     fixture_.sim.dialogs.ExpectMessage(Spaced(step.substr(no ? 4 : 1)), no ? BoxAnswer::No : BoxAnswer::Ok);
   } else if (step.starts_with("file:")) {
     fixture_.sim.dialogs.ExpectFile(Spaced(step.substr(5)));
+  } else if (step == "set") {
+    fixture_.ChooseSet("Long");
   } else if (step.starts_with("keys:")) {
     Type(step.substr(5));
   } else if (step[0] == '*') {

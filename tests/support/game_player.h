@@ -24,6 +24,7 @@ class GamePlayer {
   //               judge, next player, skip, continue, undo, end game, hide and show the board, reset
   //   r1 u23 d23  rings player 1 in by hand; presses the score button 3 of player 2
   //   3 #999 *2   the press of remote or pad 3, of the remote's code or the pad 999, of the host unit's key 2 arrives
+  //   set         chooses the set in the list
   //   keys:b2^M   types these keys, a letter behind "^" with Ctrl; "^^" is the sign
   //   ?Not_found  a message that tells this comes up next, ?No:Sure is answered with No, and file:C:\a.txt that file
   //               is chosen next

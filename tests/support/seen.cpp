@@ -3,11 +3,13 @@
 #include <gtest/gtest.h>
 
 #include <algorithm>
+#include <array>
 #include <sstream>
 
 #include "forms/fs_main_form.h"
 #include "forms/main_form.h"
 #include "platform/text.h"
+#include "show/phase.h"
 #include "support/screen_pairs.h"
 
 namespace pawnfield {
@@ -47,6 +49,24 @@ std::string Board(const GameState& state) {
   return rows;
 }
 
+// "idle", "player_2_answers", "pause" and the like.
+std::string PhaseOf(const Show& show) {
+  static constexpr std::array kNames = {"idle",    "ready", "open",   "answers", "claims",
+                                        "flashes", "bonus", "notice", "pause",   "winner"};
+  const auto [kind, player] = Phase(show);
+  const std::string name = kNames.at(static_cast<std::size_t>(kind));
+  return player == 0 ? name : "player_" + std::to_string(player) + "_" + name;
+}
+
+// The players whose score boxes are red.
+std::string LitBoxes(MainForm& form) {
+  std::string lit;
+  for (int player = 1; player <= 3; ++player) {
+    if (form.ScoreBox(player).Picture->find("red") != std::string::npos) lit += std::to_string(player);
+  }
+  return lit.empty() ? "nobody" : lit;
+}
+
 std::string PropertyOf(const Control& control, const std::string& name) {
   const auto* label = dynamic_cast<const Label*>(&control);
   if (name == "Top") return NumberText(control.Top);
@@ -77,6 +97,8 @@ std::string Seen(Show& show, const std::string& name, const Form& form) {
   const auto player = [&](std::size_t i) { return main.lblPlayer1[i].Caption.Get(); };
   const auto pays = [](bool penalty, const char* number) { return std::string(penalty ? number : "-"); };
   if (name == "turn") return std::to_string(state.CurrentPlayer);
+  if (name == "lit") return LitBoxes(main);
+  if (name == "phase") return PhaseOf(show);
   if (name == "question") return std::to_string(state.CurrentQuestion);
   if (name == "scores") return score(1) + "/" + score(2) + "/" + score(3);
   if (name == "names") return Plain(player(0) + "/" + player(1) + "/" + player(2));
