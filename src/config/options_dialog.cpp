@@ -8,6 +8,7 @@
 #include "media/background_music.h"
 #include "media/sound_channels.h"
 #include "platform/text.h"
+#include "show/settings_table.h"
 #include "show/show.h"
 
 namespace pawnfield {
@@ -15,7 +16,6 @@ namespace pawnfield {
 namespace {
 
 constexpr int kNoMusic = 0;
-constexpr int kShortestHold = 5;
 
 // What a slider moves.
 struct Volume {
@@ -48,7 +48,7 @@ void SelectItem(ComboBox& list, int index) {
 void LoadMusic(Show& show) {
   OptionsForm& form = show.frmOptions;
   GameState& state = show.state;
-  if (state.BackgroundMusic < kNoMusic || state.BackgroundMusic > kMusicFileMode) state.BackgroundMusic = kNoMusic;
+  if (!kMusicModes.Holds(state.BackgroundMusic)) state.BackgroundMusic = kNoMusic;
   form.optBackgroundMusic[static_cast<std::size_t>(state.BackgroundMusic)].SelectInGroup();
   if (!MusicFileExists(show)) state.BgMusicFileName.clear();
   form.lblBackgroundMusic.Caption = ExtractFileName(state.BgMusicFileName);
@@ -145,7 +145,7 @@ void LoadOptionsDialog(Show& show) {
   form.chkTSSupport.Value = show.state.TSSupport ? 1 : 0;
   for (const Volume& volume : Volumes(show)) LoadSlider(volume.slider, volume.variable);
   LoadMusic(show);
-  SelectItem(form.cboMODPictureTmr, show.state.MODPictureTimer - kShortestHold);
+  SelectItem(form.cboMODPictureTmr, show.state.MODPictureTimer - kPictureHolds.Low);
 }
 
 void mnuFileOptions_Click(Show& show) {
@@ -161,7 +161,7 @@ void btnApply_Click(Show& show) {
   OptionsForm& form = show.frmOptions;
   for (std::size_t i = 0; i < form.cboRouting.Size(); ++i) show.state.Routing[i + 1] = form.cboRouting[i].ListIndex + 1;
   ApplyMusic(show);
-  show.state.MODPictureTimer = form.cboMODPictureTmr.ListIndex + kShortestHold;
+  show.state.MODPictureTimer = form.cboMODPictureTmr.ListIndex + kPictureHolds.Low;
   show.state.FullScreenGameBoard = form.chkFullScreenGameBoard.Value == 1;
   form.btnApply.Enabled = false;
 }

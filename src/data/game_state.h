@@ -69,6 +69,8 @@ struct GameState {
   PerPlayer<std::string> LampCode{"1", "3", "3"};
   int CurrentQuestion = 0;
   int PiecePoints = 0;
+  // Tens of points: what a claim pays, and what a line adds.
+  int Scoring = 5, Bonus = 5;
   std::string LastSquareKey;
 
   // The last claim, for undo; LastPlayer 0 means none.

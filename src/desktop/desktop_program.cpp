@@ -71,6 +71,7 @@ DesktopProgram::DesktopProgram(const DesktopPlaces& places)
 DesktopProgram::~DesktopProgram() {
   desktop_.serial.OnComm = {};
   desktop_.devices.OnChanged({});
+  desktop_.settings.OnSaveFailed = {};
   for (Form* form : AllForms(show_)) desktop_.clock.Detach(*form);
 }
 

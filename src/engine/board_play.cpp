@@ -14,7 +14,6 @@
 #include "presentation/board_layout.h"
 #include "presentation/both_screens.h"
 #include "show/phase.h"
-#include "show/settings.h"
 #include "show/show.h"
 
 namespace pawnfield {
@@ -87,7 +86,7 @@ void StartFlip(Show& show, int r, int c) {
 
 // Adds what the lines through the square pay to PiecePoints. They flash together with the square.
 LineMade PayLines(Show& show, int r, int c) {
-  const LineClaim claim{r, c, show.state.CurrentPlayer, show.state.GridSize, GetIntSetting(show, "Bonus", 5) * 10};
+  const LineClaim claim{r, c, show.state.CurrentPlayer, show.state.GridSize, show.state.Bonus * 10};
   bool hit = false;
   show.FlashSquares = ClaimedSquares(show.state.Board, claim);
   for (const auto& check : {CheckRowLine, CheckColumnLine, CheckDiagonalLine, CheckAntiDiagonalLine}) {
@@ -220,8 +219,7 @@ void ClaimSquare(Show& show, int r, int c, const std::string& key) {
   StartFlip(show, r, c);
   state.LastSquareKey = key;
   state.FlipPlayer = state.CurrentPlayer;
-  // Read anew at each claim, so that a change of the value acts at once.
-  state.PiecePoints = GetIntSetting(show, "Scoring", 5) * 10;
+  state.PiecePoints = state.Scoring * 10;
   const LineMade lineMade = PayLines(show, r, c);
   PayScore(show);
   form.tmrAnswer.Enabled = true;

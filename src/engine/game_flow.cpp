@@ -1,7 +1,5 @@
 #include "engine/game_flow.h"
 
-#include <array>
-
 #include "engine/options.h"
 #include "engine/question_cycle.h"
 #include "engine/set_choice.h"
@@ -19,7 +17,7 @@
 #include "presentation/both_screens.h"
 #include "sets/set_file.h"
 #include "show/phase.h"
-#include "show/settings.h"
+#include "show/settings_table.h"
 #include "show/show.h"
 
 namespace pawnfield {
@@ -211,18 +209,18 @@ void optGridControl_Click(Show& show, int index) {
 
 void cboAutoContinue_Click(Show& show) {
   const int index = show.frmMain.cboAutoContinue.ListIndex;
-  if (index >= 0 && index <= 3) show.state.AutoContinue = index + 3;
+  if (index >= 0 && kAutoContinues.Holds(index + kAutoContinues.Low))
+    show.state.AutoContinue = index + kAutoContinues.Low;
 }
 
 void cboTimedResponse_Click(Show& show) {
-  constexpr std::array<int, 5> kSeconds{0, 3, 5, 7, 10};
-  const int index = show.frmMain.cboTimedResponse.ListIndex;
-  if (index >= 0 && index <= 4) show.state.TimedResponse = kSeconds[static_cast<std::size_t>(index)];
+  const auto index = static_cast<std::size_t>(show.frmMain.cboTimedResponse.ListIndex);
+  if (index < kTimedResponses.size()) show.state.TimedResponse = kTimedResponses[index];
 }
 
 void cbxScore_Click(Show& show, int index) {
-  const int listIndex = show.frmMain.cbxScore[static_cast<std::size_t>(index)].ListIndex;
-  SaveSetting(show, index == 0 ? "Scoring" : "Bonus", std::to_string(listIndex));
+  (index == 0 ? show.state.Scoring : show.state.Bonus) =
+      show.frmMain.cbxScore[static_cast<std::size_t>(index)].ListIndex;
 }
 
 void btnStart_Click(Show& show) {

@@ -9,6 +9,7 @@
 #include "platform/errors.h"
 #include "platform/text.h"
 #include "show/settings.h"
+#include "show/settings_table.h"
 #include "show/show.h"
 
 namespace pawnfield {
@@ -131,8 +132,7 @@ void TakeBoxes(Show& show) {
 void btnOk_Click(Show& show) {
   show.state.ShowBaseHeader = show.frmOptionalHeaders.chkBaseImage.Value == 1;
   // A disk that is full must not keep the headers from the screens.
-  SaveSettingOrTell(show, "ShowBaseHeader", BooleanText(show.state.ShowBaseHeader), show.frmOptionalHeaders,
-                    "btnOk_Click");
+  SaveSettingOrReport(show, kShowBaseHeaderKey, show.frmOptionalHeaders, "btnOk_Click");
   show.frmOptionalHeaders.Visible = false;
   TakeBoxes(show);
   SaveToOSKD(show);

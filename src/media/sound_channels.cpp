@@ -3,26 +3,16 @@
 #include <utility>
 
 #include "forms/main_form.h"
-#include "show/settings.h"
 #include "show/show.h"
 
 namespace pawnfield {
 
 namespace {
 
-constexpr int kDefaultVolume = 75;
-constexpr int kLoudest = 100;
-
 // The position comes first, so that a channel that is given the file it has starts it anew.
 void Play(MediaChannel& channel, const std::string& path) {
   channel.SetPosition(0);
   channel.SetUrl(path);
-}
-
-void LoadVolume(Show& show, const std::string& key, int& volume, MediaChannel& channel) {
-  volume = GetIntSetting(show, key, kDefaultVolume);
-  if (volume < 0 || volume > kLoudest) volume = kDefaultVolume;
-  channel.SetVolume(volume);
 }
 
 // Every player but the music's; a film that ends so leaves the screens.
@@ -91,13 +81,13 @@ void PlayPawn(Show& show) {
 }
 
 void LoadVolumes(Show& show) {
-  GameState& state = show.state;
+  const GameState& state = show.state;
   const MediaChannels& media = show.platform.media;
-  LoadVolume(show, "EventPlayerVolume", state.EventPlayerVolume, media.EventPlayer);
-  LoadVolume(show, "KeyPressPlayerVolume", state.KeyPressPlayerVolume, media.KeyPressPlayer);
-  LoadVolume(show, "SoundClipPlayerVolume", state.SoundClipPlayerVolume, media.SoundClipPlayer);
-  LoadVolume(show, "BackgroundPlayerVolume", state.BackgroundPlayerVolume, media.BackgroundPlayer);
-  LoadVolume(show, "CorrectIncorrectVolume", state.CorrectIncorrectVolume, media.CorrectIncorrectPlayer);
+  media.EventPlayer.SetVolume(state.EventPlayerVolume);
+  media.KeyPressPlayer.SetVolume(state.KeyPressPlayerVolume);
+  media.SoundClipPlayer.SetVolume(state.SoundClipPlayerVolume);
+  media.BackgroundPlayer.SetVolume(state.BackgroundPlayerVolume);
+  media.CorrectIncorrectPlayer.SetVolume(state.CorrectIncorrectVolume);
 }
 
 void BindSoundChannels(Show& show) {

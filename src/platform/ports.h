@@ -126,6 +126,17 @@ struct Setting {
 class SettingsStore {
  public:
   virtual ~SettingsStore() = default;
+  // Told on the main thread when what was kept can't be brought to the disk.
+  std::function<void(const RuntimeError& error)> OnSaveFailed;
+  // Why an application's settings can't be read, in words; empty when they can, or there are none yet.
+  virtual std::string Problem(const std::string& /*application*/) const { return {}; }
+  // Keeps them without making the caller wait for a disk, which may have them a second later.
+  virtual void KeepSettings(const std::string& application, const std::string& section,
+                            const std::vector<Setting>& settings) {
+    SaveSettings(application, section, settings);
+  }
+  // All that was kept is on the disk when it returns; a RuntimeError when that can't be. For the program's end.
+  virtual void Flush() {}
   virtual std::string GetSetting(const std::string& application, const std::string& section, const std::string& key,
                                  const std::string& fallback) const = 0;
   virtual void SaveSetting(const std::string& application, const std::string& section, const std::string& key,

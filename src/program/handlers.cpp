@@ -30,6 +30,7 @@
 #include "program/start_up.h"
 #include "program/wireless.h"
 #include "sets/editor_handlers.h"
+#include "show/settings.h"
 #include "show/show.h"
 
 namespace pawnfield {
@@ -140,6 +141,7 @@ void AttachExit(Show& show) {
 }  // namespace
 
 void AttachHandlers(Show& show) {
+  show.platform.settings.OnSaveFailed = [&show](const RuntimeError& error) { ReportSettingsFailure(show, error); };
   AttachOptions(show);
   AttachButtons(show);
   AttachSquares(show);
@@ -160,6 +162,7 @@ void AttachHandlers(Show& show) {
     form->Guard = [&show](const std::function<void()>& handler, const std::string& location,
                           const std::string& procedure) {
       RunGuarded(show.platform.dialogs, handler, location, procedure);
+      KeepChangedSettings(show);
     };
     show.platform.clock.Attach(*form);
   }

@@ -11,6 +11,7 @@
 #include "outward/shared_key.h"
 #include "platform/attach.h"
 #include "show/settings.h"
+#include "show/settings_table.h"
 #include "show/show.h"
 
 namespace pawnfield {
@@ -72,9 +73,8 @@ void frmSetInterface_Load(Show& show) {
 void frmSetInterface_btnOK_Click(Show& show) {
   show.state.ZR650 = false;
   TakeUp(show, ChosenInterface(show));
-  // A choice that can't be kept is told, and holds for this evening all the same.
-  SaveSettingOrTell(show, "SerialComm", std::to_string(static_cast<int>(show.state.SerialComm)), show.frmSetInterface,
-                    "btnOK_Click");
+  // A choice that can't be kept is reported, and holds for this evening all the same.
+  SaveSettingOrReport(show, kSerialCommKey, show.frmSetInterface, "btnOK_Click");
   show.frmSetInterface.Unload();
 }
 

@@ -1,5 +1,6 @@
 #include "program/main_load.h"
 
+#include <algorithm>
 #include <array>
 
 #include "controllers/ring_in.h"
@@ -24,16 +25,12 @@
 #include "program/wireless.h"
 #include "sets/set_file.h"
 #include "show/settings.h"
+#include "show/settings_table.h"
 #include "show/show.h"
 
 namespace pawnfield {
 
 namespace {
-
-int IntInRange(Show& show, const std::string& key, int fallback, int low, int high, int outside) {
-  const int value = GetIntSetting(show, key, fallback);
-  return value < low || value > high ? outside : value;
-}
 
 // The pictures that the forms are made with: squares, labels, panels.
 void SetDesignPictures(Show& show) {
@@ -62,17 +59,10 @@ void FillPointLists(MainForm& form) {
   }
 }
 
-void LoadRoutingAndPoints(Show& show) {
+void ShowPoints(Show& show) {
   FillPointLists(show.frmMain);
-  const auto routing = [&show](int n) {
-    show.state.Routing[static_cast<std::size_t>(n)] = IntInRange(show, "Routing" + std::to_string(n), n, 1, 20, 1);
-  };
-  routing(1);
-  show.frmMain.cbxScore[0].ListIndex = IntInRange(show, "Scoring", 5, 0, 10, 5);
-  show.frmMain.cbxScore[1].ListIndex = IntInRange(show, "Bonus", 5, 0, 10, 5);
-  for (int n = 2; n <= 20; ++n) routing(n);
-  show.state.ShowBaseHeader = GetBoolSetting(show, "ShowBaseHeader", true);
-  show.state.MODPictureTimer = IntInRange(show, "MODPictureTimer", 5, 5, 20, 5);
+  show.frmMain.cbxScore[0].ListIndex = show.state.Scoring;
+  show.frmMain.cbxScore[1].ListIndex = show.state.Bonus;
 }
 
 void LoadScreenPictures(Show& show) {
@@ -114,13 +104,10 @@ void ShowGameType(Show& show) {
 void LoadGameOptions(Show& show) {
   GameState& state = show.state;
   MainForm& form = show.frmMain;
-  state.GameType = static_cast<GameMode>(IntInRange(show, "GameType", 5, 1, static_cast<int>(kGameTypes.size()), 1));
   ShowGameType(show);
-  state.GridSize = IntInRange(show, "GridControl", 5, 3, 5, 5);
-  form.optGridControl[static_cast<std::size_t>(state.GridSize - 3)].SelectInGroup();
+  form.optGridControl[static_cast<std::size_t>(state.GridSize - kGridSizes.Low)].SelectInGroup();
   BuildGrid(show, state.GridSize);
-  state.Players = IntInRange(show, "Players", 3, 2, 3, 3);
-  form.optPlayers[static_cast<std::size_t>(state.Players - 2)].SelectInGroup();
+  form.optPlayers[static_cast<std::size_t>(state.Players - kPlayerCounts.Low)].SelectInGroup();
   ApplyPlayerLayout(show, state.Players);
 }
 
@@ -131,68 +118,40 @@ void Fill(ComboBox& box, const std::vector<std::string>& items, int index) {
 }
 
 template <std::size_t N>
-int IndexOf(const std::array<int, N>& values, int value, int fallback) {
-  for (std::size_t i = 0; i < N; ++i) {
-    if (values[i] == value) return static_cast<int>(i);
-  }
-  return fallback;
+int IndexOf(const std::array<int, N>& choices, int value) {
+  return static_cast<int>(std::find(choices.begin(), choices.end(), value) - choices.begin());
 }
 
 void LoadPlayOptions(Show& show) {
-  constexpr std::array<int, 5> kResponses{0, 3, 5, 7, 10};
-  GameState& state = show.state;
+  const GameState& state = show.state;
   MainForm& form = show.frmMain;
-  state.HideQuestion = GetBoolSetting(show, "HideQuestion", true);
   form.chkHideQuestion.Value = state.HideQuestion ? 1 : 0;
-  state.Animation = GetBoolSetting(show, "Animation", false);
   form.chkAnimation.Value = state.Animation ? 1 : 0;
-  state.AutoContinue = IntInRange(show, "AutoContinue", 3, 3, 6, 3);
-  Fill(form.cboAutoContinue, {"3 Seconds", "4 Seconds", "5 Seconds", "User Advances"}, state.AutoContinue - 3);
-  const int response = IndexOf(kResponses, GetIntSetting(show, "TimedResponse", 0), 0);
-  state.TimedResponse = kResponses[static_cast<std::size_t>(response)];
-  Fill(form.cboTimedResponse, {"None", "3", "5", "7", "10"}, response);
-  const int penalty = GetIntSetting(show, "PenaltyPoints", 0);
-  state.PenaltyPoints = penalty == 20 || (penalty >= 0 && penalty <= 10) ? penalty : 0;
+  Fill(form.cboAutoContinue, {"3 Seconds", "4 Seconds", "5 Seconds", "User Advances"},
+       state.AutoContinue - kAutoContinues.Low);
+  Fill(form.cboTimedResponse, {"None", "3", "5", "7", "10"}, IndexOf(kTimedResponses, state.TimedResponse));
   Fill(show.frmPlayerNames.cboPenaltyPoints, {"0", "1", "2", "3", "4", "5", "6", "7", "8", "9", "10", "20"},
-       state.PenaltyPoints == 20 ? 11 : state.PenaltyPoints);
+       IndexOf(kPenaltyChoices, state.PenaltyPoints));
 }
 
 void LoadSounds(Show& show) {
-  show.state.SoundSet = GetIntSetting(show, "SoundSet", 1);
   if (!LoadSoundTable(show)) FillDefaultSounds(show);
   if (show.state.SoundSet >= 1 && show.state.SoundSet <= 3) {
     show.frmMain.optSoundBank[static_cast<std::size_t>(show.state.SoundSet - 1)].SelectInGroup();
   }
 }
 
-std::string KeySetting(Show& show, const std::string& key, const std::string& fallback) {
-  const std::string value = GetSetting(show, key, fallback);
-  return Trim(value).empty() ? fallback : value;
-}
-
-void LoadRulesAndVolumes(Show& show) {
-  GameState& state = show.state;
+void ShowRulesAndVolumes(Show& show) {
+  const GameState& state = show.state;
   MainForm& form = show.frmMain;
-  state.KeyControl = GetBoolSetting(show, "KeyControl", true);
   form.chkExtKeyboardCtrl.Value = state.KeyControl ? 1 : 0;
   form.txtDJCommand.Visible = state.KeyControl;
-  state.KeyCorrect = KeySetting(show, "KeyCorrect", "Y");
-  state.KeyIncorrect = KeySetting(show, "KeyIncorrect", "N");
-  state.GameEnds = GetBoolSetting(show, "GameEnds", false);
   form.optGameEnds[state.GameEnds ? 0 : 1].SelectInGroup();
-  state.IncorrectPenalty = GetBoolSetting(show, "IncorrectPenalty", false);
   form.chkIncorrectPenalty.Value = state.IncorrectPenalty ? 1 : 0;
-  state.LedEffects = GetIntSetting(show, "LedEffects", 0);
-  state.LedSpeed = GetIntSetting(show, "LedSpeed", 5);
   for (int player = 1; player <= kPlayers; ++player) {
-    state.PlayerPenalty[player] = GetBoolSetting(show, "Player" + std::to_string(player) + "Penalty", false);
     show.frmPlayerNames.PenaltyBox(player).Value = state.PlayerPenalty[player] ? 1 : 0;
   }
-  state.MicsOnWithBuzzer = GetBoolSetting(show, "MicsOnWithBuzzer", false);
-  state.TSSupport = GetBoolSetting(show, "TSSupport", false);
   LoadVolumes(show);
-  state.BgMusicFileName = GetSetting(show, "BgMusicFileName", "");
-  state.BackgroundMusic = IntInRange(show, "BackgroundMusic", 0, 0, 2, 0);
 }
 
 void ShowIdleBoard(Show& show) {
@@ -276,13 +235,13 @@ void ShowConsole(Show& show) {
 
 void LoadMainForm(Show& show) {
   // Each step reports its own failure, so that one bad value or file leaves the rest of the load whole.
-  for (const auto step :
-       {SetDesignPictures, LoadInterfaceFile,   LoadZR610,          CreateTransceiver, LoadRoutingAndPoints,
-        StartForm,         LoadScreenPictures,  FillSetList,        LoadGameOptions,   LoadPlayOptions,
-        LoadSounds,        LoadRulesAndVolumes, DecideOnMusic,      StartMusic,        LoadOptionalHeaders,
-        ShowIdleBoard,     ShowAudience,        LoadScreenSettings, ShowConsole,       LoadPieces}) {
+  for (const auto step : {SetDesignPictures,   LoadSettings,  LoadInterfaceFile,   LoadZR610,     CreateTransceiver,
+                          ShowPoints,          StartForm,     LoadScreenPictures,  FillSetList,   LoadGameOptions,
+                          LoadPlayOptions,     LoadSounds,    ShowRulesAndVolumes, DecideOnMusic, StartMusic,
+                          LoadOptionalHeaders, ShowIdleBoard, ShowAudience,        ShowConsole,   LoadPieces}) {
     RunStep(show, step);
   }
+  BeginKeepingSettings(show);
   LightScoreBox(show, 0);
   if (show.frmMain.OnResize) show.frmMain.OnResize();
 }

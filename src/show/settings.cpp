@@ -1,11 +1,9 @@
 #include "show/settings.h"
 
-#include <cstdint>
-#include <limits>
-#include <optional>
+#include <utility>
 
 #include "platform/errors.h"
-#include "platform/text.h"
+#include "show/settings_table.h"
 #include "show/show.h"
 
 namespace pawnfield {
@@ -13,158 +11,90 @@ namespace pawnfield {
 namespace {
 
 constexpr const char* kSection = "Settings";
-constexpr int kRoutingCount = 20;
 
-void ReportUnreadable(Show& show, int number, const char* description) {
-  ReportError(show.platform.dialogs, RuntimeError(number, description), "frmMain", "Form_Load");
+void Save(Show& show, const std::vector<Setting>& settings) {
+  show.platform.settings.SaveSettings(kAppTitle, kSection, settings);
 }
 
-std::string ScreenKey(int player, const char* field) { return "Screen" + std::to_string(player) + field; }
-
-void LoadScreen(Show& show, int screen) {
-  ScreenStyle& style = show.state.ScreenFonts[screen];
-  style.BackColor = GetRealSetting(show, ScreenKey(screen, "BG"), 0);
-  style.ForeColor = GetRealSetting(show, ScreenKey(screen, "FG"), kWhite);
-  style.FontName = GetSetting(show, ScreenKey(screen, "Font"), "Comic Sans MS");
-  if (Trim(style.FontName).empty()) style.FontName = "Comic Sans MS";
-  style.FontSize = GetIntSetting(show, ScreenKey(screen, "FontSize"), 100);
-  if (style.FontSize == 0) style.FontSize = 100;
-  style.FontBold = GetBoolSetting(show, ScreenKey(screen, "FontBold"), true);
-  style.FontItalic = GetBoolSetting(show, ScreenKey(screen, "FontItalic"), false);
+// One line for a setting that can't be read, or none when all is well with it.
+std::string LoadSetting(Show& show, const SettingRow& row) {
+  const std::string text = show.platform.settings.GetSetting(kAppTitle, kSection, row.Key, row.Default);
+  if (row.Take(show.state, text)) return {};
+  row.Take(show.state, row.Default);
+  return "\r\n" + row.Key + " = " + row.Default;
 }
 
-void ClampResolution(GameState& state) {
-  if (state.LCDResolutions < 1 || state.LCDResolutions > 3) state.LCDResolutions = 1;
+void ReportUnreadable(Show& show, const std::string& problem, const std::string& lines) {
+  std::string text;
+  if (!problem.empty())
+    text = "The settings cannot be read, so that every option stands as at the first start:\r\n" + problem;
+  if (!lines.empty()) text = "These settings cannot be read. What stands instead:\r\n" + lines;
+  if (!text.empty()) show.platform.dialogs.MessageBox(text, kAppTitle, BoxKind::Exclamation);
 }
 
-// Collects settings by the type of their value.
-class Saver {
- public:
-  void operator()(const std::string& key, int value) { settings_.push_back({key, std::to_string(value)}); }
-  void operator()(const std::string& key, bool value) { settings_.push_back({key, BooleanText(value)}); }
-  void operator()(const std::string& key, double value) { settings_.push_back({key, NumberText(value)}); }
-  void operator()(const std::string& key, const std::string& value) { settings_.push_back({key, value}); }
-  void operator()(const std::string& key, const char*) = delete;
-
-  void Finish(SettingsStore& store) const { store.SaveSettings(kAppTitle, kSection, settings_); }
-
- private:
-  std::vector<Setting> settings_;
-};
-
-void SaveGameOptions(const GameState& state, Saver& save) {
-  save("MODPictureTimer", state.MODPictureTimer);
-  save("GameType", static_cast<int>(state.GameType));
-  save("Players", state.Players);
-  save("HideQuestion", state.HideQuestion);
-  save("GridControl", state.GridSize);
-  save("SoundSet", state.SoundSet);
-  save("KeyControl", state.KeyControl);
-  save("Animation", state.Animation);
-  save("TimedResponse", state.TimedResponse);
-  save("PenaltyPoints", state.PenaltyPoints);
-  save("KeyCorrect", state.KeyCorrect);
-  save("KeyIncorrect", state.KeyIncorrect);
-  save("GameEnds", state.GameEnds);
-  save("IncorrectPenalty", state.IncorrectPenalty);
-  save("LedEffects", state.LedEffects);
-  save("LedSpeed", state.LedSpeed);
-  save("SerialComm", static_cast<int>(state.SerialComm));
-  save("AutoContinue", state.AutoContinue);
-  for (int player = 1; player <= kPlayers; ++player) {
-    save("Player" + std::to_string(player) + "Penalty", state.PlayerPenalty[player]);
-  }
-}
-
-void SaveDevices(const GameState& state, Saver& save) {
-  save("EventPlayerVolume", state.EventPlayerVolume);
-  save("KeyPressPlayerVolume", state.KeyPressPlayerVolume);
-  save("SoundClipPlayerVolume", state.SoundClipPlayerVolume);
-  save("BackgroundPlayerVolume", state.BackgroundPlayerVolume);
-  save("CorrectIncorrectVolume", state.CorrectIncorrectVolume);
-  save("MicsOnWithBuzzer", state.MicsOnWithBuzzer);
-  save("TSSupport", state.TSSupport);
-}
-
-void SaveScreens(const PerPlayer<ScreenStyle>& screens, Saver& save) {
-  const auto each = [&](const char* field, auto member) {
-    for (int player = 1; player <= kPlayers; ++player) save(ScreenKey(player, field), screens[player].*member);
-  };
-  each("BG", &ScreenStyle::BackColor);
-  each("FG", &ScreenStyle::ForeColor);
-  each("Font", &ScreenStyle::FontName);
-  each("FontSize", &ScreenStyle::FontSize);
-  each("FontBold", &ScreenStyle::FontBold);
-  each("FontItalic", &ScreenStyle::FontItalic);
+std::vector<std::string> TextsOf(const GameState& state) {
+  std::vector<std::string> texts;
+  for (const SettingRow& row : SettingsTable()) texts.push_back(row.Text(state));
+  return texts;
 }
 
 }  // namespace
 
-std::string GetSetting(const Show& show, const std::string& key, const std::string& fallback) {
-  return show.platform.settings.GetSetting(kAppTitle, kSection, key, fallback);
+void LoadSettings(Show& show) {
+  std::string lines;
+  for (const SettingRow& row : SettingsTable()) {
+    if (row.Read == ReadAt::Load) lines += LoadSetting(show, row);
+  }
+  ReportUnreadable(show, show.platform.settings.Problem(kAppTitle), lines);
 }
 
-void SaveSetting(Show& show, const std::string& key, const std::string& value) {
-  show.platform.settings.SaveSetting(kAppTitle, kSection, key, value);
+void BeginKeepingSettings(Show& show) { show.KeptSettings = TextsOf(show.state); }
+
+void KeepChangedSettings(Show& show) {
+  if (show.KeptSettings.empty()) return;
+  std::vector<Setting> changed;
+  const auto& table = SettingsTable();
+  for (std::size_t i = 0; i < table.size(); ++i) {
+    std::string text = table[i].Text(show.state);
+    if (text == show.KeptSettings[i]) continue;
+    // Also after a failure: the exit saves it once more, and a full disk isn't asked at each event.
+    show.KeptSettings[i] = text;
+    changed.push_back({table[i].Key, std::move(text)});
+  }
+  if (changed.empty()) return;
+  try {
+    show.platform.settings.KeepSettings(kAppTitle, kSection, changed);
+    show.SettingsFail = false;
+  } catch (const RuntimeError& error) {
+    ReportSettingsFailure(show, error);
+  }
 }
 
-void SaveSettingOrTell(Show& show, const std::string& key, const std::string& value, const Form& form,
-                       const std::string& procedure) {
+void SaveSetting(Show& show, const std::string& key, const std::string& value) { Save(show, {{key, value}}); }
+
+void SaveSettingOrReport(Show& show, const std::string& key, const Form& form, const std::string& procedure) {
+  const auto& table = SettingsTable();
+  for (std::size_t i = 0; i < show.KeptSettings.size(); ++i) {
+    if (table[i].Key == key) show.KeptSettings[i] = table[i].Text(show.state);
+  }
   RunGuarded(
-      show.platform.dialogs, [&] { SaveSetting(show, key, value); }, form.Name(), procedure);
-}
-
-int GetIntSetting(Show& show, const std::string& key, int fallback) {
-  using Limits = std::numeric_limits<std::int16_t>;
-  const std::optional<double> value = ParseNumber(GetSetting(show, key, std::to_string(fallback)));
-  if (!value) {
-    ReportUnreadable(show, kErrorTypeMismatch, "Type mismatch");
-    return fallback;
-  }
-  if (*value < Limits::min() || *value > Limits::max()) {
-    ReportUnreadable(show, kErrorOverflow, "Overflow");
-    return fallback;
-  }
-  return static_cast<int>(RoundHalfEven(*value));
-}
-
-bool GetBoolSetting(Show& show, const std::string& key, bool fallback) {
-  const std::optional<bool> value = ParseBoolean(GetSetting(show, key, BooleanText(fallback)));
-  if (!value) ReportUnreadable(show, kErrorTypeMismatch, "Type mismatch");
-  return value.value_or(fallback);
-}
-
-double GetRealSetting(Show& show, const std::string& key, double fallback) {
-  const std::optional<double> value = ParseNumber(GetSetting(show, key, NumberText(fallback)));
-  if (!value) ReportUnreadable(show, kErrorTypeMismatch, "Type mismatch");
-  return value.value_or(fallback);
-}
-
-void LoadScreenSettings(Show& show) {
-  for (int player = 1; player <= kPlayers; ++player) LoadScreen(show, player);
-  show.state.LCDResolutions = GetIntSetting(show, "LCDResolutions", 1);
-  ClampResolution(show.state);
-  show.state.LCDScreensTop = GetIntSetting(show, "LCDScreensTop", 0);
+      show.platform.dialogs, [&] { SaveSetting(show, key, SettingOf(key).Text(show.state)); }, form.Name(), procedure);
 }
 
 void SaveAllSettings(Show& show) {
-  GameState& state = show.state;
-  ClampResolution(state);
-  Saver save;
-  for (int remote = 1; remote <= kRoutingCount; ++remote) {
-    save("Routing" + std::to_string(remote), state.Routing[static_cast<std::size_t>(remote)]);
+  std::vector<Setting> settings;
+  for (const SettingRow& row : SettingsTable()) {
+    if (row.When == Kept::AtExitToo) settings.push_back({row.Key, row.Text(show.state)});
   }
-  save("RememberCommPort", false);
-  SaveGameOptions(state, save);
-  SaveDevices(state, save);
-  SaveScreens(state.ScreenFonts, save);
-  save("FullScreenGameBoard", state.FullScreenGameBoard);
-  save("ZR650", state.ZR650);
-  save("LCDResolutions", state.LCDResolutions);
-  save("BackGroundMusic", state.BackgroundMusic);
-  save("BgMusicFileName", state.BgMusicFileName);
-  save("LCDScreensTop", state.LCDScreensTop);
-  save.Finish(show.platform.settings);
+  if (!show.KeptSettings.empty()) show.KeptSettings = TextsOf(show.state);
+  Save(show, settings);
+  show.platform.settings.Flush();
+}
+
+void ReportSettingsFailure(Show& show, const RuntimeError& error) {
+  if (!std::exchange(show.SettingsFail, true)) {
+    ReportError(show.platform.dialogs, error, "frmMain", "SaveSettings");
+  }
 }
 
 }  // namespace pawnfield

@@ -1,4 +1,4 @@
-// The settings of application "Pawnfield", section "Settings": typed reads and the save at exit.
+// The settings of application "Pawnfield", section "Settings": what a start takes from them, and how they are kept.
 #pragma once
 
 #include <string>
@@ -6,22 +6,25 @@
 namespace pawnfield {
 
 class Form;
+class RuntimeError;
 struct Show;
 
-std::string GetSetting(const Show& show, const std::string& key, const std::string& fallback);
+// Takes every setting into the state, in its range. What can't be read, or a store that can't, is reported in one box
+// that lists the keys and what stands instead.
+void LoadSettings(Show& show);
+// From here on what changes is kept; what stands now counts as kept.
+void BeginKeepingSettings(Show& show);
+// Saves what has changed since it was kept last; after each event of the program. A failure is reported once, and anew
+// after a success.
+void KeepChangedSettings(Show& show);
+// Saves one setting as it stands. A failure is reported as the form's own and the caller goes on.
+void SaveSettingOrReport(Show& show, const std::string& key, const Form& form, const std::string& procedure);
+// Saves a text under a key that stands for nothing of the game's state.
 void SaveSetting(Show& show, const std::string& key, const std::string& value);
-// The same, but a failure is told as the form's own and the caller goes on.
-void SaveSettingOrTell(Show& show, const std::string& key, const std::string& value, const Form& form,
-                       const std::string& procedure);
-
-// A value that can't be converted is reported through the shared error box once and gives the fallback.
-int GetIntSetting(Show& show, const std::string& key, int fallback);
-bool GetBoolSetting(Show& show, const std::string& key, bool fallback);
-double GetRealSetting(Show& show, const std::string& key, double fallback);
-
-// The three score screens' styles, and LCDResolutions and LCDScreensTop with their clamps.
-void LoadScreenSettings(Show& show);
-// Every key that is saved at exit, in order.
+// Every key that is saved at the exit, in order; all is on the disk when it returns.
 void SaveAllSettings(Show& show);
+
+// For the store, which saves beside the main thread: the same report as of a failure at once.
+void ReportSettingsFailure(Show& show, const RuntimeError& error);
 
 }  // namespace pawnfield

@@ -120,11 +120,14 @@ struct Show {
   std::string DrawnBackground;
   // Texts for the companion that wait until the present event is done, oldest first.
   std::deque<std::string> CompanionReports;
-  // Whether the last report, and the last write to the external keyboard program's key, failed; that has been told.
-  bool CompanionFails = false, SharedKeyFails = false;
+  // Whether the last report, the last write to the external keyboard program's key, and the last save of settings
+  // failed; that has been reported.
+  bool CompanionFails = false, SharedKeyFails = false, SettingsFail = false;
   // The values of that key: those that wait until the present event is done, and what each was when it was written.
   std::vector<Setting> SharedKeyWaiting;
   std::map<std::string, std::string> SharedKeyWritten;
+  // Each setting as it was kept last, in the table's order; empty until the console has loaded them.
+  std::vector<std::string> KeptSettings;
   std::vector<MonitorInfo> Monitors;
   // frmFSMain has been loaded; and the desktop's saver and sleep are held off.
   bool AudienceLoaded = false, AwakeHeld = false;

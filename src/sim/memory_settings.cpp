@@ -12,6 +12,7 @@ std::string FullKey(const std::string& application, const std::string& section, 
 
 std::string MemorySettings::GetSetting(const std::string& application, const std::string& section,
                                        const std::string& key, const std::string& fallback) const {
+  ++Reads;
   const auto found = values_.find(FullKey(application, section, key));
   return found == values_.end() ? fallback : found->second;
 }

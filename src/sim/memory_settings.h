@@ -17,6 +17,9 @@ class MemorySettings : public SettingsStore {
   void SaveSetting(const std::string& application, const std::string& section, const std::string& key,
                    const std::string& value) override;
 
+  std::string Problem(const std::string&) const override { return Unreadable; }
+  void Flush() override { ++Flushes; }
+
   // Puts a value there as an earlier run would have left it, without logging it.
   void Preset(const std::string& application, const std::string& section, const std::string& key,
               const std::string& value);
@@ -25,6 +28,11 @@ class MemorySettings : public SettingsStore {
   std::vector<std::pair<std::string, std::string>> Writes;
   // That many of the next saves keep nothing and throw error 61.
   int FailSaves = 0;
+  // Why nothing can be read, as a store on a disk would say it.
+  std::string Unreadable;
+  // How often a value was asked for, and the end of all writing.
+  mutable int Reads = 0;
+  int Flushes = 0;
 
  private:
   std::map<std::string, std::string> values_;

@@ -1,9 +1,12 @@
 // The keys of the console: what each kind of key does in each phase of each game type, the typed square, keypads.
 #include "controllers/keyboard.h"
 
+#include <algorithm>
 #include <memory>
 
 #include "outward/shared_key.h"
+#include "show/settings.h"
+#include "show/settings_table.h"
 #include "support/game_player.h"
 
 namespace pawnfield {
@@ -34,7 +37,9 @@ class Keyboard : public GamePlayer {
   std::string Written() {
     FlushSharedKey(show());
     std::string text;
-    for (const auto& [name, value] : fixture().sim.settings.Writes) text += name + "=" + value + " ";
+    for (const auto& [name, value] : fixture().sim.settings.Writes) {
+      if (!IsSetting(name)) text += name + "=" + value + " ";
+    }
     fixture().sim.settings.Writes.clear();
     return text;
   }
@@ -42,6 +47,9 @@ class Keyboard : public GamePlayer {
   GameState& state = show().state;
 
  private:
+  static bool IsSetting(const std::string& key) {
+    return std::ranges::any_of(SettingsTable(), [&](const SettingRow& row) { return row.Key == key; });
+  }
   std::vector<std::string> Look() {
     std::string board, dialogs;
     for (const auto& row : state.Board) board.append(row.begin(), row.end());
@@ -190,6 +198,7 @@ TEST(Keyboard, TellsTheExternalKeyboardProgramWhenPressesAreWanted) {
 TEST(Keyboard, APressIsSeenBeforeTheKeyboardProgramReadsOfIt) {
   Keyboard keyboard('5', "");
   keyboard.state.SerialComm = InterfaceCode::PublishingKeypads;
+  BeginKeepingSettings(keyboard.show());
   const auto& writes = keyboard.fixture().sim.settings.Writes;
   keyboard.fixture().sim.settings.Writes.clear();
   keyboard.form().KeyPress('2');

@@ -119,6 +119,39 @@ TEST_F(SettingsTest, KeysAreCaseBlindAndValuesComeBack) {
   EXPECT_EQ(QtSettingsStore(folder).GetSetting("Pawnfield", "Settings", "KeyCorrect", ""), "new");
 }
 
+TEST_F(SettingsTest, WhatIsKeptInPassingIsFoundAtOnceAndReachesTheDisk) {
+  const QString folder = Native("kept");
+  const auto onDisk = [&](const char* key) {
+    return QtSettingsStore(folder).GetSetting("Pawnfield", "Settings", key, "none");
+  };
+  {
+    QtSettingsStore store(folder);
+    for (const char* value : {"2", "3"}) store.KeepSettings("Pawnfield", "Settings", {{"Players", value}});
+    EXPECT_EQ(store.GetSetting("Pawnfield", "Settings", "players", ""), "3");
+    store.Flush();
+    EXPECT_EQ(onDisk("Players"), "3");
+    store.KeepSettings("Pawnfield", "Settings", {{"GridControl", "4"}});
+    store.SaveSetting("Pawnfield", "Settings", "SoundSet", "2");
+    EXPECT_EQ(onDisk("GridControl") + onDisk("SoundSet"), "42") << "nothing overtakes what waits";
+    store.KeepSettings("Pawnfield", "Settings", {{"GridControl", "5"}});
+  }
+  EXPECT_EQ(onDisk("GridControl"), "5") << "nor is it lost with the store";
+}
+
+TEST_F(SettingsTest, OnlyAPlainFileOfSettingsSizeIsReadAndNothingElseIsWrittenOver) {
+  ASSERT_TRUE(QDir().mkpath(Native("folder/pawnfield.ini")) && QDir().mkpath(Native("pipe")));
+  ASSERT_EQ(mkfifo(QFile::encodeName(Native("pipe/pawnfield.ini")).constData(), 0600), 0);
+  Make("large/pawnfield.ini", "[Settings]\nPlayers=2\n" + QByteArray(2 * 1024 * 1024, ';'));
+  ASSERT_TRUE(QDir().mkpath(Native("device")) && QFile::link("/dev/zero", Native("device/pawnfield.ini")));
+  for (const char* name : {"folder", "pipe", "large", "device"}) {
+    QtSettingsStore store(Native(name));
+    EXPECT_EQ(store.GetSetting("Pawnfield", "Settings", "Players", "3"), "3") << name;
+    EXPECT_NE(store.Problem("Pawnfield"), "") << name;
+    EXPECT_NE(ErrorOf([&] { store.SaveSetting("Pawnfield", "Settings", "Players", "2"); }), 0) << name;
+  }
+  EXPECT_EQ(QFileInfo(Native("large/pawnfield.ini")).size(), 2 * 1024 * 1024 + 21);
+}
+
 TEST_F(SettingsTest, MissingAndBrokenStoresGiveTheFallbackAndAFolderThatCannotBeIsTold) {
   Make("broken/pawnfield.ini", QByteArray("\xFF\xFE[[[\0=]\n==", 11));
   for (const char* folder : {"none", "broken"}) {

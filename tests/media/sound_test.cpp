@@ -2,6 +2,7 @@
 
 #include "media/sound_channels.h"
 #include "media/sound_table.h"
+#include "show/settings.h"
 #include "support/show_fixture.h"
 
 namespace pawnfield {
@@ -45,7 +46,8 @@ TEST_F(Sound, VolumesAreReadClampedAndHandedOn) {
   Preset("SoundClipPlayerVolume", "101");
   Preset("BackgroundPlayerVolume", "loud");
   Preset("CorrectIncorrectVolume", "100");
-  sim.dialogs.ExpectMessage("Error Number: 13");
+  sim.dialogs.ExpectMessage("BackgroundPlayerVolume = 75");
+  LoadSettings(show());
   LoadVolumes(show());
   EXPECT_THAT(sim.media.Log,
               ElementsAre("EventPlayer volume 0", "KeyPressPlayer volume 75", "SoundClipPlayer volume 75",

@@ -1,10 +1,12 @@
 // What the console's load makes of stored settings, and what the exit makes of them again.
+#include <set>
 #include <sstream>
 
 #include "forms/player_names_form.h"
-#include "show/settings.h"
+#include "platform/text.h"
+#include "show/settings_table.h"
+#include "support/game_player.h"
 #include "support/seen.h"
-#include "support/show_fixture.h"
 
 namespace pawnfield {
 namespace {
@@ -114,52 +116,108 @@ TEST(SettingsAtStart, ListsShowTheStoredChoice) {
   EXPECT_TRUE(fixture.show().state.ShowBaseHeader);
 }
 
-constexpr const char* kMismatch =
-    "Error Number: 13\r\nDescription: Type mismatch\r\nLocation: frmMain\r\nProcedure: Form_Load";
-constexpr const char* kOverflow =
-    "Error Number: 6\r\nDescription: Overflow\r\nLocation: frmMain\r\nProcedure: Form_Load";
-
-TEST(Settings, ValuesAreConvertedOrReported) {
-  ShowFixture fixture;
-  const std::tuple<const char*, int, const char*> integers[] = {
-      {" -7 ", -7, nullptr},       {"2.5", 2, nullptr},      {"3.5", 4, nullptr},       {"32767", 32767, nullptr},
-      {"-32768", -32768, nullptr}, {"32768", 42, kOverflow}, {"-32769", 42, kOverflow}, {"1e300", 42, kOverflow},
-      {"", 42, kMismatch},         {"five", 42, kMismatch},  {"True", 42, kMismatch}};
-  for (const auto& [stored, value, message] : integers) {
-    fixture.Preset("Players", stored);
-    if (message != nullptr) fixture.sim.dialogs.ExpectMessage(message);
-    EXPECT_EQ(GetIntSetting(fixture.show(), "players", 42), value) << stored;
-  }
-  for (const auto& [stored, value] : {std::pair{"True", true}, {"false", false}, {"-1", true}, {"0", false}}) {
-    fixture.Preset("Animation", stored);
-    EXPECT_EQ(GetBoolSetting(fixture.show(), "Animation", !value), value) << stored;
-  }
-  fixture.Preset("Animation", "yes");
-  for (const bool fallback : {true, false}) {
-    fixture.sim.dialogs.ExpectMessage(kMismatch);
-    EXPECT_EQ(GetBoolSetting(fixture.show(), "Animation", fallback), fallback);
-    EXPECT_EQ(GetBoolSetting(fixture.show(), "Absent", fallback), fallback);
+TEST(Settings, ATextIsConvertedOrNothingIsTaken) {
+  const std::tuple<const char*, const char*, const char*> texts[] = {
+      {"LCDScreensTop", " -7 |2.5|3.5|32767|-32768", "-7|2|4|32767|-32768"},
+      {"LCDScreensTop", "32768|-32769|1e300||five|True", "-|-|-|-|-|-"},
+      {"Animation", "True|false|-1|0|yes||", "True|False|True|False|-|-|-"},
+      {"Screen1BG", "42.5|-1e3|white", "42.5|-1000|-"}};
+  for (const auto& [key, stored, wanted] : texts) {
+    std::istringstream in(stored), out(wanted);
+    for (std::string text, saved; std::getline(out, saved, '|');) {
+      std::getline(in, text, '|');
+      GameState state;
+      const bool taken = SettingOf(key).Take(state, text);
+      EXPECT_EQ(taken ? SettingOf(key).Text(state) : "-", saved) << key << " stored as " << text;
+    }
   }
 }
 
-TEST(SettingsAtStart, EachUnreadableValueIsToldAndTheRestStillLoads) {
-  for (const char* key : {"Routing7", "GameType", "HideQuestion", "SoundSet", "EventPlayerVolume", "Screen2BG",
-                          "Screen3FontBold", "LCDScreensTop", "TSSupport", "LedSpeed", "MODPictureTimer"}) {
-    ShowFixture fixture(Screens::One);
-    for (const auto& [name, value] :
-         {std::pair{key, "nonsense"}, {"Routing2", "9"}, {"BackgroundPlayerVolume", "33"}, {"Screen3FontSize", "44"}}) {
-      fixture.sim.settings.Preset("Pawnfield", "Settings", name, value);
-    }
-    fixture.sim.hid.PlugTransceiver();
-    fixture.sim.dialogs.ExpectMessage("Error Number: 13\r\nDescription: Type mismatch\r\nLocation: frmMain\r\n");
-    fixture.Start();
-    const GameState& state = fixture.show().state;
-    EXPECT_EQ((std::array{state.Routing[7], state.Routing[2], static_cast<int>(state.GameType),
-                          state.BackgroundPlayerVolume, state.ScreenFonts[3].FontSize}),
-              (std::array{7, 9, static_cast<int>(GameMode::TriviaC), 33, 44}))
-        << key;
-    EXPECT_TRUE(fixture.form().Visible) << key;
+TEST(Settings, NoKeyStandsTwiceInTheTable) {
+  std::set<std::string> keys;
+  for (const SettingRow& row : SettingsTable()) EXPECT_TRUE(keys.insert(ToLower(row.Key)).second) << row.Key;
+}
+
+TEST(SettingsAtStart, OneBoxListsWhatCannotBeReadAndWhatStandsInstead) {
+  ShowFixture fixture(Screens::One);
+  for (const auto& [key, value] : {std::pair{"Routing7", "nonsense"},
+                                   {"Routing2", "9"},
+                                   {"GameType", "99999"},
+                                   {"HideQuestion", "perhaps"},
+                                   {"Screen3FontBold", ""},
+                                   {"Screen3FontSize", "44"},
+                                   {"Scoring", "many"},
+                                   {"BackgroundPlayerVolume", "33"}}) {
+    fixture.Preset(key, value);
   }
+  fixture.sim.hid.PlugTransceiver();
+  fixture.sim.dialogs.ExpectMessage(
+      "These settings cannot be read. What stands instead:\r\n\r\nRouting7 = 7\r\nGameType = 5\r\n"
+      "HideQuestion = True\r\nScreen3FontBold = True\r\nScoring = 5");
+  fixture.Start();
+  const GameState& state = fixture.show().state;
+  EXPECT_EQ((std::array{state.Routing[7], state.Routing[2], static_cast<int>(state.GameType),
+                        state.BackgroundPlayerVolume, state.ScreenFonts[3].FontSize, state.Scoring}),
+            (std::array{7, 9, static_cast<int>(GameMode::TriviaC), 33, 44, 5}));
+  EXPECT_TRUE(fixture.form().Visible);
+  EXPECT_TRUE(fixture.sim.settings.Writes.empty()) << "what can't be read stays for whoever can";
+}
+
+TEST(SettingsAtStart, AStoreThatCannotBeReadIsReportedOnce) {
+  ShowFixture fixture(Screens::One);
+  fixture.sim.settings.Unreadable = "pawnfield.ini is no plain file.";
+  fixture.sim.hid.PlugTransceiver();
+  fixture.sim.dialogs.ExpectMessage("pawnfield.ini is no plain file.");
+  fixture.Start();
+}
+
+TEST(SettingsInTheShow, AnOptionIsKeptWhenItChanges) {
+  const std::pair<const char*, const char*> changes[] = {
+      {"optGameType(0)", "GameType=1"},
+      {"optPlayers(0)", "Players=2"},
+      {"optGridControl(0)", "GridControl=3"},
+      {"optGameEnds(0)", "GameEnds=True"},
+      {"chkAnimation", "Animation=True"},
+      {"chkHideQuestion", "HideQuestion=False"},
+      {"chkIncorrectPenalty", "IncorrectPenalty=True"},
+      {"chkExtKeyboardCtrl", "KeyControl=False"},
+      {"cboAutoContinue:3", "AutoContinue=6"},
+      {"cboTimedResponse:1", "TimedResponse=3"},
+      {"optSoundBank(2)", "SoundSet=3"},
+      {"cbxScore(0):7", "Scoring=7"},
+      {"cbxScore(1):2", "Bonus=2"},
+      {"mnuFileOptions@frmOptions { chkTSSupport btnCancel }", "TSSupport=True"},
+      {"mnuFileOptions@frmOptions { cboRouting(0):2 cboMODPictureTmr:15 btnOK }", "Routing1=3 MODPictureTimer=20"},
+      {"mnuFileAddPlayerNames@frmPlayerNames { chkPlayer2Penalty btnOK }", "Player2Penalty=True"},
+      {"optGameType(4)", ""}};
+  for (const auto& [change, kept] : changes) {
+    GamePlayer player("5 3 5 full i");
+    player.fixture().sim.settings.Writes.clear();
+    player.Play(change);
+    std::string saved;
+    for (const auto& [key, value] : player.fixture().sim.settings.Writes) {
+      saved += (saved.empty() ? "" : " ") + key + "=" + value;
+    }
+    EXPECT_EQ(saved, kept) << change;
+  }
+}
+
+TEST(SettingsInTheShow, AFullDiskIsReportedOnceAndTheExitSavesAnew) {
+  GamePlayer player("5 3 5 full i");
+  SimPlatform& sim = player.fixture().sim;
+  sim.settings.FailSaves = 2;
+  player.Play("?Procedure:_SaveSettings optPlayers(0) cboAutoContinue:3 chkAnimation");
+  player.fixture().Exit();
+  EXPECT_EQ(sim.settings.GetSetting("Pawnfield", "Settings", "Players", ""), "2");
+  EXPECT_EQ(sim.settings.Flushes, 1) << "the end waits for the disk";
+}
+
+TEST(SettingsInTheShow, AClaimAsksTheStoreNothing) {
+  GamePlayer player("1 3 5 full i");
+  player.Play("cbxScore(0):7 btnStart");
+  const int reads = player.fixture().sim.settings.Reads;
+  player.Play("00 scores=70/0/0");
+  EXPECT_EQ(player.fixture().sim.settings.Reads, reads);
 }
 
 }  // namespace
