@@ -133,6 +133,8 @@ std::string EdgeFace(Show& show) {
 // One tick of a turning square; true when it has come back to its full size.
 bool TurnSquare(Show& show, Flip& flip) {
   Image& square = *flip.Square;
+  // Where ticks come late the flash has begun before the turn is over, and the picture is the flash's on both screens.
+  const bool flashes = show.FlashCount > 0;
   if (!flip.Larger && square.Height > flip.Step - 1) {
     flip.AtEdge = true;
     square.Height = square.Height - flip.Step;
@@ -140,7 +142,7 @@ bool TurnSquare(Show& show, Flip& flip) {
     return false;
   }
   if (flip.AtEdge) {
-    square.Picture = EdgeFace(show);
+    if (!flashes) square.Picture = EdgeFace(show);
     flip.AtEdge = false;
   }
   flip.Larger = true;
@@ -148,6 +150,7 @@ bool TurnSquare(Show& show, Flip& flip) {
   square.Top = square.Top - flip.Step / 2;
   if (square.Height <= flip.FullHeight) return false;
   flip.Larger = false;
+  if (flashes) return true;
   // The flash of a claim before this one may have ended meanwhile and forgotten the player.
   const int player =
       IsPlayer(show.state.FlipPlayer) ? show.state.FlipPlayer : OwnerOf(show, SquareNamed(square.Name()));

@@ -72,6 +72,15 @@ TEST_P(BoardPlayStory, GoesAsTold) { Play(); }
 INSTANTIATE_TEST_SUITE_P(BoardPlay, BoardPlayStory, testing::ValuesIn(kBoardPlay), StoryTest::Name);
 
 // The room's label had neither place nor size before the first question in words.
+TEST(BoardPlay, AMachineThatSleptWhileAPieceTurnedShowsTheFlashAlikeOnBothScreens) {
+  for (const char* turned : {">20", ">60", ">80", ">90", ">99"}) {
+    GamePlayer player("1 2 3 full");
+    player.Play(std::string("10! ") + turned);
+    player.fixture().sim.clock.Sleep(4 * 3600 * 1000);
+    player.Play(">1 >40 >40 >40 >2000 img10=X-100a.bmp img10'=X-100a.bmp");
+  }
+}
+
 TEST(BoardPlay, FiveQuestionsLeftIsFittedAndCentredAlsoWhereOnlyPicturesCameBefore) {
   GamePlayer player("4 2 3 full mi");
   player.fixture().WriteSet("Pictures", std::vector<std::string>(7, "C:\\Shows\\photo.jpg"));
