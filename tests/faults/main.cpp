@@ -20,6 +20,7 @@ int main(int argc, char** argv) {
   if (mode == "closed") faults = RunNoAccess(root);
   if (mode == "prepare") faults = PrepareReadOnly(root);
   if (mode == "readonly") faults = RunReadOnly(root);
+  if (mode == "kept") faults = RunKept(root);
   if (mode == "gone") faults = RunVanished(root);
   if (mode == "hostile") faults = RunHostile(root);
   if (faults < 0) return 2;

@@ -15,6 +15,8 @@ int RunNoAccess(const QString& root);
 // PrepareReadOnly writes the old files; then the disk is made read-only from outside.
 int PrepareReadOnly(const QString& root);
 int RunReadOnly(const QString& root);
+// Files that have an owner, rights and names of their own.
+int RunKept(const QString& root);
 // The folder goes and comes back.
 int RunVanished(const QString& root);
 

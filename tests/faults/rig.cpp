@@ -14,7 +14,7 @@ namespace pawnfield::faults {
 
 namespace {
 
-Folders FoldersOf(const Places& places) { return {*SpelledPath(places.App()), *SpelledPath(places.Data())}; }
+Folders FoldersOf(const Places& places) { return {SpelledPath(places.App()), SpelledPath(places.Data())}; }
 
 }  // namespace
 

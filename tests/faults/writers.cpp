@@ -46,7 +46,7 @@ void Press(Form& form, Control& control) {
   control.Click();
 }
 
-std::string Spelled(const QString& path) { return *SpelledPath(path); }
+std::string Spelled(const QString& path) { return SpelledPath(path); }
 std::string SetPath(const Rig& rig, const char* name) { return Spelled(rig.places.App() + "/Trivia Sets/" + name); }
 
 void SaveSet(Rig& rig, int variant) {

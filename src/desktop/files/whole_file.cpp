@@ -31,6 +31,8 @@ int ErrorNumber(int systemError) {
     case EISDIR:
     case EEXIST:
     case ETXTBSY:
+    case ELOOP:
+    case ENAMETOOLONG:
       return kErrorPathAccess;
     default:
       return kErrorDeviceIo;
@@ -74,8 +76,12 @@ class Part {
   Part(const Part&) = delete;
   Part& operator=(const Part&) = delete;
 
-  void SetRights(mode_t rights) {
-    if (fchmod(file_, rights) != 0) Fail();
+  // Another's file may be given to its owner by root alone, and to a group by those who are in it; what may not be
+  // stays this user's. The rights come last, as a change of the owner takes some of them away.
+  void TakeAfter(const struct stat& old) {
+    const bool both = fchown(file_, old.st_uid, old.st_gid) == 0;
+    [[maybe_unused]] const bool group = both || fchown(file_, static_cast<uid_t>(-1), old.st_gid) == 0;
+    if (fchmod(file_, old.st_mode & 07777) != 0) Fail();
   }
 
   void Write(std::string_view bytes) {
@@ -105,8 +111,20 @@ class Part {
   bool moved_ = false;
 };
 
-// What all parts of the target begin with; cut, so that a long name leaves room for the rest.
-QString PartBeginning(const QFileInfo& target) { return '.' + target.fileName().left(100) + '.'; }
+// The longest name that the folder's disk takes, in bytes.
+qsizetype LongestName(const QFileInfo& target) {
+  constexpr long kUsual = 255;
+  const long told = pathconf(QFile::encodeName(target.absolutePath()).constData(), _PC_NAME_MAX);
+  return told > 0 ? told : kUsual;
+}
+
+// What all parts of the target begin with; cut, so that a long name leaves room for the process and the ending.
+QString PartBeginning(const QFileInfo& target) {
+  constexpr qsizetype kRest = 24;
+  QString name = target.fileName();
+  while (QFile::encodeName(name).size() > LongestName(target) - kRest) name.chop(name.back().isLowSurrogate() ? 2 : 1);
+  return '.' + name + '.';
+}
 
 void RemoveParts(const QFileInfo& target) {
   const QString beginning = PartBeginning(target);
@@ -115,6 +133,25 @@ void RemoveParts(const QFileInfo& target) {
     const pid_t owner = name.mid(beginning.size()).chopped(static_cast<qsizetype>(qstrlen(kPartEnding))).toInt();
     if (owner > 0 && kill(owner, 0) != 0 && errno == ESRCH) QFile::remove(target.absolutePath() + '/' + name);
   }
+}
+
+// A link stays one: what it points at is replaced, or made.
+QFileInfo Target(const QString& path) {
+  constexpr int kLongestChain = 40;
+  QFileInfo target(path);
+  for (int i = 0; target.isSymLink(); ++i) {
+    if (i == kLongestChain) throw FileError(ELOOP);
+    target = QFileInfo(target.symLinkTarget());
+  }
+  return target;
+}
+
+// The new name is in place by now; a disk that can't sync a folder keeps it in its own time.
+void SyncFolder(const QString& path) {
+  const int folder = open(QFile::encodeName(path).constData(), O_RDONLY | O_DIRECTORY | O_CLOEXEC);
+  if (folder < 0) return;
+  fsync(folder);
+  close(folder);
 }
 
 }  // namespace
@@ -133,19 +170,19 @@ QByteArray ReadFile(const QString& path) {
 }
 
 void ReplaceFile(const QString& path, std::string_view bytes) {
-  // A link stays one; what it points at is replaced.
-  const QFileInfo target(QFileInfo::exists(path) ? QFileInfo(path).canonicalFilePath() : path);
-  const QByteArray name = QFile::encodeName(target.filePath());
+  const QFileInfo target = Target(path);
+  const QByteArray name = QFile::encodeName(target.absoluteFilePath());
   struct stat old {};
   const bool exists = stat(name.constData(), &old) == 0;
   if (exists && !S_ISREG(old.st_mode)) throw FileError(EISDIR);
   if (exists && access(name.constData(), W_OK) != 0) Fail();
   RemoveParts(target);
   Part part(target.absolutePath() + '/' + PartBeginning(target) + QString::number(getpid()) + kPartEnding, 0666);
-  if (exists) part.SetRights(old.st_mode & 0777);
+  if (exists) part.TakeAfter(old);
   part.Write(bytes);
   part.Finish();
   part.MoveTo(name);
+  SyncFolder(target.absolutePath());
 }
 
 }  // namespace pawnfield

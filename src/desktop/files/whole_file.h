@@ -15,8 +15,11 @@ RuntimeError FileError(int systemError);
 // the right to it is missing.
 QByteArray ReadFile(const QString& path);
 
-// Puts the bytes in the file's place, on the disk when it returns. After a RuntimeError the old file is there unharmed
-// and nothing beside it. What a process left that was killed amid a write goes with the next write of the same file.
+// Puts the bytes in the file's place, on the disk with its folder when it returns. A file that was there gives the new
+// one its rights, and its owner and group where this user may set them. A link stays one and its target is replaced; of
+// a file that has several names, this name alone gets the bytes and the others keep the old ones. After a RuntimeError
+// the old file is there unharmed and nothing beside it. What a process left that was killed amid a write goes with the
+// next write of the same file.
 void ReplaceFile(const QString& path, std::string_view bytes);
 
 }  // namespace pawnfield
