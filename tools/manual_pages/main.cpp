@@ -54,8 +54,8 @@ void MakePages(const fs::path& texts, const fs::path& licence, const fs::path& p
     const std::string stem = entry.path().stem().string();
     WritePage(pages / (stem + ".html"), TitleOf(text), HtmlOf(text), stem == "index");
   }
-  WritePage(pages / "licence.html", "Licence", "<h1>Licence</h1>\n<pre>" + EscapeHtml(Read(licence)) + "</pre>\n",
-            false);
+  WritePage(pages / "licence.html", "Licence",
+            "<h1>Licence</h1>\n<pre style=\"white-space: pre-wrap\">" + EscapeHtml(Read(licence)) + "</pre>\n", false);
   if (fs::exists(texts / "pictures")) {
     fs::copy(texts / "pictures", pages / "pictures",
              fs::copy_options::recursive | fs::copy_options::overwrite_existing);

@@ -1,7 +1,10 @@
 #include "markdown.h"
 
-#include <sstream>
-#include <vector>
+#include <cmark-gfm-core-extensions.h>
+#include <cmark-gfm.h>
+
+#include <cstdlib>
+#include <memory>
 
 namespace pawnfield {
 
@@ -9,143 +12,66 @@ namespace {
 
 constexpr int kPictureWidth = 760;
 
-bool StartsWith(const std::string& text, const std::string& start) { return text.compare(0, start.size(), start) == 0; }
+template <auto Free>
+struct Freed {
+  template <typename T>
+  void operator()(T* object) const {
+    Free(object);
+  }
+};
+using Parser = std::unique_ptr<cmark_parser, Freed<cmark_parser_free>>;
+using Node = std::unique_ptr<cmark_node, Freed<cmark_node_free>>;
+using Iterator = std::unique_ptr<cmark_iter, Freed<cmark_iter_free>>;
+using Text = std::unique_ptr<char, Freed<std::free>>;
 
-std::string Trimmed(const std::string& text) {
-  const std::size_t first = text.find_first_not_of(" \r");
-  return first == std::string::npos ? "" : text.substr(first, text.find_last_not_of(" \r") - first + 1);
+Parser TableParser() {
+  cmark_gfm_core_extensions_ensure_registered();
+  Parser parser(cmark_parser_new(CMARK_OPT_DEFAULT));
+  cmark_parser_attach_syntax_extension(parser.get(), cmark_find_syntax_extension("table"));
+  return parser;
 }
 
-// How long the mark of a numbered item ("12. ") is; 0 when the line is none.
-std::size_t NumberMark(const std::string& line) {
-  const std::size_t digits = line.find_first_not_of("0123456789");
-  return digits != 0 && digits != std::string::npos && line.compare(digits, 2, ". ") == 0 ? digits + 2 : 0;
+Node Parse(cmark_parser& parser, const std::string& markdown) {
+  cmark_parser_feed(&parser, markdown.data(), markdown.size());
+  return Node(cmark_parser_finish(&parser));
+}
+
+// Calls with each node once, in the order of the text. The call may put another in its place.
+template <typename Visit>
+void EachNode(cmark_node& root, Visit&& visit) {
+  const Iterator nodes(cmark_iter_new(&root));
+  for (cmark_event_type event = cmark_iter_next(nodes.get()); event != CMARK_EVENT_DONE;
+       event = cmark_iter_next(nodes.get())) {
+    // On the way out of a node its children have been seen.
+    if (event == CMARK_EVENT_EXIT) visit(cmark_iter_get_node(nodes.get()));
+  }
+}
+
+std::string PlainText(cmark_node& node) {
+  const Iterator nodes(cmark_iter_new(&node));
+  std::string text;
+  while (cmark_iter_next(nodes.get()) != CMARK_EVENT_DONE) {
+    const char* literal = cmark_node_get_literal(cmark_iter_get_node(nodes.get()));
+    if (literal != nullptr) text += literal;
+  }
+  return text;
 }
 
 std::string PageOf(const std::string& target) {
   if (target == "../../LICENSE") return "licence.html";
   const std::size_t text = target.find(".md");
-  if (text == std::string::npos || StartsWith(target, "http")) return target;
+  if (text == std::string::npos || target.starts_with("http")) return target;
   return target.substr(0, text) + ".html" + target.substr(text + 3);
 }
 
-// "[words](target)" at the place, with or without "!" before it; moves the place behind it. False when it isn't one.
-bool TakeLink(const std::string& text, std::size_t& at, std::string& html) {
-  const bool picture = text[at] == '!';
-  const std::size_t open = at + (picture ? 1 : 0);
-  if (open >= text.size() || text[open] != '[') return false;
-  const std::size_t middle = text.find("](", open);
-  const std::size_t end = middle == std::string::npos ? middle : text.find(')', middle);
-  if (end == std::string::npos) return false;
-  const std::string words = EscapeHtml(text.substr(open + 1, middle - open - 1));
-  const std::string target = PageOf(text.substr(middle + 2, end - middle - 2));
-  html += picture ? "<img src=\"" + target + "\" alt=\"" + words + "\" width=\"" + std::to_string(kPictureWidth) + "\">"
-                  : "<a href=\"" + target + "\">" + words + "</a>";
-  at = end + 1;
-  return true;
+void PlacePicture(cmark_node* picture) {
+  const std::string html = std::string("<img src=\"") + cmark_node_get_url(picture) + "\" alt=\"" +
+                           EscapeHtml(PlainText(*picture)) + "\" width=\"" + std::to_string(kPictureWidth) + "\">";
+  cmark_node* widened = cmark_node_new(CMARK_NODE_CUSTOM_INLINE);
+  cmark_node_set_on_enter(widened, html.c_str());
+  cmark_node_replace(picture, widened);
+  cmark_node_free(picture);
 }
-
-// Text between two equal marks becomes the tag; moves the place behind it.
-bool TakeMarked(const std::string& text, std::size_t& at, const std::string& mark, const char* tag, std::string& html) {
-  if (text.compare(at, mark.size(), mark) != 0) return false;
-  const std::size_t end = text.find(mark, at + mark.size());
-  if (end == std::string::npos) return false;
-  const std::string inner = EscapeHtml(text.substr(at + mark.size(), end - at - mark.size()));
-  html += std::string("<") + tag + ">" + inner + "</" + tag + ">";
-  at = end + mark.size();
-  return true;
-}
-
-std::string Inline(const std::string& text) {
-  std::string html;
-  std::size_t at = 0;
-  while (at < text.size()) {
-    if (TakeMarked(text, at, "**", "b", html) || TakeMarked(text, at, "`", "code", html)) continue;
-    if ((text[at] == '[' || text[at] == '!') && TakeLink(text, at, html)) continue;
-    html += EscapeHtml(text.substr(at++, 1));
-  }
-  return html;
-}
-
-class Page {
- public:
-  void Line(const std::string& raw) {
-    const std::string line = Trimmed(raw);
-    if (line.empty()) {
-      End();
-    } else if (line[0] == '#') {
-      Heading(line);
-    } else if (line[0] == '|') {
-      TableRow(line);
-    } else if (StartsWith(line, "- ")) {
-      Item("ul", line.substr(2));
-    } else if (const std::size_t mark = NumberMark(line); mark != 0) {
-      Item("ol", line.substr(mark));
-    } else {
-      Continue(line);
-    }
-  }
-  std::string Html() {
-    End();
-    return html_;
-  }
-
- private:
-  // Closes the paragraph or item, and then the list or table around it.
-  void End() {
-    EndText();
-    if (!around_.empty()) html_ += "</" + around_ + ">\n";
-    around_.clear();
-  }
-  void EndText() {
-    if (!text_.empty()) html_ += "<" + tag_ + ">" + Inline(text_) + "</" + tag_ + ">\n";
-    text_.clear();
-  }
-  void Around(const std::string& tag) {
-    EndText();
-    if (around_ == tag) return;
-    End();
-    html_ += "<" + tag + ">\n";
-    around_ = tag;
-  }
-  void Heading(const std::string& line) {
-    End();
-    const std::size_t level = line.find_first_not_of('#');
-    const std::string tag = "h" + std::to_string(level);
-    html_ += "<" + tag + ">" + Inline(Trimmed(line.substr(level))) + "</" + tag + ">\n";
-  }
-  void Item(const std::string& list, const std::string& text) {
-    Around(list);
-    tag_ = "li";
-    text_ = text;
-  }
-  void Continue(const std::string& line) {
-    if (text_.empty()) {
-      End();
-      tag_ = "p";
-      text_ = line;
-    } else {
-      text_ += ' ' + line;
-    }
-  }
-  void TableRow(const std::string& line) {
-    const bool heading = around_ != "table";
-    Around("table");
-    if (line.find_first_not_of("|-: ") == std::string::npos) return;
-    html_ += "<tr>";
-    std::istringstream cells(line.substr(1));
-    for (std::string cell; std::getline(cells, cell, '|');) {
-      const char* tag = heading ? "th" : "td";
-      html_ += std::string("<") + tag + ">" + Inline(Trimmed(cell)) + "</" + tag + ">";
-    }
-    html_ += "</tr>\n";
-  }
-
-  std::string html_;
-  std::string around_;
-  std::string tag_;
-  std::string text_;
-};
 
 }  // namespace
 
@@ -168,18 +94,24 @@ std::string EscapeHtml(const std::string& text) {
 }
 
 std::string TitleOf(const std::string& markdown) {
-  std::istringstream lines(markdown);
-  for (std::string line; std::getline(lines, line);) {
-    if (StartsWith(line, "# ")) return Trimmed(line.substr(2));
-  }
-  return "";
+  const Parser parser = TableParser();
+  const Node root = Parse(*parser, markdown);
+  cmark_node* first = cmark_node_first_child(root.get());
+  while (first != nullptr && cmark_node_get_type(first) != CMARK_NODE_HEADING) first = cmark_node_next(first);
+  return first == nullptr ? "" : PlainText(*first);
 }
 
 std::string HtmlOf(const std::string& markdown) {
-  Page page;
-  std::istringstream lines(markdown);
-  for (std::string line; std::getline(lines, line);) page.Line(line);
-  return page.Html();
+  const Parser parser = TableParser();
+  const Node root = Parse(*parser, markdown);
+  EachNode(*root, [](cmark_node* node) {
+    if (cmark_node_get_type(node) == CMARK_NODE_LINK) {
+      cmark_node_set_url(node, PageOf(cmark_node_get_url(node)).c_str());
+    }
+    if (cmark_node_get_type(node) == CMARK_NODE_IMAGE) PlacePicture(node);
+  });
+  const Text html(cmark_render_html(root.get(), CMARK_OPT_DEFAULT, cmark_parser_get_syntax_extensions(parser.get())));
+  return html.get();
 }
 
 }  // namespace pawnfield

@@ -1,5 +1,4 @@
-// The part of Markdown that the manual is written in, as HTML: headings, paragraphs, lists, numbered lists, tables,
-// pictures, links, bold and code.
+// The manual's Markdown, with its tables, as HTML.
 #pragma once
 
 #include <string>
@@ -8,7 +7,7 @@ namespace pawnfield {
 
 // The text of the first heading, empty when there is none.
 std::string TitleOf(const std::string& markdown);
-// Links to other texts (".md") and to the licence lead to their pages.
+// Links to other texts (".md") and to the licence lead to their pages; pictures are as wide as a page.
 std::string HtmlOf(const std::string& markdown);
 std::string EscapeHtml(const std::string& text);
 
