@@ -12,6 +12,9 @@ ConfigKeysForm::ConfigKeysForm() : Form("frmConfigKeys") {
   lblInfo.Caption = "You may assign a letter to the following functions - (letters are not case sensitive).";
   lblKeyPrompt[0].Caption = "Correct";
   lblKeyPrompt[1].Caption = "Incorrect";
+  for (std::size_t i = 0; i < 2; ++i) {
+    txtKey[i].ToolTipText = "Kept with the settings. The console itself judges with Y and N.";
+  }
   btnKeyDefaults.Caption = "Restore Defaults";
   btnFinished.Caption = "Finished";
   btnCancel.Caption = "Cancel";

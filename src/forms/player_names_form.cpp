@@ -12,6 +12,11 @@ PlayerNamesForm::PlayerNamesForm() : Form("frmPlayerNames") {
   lblPlayer3Prompt.Caption = "Player 3";
   lblPenaltyPoints.Caption = "Buzzer Press Penalty Amount";
   Label1.Caption = "Buzzer press penalty applies to Trivia Mode C only";
+  for (Control* control : {static_cast<Control*>(&chkPlayer1Penalty), static_cast<Control*>(&chkPlayer2Penalty),
+                           static_cast<Control*>(&chkPlayer3Penalty), static_cast<Control*>(&cboPenaltyPoints),
+                           static_cast<Control*>(&Command1), static_cast<Control*>(&Command2)}) {
+    control->ToolTipText = "Kept with the settings. No press costs points in this version.";
+  }
   btnClearAll.Caption = "Clear Names";
   Command2.Caption = "Set Penalties";
   Command1.Caption = "Clear Penalties";
