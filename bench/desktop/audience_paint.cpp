@@ -73,7 +73,7 @@ class PaintBench {
  private:
   static DesktopPlaces PlacesBelow(const QString& folder) {
     DesktopPlaces places;
-    places.folders.DataRoot = SpelledPath(folder + "/Ostara Show Kit Data").value_or("");
+    places.folders.DataRoot = SpelledPath(folder + "/Ostara Show Kit Data");
     places.configFolder = folder + "/config";
     places.runtimeFolder = folder + "/run";
     return places;

@@ -12,11 +12,13 @@ void PrintMedian(const std::string& name, std::vector<double> milliseconds);
 // The value that so many in 100 of them do not exceed; as a line under that name.
 void PrintPercentile(const std::string& name, std::vector<double> milliseconds, std::size_t percent);
 
-// Starts this program several times over as the show's program, and takes the time to its first windows.
+// Starts this program several times over as the show's program, and by turns as a plain window of the toolkit's. Takes
+// the times to their windows and what they hold at rest. False when a start failed.
 bool MeasureStartUp();
-// One such start: prints the time from the given reading of the steady clock to the loading form's first paint, and
-// the time that the console takes from the start of its load to its first paint.
+// One such start: prints the milliseconds from the given reading of the steady clock to the first paint of the loading
+// form and of the console, whose splash is clicked away, and then megabytes and threads.
 int RunStartUp(long long startedNs, const QString& folder);
+int RunPlain(long long startedNs);
 
 // What the audience's window costs at 1920x1080 and at 3840x2160: frames, a claim until both windows are painted, the
 // flip and standing still. False where there is no second monitor.

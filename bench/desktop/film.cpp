@@ -94,7 +94,7 @@ bool MeasureFilm() {
   Show& show = driver.TheShow();
   driver.Press("optGameType_0");
   driver.Press("btnStart");
-  show.soundBanks[1][kFilmKey] = SpelledPath(path).value_or("");
+  show.soundBanks[1][kFilmKey] = SpelledPath(path);
   PlayKeyMedia(show, kFilmKey);
   if (!driver.WaitFor([&] { return show.frmMain.MediaPlayer1.PlayState == 3; }, kLoadingMs)) return false;
   const QRectF console = ConsoleFilm(driver.Program().Console());

@@ -28,7 +28,10 @@ int main(int argc, char** argv) {
   QApplication application(argc, argv);
   pawnfield::PrepareApplication();
   const QStringList words = QApplication::arguments().mid(1);
-  if (words.size() == 2 && words[0].toLongLong() > 0) return pawnfield::RunStartUp(words[0].toLongLong(), words[1]);
+  if (words.size() == 3 && words[0].toLongLong() > 0) {
+    const long long started = words[0].toLongLong();
+    return words[1] == "plain" ? pawnfield::RunPlain(started) : pawnfield::RunStartUp(started, words[2]);
+  }
   using Measure = std::pair<const char*, bool (*)()>;
   bool all = true;
   for (const auto& [name, measure] : {Measure{"fits",

@@ -122,7 +122,7 @@ void StartGame(Show& show, HandedReports& port) {
 bool MeasurePresses() {
   const QTemporaryDir folder;
   DesktopPlaces places;
-  places.folders.DataRoot = SpelledPath(folder.path() + "/data").value_or("");
+  places.folders.DataRoot = SpelledPath(folder.path() + "/data");
   places.configFolder = folder.path() + "/config";
   places.runtimeFolder = folder.path() + "/run";
   HandedReports port;

@@ -1,7 +1,10 @@
 #include <QApplication>
+#include <QFile>
+#include <QLabel>
 #include <QProcess>
 #include <QTemporaryDir>
 #include <QTimer>
+#include <array>
 #include <chrono>
 #include <cstdio>
 #include <optional>
@@ -10,7 +13,6 @@
 #include "desktop/files/native_path.h"
 #include "figures.h"
 #include "forms/small_forms.h"
-#include "program/main_load.h"
 #include "program/program.h"
 
 namespace pawnfield {
@@ -19,6 +21,7 @@ namespace {
 
 constexpr int kStarts = 7;
 constexpr int kLongestStartMs = 30000;
+constexpr int kRestMs = 2000;
 
 long long NowNs() {
   return std::chrono::duration_cast<std::chrono::nanoseconds>(std::chrono::steady_clock::now().time_since_epoch())
@@ -54,63 +57,111 @@ QWidget& WindowOf(DesktopProgram& program, const Form& form) {
 
 DesktopPlaces PlacesBelow(const QString& folder) {
   DesktopPlaces places;
-  places.folders.DataRoot = SpelledPath(folder + "/Ostara Show Kit Data").value_or("");
+  places.folders.DataRoot = SpelledPath(folder + "/Ostara Show Kit Data");
   places.configFolder = folder + "/config";
   places.runtimeFolder = folder + "/run";
   return places;
 }
 
-struct StartTimes {
-  double firstPaint = 0, console = 0;
+// What one start took, and what the program holds when it has come to rest.
+struct StartFigures {
+  double firstPaint = 0, console = 0, megabytes = 0, threads = 0;
 };
 
-std::optional<StartTimes> StartOnce() {
+// The value of that line of a file of the kernel's about this process, in the line's own unit; 0 without one.
+double OfThisProcess(const char* file, const char* line) {
+  QFile status(QString("/proc/self/") + file);
+  if (!status.open(QFile::ReadOnly)) return 0;
+  const QByteArray text = status.readAll();
+  const qsizetype at = text.indexOf(line);
+  return at < 0 ? 0
+                : text.mid(at + static_cast<qsizetype>(qstrlen(line)))
+                      .trimmed()
+                      .split(' ')
+                      .first()
+                      .split('\n')
+                      .first()
+                      .toDouble();
+}
+
+// Tells what is held after a while of rest, and ends. Memory that is shared with others counts by its share.
+void TellAtRest() {
+  QTimer::singleShot(kRestMs, [] {
+    constexpr double kKilobytes = 1024;
+    std::printf("%f %f\n", OfThisProcess("smaps_rollup", "\nPss:") / kKilobytes, OfThisProcess("status", "Threads:"));
+    // Quitting would ask the windows, and the console would ask the operator.
+    QApplication::exit();
+  });
+}
+
+std::optional<StartFigures> StartOnce(const char* mode) {
   const QTemporaryDir folder;
   QProcess process;
   process.setProcessChannelMode(QProcess::ForwardedErrorChannel);
-  process.start(QCoreApplication::applicationFilePath(), {QString::number(NowNs()), folder.path()});
+  process.start(QCoreApplication::applicationFilePath(), {QString::number(NowNs()), mode, folder.path()});
   if (!process.waitForFinished(kLongestStartMs)) {
     process.kill();
     process.waitForFinished();
     return std::nullopt;
   }
-  StartTimes times;
+  StartFigures figures;
   const QByteArray output = process.readAllStandardOutput();
-  if (std::sscanf(output.constData(), "%lf %lf", &times.firstPaint, &times.console) != 2) return std::nullopt;
-  return times;
+  const int read = std::sscanf(output.constData(), "%lf %lf %lf %lf", &figures.firstPaint, &figures.console,
+                               &figures.megabytes, &figures.threads);
+  if (read != 4) return std::nullopt;
+  return figures;
 }
 
 }  // namespace
 
+int RunPlain(long long startedNs) {
+  QLabel window("A window of the toolkit's, and nothing else");
+  const FirstPaint painted(window, [&] {
+    const double ms = static_cast<double>(NowNs() - startedNs) / 1e6;
+    std::printf("%f %f ", ms, ms);
+    TellAtRest();
+  });
+  window.showMaximized();
+  return QApplication::exec();
+}
+
 int RunStartUp(long long startedNs, const QString& folder) {
   DesktopProgram program(PlacesBelow(folder));
   Show& show = program.TheShow();
-  long long loadedNs = 0;
+  // Missing hardware has been told before; the operator clicks on the splash as soon as it is seen.
+  show.platform.settings.SaveSetting("Pawnfield", "Settings", "NoHardwareTold", "True");
   const FirstPaint console(program.Console(), [&] {
-    std::printf("%f\n", static_cast<double>(NowNs() - loadedNs) / 1e6);
-    // Quitting would ask the windows, and the console would ask the operator.
-    QApplication::exit();
+    std::printf("%f ", static_cast<double>(NowNs() - startedNs) / 1e6);
+    TellAtRest();
   });
-  // The splash stands for a fixed time, so the console's load is started here without it.
-  const FirstPaint loading(WindowOf(program, show.frmLoading), [&] {
-    loadedNs = NowNs();
-    std::printf("%f ", static_cast<double>(loadedNs - startedNs) / 1e6);
-    LoadMainForm(show);
-  });
+  const FirstPaint loading(WindowOf(program, show.frmLoading),
+                           [&] { std::printf("%f ", static_cast<double>(NowNs() - startedNs) / 1e6); });
+  const FirstPaint splash(WindowOf(program, show.frmSplash), [&] { show.frmSplash.Click(); });
   Main(show);
   return QApplication::exec();
 }
 
 bool MeasureStartUp() {
-  std::vector<double> firstPaints, consoles;
+  // By turns, so that both see the same machine.
+  const std::array modes{"program", "plain"};
+  std::array<std::vector<StartFigures>, modes.size()> all;
   for (int i = 0; i < kStarts; ++i) {
-    const std::optional<StartTimes> times = StartOnce();
-    if (!times) return false;
-    firstPaints.push_back(times->firstPaint);
-    consoles.push_back(times->console);
+    for (std::size_t mode = 0; mode < modes.size(); ++mode) {
+      const std::optional<StartFigures> figures = StartOnce(modes[mode]);
+      if (!figures) return false;
+      all[mode].push_back(*figures);
+    }
   }
-  PrintMedian("Start/first_paint", firstPaints);
-  PrintMedian("Start/console", consoles);
+  for (std::size_t mode = 0; mode < modes.size(); ++mode) {
+    for (const auto& [name, figure] : {std::pair{"first_paint", &StartFigures::firstPaint},
+                                       {"console", &StartFigures::console},
+                                       {"megabytes", &StartFigures::megabytes},
+                                       {"threads", &StartFigures::threads}}) {
+      std::vector<double> values;
+      for (const StartFigures& figures : all[mode]) values.push_back(figures.*figure);
+      PrintMedian(std::string(mode == 0 ? "Start/" : "PlainStart/") + name, values);
+    }
+  }
   return true;
 }
 

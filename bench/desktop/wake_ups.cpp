@@ -46,7 +46,7 @@ long long Waits() {
 bool MeasureWakeUps() {
   const QTemporaryDir folder;
   DesktopPlaces places;
-  places.folders.DataRoot = SpelledPath(folder.path() + "/data").value_or("");
+  places.folders.DataRoot = SpelledPath(folder.path() + "/data");
   places.configFolder = folder.path() + "/config";
   places.runtimeFolder = folder.path() + "/run";
   DesktopProgram program(places);

@@ -1,12 +1,35 @@
 #include "config/help.h"
 
 #include <string>
+#include <utility>
 
 #include "forms/help_about_form.h"
 #include "forms/main_form.h"
 #include "show/show.h"
 
 namespace pawnfield {
+
+const char* HelpPageOf(const std::string& form) {
+  constexpr std::pair<const char*, const char*> kPages[] = {{"", "messages.html"},
+                                                            {"frmOptions", "options.html"},
+                                                            {"frmPlayerNames", "options.html"},
+                                                            {"frmEditor", "preparing-sets.html"},
+                                                            {"frmEditChoice", "preparing-sets.html"},
+                                                            {"frmDialog2", "preparing-sets.html"},
+                                                            {"frmSoundEffects", "sound-and-music.html"},
+                                                            {"frmOptionalHeaders", "sound-and-music.html"},
+                                                            {"frmConfigKeys", "keys.html"},
+                                                            {"frmMapMF", "pads-remotes.html"},
+                                                            {"frmSetInterface", "pads-remotes.html"},
+                                                            {"frmConnectToProjector", "two-screens.html"},
+                                                            {"frmGameTypeHelp", "game-types.html"},
+                                                            {"frmGameInProgress", "game-types.html"},
+                                                            {"frmHelpAbout", "documentation.html"}};
+  for (const auto& [name, page] : kPages) {
+    if (form == name) return page;
+  }
+  return kManualPage.Shipped;
+}
 
 void OpenHelpPage(Show& show, const HelpPage& page) {
   HelpPages& pages = show.platform.pages;

@@ -1,6 +1,8 @@
 // Where the help menu's entries lead: the one place that holds the addresses of the maker's pages.
 #pragma once
 
+#include <string>
+
 namespace pawnfield {
 
 // A page of the maker's and the page of the shipped manual that stands in for it while it has no address or can't be
@@ -14,5 +16,9 @@ inline constexpr HelpPage kManualPage{"", "index.html"};
 inline constexpr HelpPage kDocumentationPage{"", "documentation.html"};
 inline constexpr HelpPage kSupportPage{"", "messages.html"};
 inline constexpr HelpPage kLicencePage{"", "licence.html"};
+
+// What F1 opens in the window of that form; the contents for a form that has no page of its own, and the messages for a
+// window that is none of the forms'.
+const char* HelpPageOf(const std::string& form);
 
 }  // namespace pawnfield

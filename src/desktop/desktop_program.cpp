@@ -50,7 +50,7 @@ DesktopProgram::DesktopProgram(const DesktopPlaces& places)
                 desktop_.mediaPlayer1),
       connectToProjector_(show_.frmConnectToProjector, desktop_.windows, desktop_.pictures),
       loading_(show_.frmLoading, desktop_.windows),
-      splash_(show_.frmSplash, desktop_.windows),
+      splash_(show_.frmSplash, desktop_.windows, desktop_.screens),
       gameLoading_(show_.frmGameLoading, desktop_.windows),
       gameInProgress_(show_.frmGameInProgress, desktop_.windows),
       gameTypeHelp_(show_.frmGameTypeHelp, desktop_.windows),
@@ -64,7 +64,8 @@ DesktopProgram::DesktopProgram(const DesktopPlaces& places)
       optionalHeaders_(show_.frmOptionalHeaders, desktop_.windows),
       options_(show_.frmOptions, desktop_.windows),
       mapMF_(show_.frmMapMF, desktop_.windows),
-      setInterface_(show_.frmSetInterface, desktop_.windows) {}
+      setInterface_(show_.frmSetInterface, desktop_.windows),
+      helpKey_(show_) {}
 
 // The clock, the serial line and the watch over the devices outlive the forms, whose timers must not be looked at any
 // more.
@@ -80,6 +81,11 @@ std::vector<FormWindow*> DesktopProgram::Windows() {
           &gameInProgress_, &gameTypeHelp_, &playerNames_,        &helpAbout_,       &configKeys_, &editor_,
           &editChoice_,     &missingMedia_, &soundEffects_,       &optionalHeaders_, &options_,    &mapMF_,
           &setInterface_};
+}
+
+void NameApplication() {
+  QCoreApplication::setApplicationName("Pawnfield");
+  QCoreApplication::setApplicationVersion(PAWNFIELD_VERSION);
 }
 
 void PrepareApplication() {

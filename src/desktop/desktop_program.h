@@ -8,6 +8,7 @@
 #include "desktop/windows/console_window.h"
 #include "desktop/windows/editor_window.h"
 #include "desktop/windows/help_about_window.h"
+#include "desktop/windows/help_key.h"
 #include "desktop/windows/optional_headers_window.h"
 #include "desktop/windows/options_window.h"
 #include "desktop/windows/player_names_window.h"
@@ -55,8 +56,11 @@ class DesktopProgram {
   OptionsWindow options_;
   MapMFWindow mapMF_;
   SetInterfaceWindow setInterface_;
+  HelpKey helpKey_;
 };
 
+// Its name and version, as the desktop and the command line are told.
+void NameApplication();
 // What the application object needs before the first window: fonts, colours, number format.
 void PrepareApplication();
 

@@ -72,6 +72,19 @@ void ShowReadyBoard(Show& show) {
   form.btnStart.Visible = true;
 }
 
+// Loads the file that the console's dialog names, and makes the board ready for it.
+void LoadChosenSet(Show& show) {
+  const std::string path = show.consoleDialog.FileName;
+  if (Trim(path).empty() || !LoadGameSet(show, path)) return;
+  ClearForNewSet(show);
+  ApplyPlayerLayout(show, show.state.Players);
+  BuildFSGrid(show, show.state.GridSize);
+  ReadySet(show);
+  PublishScores(show);
+  ShowReadyBoard(show);
+  if (show.state.GameLoaded) CheckSetMedia(show);
+}
+
 }  // namespace
 
 void StopShowing(Show& show) {
@@ -85,15 +98,17 @@ void StopShowing(Show& show) {
 void btnSelectGame_Click(Show& show) {
   show.consoleDialog = {"", "Game Sets(*.txt)|*.txt", show.state.SetsFolder};
   ShowOpen(show, show.consoleDialog);
-  const std::string path = show.consoleDialog.FileName;
-  if (Trim(path).empty() || !LoadGameSet(show, path)) return;
-  ClearForNewSet(show);
-  ApplyPlayerLayout(show, show.state.Players);
-  BuildFSGrid(show, show.state.GridSize);
-  ReadySet(show);
-  PublishScores(show);
-  ShowReadyBoard(show);
-  if (show.state.GameLoaded) CheckSetMedia(show);
+  LoadChosenSet(show);
+}
+
+void OpenSetAtStart(Show& show) {
+  if (show.consoleDialog.FileName.empty()) return;
+  if (!show.state.Nature().Trivia) {
+    show.platform.dialogs.MessageBox("The set was not loaded: the game type that is selected plays without questions.",
+                                     kAppTitle, BoxKind::Plain);
+    return;
+  }
+  LoadChosenSet(show);
 }
 
 void cboList_DropDown(Show& show) {

@@ -8,6 +8,9 @@ struct Show;
 void cboList_DropDown(Show& show);
 void cboList_Click(Show& show);
 void btnSelectGame_Click(Show& show);
+// Loads the set that the program was started with, as btnSelectGame's dialog would: consoleDialog names it already.
+// Nothing without one.
+void OpenSetAtStart(Show& show);
 
 // Ends what a question or a claim has under way: its timers, panels and verdict buttons.
 void StopShowing(Show& show);

@@ -4,6 +4,7 @@
 #include "media/media_kinds.h"
 #include "media/sound_channels.h"
 #include "platform/errors.h"
+#include "platform/escapes.h"
 #include "platform/text.h"
 #include "show/show.h"
 
@@ -44,7 +45,7 @@ bool LoadMusicList(Show& show) {
       ReportError(show.platform.dialogs, SubscriptError(), "frmMain", "LoadMusicList", folder);
       break;
     }
-    list.push_back((folder + name).substr(0, kLongestPath));
+    list.push_back(FirstLetters(folder + name, kLongestPath));
   }
   return !list.empty();
 }

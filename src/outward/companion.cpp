@@ -7,6 +7,7 @@
 #include "forms/main_form.h"
 #include "forms/small_forms.h"
 #include "platform/errors.h"
+#include "platform/escapes.h"
 #include "platform/text.h"
 #include "show/show.h"
 
@@ -20,7 +21,7 @@ constexpr int kFirstBox = 139;
 constexpr const char* kNoObject = "999";
 
 std::string Filled(const std::string& text, std::size_t length) {
-  return (text + std::string(length, '~')).substr(0, length);
+  return FirstLetters(text + std::string(length, '~'), length);
 }
 
 std::string LastCharacters(const std::string& text, std::size_t length) {
@@ -50,7 +51,7 @@ CompanionReport ReportOf(Show& show, int player) {
 
 void Send(Show& show, const std::string& text) {
   if (show.dgTransceiver) {
-    show.dgTransceiver->SendData(text);
+    show.dgTransceiver->SendData(PlainLetters(text));
   } else {
     show.platform.processes.StartHelper("PadBridge.exe", text);
   }

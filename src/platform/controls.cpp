@@ -2,6 +2,8 @@
 
 #include <algorithm>
 
+#include "platform/escapes.h"
+
 namespace pawnfield {
 
 Control::Control(Form& form, std::string name, ControlKind kind) : form_(form), name_(std::move(name)), kind_(kind) {
@@ -74,7 +76,7 @@ void Form::Unload() {
 
 void TextBox::Type(const std::string& text) {
   if (!IsReachable()) return;
-  Text = MaxLength == 0 ? text : text.substr(0, MaxLength);
+  Text = MaxLength == 0 ? text : FirstLetters(text, MaxLength);
   Raise(OnChange, "_Change");
 }
 

@@ -5,6 +5,9 @@
 #include <charconv>
 #include <cmath>
 #include <string_view>
+#include <utility>
+
+#include "platform/escapes.h"
 
 namespace pawnfield {
 
@@ -69,6 +72,25 @@ char Capital(char c) {
   }
 }
 
+// Of the letters beyond Windows-1252. Where a letter and its capital stand side by side, the capital is the even one up
+// to U+0137 and from U+014A to U+0177, else the odd one.
+char32_t CapitalCode(char32_t code) {
+  const auto within = [code](char32_t first, char32_t last) { return code >= first && code <= last; };
+  constexpr char32_t kDotlessI = 0x131;
+  if (code == kDotlessI) return U'I';
+  if (within(0x100, 0x137) || within(0x14A, 0x177)) return code & ~char32_t{1};
+  if (within(0x139, 0x148) || within(0x179, 0x17E)) return code % 2 == 0 ? code - 1 : code;
+  constexpr std::array<std::pair<char32_t, char32_t>, 7> kAccentedGreek{
+      {{0x3AC, 0x386}, {0x3AD, 0x388}, {0x3AE, 0x389}, {0x3AF, 0x38A}, {0x3CC, 0x38C}, {0x3CD, 0x38E}, {0x3CE, 0x38F}}};
+  for (const auto& [small, capital] : kAccentedGreek) {
+    if (code == small) return capital;
+  }
+  constexpr char32_t kFinalSigma = 0x3C2;
+  if (code == kFinalSigma) return 0x3A3;
+  if (within(0x3B1, 0x3CB) || within(0x430, 0x44F)) return code - 0x20;
+  return within(0x450, 0x45F) ? code - 0x50 : code;
+}
+
 }  // namespace
 
 std::string Trim(const std::string& text) {
@@ -90,8 +112,12 @@ std::string ToUpper(const std::string& text) {
 }
 
 std::string ToCapitals(const std::string& text) {
-  std::string result = text;
-  std::transform(result.begin(), result.end(), result.begin(), Capital);
+  std::string result;
+  for (std::size_t at = 0; at < text.size();) {
+    const auto code = EscapeAt(text, at);
+    result += code ? EscapeOf(CapitalCode(*code)) : std::string(1, Capital(text[at]));
+    at += code ? kEscapeLength : 1;
+  }
   return result;
 }
 

@@ -10,7 +10,7 @@ namespace pawnfield {
 std::string Trim(const std::string& text);
 std::string ToLower(const std::string& text);
 std::string ToUpper(const std::string& text);
-// For text that is shown: the accented letters of Windows-1252 become capitals too.
+// For text that is shown: accented, Greek and Cyrillic letters become capitals too.
 std::string ToCapitals(const std::string& text);
 // Up to and including the last backslash; empty when there is none.
 std::string ExtractFolder(const std::string& path);

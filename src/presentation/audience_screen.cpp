@@ -131,9 +131,8 @@ void UnloadAudienceScreen(Show& show) {
 void MonitorsChanged(Show& show) {
   FindAudiencePlace(show);
   show.frmFSMain.tmrRePaint.Enabled = true;
-  if (!show.frmMain.Visible) {
-    // The console's load brings the audience screen up by itself.
-    if (show.AudienceLoaded) return;
+  // The start brings the audience screen up by itself.
+  if (!show.AudienceLoaded && !show.frmMain.Visible) {
     show.state.DualScreen = HasSecondMonitor(show);
     if (show.state.DualScreen) CopyPairs(show);
     return;

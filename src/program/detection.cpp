@@ -6,11 +6,13 @@
 #include <vector>
 
 #include "controllers/zr610.h"
+#include "engine/set_choice.h"
 #include "forms/main_form.h"
 #include "forms/small_forms.h"
 #include "platform/text.h"
 #include "presentation/audience_screen.h"
 #include "program/main_load.h"
+#include "show/settings.h"
 #include "show/show.h"
 
 namespace pawnfield {
@@ -18,6 +20,7 @@ namespace pawnfield {
 namespace {
 
 constexpr int kAudienceInset = 60;
+constexpr const char* kNoHardwareTold = "NoHardwareTold";
 
 std::string Between(const std::string& text, std::size_t from, std::size_t end) {
   return text.substr(from, end == std::string::npos ? end : end - from);
@@ -34,24 +37,30 @@ void ShowAudienceAt(Show& show, int left) {
   if (show.state.DualScreen) ShowAudienceScreen(show, left);
 }
 
+// Once on a machine: from then on the console's bottom line says it.
+void ReportManualMode(Show& show) {
+  show.platform.dialogs.MessageBox("No hardware was detected so you will be loaded in manual mode.", kAppTitle,
+                                   BoxKind::Plain);
+  SaveSettingOrTell(show, kNoHardwareTold, BooleanText(true), show.frmSplash, "tmrSplash_Timer");
+}
+
 // The hardware in the order in which it is looked for.
 void ServeWhatIsFound(Show& show) {
   GameState& state = show.state;
   PressState& presses = show.presses;
+  const bool toldBefore = GetBoolSetting(show, kNoHardwareTold, false);
   presses.CommPortNumber = FindZR610Port(show.platform.serial);
   presses.ZR610Present = presses.CommPortNumber > -1;
   if (!presses.ZR610Present) {
     presses.HardwareFound = DetectHIDTransceiver(show);
-    if (!presses.HardwareFound) {
-      show.platform.dialogs.MessageBox("No hardware was detected so you will be loaded in manual mode.", kAppTitle,
-                                       BoxKind::Plain);
-    }
+    if (!presses.HardwareFound && !toldBefore) ReportManualMode(show);
     state.SerialComm = presses.HardwareFound ? InterfaceCode::Wireless : InterfaceCode::Manual;
   }
   const bool manual = !presses.ZR610Present && !presses.HardwareFound;
   ShowAudienceAt(show, state.FSLeft + (manual ? 0 : kAudienceInset));
   LoadMainForm(show);
   if (presses.ZR610Present) show.frmMain.lblStatusBar.Caption = "ZR-610 System initialized";
+  if (manual && toldBefore) show.frmMain.lblStatusBar.Caption = "No hardware was detected: manual mode";
 }
 
 }  // namespace
@@ -95,6 +104,7 @@ void tmrSplash_Timer(Show& show) {
   ServeWhatIsFound(show);
   show.frmLoading.Visible = false;
   show.frmSplash.Visible = false;
+  OpenSetAtStart(show);
 }
 
 }  // namespace pawnfield

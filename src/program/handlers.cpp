@@ -124,6 +124,7 @@ void AttachTimers(Show& show) {
   OnTimer(show, show.frmAlwaysLoaded.tmrSharedKey, FlushSharedKey);
   OnTimer(show, show.frmSplash.tmrProgress, tmrProgress_Timer);
   OnTimer(show, show.frmSplash.tmrSplash, tmrSplash_Timer);
+  show.frmSplash.OnClick = [&show] { frmSplash_Click(show); };
   for (std::size_t i = 0; i < 2; ++i) {
     form.tmrAnimate[i].OnTimer = [&show, i] { tmrAnimate_Timer(show, static_cast<int>(i)); };
   }

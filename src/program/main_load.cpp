@@ -233,6 +233,14 @@ void ShowConsole(Show& show) {
 
 }  // namespace
 
+void ShowStandbyFirst(Show& show) {
+  if (!show.state.DualScreen || show.AudienceLoaded) return;
+  SetDesignPictures(show);
+  LoadScreenPictures(show);
+  ShowPanel(show, Panel::Standby);
+  ShowAudience(show);
+}
+
 void LoadMainForm(Show& show) {
   // Each step reports its own failure, so that one bad value or file leaves the rest of the load whole.
   for (const auto step : {SetDesignPictures,   LoadSettings,  LoadInterfaceFile,   LoadZR610,     CreateTransceiver,

@@ -5,6 +5,7 @@
 #include "presentation/monitors.h"
 #include "presentation/screen_pairs.h"
 #include "program/handlers.h"
+#include "program/main_load.h"
 #include "program/start_up.h"
 #include "show/show.h"
 
@@ -24,7 +25,10 @@ void ReadMonitors(Show& show) {
 void Main(Show& show) {
   AttachHandlers(show);
   Processes& processes = show.platform.processes;
-  if (processes.AnotherInstanceRuns()) {
+  bool another = false;
+  RunGuarded(
+      show.platform.dialogs, [&] { another = processes.AnotherInstanceRuns(); }, "modMain", "Main");
+  if (another) {
     show.platform.dialogs.MessageBox(
         "There is already an instance of this application open. Please close that instance first.", kAppTitle,
         BoxKind::Critical);
@@ -33,11 +37,13 @@ void Main(Show& show) {
     return;
   }
   if (ScanForSiblings(show, ScanMode::Tell)) return;
+  ReadMonitors(show);
+  RunGuarded(
+      show.platform.dialogs, [&] { ShowStandbyFirst(show); }, "modMain", "ShowStandbyFirst");
   show.platform.displays.RoundWindow(show.frmLoading, kCornerRadius);
   show.frmLoading.Visible = true;
   RunGuarded(
       show.platform.dialogs, [&] { PrepareDataFolders(show); }, "modMain", "PrepareDataFolders");
-  ReadMonitors(show);
   show.frmAlwaysLoaded.tmrAlwaysLoaded.Enabled = true;
 }
 

@@ -10,7 +10,9 @@
 #include "platform/errors.h"
 #include "platform/text.h"
 #include "presentation/audience_screen.h"
+#include "program/detection.h"
 #include "program/interface_file.h"
+#include "program/main_load.h"
 #include "show/settings.h"
 #include "show/show.h"
 
@@ -58,11 +60,19 @@ void tmrProgress_Timer(Show& show) {
   constexpr double kStep = 500;
   constexpr double kMargin = 100;
   SplashForm& form = show.frmSplash;
+  ShowStandbyFirst(show);
   const double full = form.Width - kMargin;
   form.oProgress.Width = std::fmin(form.oProgress.Width + kStep, full);
   if (form.oProgress.Width < full) return;
   form.tmrProgress.Enabled = false;
   form.tmrSplash.Enabled = true;
+}
+
+void frmSplash_Click(Show& show) {
+  SplashForm& form = show.frmSplash;
+  if (!form.tmrProgress.Enabled && !form.tmrSplash.Enabled) return;
+  form.tmrProgress.Enabled = false;
+  tmrSplash_Timer(show);
 }
 
 bool Form_QueryUnload(Show& show) {
@@ -72,6 +82,23 @@ bool Form_QueryUnload(Show& show) {
       show.platform.dialogs.MessageBox("Are you sure you want to exit?", kAppTitle, BoxKind::YesNoCancel);
   displays.SetTopMost(show.frmMain, false);
   return answer == BoxAnswer::Yes;
+}
+
+void EndWithoutAsking(Show& show) {
+  // Before the console is up there is nothing to save yet, and its controls hold no settings.
+  show.frmMain.Visible ? show.frmMain.Unload() : show.platform.processes.EndProgram();
+}
+
+void KeepSettings(Show& show) {
+  if (!show.frmMain.Visible) return;
+  for (const auto save : {SaveAllSettings, SaveInterfaceFile}) {
+    try {
+      save(show);
+    } catch (const RuntimeError&) {
+      // There is nobody left to read it.
+      continue;
+    }
+  }
 }
 
 void fileExit(Show& show) {

@@ -16,9 +16,15 @@ void PrepareDataFolders(Show& show);
 
 void tmrAlwaysLoaded_Timer(Show& show);
 void tmrProgress_Timer(Show& show);
+// A click or a key on the splash ends it.
+void frmSplash_Click(Show& show);
 
 // The close box's question; true lets the console close.
 bool Form_QueryUnload(Show& show);
+// The system ends the program: what the exit saves is saved, and nobody is asked.
+void EndWithoutAsking(Show& show);
+// Saves what the exit saves and shows nothing, not even an error.
+void KeepSettings(Show& show);
 // Stops the timers, saves the settings, unloads every form and ends the program.
 void fileExit(Show& show);
 

@@ -1,5 +1,6 @@
 #include "sets/file_dialogs.h"
 
+#include "platform/escapes.h"
 #include "platform/text.h"
 #include "show/show.h"
 
@@ -24,7 +25,7 @@ std::string ShowFileDialog(Show& show, const FileDialogSpec& spec) {
   request.InitialFolder = hasFolder ? ExtractFolder(spec.FileName) : spec.InitialFolder;
   request.FileName = hasFolder ? ExtractFileName(spec.FileName) : spec.FileName;
   std::string chosen = show.platform.dialogs.ChooseFile(request);
-  if (chosen.size() <= kLongestPath) return chosen;
+  if (CountLetters(chosen) <= kLongestPath) return chosen;
   Tell(show, "Error with filename(s).");
   return "";
 }
@@ -39,7 +40,7 @@ void ShowOpen(Show& show, CommonDialog& dialog) {
 }
 
 bool CanStorePath(Show& show, const std::string& path) {
-  if (path.size() > kQuestionLength) {
+  if (CountLetters(path) > kQuestionLength) {
     Tell(show, "File path exceeds 256 characters in length");
     return false;
   }

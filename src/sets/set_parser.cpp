@@ -5,6 +5,7 @@
 #include <optional>
 
 #include "media/media_kinds.h"
+#include "platform/escapes.h"
 #include "platform/line_reader.h"
 #include "platform/text.h"
 #include "sets/set_file.h"
@@ -34,7 +35,7 @@ bool ParseFlag(const std::string& line, int number) {
 }
 
 std::string NextLine(LineReader& reader, std::size_t longest = std::string::npos) {
-  return std::string(reader.Next().value_or("").substr(0, longest));
+  return FirstLetters(reader.Next().value_or(""), longest);
 }
 
 void ReadFormat(const std::string& rawLine, TriviaQuestion& question) {

@@ -170,6 +170,7 @@ TEST(Keyboard, KeypadsRingInByTheRouting) {
 TEST(Keyboard, TellsTheExternalKeyboardProgramWhenPressesAreWanted) {
   Keyboard keyboard('5', "", "mi");
   keyboard.state.SerialComm = InterfaceCode::PublishingKeypads;
+  keyboard.Written();
   const std::string on = "sendkeypress=1 ", off = "sendkeypress=0 ";
   // Only what has changed is written.
   const std::pair<const char*, std::string> steps[] = {

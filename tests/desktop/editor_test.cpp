@@ -187,7 +187,7 @@ TEST(FileDialogTest, BeginsWhereItIsToldAndRemembersNothing) {
   QtDialogs dialogs(windows);
   FileDialogRequest request;
   request.Filter = "Game Sets(*.txt)|*.txt";
-  request.InitialFolder = *SpelledPath(folder.path());
+  request.InitialFolder = SpelledPath(folder.path());
   request.FileName = "Quiz.txt";
   const QString filter = "|Game Sets (*.txt)";
   EXPECT_EQ(WhereItBegins(dialogs, request), folder.path() + "|Quiz.txt" + filter);

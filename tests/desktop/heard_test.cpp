@@ -49,7 +49,7 @@ class HeardTest : public FolderTest {
   }
   // A file of that tone, and its path as the program spells it.
   std::string Tone(double hertz, int milliseconds = 30000, const QString& folder = "") {
-    return *SpelledPath(Make(folder + QString("%1.wav").arg(hertz), ToneFile(hertz, milliseconds)));
+    return SpelledPath(Make(folder + QString("%1.wav").arg(hertz), ToneFile(hertz, milliseconds)));
   }
   void PlayAllFive() {
     PlayEvent(*show_, Tone(kEvent));
@@ -175,7 +175,7 @@ TEST_F(HeardTest, EveryKindOfMediaPlays) {
     ASSERT_EQ(QProcess::execute("ffmpeg", make.split(' ')), 0) << kind;
     MpvChannel& player = film ? platform_->mediaPlayer1 : platform_->keyPressPlayer;
     const int frames = platform_->mediaPlayer1.FrameCount();
-    show_->soundBanks[1][9] = *SpelledPath(file);
+    show_->soundBanks[1][9] = SpelledPath(file);
     PlayKeyMedia(*show_, 9);
     EXPECT_TRUE(ComesBack(kKeys)) << kind;
     EXPECT_EQ(player.Failed(), 0) << kind;
@@ -204,7 +204,7 @@ TEST_F(HeardTest, FilmsThatCannotBeShownGoAway) {
   for (const auto& [name, bytes] : {std::pair<const char*, QByteArray>{"broken.mp4", QByteArray(5000, '\x01')},
                                     {"text.mp4", "#EXTM3U\nother.mp4\n"},
                                     {"empty.mp4", ""}}) {
-    show_->soundBanks[1][9] = *SpelledPath(Make(name, bytes));
+    show_->soundBanks[1][9] = SpelledPath(Make(name, bytes));
     PlayKeyMedia(*show_, 9);
     EXPECT_TRUE(show_->frmMain.picMOD.Visible);
     EXPECT_TRUE(QTest::qWaitFor([&] { return !show_->frmMain.picMOD.Visible; }, 30000)) << name;

@@ -4,11 +4,16 @@
 
 #include <QDir>
 #include <QRegularExpression>
+#include <QScrollBar>
 #include <QTest>
 #include <QTextBrowser>
+#include <QTimer>
 
 #include "config/help_pages.h"
 #include "desktop/windows/desktop_pages.h"
+#include "forms/editor_form.h"
+#include "forms/options_form.h"
+#include "places.h"
 
 namespace pawnfield {
 namespace {
@@ -42,6 +47,55 @@ TEST(Manual, OpensThePagesOfTheMenuAndFollowsTheirLinks) {
   EXPECT_EQ(browser->source().fileName(), "index.html");
   QTest::keyClick(browser, Qt::Key_Escape);
   EXPECT_FALSE(pages.Window()->isVisible());
+}
+
+TEST(Manual, EachWindowsPageOfF1IsThere) {
+  const QDir folder(ManualFolder());
+  const char* const forms[] = {"frmMain",
+                               "frmOptions",
+                               "frmPlayerNames",
+                               "frmEditor",
+                               "frmSoundEffects",
+                               "frmConfigKeys",
+                               "frmMapMF",
+                               "frmConnectToProjector",
+                               "frmGameTypeHelp",
+                               "frmHelpAbout",
+                               ""};
+  std::set<std::string> pages;
+  for (const char* form : forms) {
+    EXPECT_TRUE(folder.exists(HelpPageOf(form))) << form;
+    pages.insert(HelpPageOf(form));
+  }
+  // The options and the players' names share theirs.
+  EXPECT_EQ(pages.size(), std::size(forms) - 1);
+}
+
+TEST(Manual, TheLicenceWrapsAtTheEdgeOfItsPage) {
+  ManualWindow window(ManualFolder());
+  ASSERT_TRUE(window.ShowPage("licence.html"));
+  window.resize(500, 400);
+  QTest::qWait(50);
+  EXPECT_EQ(window.findChild<QTextBrowser*>()->horizontalScrollBar()->maximum(), 0);
+}
+
+class HelpKeyTest : public ProgramTest {};
+
+TEST_F(HelpKeyTest, F1OpensTheWindowsOwnPageAlsoOverAModalWindow) {
+  const auto page = [&] { return program_.ManualPages().Window()->findChild<QTextBrowser*>()->source().fileName(); };
+  QTimer::singleShot(100, &program_.Console(), [&] {
+    FormWindow& options = Window(show_.frmOptions);
+    QTest::keyClick(&options, Qt::Key_F1);
+    EXPECT_EQ(page(), "options.html");
+    // It can be worked: a window that the modal one keeps shut gets no key.
+    QTest::keyClick(program_.ManualPages().Window()->findChild<QTextBrowser*>(), Qt::Key_Escape);
+    EXPECT_FALSE(program_.ManualPages().Window()->isVisible());
+    show_.frmOptions.Unload();
+  });
+  show_.platform.dialogs.ShowModal(show_.frmOptions);
+  Window(show_.frmEditor).show();
+  QTest::keyClick(&Window(show_.frmEditor), Qt::Key_F1);
+  EXPECT_EQ(page(), "preparing-sets.html");
 }
 
 }  // namespace

@@ -29,7 +29,7 @@ class MediaShowTest : public ShowSuite {
   static void SetUpTestSuite() {
     Begin(kOneMonitor);
     ready_ = ready_ && MakeCountedFilm(Film(), kFilmSeconds) && Press({"optGameType_0", "btnStart"});
-    TheShow().soundBanks[1][kFilmKey] = *SpelledPath(Film());
+    TheShow().soundBanks[1][kFilmKey] = SpelledPath(Film());
     TheShow().soundBanks[1][kPictureKey] = TheShow().AppPath("\\Question Backgrounds\\7.jpg");
   }
   void TearDown() override {
@@ -100,7 +100,7 @@ TEST_F(MediaShowTest, APictureIsWholeAndAsLargeAsTheAudiencesScreenLetsIt) {
     QPainter(&picture).fillRect(picture.rect().adjusted(10, 10, -10, -10), Qt::green);
     const QString file = folder_->path() + QString("/%1.bmp").arg(size.width() * 1000 + size.height());
     ASSERT_TRUE(picture.save(file));
-    TheShow().soundBanks[1][kPictureKey] = *SpelledPath(file);
+    TheShow().soundBanks[1][kPictureKey] = SpelledPath(file);
     ASSERT_TRUE(driver_->Type({"p"}));
     const QImage seen = Screen().Screen().grab().toImage();
     const QRect inside = place.adjusted(3, 3, -3, -3);
@@ -134,7 +134,7 @@ TEST_F(MediaShowTest, ADamagedFilmShowsWhatItHasAndGoes) {
   ASSERT_TRUE(file.seek(file.size() / 3));
   file.write(QByteArray(static_cast<int>(file.size() / 3), '\x5A'));
   file.close();
-  TheShow().soundBanks[1]['D' - 56] = *SpelledPath(damaged);
+  TheShow().soundBanks[1]['D' - 56] = SpelledPath(damaged);
   PlayKeyMedia(TheShow(), 'D' - 56);
   EXPECT_TRUE(FilmRunsOnBoth());
   EXPECT_TRUE(Wait(Gone));

@@ -13,9 +13,15 @@
 
 namespace pawnfield {
 
+// In Polish, Greek, Russian and Japanese.
+inline const QStringList kForeignNames{QString::fromUtf8("Za\u017C\u00F3\u0142\u0107 g\u0119\u015Bl\u0105"),
+                                       QString::fromUtf8("\u039E\u03AD\u03BD\u03B7 \u03BB\u03AD\u03BE\u03B7"),
+                                       QString::fromUtf8("\u0417\u0430\u0433\u0440\u0443\u0437\u043A\u0438"),
+                                       QString::fromUtf8("\u30C0\u30A6\u30F3\u30ED\u30FC\u30C9 \u65E5\u672C")};
+
 inline DesktopPlaces PlacesIn(const QTemporaryDir& folder) {
   DesktopPlaces places;
-  places.folders.DataRoot = *SpelledPath(folder.path() + "/data");
+  places.folders.DataRoot = SpelledPath(folder.path() + "/data");
   places.configFolder = folder.path() + "/config";
   places.runtimeFolder = folder.path() + "/run";
   return places;
@@ -24,7 +30,7 @@ inline DesktopPlaces PlacesIn(const QTemporaryDir& folder) {
 class FolderTest : public testing::Test {
  protected:
   QString Native(const QString& name) const { return folder_.path() + '/' + name; }
-  std::string Spelled(const std::string& tail) const { return *SpelledPath(folder_.path()) + tail; }
+  std::string Spelled(const std::string& tail) const { return SpelledPath(folder_.path()) + tail; }
   // Makes the file and its folder anew, and tells where it is.
   QString Make(const QString& name, const QByteArray& bytes) const {
     QDir().mkpath(QFileInfo(Native(name)).path());

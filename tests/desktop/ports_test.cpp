@@ -1,10 +1,13 @@
 // The desktop's ports: text, paths, files, settings, measures, time, folders and sound.
 
 #include <sys/resource.h>
+#include <sys/socket.h>
 #include <sys/stat.h>
+#include <sys/un.h>
 #include <unistd.h>
 
 #include <QImage>
+#include <QProcess>
 #include <QSysInfo>
 #include <QTest>
 #include <csignal>
@@ -12,6 +15,7 @@
 #include "desktop/devices/qt_device_watch.h"
 #include "desktop/files/user_copy.h"
 #include "desktop/files/windows_1252.h"
+#include "desktop/system/bus_finder.h"
 #include "places.h"
 #include "sound_rig.h"
 
@@ -28,16 +32,41 @@ int ErrorOf(F&& action) {
   return 0;
 }
 
-TEST(Windows1252Test, EveryByteComesBackAndWhatHasNoneIsRefused) {
-  std::string bytes;
-  for (int value = 0; value < 256; ++value) bytes += static_cast<char>(value);
-  EXPECT_EQ(ToWindows1252(FromWindows1252(bytes)), bytes);
-  EXPECT_EQ(FromWindows1252("\x80\x85\x91\x92\x93\x96\x9F\xE9"),
-            QString::fromUtf16(u"\u20AC\u2026\u2018\u2019\u201C\u2013\u0178\u00E9"));
+TEST(Windows1252Test, EachOfThe256BytesIsTheCodePagesCharacter) {
+  // 0x80 to 0x9F; all other bytes are the character of the same number.
+  const QString middle = QString::fromUtf16(
+      u"\u20AC\u0081\u201A\u0192\u201E\u2026\u2020\u2021\u02C6\u2030\u0160\u2039\u0152\u008D\u017D\u008F"
+      u"\u0090\u2018\u2019\u201C\u201D\u2022\u2013\u2014\u02DC\u2122\u0161\u203A\u0153\u009D\u017E\u0178");
+  for (int value = 0; value < 256; ++value) {
+    const std::string byte(1, static_cast<char>(value));
+    const QChar character = value >= 0x80 && value < 0xA0 ? middle[value - 0x80] : QChar(value);
+    EXPECT_EQ(FromWindows1252(byte), QString(character)) << value;
+    EXPECT_EQ(Unescape(byte), QString(character)) << value;
+    EXPECT_EQ(ToWindows1252(character), byte) << value;
+    EXPECT_EQ(Escape(character), byte) << value;
+  }
   EXPECT_EQ(ToWindows1252(QString::fromUtf16(u"cafe\u0301")), "caf\xE9");
   for (const char16_t* text : {u"\u4e2d", u"a\u03b1", u"\U0001F600"}) {
     EXPECT_EQ(ToWindows1252(QString::fromUtf16(text)), std::nullopt);
   }
+}
+
+TEST(EscapeTest, AnyTextComesBackAlsoOneThatLooksEscapedItself) {
+  for (const QString& text :
+       kForeignNames + QStringList{"", "plain", QString::fromUtf16(u"cafe\u0301 \U0001F600\u20AC"), "\x7F",
+                                   "\x7F"
+                                   "00a2",
+                                   "\x7F\x7F"
+                                   "00a2",
+                                   "\x7F"
+                                   "00a"}) {
+    EXPECT_EQ(Unescape(Escape(text)), text) << text.toStdString();
+  }
+  EXPECT_EQ(Escape("\x7F"
+                   "00a"),
+            "\x7F"
+            "00a")
+      << "what is no escape stays as it is";
 }
 
 using NativePathTest = FolderTest;
@@ -65,6 +94,21 @@ TEST_F(NativePathTest, OnlyPlainFilesCountAsFiles) {
 }
 
 using FileSystemTest = FolderTest;
+
+TEST_F(FileSystemTest, FoldersAndFilesOfAnyAlphabetAreMadeWrittenListedAndRead) {
+  QtFileSystem files;
+  for (const QString& name : kForeignNames) {
+    const std::string folder = SpelledPath(Native(name));
+    files.CreateFolder(folder);
+    files.Write(folder + "\\" + Escape(name) + ".txt", "text");
+    EXPECT_TRUE(QFileInfo(Native(name + '/' + name + ".txt")).isFile()) << name.toStdString();
+    EXPECT_EQ(files.List(folder, ".txt"), std::vector<std::string>{SpelledPath(name) + ".txt"});
+    EXPECT_EQ(files.Read(folder + "\\" + SpelledPath(name) + ".TXT"), "text");
+    EXPECT_EQ(NativePath(folder), Native(name));
+  }
+  Make("a\\b.txt", "a backslash is a letter here");
+  EXPECT_EQ(files.Read(SpelledPath(Native("a\\b.txt"))), "a backslash is a letter here");
+}
 
 TEST_F(FileSystemTest, EachFailureHasItsNumber) {
   Make("file.txt", "x");
@@ -104,6 +148,28 @@ TEST_F(FileSystemTest, WritesTheBytesOverTheFileThatDiffersInCaseAndListsOneKind
   EXPECT_EQ(files.Read(Spelled("\\a.Txt")), bytes);
   EXPECT_EQ(files.List(Spelled(""), ".txt"), (std::vector<std::string>{"A.TXT", "b.txt"}));
   EXPECT_TRUE(files.List(Spelled("\\none"), ".txt").empty());
+}
+
+using PlacesTest = FolderTest;
+
+TEST_F(PlacesTest, ARelativeFolderOfTheEnvironmentIsIgnored) {
+  const QByteArray home = qgetenv("HOME"), data = qgetenv("XDG_DATA_HOME"), config = qgetenv("XDG_CONFIG_HOME");
+  qputenv("HOME", QFile::encodeName(Native("home")));
+  const auto places = [] {
+    std::optional<CopyFailure> failure;
+    return NativePath(FindFolders(failure).DataRoot) + " " + ConfigFolder();
+  };
+  for (const char* odd : {"here", "./here", "../here"}) {
+    qputenv("XDG_DATA_HOME", odd);
+    qputenv("XDG_CONFIG_HOME", odd);
+    EXPECT_EQ(places(), Native("home/.local/share/Ostara Show Kit Data ") + Native("home/.config/Pawnfield")) << odd;
+  }
+  qputenv("XDG_DATA_HOME", QFile::encodeName(Native("d")));
+  qputenv("XDG_CONFIG_HOME", QFile::encodeName(Native("c")));
+  EXPECT_EQ(places(), Native("d/Ostara Show Kit Data ") + Native("c/Pawnfield"));
+  for (const auto& [name, value] : {std::pair{"HOME", home}, {"XDG_DATA_HOME", data}, {"XDG_CONFIG_HOME", config}}) {
+    value.isNull() ? qunsetenv(name) : qputenv(name, value);
+  }
 }
 
 using SettingsTest = FolderTest;
@@ -212,7 +278,89 @@ TEST(ClockTest, TimersFollowTheirModels) {
   EXPECT_FALSE(fires(1, 40));
 }
 
+using BusTest = FolderTest;
+
+TEST_F(BusTest, OneThatAnswersIsFoundAndOneThatIsSilentIsGivenUpInTwoSeconds) {
+  const QByteArray before = qgetenv("DBUS_SESSION_BUS_ADDRESS"), system = qgetenv("DBUS_SYSTEM_BUS_ADDRESS");
+  // Callers get through to it, and nobody takes them.
+  const int silent = socket(AF_UNIX, SOCK_STREAM, 0);
+  sockaddr_un name{AF_UNIX, {}};
+  const QByteArray path = QFile::encodeName(Native("silent"));
+  std::copy(path.begin(), path.end(), name.sun_path);
+  ASSERT_EQ(bind(silent, reinterpret_cast<const sockaddr*>(&name), sizeof name), 0);
+  ASSERT_EQ(listen(silent, 5), 0);
+  QProcess daemon;
+  daemon.start("dbus-daemon", {"--session", "--nofork", "--print-address"});
+  ASSERT_TRUE(daemon.waitForStarted() && daemon.waitForReadyRead());
+  const QByteArray answering = daemon.readLine().trimmed();
+  for (const auto& [address, answers] : {std::pair{"unix:path=" + path, false}, {answering, true}}) {
+    qputenv("DBUS_SESSION_BUS_ADDRESS", address);
+    qputenv("DBUS_SYSTEM_BUS_ADDRESS", address);
+    std::optional<bool> found;
+    QElapsedTimer elapsed;
+    elapsed.start();
+    {
+      const BusFinder finder([&](const QDBusConnection& session, const QDBusConnection& other) {
+        found = session.isConnected() && other.isConnected();
+      });
+      EXPECT_LT(elapsed.elapsed(), 500) << "the caller was kept waiting";
+      EXPECT_TRUE(QTest::qWaitFor([&] { return found.has_value(); }, 4000));
+    }
+    EXPECT_EQ(found, answers) << address.toStdString();
+    EXPECT_LT(elapsed.elapsed(), 4000);
+  }
+  close(silent);
+  for (const char* bus : {"qt_default_session_bus", "qt_default_system_bus"}) QDBusConnection::disconnectFromBus(bus);
+  daemon.terminate();
+  daemon.waitForFinished();
+  for (const auto& [variable, value] :
+       {std::pair{"DBUS_SESSION_BUS_ADDRESS", before}, {"DBUS_SYSTEM_BUS_ADDRESS", system}}) {
+    value.isNull() ? qunsetenv(variable) : qputenv(variable, value);
+  }
+}
+
 using ProcessesTest = FolderTest;
+
+TEST_F(ProcessesTest, AFolderInTheMarksPlaceIsToldAsOneAndTheProgramCanBeRaised) {
+  QDir().mkpath(Native("run/pawnfield.lock"));
+  int raised = 0;
+  LinuxProcesses processes(Native("run"), [&] { ++raised; });
+  try {
+    processes.AnotherInstanceRuns();
+    ADD_FAILURE() << "nothing was said";
+  } catch (const RuntimeError& error) {
+    EXPECT_EQ(error.Number(), kErrorPathAccess);
+    EXPECT_NE(std::string(error.what()).find("A folder stands"), std::string::npos) << error.what();
+  }
+  processes.Activate(0);
+  EXPECT_TRUE(QTest::qWaitFor([&] { return raised == 1; }, 2000));
+}
+
+TEST_F(ProcessesTest, OnlyThisUsersProcessesCount) {
+  if (geteuid() != 0) GTEST_SKIP() << "another user's process takes root to start";
+  QProcess own, others;
+  const QStringList script{"-c", "exec -a \"$0\" sleep 30"};
+  own.start("bash", script + QStringList{"ostara-own"});
+  others.start("setpriv",
+               QStringList{"--reuid=65534", "--clear-groups", "bash"} + script + QStringList{"ostara-others"});
+  ASSERT_TRUE(own.waitForStarted() && others.waitForStarted());
+  const auto caption = [](const QProcess& process) {
+    QFile line(QString("/proc/%1/cmdline").arg(process.processId()));
+    return line.open(QFile::ReadOnly) ? line.readAll().split('\0').first() : QByteArray();
+  };
+  ASSERT_TRUE(QTest::qWaitFor([&] { return caption(own) == "ostara-own" && caption(others) == "ostara-others"; }));
+  const auto all = LinuxProcesses(Native("run"), [] {}).List();
+  const auto listed = [&](const QProcess& process) {
+    return std::any_of(all.begin(), all.end(),
+                       [&](const ProcessInfo& one) { return one.Handle == process.processId(); });
+  };
+  EXPECT_TRUE(listed(own));
+  EXPECT_FALSE(listed(others));
+  for (QProcess* process : {&own, &others}) {
+    process->kill();
+    process->waitForFinished();
+  }
+}
 
 TEST_F(ProcessesTest, ASecondInstanceRaisesTheFirstAndAMarkOfNobodyRefusesNone) {
   int raised = 0;

@@ -90,7 +90,7 @@ int TryReading(Rig& rig, const Reading& reading, const QString& file, bool mustR
   QElapsedTimer timer;
   timer.start();
   alarm(kPatienceS);
-  reading.Read(rig, *SpelledPath(file));
+  reading.Read(rig, SpelledPath(file));
   alarm(0);
   const qint64 took = timer.elapsed();
   const bool silent = mustRefuse && rig.dialogs.Told.empty();

@@ -2,6 +2,7 @@
 
 #include <gtest/gtest.h>
 
+#include "platform/escapes.h"
 #include "platform/line_reader.h"
 
 namespace pawnfield {
@@ -17,6 +18,34 @@ TEST(Text, CaseChangesLeaveTheUpperHalfOfTheCodePageAlone) {
   EXPECT_EQ(ToLower("AZ\xC9[@`{"), "az\xC9[@`{");
   EXPECT_EQ(ToUpper("az\xE9[@`{"), "AZ\xE9[@`{");
   EXPECT_EQ(ToCapitals("az\xE0\xFE\xF7\xDF\x9C\xFF\xA0["), "AZ\xC0\xDE\xF7\xDF\x8C\x9F\xA0[");
+}
+
+TEST(Text, ACutNeverFallsInsideAnEscapedLetter) {
+  const std::string zolw = EscapeOf(0x17C) + "\xF3" + EscapeOf(0x142) + "w";
+  EXPECT_EQ(CountLetters(zolw), 4U);
+  const std::string cuts[] = {"", EscapeOf(0x17C), EscapeOf(0x17C) + "\xF3",
+                              EscapeOf(0x17C) + "\xF3" + EscapeOf(0x142)};
+  for (std::size_t count = 0; count < 4; ++count) EXPECT_EQ(FirstLetters(zolw, count), cuts[count]) << count;
+  for (const std::size_t count : {4U, 5U, 100U}) EXPECT_EQ(FirstLetters(zolw, count), zolw) << count;
+  EXPECT_EQ(PlainLetters(zolw), "?\xF3?w");
+  // A mark without its digits is a letter like others.
+  for (const char* plain : {"\x7F",
+                            "\x7F"
+                            "00z",
+                            "\x7F"
+                            "0 zz",
+                            "\x7Fzzzz"})
+    EXPECT_EQ(PlainLetters(plain), plain);
+  EXPECT_EQ(EscapeAt(EscapeOf(0x10FFFF), 0), char32_t{0x10FFFF});
+}
+
+TEST(Text, LettersBeyondTheCodePageHaveCapitalsToo) {
+  const std::pair<char32_t, char32_t> cases[] = {{0x142, 0x141}, {0x17C, 0x17B}, {0x11B, 0x11A}, {0x131, U'I'},
+                                                 {0x3AC, 0x386}, {0x3C9, 0x3A9}, {0x3C2, 0x3A3}, {0x436, 0x416},
+                                                 {0x451, 0x401}, {0x141, 0x141}, {0x416, 0x416}, {0x65E5, 0x65E5}};
+  for (const auto& [small, capital] : cases) {
+    EXPECT_EQ(ToCapitals("a" + EscapeOf(small)), "A" + EscapeOf(capital)) << std::hex << static_cast<unsigned>(small);
+  }
 }
 
 TEST(Text, PathPartsSplitAtTheLastBackslashAndTheFirstDot) {

@@ -26,13 +26,87 @@ TEST(StartUp, TheSplashComesBeforeTheConsoleAndTakesItsTime) {
   fixture.sim.dialogs.ExpectMessage("No hardware was detected so you will be loaded in manual mode.");
   Main(fixture.show());
   // 8900 twips in steps of 500 are 18 ticks of 50 ms, then 5600 ms.
-  const std::pair<int, const char*> cases[] = {
-      {0, "frmLoading "}, {50, "frmSplash "}, {18 * 50 + 5599, "frmSplash "}, {1, "frmMain frmFSMain frmSS "}};
+  const std::pair<int, const char*> cases[] = {{0, "frmFSMain frmLoading frmSS "},
+                                               {50, "frmFSMain frmSplash frmSS "},
+                                               {18 * 50 + 5599, "frmFSMain frmSplash frmSS "},
+                                               {1, "frmMain frmFSMain frmSS "}};
   for (const auto& [ms, forms] : cases) {
     fixture.sim.clock.Advance(ms);
     EXPECT_EQ(shown(), forms) << ms;
   }
   EXPECT_EQ(fixture.show().state.SerialComm, InterfaceCode::Manual);
+}
+
+TEST(StartUp, TheRoomSeesStandbyAsSoonAsItsScreenIsKnown) {
+  for (const bool known : {true, false}) {
+    ShowFixture fixture;
+    fixture.sim.files.Put("C:\\Pawnfield\\Images\\Standby.jpg", SimPictures::PictureBytes(1024, 768));
+    const auto both = fixture.sim.displays.Monitors;
+    if (!known) fixture.sim.displays.Monitors.resize(1);
+    Main(fixture.show());
+    const FSMainForm& room = fixture.audience();
+    EXPECT_EQ(fixture.show().frmSS.Visible, known);
+    if (!known) fixture.sim.displays.Change(both);
+    fixture.sim.clock.Advance(100);
+    EXPECT_TRUE(fixture.show().frmSS.Visible && room.picStandby.Visible && room.imgStandby.Visible);
+    EXPECT_EQ(room.imgStandby.Picture, "C:\\Pawnfield\\Images\\Standby.jpg");
+    // The projector's cable is pulled and put back under the splash.
+    fixture.sim.displays.Change({both[0]});
+    EXPECT_FALSE(fixture.show().frmSS.Visible);
+    fixture.sim.displays.Change(both);
+    EXPECT_TRUE(fixture.show().frmSS.Visible && !fixture.form().Visible);
+  }
+}
+
+TEST(StartUp, AClickEndsTheSplashOnceAndNotTheSearchForHardware) {
+  ShowFixture fixture;
+  fixture.sim.dialogs.ExpectMessage("No hardware was detected");
+  Main(fixture.show());
+  fixture.sim.clock.Advance(60);
+  fixture.show().frmSplash.Click();
+  EXPECT_TRUE(fixture.form().Visible && !fixture.show().frmSplash.Visible);
+  EXPECT_EQ(fixture.show().state.SerialComm, InterfaceCode::Manual);
+  const auto saved = fixture.sim.settings.Writes.size();
+  fixture.show().frmSplash.Click();
+  fixture.sim.clock.Advance(20000);
+  EXPECT_EQ(fixture.sim.settings.Writes.size(), saved) << "started a second time";
+}
+
+TEST(StartUp, ABoxTellsOfMissingHardwareOnceOnAMachineAndThenTheBottomLine) {
+  ShowFixture first;
+  first.Start();
+  EXPECT_EQ(first.form().lblStatusBar.Caption, "");
+  ShowFixture second;
+  const std::string key = "NoHardwareTold";
+  second.Preset(key, first.sim.settings.GetSetting("Pawnfield", "Settings", key, "False"));
+  Main(second.show());
+  second.sim.clock.Advance(10000);
+  EXPECT_TRUE(second.form().Visible);
+  EXPECT_EQ(second.form().lblStatusBar.Caption, "No hardware was detected: manual mode");
+}
+
+TEST(StartUp, ASetThatTheProgramIsStartedWithIsLoadedBehindTheSplash) {
+  struct Case {
+    const char* gameType;
+    const char* set;
+    const char* told;
+    int questions;
+  };
+  for (const Case& c : {Case{"5", "Named", nullptr, 7},
+                        {"5", "None", "Error Number: 53", 0},
+                        {"1", "Named", "The set was not loaded", 0}}) {
+    ShowFixture fixture;
+    fixture.WriteNumberedSet("Named", 7);
+    fixture.Preset("GameType", c.gameType);
+    fixture.show().consoleDialog.FileName = std::string("C:\\Pawnfield\\Trivia Sets\\") + c.set + ".txt";
+    fixture.sim.dialogs.ExpectMessage("No hardware was detected");
+    if (c.told != nullptr) fixture.sim.dialogs.ExpectMessage(c.told);
+    Main(fixture.show());
+    fixture.sim.clock.Advance(10000);
+    EXPECT_TRUE(fixture.form().Visible) << c.set;
+    EXPECT_EQ(fixture.show().NumGameQuestions, c.questions) << c.set;
+    EXPECT_EQ(fixture.show().state.GameLoaded, c.questions > 0) << c.set;
+  }
 }
 
 TEST(StartUp, EveryButtonAndEntryOfEveryFormActs) {
@@ -194,6 +268,7 @@ TEST(Exit, WhatWasChosenComesBackAtTheNextStart) {
   first.Play("mnuFileExit");
   ShowFixture second;
   for (const auto& [key, value] : first.fixture().sim.settings.Writes) {
+    if (key == "NoHardwareTold") continue;
     second.sim.settings.Preset("pawnfield", "settings", key, value);
   }
   second.Start();

@@ -19,6 +19,7 @@ std::vector<std::string> SavedAfter(const std::vector<std::string>& store) {
     fixture.Preset(line.substr(0, line.find('=')), line.substr(line.find('=') + 1));
   }
   fixture.Start();
+  fixture.sim.settings.Writes.clear();
   fixture.Exit();
   std::vector<std::string> saved;
   for (const auto& [key, value] : fixture.sim.settings.Writes) saved.push_back(key + "=" + value);

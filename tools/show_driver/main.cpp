@@ -138,7 +138,7 @@ void ShowMedia(ShowDriver& driver, Script& script, const QString& folder) {
   const auto make = [&](const QString& picture, const QString& file) {
     script.Do("make " + file, QProcess::execute("ffmpeg", {"-v", "error", "-y", "-f", "lavfi", "-i", picture,
                                                            "-frames:v", "1", folder + '/' + file}) == 0);
-    return SpelledPath(QFileInfo(folder + '/' + file).absoluteFilePath()).value_or("");
+    return SpelledPath(QFileInfo(folder + '/' + file).absoluteFilePath());
   };
   show.soundBanks[1][9] = show.AppPath("\\Question Backgrounds\\7.jpg");
   show.soundBanks[1][11] = make("testsrc2=size=500x900", "tall.jpg");
@@ -152,7 +152,7 @@ void ShowMedia(ShowDriver& driver, Script& script, const QString& folder) {
   script.Do("make a film", QProcess::execute("ffmpeg", {"-v", "error", "-y", "-f", "lavfi", "-i",
                                                         "testsrc2=size=960x540:rate=25:duration=8", "-f", "lavfi", "-i",
                                                         "sine=duration=8", film}) == 0);
-  show.soundBanks[1][10] = SpelledPath(QFileInfo(film).absoluteFilePath()).value_or("");
+  show.soundBanks[1][10] = SpelledPath(QFileInfo(film).absoluteFilePath());
   PlayKeyMedia(show, 10);
   script.Do("the film runs", driver.WaitFor([&] { return form.MediaPlayer1.PlayState == 3; }));
   driver.Pause(1500);

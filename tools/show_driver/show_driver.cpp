@@ -50,8 +50,8 @@ DesktopPlaces PlacesBelow(const QString& folder) {
   DesktopPlaces places;
   const QString shared = NativePath(places.folders.App);
   UpdateUserCopy(shared, folder + "/app");
-  places.folders.App = SpelledPath(folder + "/app").value_or("");
-  places.folders.DataRoot = SpelledPath(folder + "/Ostara Show Kit Data").value_or("");
+  places.folders.App = SpelledPath(folder + "/app");
+  places.folders.DataRoot = SpelledPath(folder + "/Ostara Show Kit Data");
   places.configFolder = folder + "/config";
   places.runtimeFolder = folder + "/run";
   return places;

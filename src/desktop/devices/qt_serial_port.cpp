@@ -12,7 +12,7 @@ namespace {
 // What waits while nobody reads; the line's driver keeps or drops what is beyond it.
 constexpr qint64 kReadBuffer = 65536;
 
-std::string Text(const QString& text) { return ToWindows1252(text).value_or(""); }
+std::string Text(const QString& text) { return Escape(text); }
 
 QSerialPort::Parity ParityOf(char letter) {
   if (letter == 'e') return QSerialPort::EvenParity;

@@ -22,7 +22,14 @@ QString ProgramFolder() {
   return QDir::cleanPath(beside + "/../share/pawnfield");
 }
 
-QString DataHome() { return QStandardPaths::writableLocation(QStandardPaths::GenericDataLocation); }
+// The convention for these folders has a variable that holds a relative path ignored.
+QString Home(QStandardPaths::StandardLocation location, const char* variable, const char* otherwise) {
+  const QString told = qEnvironmentVariable(variable);
+  const bool odd = !told.isEmpty() && QDir::isRelativePath(told);
+  return odd ? QDir::homePath() + otherwise : QStandardPaths::writableLocation(location);
+}
+
+QString DataHome() { return Home(QStandardPaths::GenericDataLocation, "XDG_DATA_HOME", "/.local/share"); }
 
 }  // namespace
 
@@ -36,15 +43,15 @@ Folders FindFolders(std::optional<CopyFailure>& failure) {
   }
   QDir().mkpath(DataHome());
   Folders folders;
-  folders.App = SpelledPath(app).value_or("");
-  folders.DataRoot = SpelledPath(DataHome() + "/Ostara Show Kit Data").value_or("");
+  folders.App = SpelledPath(app);
+  folders.DataRoot = SpelledPath(DataHome() + "/Ostara Show Kit Data");
   // Only a Windows says where it is installed.
   folders.SystemDrive = qEnvironmentVariable("SystemDrive").toStdString();
   return folders;
 }
 
 QString ConfigFolder() {
-  return QStandardPaths::writableLocation(QStandardPaths::GenericConfigLocation) + "/Pawnfield";
+  return Home(QStandardPaths::GenericConfigLocation, "XDG_CONFIG_HOME", "/.config") + "/Pawnfield";
 }
 
 QString RuntimeFolder() {

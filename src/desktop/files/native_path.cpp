@@ -4,8 +4,10 @@
 #include <QFile>
 #include <QFileInfo>
 #include <QStringList>
+#include <algorithm>
 
 #include "desktop/files/windows_1252.h"
+#include "platform/escapes.h"
 
 namespace pawnfield {
 
@@ -26,8 +28,9 @@ QString FindPart(const QString& folder, const QString& part) {
 }  // namespace
 
 QString NativePath(const std::string& spelled) {
-  QString path = FromWindows1252(spelled);
-  path.replace('\\', '/');
+  std::string slashed = spelled;
+  std::replace(slashed.begin(), slashed.end(), '\\', '/');
+  const QString path = Unescape(slashed);
   if (path.isEmpty() || QFileInfo::exists(path)) return path;
   const QStringList parts = path.split('/', Qt::SkipEmptyParts);
   QString native = path.startsWith('/') ? QString("/") : QString();
@@ -38,10 +41,16 @@ QString NativePath(const std::string& spelled) {
   return native;
 }
 
-std::optional<std::string> SpelledPath(const QString& native) {
-  QString path = native;
-  path.replace('/', '\\');
-  return ToWindows1252(path);
+std::string SpelledPath(const QString& native) {
+  std::string spelled;
+  for (const char byte : Escape(native)) {
+    if (byte == '\\') {
+      spelled += EscapeOf(U'\\');
+    } else {
+      spelled += byte == '/' ? '\\' : byte;
+    }
+  }
+  return spelled;
 }
 
 std::optional<QString> NativePlainFile(const std::string& spelled) {

@@ -36,14 +36,12 @@ void QtFileSystem::CreateFolder(const std::string& path) {
 
 std::vector<std::string> QtFileSystem::List(const std::string& folder, const std::string& extension) const {
   std::vector<std::string> names;
-  const QString ending = FromWindows1252(extension);
+  const QString ending = Unescape(extension);
   const QDir where(NativePath(folder));
   for (const QString& entry : where.entryList(QDir::Files, QDir::Name | QDir::IgnoreCase)) {
     // The toolkit takes a link to a device for a file.
     if (!QFileInfo(where, entry).isFile()) continue;
-    // A name that the core can't spell could not be opened by it either.
-    const auto name = ToWindows1252(entry);
-    if (name && entry.endsWith(ending, Qt::CaseInsensitive)) names.push_back(*name);
+    if (entry.endsWith(ending, Qt::CaseInsensitive)) names.push_back(SpelledPath(entry));
   }
   return names;
 }

@@ -18,7 +18,7 @@ constexpr std::chrono::seconds kBetweenWrites{1};
 // The stored name that differs from the wanted one in case only, or the wanted one.
 template <typename Value>
 QString StoredName(const QMap<QString, Value>& values, const std::string& name) {
-  const QString wanted = FromWindows1252(name);
+  const QString wanted = Unescape(name);
   if (values.contains(wanted)) return wanted;
   for (const QString& stored : values.keys()) {
     if (stored.compare(wanted, Qt::CaseInsensitive) == 0) return stored;
@@ -49,7 +49,7 @@ QtSettingsStore::~QtSettingsStore() {
 }
 
 QString QtSettingsStore::FileOf(const std::string& application) const {
-  return folder_ + '/' + FromWindows1252(application).toLower() + ".ini";
+  return folder_ + '/' + Unescape(application).toLower() + ".ini";
 }
 
 QtSettingsStore::Parsed& QtSettingsStore::ParsedOf(const std::string& application) const {
@@ -70,7 +70,7 @@ std::string QtSettingsStore::GetSetting(const std::string& application, const st
   const IniValues& values = ParsedOf(application).Values;
   const auto entries = values.value(StoredName(values, section));
   const QString stored = StoredName(entries, key);
-  return entries.contains(stored) ? ToWindows1252(entries[stored]).value_or(fallback) : fallback;
+  return entries.contains(stored) ? Escape(entries[stored]) : fallback;
 }
 
 std::string QtSettingsStore::Problem(const std::string& application) const {
@@ -81,7 +81,7 @@ std::string QtSettingsStore::Problem(const std::string& application) const {
 void QtSettingsStore::Put(IniValues& values, const std::vector<Entry>& entries) {
   for (const auto& [section, setting] : entries) {
     auto& stored = values[StoredName(values, section)];
-    stored[StoredName(stored, setting.Key)] = FromWindows1252(setting.Value);
+    stored[StoredName(stored, setting.Key)] = Unescape(setting.Value);
   }
 }
 

@@ -105,7 +105,7 @@ std::optional<CopyFailure> UpdateUserCopy(const QString& shared, const QString& 
 }
 
 void ReportCopyFailure(Dialogs& dialogs, const CopyFailure& failure) {
-  ReportError(dialogs, failure.Error, "modMain", "UpdateUserCopy", SpelledPath(failure.File).value_or(""));
+  ReportError(dialogs, failure.Error, "modMain", "UpdateUserCopy", SpelledPath(failure.File));
 }
 
 }  // namespace pawnfield

@@ -1,36 +1,93 @@
 #include "desktop/files/windows_1252.h"
 
+#include <QHash>
+#include <QStringDecoder>
 #include <algorithm>
-#include <array>
-#include <cstddef>
+
+#include "platform/escapes.h"
 
 namespace pawnfield {
 
 namespace {
 
-// 0x80 to 0x9F; all other bytes are the character of the same number.
-constexpr std::array<char16_t, 32> kMiddle{0x20AC, 0x0081, 0x201A, 0x0192, 0x201E, 0x2026, 0x2020, 0x2021,
-                                           0x02C6, 0x2030, 0x0160, 0x2039, 0x0152, 0x008D, 0x017D, 0x008F,
-                                           0x0090, 0x2018, 0x2019, 0x201C, 0x201D, 0x2022, 0x2013, 0x2014,
-                                           0x02DC, 0x2122, 0x0161, 0x203A, 0x0153, 0x009D, 0x017E, 0x0178};
+constexpr int kBytes = 256;
 
-std::optional<char> ByteOf(char16_t character) {
-  const auto* const found = std::find(kMiddle.begin(), kMiddle.end(), character);
-  if (found != kMiddle.end()) return static_cast<char>(0x80 + (found - kMiddle.begin()));
-  if (character < 0x80 || (character >= 0xA0 && character <= 0xFF)) return static_cast<char>(character);
-  return std::nullopt;
+// The toolkit's own code page, asked once: its converters are slow to make and not for two threads at a time.
+struct CodePage {
+  CodePage() {
+    for (int value = 0; value < kBytes; ++value) {
+      const char byte = static_cast<char>(value);
+      QStringDecoder decoder("windows-1252");
+      const QString decoded = decoder(QByteArrayView(&byte, 1));
+      const QChar character = decoded.size() == 1 ? decoded.front() : QChar(value);
+      characters += character;
+      bytes.insert(character, byte);
+    }
+  }
+  QString characters;
+  QHash<QChar, char> bytes;
+};
+
+const CodePage& TheCodePage() {
+  static const CodePage page;
+  return page;
+}
+
+QChar CharacterOf(char byte) { return TheCodePage().characters.at(static_cast<unsigned char>(byte)); }
+
+std::optional<char> ByteOf(char32_t code) {
+  if (code > 0xFFFF) return std::nullopt;
+  const auto& bytes = TheCodePage().bytes;
+  const auto found = bytes.constFind(QChar(static_cast<char16_t>(code)));
+  if (found == bytes.constEnd()) return std::nullopt;
+  return *found;
+}
+
+// Whether the text itself holds a mark and digits there.
+bool LooksLikeEscape(const QList<uint>& codes, qsizetype at) {
+  std::string seen;
+  if (codes[at] != static_cast<uint>(kEscapeMark)) return false;
+  for (const uint code : codes.sliced(at).first(std::min<qsizetype>(kEscapeLength, codes.size() - at))) {
+    seen += code < 0x80 ? static_cast<char>(code) : ' ';
+  }
+  return EscapeAt(seen, 0).has_value();
 }
 
 }  // namespace
 
+std::string Escape(const QString& text) {
+  std::string bytes;
+  const QList<uint> codes = text.toUcs4();
+  for (qsizetype i = 0; i < codes.size(); ++i) {
+    const std::optional<char> byte = ByteOf(codes[i]);
+    if (byte && !LooksLikeEscape(codes, i)) {
+      bytes += *byte;
+    } else {
+      bytes += EscapeOf(codes[i]);
+    }
+  }
+  return bytes;
+}
+
+QString Unescape(const std::string& bytes) {
+  QString text;
+  text.reserve(static_cast<qsizetype>(bytes.size()));
+  for (std::size_t at = 0; at < bytes.size();) {
+    const std::optional<char32_t> code = EscapeAt(bytes, at);
+    if (code) {
+      text += QChar::fromUcs4(*code);
+    } else {
+      text += CharacterOf(bytes[at]);
+    }
+    at += code ? kEscapeLength : 1;
+  }
+  return text;
+}
+
 QString FromWindows1252(const std::string& bytes) {
   QString text;
   text.reserve(static_cast<qsizetype>(bytes.size()));
-  for (const char byte : bytes) {
-    const auto value = static_cast<unsigned char>(byte);
-    const bool middle = value >= 0x80 && value < 0xA0;
-    text.append(QChar(middle ? kMiddle[value - std::size_t{0x80}] : char16_t{value}));
-  }
+  for (const char byte : bytes) text += CharacterOf(byte);
   return text;
 }
 

@@ -175,8 +175,7 @@ void PictureCache::HoldFolder(const std::string& folder) {
           if (entry.size() > kOwnFileLimit || total + entry.size() > kOwnFilesLimit) continue;
           if (!file.open(QIODevice::ReadOnly)) continue;
           total += entry.size();
-          const auto name = SpelledPath(entry.fileName());
-          if (name) files.insert(OwnKeyOf(folder + "\\" + *name), file.readAll());
+          files.insert(OwnKeyOf(folder + "\\" + SpelledPath(entry.fileName())), file.readAll());
         }
         return files;
       },

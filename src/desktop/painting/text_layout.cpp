@@ -14,7 +14,7 @@ namespace {
 constexpr int kReferencePixels = 1000;
 
 QFont ReferenceFont(const Font& font) {
-  QFont result(FromWindows1252(font.Name));
+  QFont result(Unescape(font.Name));
   result.setPixelSize(kReferencePixels);
   result.setBold(font.Bold);
   result.setItalic(font.Italic);
@@ -24,7 +24,7 @@ QFont ReferenceFont(const Font& font) {
 
 // A text label breaks at the ends of its lines whatever their form.
 QString WithLineSeparators(const std::string& text) {
-  QString lines = FromWindows1252(text);
+  QString lines = Unescape(text);
   lines.replace("\r\n", "\n");
   lines.replace('\r', '\n');
   lines.replace('\n', QChar::LineSeparator);

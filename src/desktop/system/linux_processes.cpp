@@ -1,5 +1,7 @@
 #include "desktop/system/linux_processes.h"
 
+#include <unistd.h>
+
 #include <QCoreApplication>
 #include <QDir>
 #include <QFile>
@@ -37,7 +39,12 @@ LinuxProcesses::LinuxProcesses(QString runtimeFolder, std::function<void()> onAc
 
 bool LinuxProcesses::AnotherInstanceRuns() {
   QDir().mkpath(runtimeFolder_);
-  lock_ = std::make_unique<QLockFile>(runtimeFolder_ + "/pawnfield.lock");
+  const QString place = runtimeFolder_ + "/pawnfield.lock";
+  if (QFileInfo(place).isDir()) {
+    Listen();
+    throw RuntimeError(kErrorPathAccess, "A folder stands where the program's lock belongs: " + Escape(place));
+  }
+  lock_ = std::make_unique<QLockFile>(place);
   // Only a lock whose process is gone is stale, however old it is.
   lock_->setStaleLockTime(0);
   qint64 owner = 0;
@@ -65,9 +72,9 @@ std::vector<ProcessInfo> LinuxProcesses::List() const {
   for (const QString& entry : QDir("/proc").entryList(QDir::Dirs | QDir::NoDotAndDotDot)) {
     bool isNumber = false;
     const qlonglong id = entry.toLongLong(&isNumber);
-    if (!isNumber) continue;
-    const auto caption = ToWindows1252(CaptionOf("/proc/" + entry));
-    if (caption && !caption->empty()) processes.push_back({*caption, id});
+    if (!isNumber || QFileInfo("/proc/" + entry).ownerId() != geteuid()) continue;
+    const std::string caption = Escape(CaptionOf("/proc/" + entry));
+    if (!caption.empty()) processes.push_back({caption, id});
   }
   std::sort(processes.begin(), processes.end(),
             [](const ProcessInfo& a, const ProcessInfo& b) { return a.Handle < b.Handle; });
@@ -84,14 +91,14 @@ void LinuxProcesses::Activate(std::int64_t id) {
 }
 
 bool LinuxProcesses::StartHelper(const std::string& name, const std::string& argument) {
-  QString plain = FromWindows1252(name);
+  QString plain = Unescape(name);
   if (plain.endsWith(".exe", Qt::CaseInsensitive)) plain.chop(4);
   for (const QString& folder : programFolders_) {
     const QFileInfo file(folder + '/' + plain);
     if (!file.isFile() || !file.isExecutable()) continue;
     QProcess helper;
     helper.setProgram(file.absoluteFilePath());
-    helper.setArguments({FromWindows1252(argument)});
+    helper.setArguments({Unescape(argument)});
     helper.setStandardInputFile(QProcess::nullDevice());
     helper.setStandardOutputFile(QProcess::nullDevice());
     helper.setStandardErrorFile(QProcess::nullDevice());

@@ -18,7 +18,9 @@ class LinuxProcesses : public Processes {
   // programs are looked for in the program's folders, in their order.
   LinuxProcesses(QString runtimeFolder, std::function<void()> onActivate, QStringList programFolders = {});
 
+  // A RuntimeError where the mark can't be made.
   bool AnotherInstanceRuns() override;
+  // This user's.
   std::vector<ProcessInfo> List() const override;
   std::int64_t CurrentId() const override;
   // Other programs' windows can't be raised from here on Linux; only 0 has an effect.

@@ -58,18 +58,10 @@ class FormEnd : public Observer {
   QEventLoop& loop_;
 };
 
-// Whether the path as the program keeps it names the file, or for a new one its folder, that was chosen: an accent in
-// two parts or a backslash in a name would be lost on the way.
-bool LeadsTo(const std::string& spelled, const QString& chosen, bool save) {
-  const QFileInfo kept(NativePath(spelled));
-  const QFileInfo meant(chosen);
-  return save ? kept.absolutePath() == meant.absolutePath() : kept.absoluteFilePath() == meant.absoluteFilePath();
-}
-
 }  // namespace
 
 QString FilterList(const std::string& filter) {
-  const QStringList parts = FromWindows1252(filter).split('|', Qt::SkipEmptyParts);
+  const QStringList parts = Unescape(filter).split('|', Qt::SkipEmptyParts);
   QStringList filters;
   for (qsizetype i = 0; i + 1 < parts.size(); i += 2) {
     const qsizetype bracket = parts[i].indexOf('(');
@@ -82,9 +74,9 @@ QString FilterList(const std::string& filter) {
 BoxAnswer QtDialogs::MessageBox(const std::string& text, const std::string& title, BoxKind kind) {
   QMessageBox box(QApplication::activeWindow());
   box.setWindowFlag(Qt::WindowStaysOnTopHint);
-  box.setWindowTitle(FromWindows1252(title));
+  box.setWindowTitle(Unescape(title));
   box.setTextFormat(Qt::PlainText);
-  box.setText(FromWindows1252(text).replace("\r\n", "\n"));
+  box.setText(Unescape(text).replace("\r\n", "\n"));
   if (kind == BoxKind::Exclamation) box.setIcon(QMessageBox::Warning);
   if (kind == BoxKind::Critical) box.setIcon(QMessageBox::Critical);
   if (kind == BoxKind::YesNo || kind == BoxKind::YesNoCancel) box.setIcon(QMessageBox::Question);
@@ -93,27 +85,22 @@ BoxAnswer QtDialogs::MessageBox(const std::string& text, const std::string& titl
 }
 
 std::string QtDialogs::ChooseFile(const FileDialogRequest& request) {
-  QFileDialog dialog(QApplication::activeWindow(), FromWindows1252(request.Title), StartFolder(request.InitialFolder));
+  QFileDialog dialog(QApplication::activeWindow(), Unescape(request.Title), StartFolder(request.InitialFolder));
   dialog.setAcceptMode(request.Save ? QFileDialog::AcceptSave : QFileDialog::AcceptOpen);
   dialog.setFileMode(request.Save ? QFileDialog::AnyFile : QFileDialog::ExistingFile);
   dialog.setOption(QFileDialog::DontConfirmOverwrite, !request.ConfirmsOverwrite);
   if (!request.Filter.empty()) dialog.setNameFilters(FilterList(request.Filter).split(";;"));
-  if (!request.FileName.empty()) dialog.selectFile(FromWindows1252(request.FileName));
-  dialog.setDefaultSuffix(FromWindows1252(request.DefaultExtension));
+  if (!request.FileName.empty()) dialog.selectFile(Unescape(request.FileName));
+  dialog.setDefaultSuffix(Unescape(request.DefaultExtension));
   // The toolkit keeps the folders gone through for every dialog to come.
   dialog.setHistory({});
   const bool accepted = dialog.exec() == QDialog::Accepted && !dialog.selectedFiles().isEmpty();
   if (!accepted) return "";
-  const QString chosen = dialog.selectedFiles().first();
-  const auto spelled = SpelledPath(chosen);
-  if (spelled && LeadsTo(*spelled, chosen, request.Save)) return *spelled;
-  MessageBox("The file's name or folder holds characters that can't be used here. Please rename it.", request.Title,
-             BoxKind::Plain);
-  return "";
+  return SpelledPath(dialog.selectedFiles().first());
 }
 
 std::optional<Font> QtDialogs::ChooseFont(const Font& start) {
-  QFont first(FromWindows1252(start.Name));
+  QFont first(Unescape(start.Name));
   first.setPointSizeF(start.Size > 0 ? start.Size : kSmallestFont);
   first.setBold(start.Bold);
   first.setItalic(start.Italic);
@@ -127,12 +114,8 @@ std::optional<Font> QtDialogs::ChooseFont(const Font& start) {
   // What the operator left as it was stays as it was spelled, installed or not.
   const bool sameFace = font.family() == opened.family();
   const bool sameStyle = font.bold() == opened.bold() && font.italic() == opened.italic();
-  const auto name = sameFace ? start.Name : ToWindows1252(font.family());
-  if (!name) {
-    MessageBox("The font's name holds characters that can't be used here.", "Font", BoxKind::Plain);
-    return std::nullopt;
-  }
-  return Font{*name, font.pointSizeF() == opened.pointSizeF() ? start.Size : font.pointSizeF(),
+  const std::string name = sameFace ? start.Name : Escape(font.family());
+  return Font{name, font.pointSizeF() == opened.pointSizeF() ? start.Size : font.pointSizeF(),
               sameStyle ? start.Bold : font.bold(), sameStyle ? start.Italic : font.italic()};
 }
 

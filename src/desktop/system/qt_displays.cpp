@@ -34,6 +34,16 @@ void QtDisplays::RoundWindow(Form& form, int radius) {
   window->setMask(QRegion(outline.toFillPolygon().toPolygon()));
 }
 
-void QtDisplays::KeepAwake(bool awake) { awake ? inhibitor_.Hold() : inhibitor_.Release(); }
+void QtDisplays::KeepAwake(bool awake) {
+  awake_ = awake;
+  if (inhibitor_) {
+    awake ? inhibitor_->Hold() : inhibitor_->Release();
+  } else if (!buses_) {
+    buses_ = std::make_unique<BusFinder>([this](const QDBusConnection& session, const QDBusConnection& system) {
+      inhibitor_.emplace(session, system);
+      if (awake_) inhibitor_->Hold();
+    });
+  }
+}
 
 }  // namespace pawnfield

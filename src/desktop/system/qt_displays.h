@@ -1,6 +1,10 @@
 // The monitors and what the desktop does with whole windows.
 #pragma once
 
+#include <memory>
+#include <optional>
+
+#include "desktop/system/bus_finder.h"
 #include "desktop/system/screens.h"
 #include "desktop/system/sleep_inhibitor.h"
 #include "platform/ports.h"
@@ -23,7 +27,10 @@ class QtDisplays : public Displays {
  private:
   Screens& screens_;
   WindowLookup windowOf_;
-  SleepInhibitor inhibitor_{QDBusConnection::sessionBus(), QDBusConnection::systemBus()};
+  bool awake_ = false;
+  std::optional<SleepInhibitor> inhibitor_;
+  // The buses are looked for when the first hold is asked for, with the windows up.
+  std::unique_ptr<BusFinder> buses_;
 };
 
 }  // namespace pawnfield

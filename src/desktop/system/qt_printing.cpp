@@ -39,7 +39,7 @@ struct Paragraph {
 };
 
 Paragraph Wrap(const std::string& text, const QFont& font, double indent, QPainter& painter) {
-  Paragraph paragraph{std::make_unique<QTextLayout>(FromWindows1252(text), font, painter.device()), indent, 0};
+  Paragraph paragraph{std::make_unique<QTextLayout>(Unescape(text), font, painter.device()), indent, 0};
   QTextOption wrap;
   wrap.setWrapMode(QTextOption::WrapAtWordBoundaryOrAnywhere);
   paragraph.layout->setTextOption(wrap);
@@ -145,7 +145,7 @@ void QtPrinting::Print(const PrintDocument& document, int copies) {
 void PrintOn(QPrinter& printer, const PrintDocument& document, int copies) {
   const QString file = printer.outputFileName();
   if (printer.outputFormat() == QPrinter::NativeFormat || file.isEmpty()) {
-    printer.setDocName(FromWindows1252(document.Title));
+    printer.setDocName(Unescape(document.Title));
     PaintDocument(printer, document, copies);
     if (printer.printerState() == QPrinter::Error) throw RuntimeError(kErrorPrinter, "Printer error");
     return;
@@ -156,7 +156,7 @@ void PrintOn(QPrinter& printer, const PrintDocument& document, int copies) {
   QPdfWriter writer(&bytes);
   writer.setResolution(printer.resolution());
   writer.setPageLayout(printer.pageLayout());
-  writer.setTitle(FromWindows1252(document.Title));
+  writer.setTitle(Unescape(document.Title));
   PaintDocument(writer, document, copies);
   ReplaceFile(file, {bytes.data().constData(), static_cast<std::size_t>(bytes.size())});
 }

@@ -1,6 +1,7 @@
 #include "desktop/system/screens.h"
 
 #include <QGuiApplication>
+#include <utility>
 
 namespace pawnfield {
 
@@ -42,7 +43,8 @@ void Screens::Tell() {
 }
 
 void Screens::MoveHome(const QScreen& screen) {
-  if (!IsChanging()) home_ = screen.name();
+  if (!IsChanging() || !homeIsKnown_) home_ = screen.name();
+  if (!std::exchange(homeIsKnown_, true)) Change();
 }
 
 QScreen* Screens::First() const {
@@ -56,6 +58,7 @@ QList<QScreen*> Screens::List() const {
   QList<QScreen*> screens = QGuiApplication::screens();
   const qsizetype home = screens.indexOf(First());
   if (home > 0) screens.move(home, 0);
+  if (!homeIsKnown_ && screens.size() > 1) screens.resize(1);
   return screens;
 }
 

@@ -19,6 +19,7 @@ class Screens : public QObject {
  public:
   Screens();
 
+  // The console's alone until it is known which it is.
   QList<QScreen*> List() const;
   // The console's monitor; the primary one while the console's is away.
   QScreen* First() const;
@@ -29,8 +30,10 @@ class Screens : public QObject {
   QRect Room(const QScreen& screen) const;
   // The screen that shows the point, null when none does.
   QScreen* At(QPoint point) const;
-  // The operator has put the console on another monitor.
+  // The operator has put the console on another monitor, or one of the windows has told which it is.
   void MoveHome(const QScreen& screen);
+  // False in a Wayland session until then.
+  bool HomeIsKnown() const { return homeIsKnown_; }
   // True from a change of the monitors until it has settled: what moves meanwhile is not the operator's doing.
   bool IsChanging() const { return settled_.isActive(); }
 
@@ -44,6 +47,7 @@ class Screens : public QObject {
 
   // By name, so that a monitor which comes back is known again.
   QString home_;
+  bool homeIsKnown_ = WindowsHavePlaces();
   QTimer soon_, settled_;
   mutable XMonitors server_{[this] { Change(); }};
   std::vector<std::function<void()>> subscribers_;

@@ -37,7 +37,7 @@ AudienceWindow::AudienceWindow(FSMainForm& form, SecondScreenForm& copy, FormWin
   Bindings()->AddCanvas(*screen_);
   copy_.AddObserver(*this);
   windows_.Add(copy_, *this);
-  setWindowTitle(FromWindows1252(copy_.Form::Caption));
+  setWindowTitle(Unescape(copy_.Form::Caption));
   screens_.Subscribe([this] { Place(); });
   connect(qGuiApp, &QGuiApplication::screenRemoved, this, &AudienceWindow::ScreenRemoved);
 }

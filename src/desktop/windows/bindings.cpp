@@ -11,7 +11,6 @@
 #include <QProgressBar>
 #include <QRadioButton>
 #include <QTimer>
-#include <QToolTip>
 #include <QTreeWidget>
 #include <algorithm>
 
@@ -63,7 +62,7 @@ class Binding : public Observer {
   void ShowCommon() {
     if (widget.isHidden() == model.Visible) widget.setVisible(model.Visible);
     widget.setEnabled(model.Enabled);
-    if (!model.ToolTipText->empty()) widget.setToolTip(FromWindows1252(model.ToolTipText));
+    if (!model.ToolTipText->empty()) widget.setToolTip(Unescape(model.ToolTipText));
   }
 };
 
@@ -75,7 +74,7 @@ class ButtonBinding : public Binding<Button, QAbstractButton> {
   }
 
  private:
-  void ShowOwn(PropertyId) override { widget.setText(FromWindows1252(model.Caption)); }
+  void ShowOwn(PropertyId) override { widget.setText(Unescape(model.Caption)); }
 };
 
 class LabelBinding : public Binding<Label, QLabel> {
@@ -97,7 +96,7 @@ class LabelBinding : public Binding<Label, QLabel> {
     if (target != nullptr) target->Click();
   }
   void ShowOwn(PropertyId) override {
-    widget.setText(FromWindows1252(model.Caption).replace("\r\n", "\n"));
+    widget.setText(Unescape(model.Caption).replace("\r\n", "\n"));
     if (model.ForeColor == kWhite) return;
     QPalette palette = widget.palette();
     palette.setColor(QPalette::WindowText, ToQColor(model.ForeColor));
@@ -117,7 +116,7 @@ class CheckBoxBinding : public Binding<CheckBox, QCheckBox> {
 
  private:
   void ShowOwn(PropertyId) override {
-    widget.setText(FromWindows1252(model.Caption));
+    widget.setText(Unescape(model.Caption));
     widget.setChecked(model.Value != 0);
   }
 };
@@ -136,7 +135,7 @@ class OptionBinding : public Binding<OptionButton, QRadioButton> {
 
  private:
   void ShowOwn(PropertyId) override {
-    widget.setText(FromWindows1252(model.Caption));
+    widget.setText(Unescape(model.Caption));
     widget.setChecked(model.Value);
   }
 };
@@ -156,7 +155,7 @@ class ComboBinding : public Binding<ComboBox, ModelComboBox> {
   void ShowOwn(PropertyId id) override {
     if (id == PropertyId::List) {
       widget.clear();
-      for (const std::string& item : model.List.Get()) widget.addItem(FromWindows1252(item));
+      for (const std::string& item : model.List.Get()) widget.addItem(Unescape(item));
     }
     widget.setCurrentIndex(model.ListIndex);
   }
@@ -189,19 +188,13 @@ class TextBoxBinding : public Binding<TextBox, QLineEdit> {
 
  private:
   void Edited(const QString& text) {
-    const auto bytes = ToWindows1252(text);
-    if (bytes) {
-      model.Type(*bytes);
-    } else {
-      QToolTip::showText(widget.mapToGlobal(QPoint(0, widget.height())),
-                         "This character can't be kept in a set file and was not taken.", &widget);
-    }
+    model.Type(Escape(text.normalized(QString::NormalizationForm_C)));
     ShowOwn(PropertyId::Text);
   }
   void ShowOwn(PropertyId id) override {
     // The press that gives the focus places the cursor afterwards.
     if (id == PropertyId::Selection) QTimer::singleShot(0, &widget, &QLineEdit::selectAll);
-    const QString text = FromWindows1252(model.Text);
+    const QString text = Unescape(model.Text);
     if (widget.text() != text) widget.setText(text);
     if (widget.property("showsLook").toBool()) {
       ShowLook();
@@ -223,7 +216,7 @@ class TextBoxBinding : public Binding<TextBox, QLineEdit> {
         QString(
             "font-family: \"%1\"; font-size: %2pt; font-weight: %3; font-style: %4; color: %5; "
             "background: %6; padding: 2px 8px;")
-            .arg(FromWindows1252(font.Name).remove('"'))
+            .arg(Unescape(font.Name).remove('"'))
             .arg(std::clamp(font.Size, kSmallestSample, kLargestSample))
             .arg(font.Bold ? 700 : 400)
             .arg(font.Italic ? "italic" : "normal", ToQColor(model.ForeColor).name(), ToQColor(model.BackColor).name());
@@ -241,7 +234,7 @@ class FrameBinding : public Binding<Frame, QWidget> {
  private:
   void ShowOwn(PropertyId) override {
     auto* group = qobject_cast<QGroupBox*>(&widget);
-    if (group != nullptr && !model.Caption->empty()) group->setTitle(FromWindows1252(model.Caption));
+    if (group != nullptr && !model.Caption->empty()) group->setTitle(Unescape(model.Caption));
   }
 };
 
@@ -284,7 +277,7 @@ class ListViewBinding : public Binding<ListView, QTreeWidget> {
  public:
   ListViewBinding(ListView& list, QTreeWidget& view) : Binding(list, view) {
     QStringList headers;
-    for (const std::string& header : model.ColumnHeaders) headers.append(FromWindows1252(header));
+    for (const std::string& header : model.ColumnHeaders) headers.append(Unescape(header));
     widget.setHeaderLabels(headers);
     widget.setRootIsDecorated(false);
     widget.setUniformRowHeights(true);
@@ -312,7 +305,7 @@ class ListViewBinding : public Binding<ListView, QTreeWidget> {
   static void ShowRow(QTreeWidgetItem& item, const std::vector<ListView::Row>& rows, int row) {
     const ListView::Row& texts = rows[static_cast<std::size_t>(row)];
     for (std::size_t column = 0; column < texts.size(); ++column) {
-      item.setText(static_cast<int>(column), FromWindows1252(texts[column]));
+      item.setText(static_cast<int>(column), Unescape(texts[column]));
     }
   }
   bool showing_ = false;
@@ -327,7 +320,7 @@ class ActionBinding : public Observer {
   }
 
   void Changed(Control&, PropertyId) override {
-    action_.setText(FromWindows1252(menu_.Caption));
+    action_.setText(Unescape(menu_.Caption));
     action_.setVisible(menu_.Visible);
     action_.setEnabled(menu_.Enabled);
   }

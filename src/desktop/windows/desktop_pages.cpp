@@ -1,6 +1,6 @@
 #include "desktop/windows/desktop_pages.h"
 
-#include <QCoreApplication>
+#include <QApplication>
 #include <QDesktopServices>
 #include <QDir>
 #include <QFileInfo>
@@ -11,7 +11,10 @@ namespace pawnfield {
 bool DesktopPages::Open(const std::string& address) {
   const QString where = QString::fromStdString(address);
   if (where.startsWith("http")) return QDesktopServices::openUrl(QUrl(where));
-  if (!window_) window_ = std::make_unique<ManualWindow>(folder_);
+  if (!window_) window_ = new ManualWindow(folder_);
+  // A modal window lets its own children be worked and no others.
+  QWidget* modal = QApplication::activeModalWidget();
+  if (window_->parentWidget() != modal) window_->setParent(modal, Qt::Window);
   return window_->ShowPage(where);
 }
 

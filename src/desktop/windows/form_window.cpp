@@ -39,14 +39,14 @@ FormWindow::~FormWindow() { windows_.Remove(form_); }
 
 void FormWindow::BindForm() {
   setObjectName(QString::fromStdString(form_.Name()));
-  setWindowTitle(FromWindows1252(form_.Caption));
+  setWindowTitle(Unescape(form_.Caption));
   binder_ = std::make_unique<Binder>(form_, *this, windows_.Pictures());
   form_.AddObserver(*this);
   if (form_.Visible) ShowForm();
 }
 
 void FormWindow::Changed(Control&, PropertyId id) {
-  if (id == PropertyId::Caption) setWindowTitle(FromWindows1252(form_.Caption));
+  if (id == PropertyId::Caption) setWindowTitle(Unescape(form_.Caption));
   if (id == PropertyId::Visible) form_.Visible ? ShowForm() : hide();
   if (id == PropertyId::Focus) activateWindow();
   if (id == PropertyId::ZOrder && isVisible()) raise();

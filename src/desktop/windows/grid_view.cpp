@@ -44,8 +44,7 @@ class GridBinding : public Observer {
     QObject::connect(&view_, &GridView::KeyPressed, &view_,
                      [this](int code, int ascii) { model_.PressKey(code, ascii); });
     QObject::connect(&view_, &GridView::FileDropped, &view_, [this](int row, int column, const QString& path) {
-      const auto spelled = SpelledPath(path);
-      model_.DropFile(row + 1, column + 1, spelled.value_or(path.toStdString()));
+      model_.DropFile(row + 1, column + 1, SpelledPath(path));
     });
     model_.AddObserver(*this);
   }
@@ -57,7 +56,7 @@ class GridBinding : public Observer {
   }
 
  private:
-  QString Text(int row, int column) const { return FromWindows1252(model_.Cell(row, column)); }
+  QString Text(int row, int column) const { return Unescape(model_.Cell(row, column)); }
 
   void ShowTexts() {
     QStringList columns;

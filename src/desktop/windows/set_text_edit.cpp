@@ -52,7 +52,7 @@ class SetTextBinding : public Observer {
     view_.setVisible(box_.Visible);
     view_.setEnabled(box_.Enabled);
     if (id == PropertyId::Focus) view_.setFocus();
-    const QString text = FromWindows1252(box_.Text);
+    const QString text = Unescape(box_.Text);
     if (id == PropertyId::Text && view_.Content() != text) {
       const QSignalBlocker quiet(view_);
       view_.setPlainText(text);
@@ -61,8 +61,8 @@ class SetTextBinding : public Observer {
 
  private:
   void Edited() {
-    const auto bytes = ToWindows1252(view_.Content());
-    if (bytes && *bytes != box_.Text.Get()) box_.Type(*bytes);
+    const std::string bytes = Escape(view_.Content());
+    if (bytes != box_.Text.Get()) box_.Type(bytes);
   }
 
   TextBox& box_;

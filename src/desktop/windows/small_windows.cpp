@@ -1,5 +1,9 @@
 #include "desktop/windows/small_windows.h"
 
+#include <QScreen>
+#include <QTimer>
+#include <QWindow>
+
 #include "forms/small_forms.h"
 #include "ui_frm_game_in_progress.h"
 #include "ui_frm_game_loading.h"
@@ -12,6 +16,7 @@ namespace pawnfield {
 namespace {
 
 constexpr Qt::WindowFlags kBare = Qt::SplashScreen | Qt::FramelessWindowHint;
+constexpr int kEnterMs = 200;
 
 }  // namespace
 
@@ -20,10 +25,26 @@ LoadingWindow::LoadingWindow(LoadingForm& form, FormWindows& windows) : FormWind
   BindForm();
 }
 
-SplashWindow::SplashWindow(SplashForm& form, FormWindows& windows) : FormWindow(form, windows, kBare) {
+SplashWindow::SplashWindow(SplashForm& form, FormWindows& windows, Screens& screens)
+    : FormWindow(form, windows, kBare), screens_(screens) {
   SetUp<Ui::frmSplash>(*this);
   BindForm();
 }
+
+void SplashWindow::ShowForm() {
+  FormWindow::ShowForm();
+  activateWindow();
+  if (!screens_.HomeIsKnown()) QTimer::singleShot(kEnterMs, this, &SplashWindow::NoteHome);
+}
+
+// A Wayland session tells a window of its screen a moment after it is drawn.
+void SplashWindow::NoteHome() {
+  if (isVisible() && windowHandle() != nullptr) screens_.MoveHome(*windowHandle()->screen());
+}
+
+void SplashWindow::keyPressEvent(QKeyEvent*) { form_.Click(); }
+
+void SplashWindow::mousePressEvent(QMouseEvent*) { form_.Click(); }
 
 GameLoadingWindow::GameLoadingWindow(GameLoadingForm& form, FormWindows& windows) : FormWindow(form, windows, kBare) {
   SetUp<Ui::frmGameLoading>(*this);

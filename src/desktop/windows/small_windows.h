@@ -1,6 +1,7 @@
 // The windows of the small forms: loading, splash, the wait for system files, game in progress, game types.
 #pragma once
 
+#include "desktop/system/screens.h"
 #include "desktop/windows/form_window.h"
 #include "forms/small_forms.h"
 
@@ -19,7 +20,17 @@ class LoadingWindow : public FormWindow {
 
 class SplashWindow : public FormWindow {
  public:
-  SplashWindow(SplashForm& form, FormWindows& windows);
+  // Tells the screens which one it has come up on.
+  SplashWindow(SplashForm& form, FormWindows& windows, Screens& screens);
+
+ protected:
+  void ShowForm() override;
+  void keyPressEvent(QKeyEvent* event) override;
+  void mousePressEvent(QMouseEvent* event) override;
+
+ private:
+  void NoteHome();
+  Screens& screens_;
 };
 
 class GameLoadingWindow : public FormWindow {

@@ -111,7 +111,7 @@ void RandomHand::Drag(QWidget& widget) {
 
 void RandomHand::TypeInto(QWidget& widget) {
   const QPointer<QWidget> target = &widget;
-  const QString text = FromWindows1252(kWords[chance_.Below(kWords.size())]);
+  const QString text = Unescape(kWords[chance_.Below(kWords.size())]);
   Click(widget, widget.rect().center());
   note_("type \"" + text + '"');
   if (target && chance_.OneIn(2)) QTest::keyClick(target, Qt::Key_A, Qt::ControlModifier);

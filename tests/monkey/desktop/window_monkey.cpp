@@ -184,7 +184,7 @@ QString WindowMonkey::AudienceInTheWay() {
 
 QString WindowMonkey::WhatIsBroken() {
   const std::string fault = BrokenInvariant(show_);
-  if (!fault.empty()) return FromWindows1252(fault);
+  if (!fault.empty()) return Unescape(fault);
   const qint64 silence = heart_.TakeLongest();
   if (silence > kSilenceMs) return QString("the message loop was silent for %1 ms").arg(silence);
   if (!program_.Console().isVisible()) return "the console is gone";

@@ -72,7 +72,7 @@ void World::Join(Show& show) {
   show.presses.MFMap = {101, 102, 103};
   static constexpr std::array kMedia = {"there.wav", "there.jpg", "film.mp4", "broken.mp4", "missing.wav"};
   for (std::size_t row = kFirstLetterRow; row < show.soundBanks[1].size(); ++row) {
-    show.soundBanks[1][row] = SpelledPath(Sets() + kMedia[row % kMedia.size()]).value_or("");
+    show.soundBanks[1][row] = SpelledPath(Sets() + kMedia[row % kMedia.size()]);
   }
 }
 

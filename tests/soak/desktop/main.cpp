@@ -31,13 +31,13 @@ constexpr Reading kBound{12288, 12288, 4, 4};
 std::string MakeTone(const QString& path, double hertz, int milliseconds) {
   QFile file(path);
   if (file.open(QIODevice::WriteOnly)) file.write(ToneFile(hertz, milliseconds));
-  return SpelledPath(path).value_or("");
+  return SpelledPath(path);
 }
 
 std::string MakeFilm(const QString& path) {
   QProcess::execute("ffmpeg", {"-v", "error", "-y", "-f", "lavfi", "-i", "testsrc2=size=960x540:rate=25:duration=6",
                                "-f", "lavfi", "-i", "sine=duration=6", path});
-  return SpelledPath(path).value_or("");
+  return SpelledPath(path);
 }
 
 // The key's sound, in the next two seconds.
