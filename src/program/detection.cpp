@@ -9,6 +9,7 @@
 #include "engine/set_choice.h"
 #include "forms/main_form.h"
 #include "forms/small_forms.h"
+#include "platform/errors.h"
 #include "platform/text.h"
 #include "presentation/audience_screen.h"
 #include "program/main_load.h"
@@ -41,14 +42,17 @@ void ShowAudienceAt(Show& show, int left) {
 void ReportManualMode(Show& show) {
   show.platform.dialogs.MessageBox("No hardware was detected so you will be loaded in manual mode.", kAppTitle,
                                    BoxKind::Plain);
-  SaveSettingOrTell(show, kNoHardwareTold, BooleanText(true), show.frmSplash, "tmrSplash_Timer");
+  RunGuarded(
+      show.platform.dialogs, [&] { SaveSetting(show, kNoHardwareTold, BooleanText(true)); }, "frmSplash",
+      "tmrSplash_Timer");
 }
 
 // The hardware in the order in which it is looked for.
 void ServeWhatIsFound(Show& show) {
   GameState& state = show.state;
   PressState& presses = show.presses;
-  const bool toldBefore = GetBoolSetting(show, kNoHardwareTold, false);
+  const bool toldBefore =
+      show.platform.settings.GetSetting(kAppTitle, "Settings", kNoHardwareTold, "") == BooleanText(true);
   presses.CommPortNumber = FindZR610Port(show.platform.serial);
   presses.ZR610Present = presses.CommPortNumber > -1;
   if (!presses.ZR610Present) {

@@ -28,7 +28,8 @@ QString NameOf(xcb_connection_t* connection, xcb_atom_t atom) {
 
 XMonitors::XMonitors(std::function<void()> changed) : changed_(std::move(changed)) {
   const auto* server = qGuiApp->nativeInterface<QNativeInterface::QX11Application>();
-  if (server == nullptr) return;
+  // An off-screen session can have the interface and no server.
+  if (server == nullptr || server->connection() == nullptr) return;
   const auto* extension = xcb_get_extension_data(server->connection(), &xcb_randr_id);
   if (extension == nullptr || extension->present == 0) return;
   connection_ = server->connection();

@@ -149,7 +149,7 @@ void WindowMonkey::ReadBox(QWidget& widget) {
   if (box == nullptr || read_ == box) return;
   read_ = &widget;
   Note("box: " + box->text().left(300).simplified());
-  const std::string text = ToWindows1252(box->text().replace("\n", "\r\n")).value_or("");
+  const std::string text = Escape(box->text().replace("\n", "\r\n"));
   if (text.starts_with("An untrapped error") && !IsExpectedError(text)) {
     Fail("unexpected error box: " + box->text().simplified());
   }
