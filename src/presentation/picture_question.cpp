@@ -27,6 +27,7 @@ void ShowMissingPicture(Show& show) {
   HidePanel(show, Panel::QuestionPicture);
   WriteCard(show, kPictureMissing, show.frmMain.lblQuestion);
   if (show.state.DualScreen) WriteMissingPictureCard(show);
+  RandomQuestionBackground(show);
   ShowPanel(show, Panel::Question);
 }
 

@@ -148,7 +148,8 @@ TEST(PrintTest, EachPageOfACopyHasItsNumberAndTheCount) {
 
 // What the font dialog opens on; OK is pressed then.
 TEST(FontDialogTest, OpensOnWhatIsShownAndOkAloneChangesNothing) {
-  FormWindows windows;
+  PictureCache pictures;
+  FormWindows windows{pictures};
   QtDialogs dialogs(windows);
   for (const Font& start : {Font{"Courier New", 28, true, true}, Font{"Comic Sans MS", 11, false, false},
                             Font{"Liberation Sans", 80, true, false}}) {
