@@ -8,6 +8,7 @@
 #include "desktop/system/bus_finder.h"
 #include "desktop/system/end_signals.h"
 #include "desktop/windows/fitting_scale.h"
+#include "forms/main_form.h"
 #include "program/program.h"
 #include "program/start_up.h"
 
@@ -24,7 +25,7 @@ int main(int argc, char** argv) {
   pawnfield::DesktopProgram program(places);
   pawnfield::Show& show = program.TheShow();
   const pawnfield::EndSignals endSignals([&show] { pawnfield::EndWithoutAsking(show); });
-  const pawnfield::LastWords lastWords([&show] { pawnfield::KeepSettings(show); });
+  const pawnfield::LastWords lastWords(show.frmMain, [&show] { pawnfield::KeepSettings(show); });
   if (places.copyFailure) pawnfield::ReportCopyFailure(show.platform.dialogs, *places.copyFailure);
   if (set) show.consoleDialog.FileName = pawnfield::SpelledPath(*set);
   pawnfield::Main(show);

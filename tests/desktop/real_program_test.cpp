@@ -56,6 +56,12 @@ class RealProgramTest : public FolderTest {
     process_.start(QCoreApplication::applicationDirPath() + "/pawnfield", arguments);
     ASSERT_TRUE(process_.waitForStarted());
   }
+  // Number 0 would go to this process and all its kin.
+  void Signal(int number) {
+    const auto id = static_cast<pid_t>(process_.processId());
+    ASSERT_GT(id, 0) << "it has ended already";
+    kill(id, number);
+  }
   static QString Xdotool(const QStringList& arguments) {
     QProcess tool;
     tool.start("xdotool", arguments);
@@ -99,7 +105,7 @@ TEST_F(RealProgramTest, EachEndingSignalEndsItInOrderWithItsSettingsSaved) {
     ASSERT_NO_FATAL_FAILURE(Start());
     ASSERT_TRUE(ConsoleComesUp()) << number;
     EXPECT_FALSE(SavedSettings().contains("GridControl"));
-    kill(static_cast<pid_t>(process_.processId()), number);
+    ASSERT_NO_FATAL_FAILURE(Signal(number));
     EXPECT_TRUE(process_.waitForFinished(20000)) << number;
     EXPECT_EQ(process_.exitStatus(), QProcess::NormalExit) << number;
     EXPECT_EQ(process_.exitCode(), 0) << number;
@@ -141,7 +147,7 @@ TEST_F(RealProgramTest, ABusThatNeverAnswersDoesNotKeepTheConsoleAway) {
   environment_.insert("DBUS_SESSION_BUS_ADDRESS", "unix:path=" + path);
   ASSERT_NO_FATAL_FAILURE(Start());
   EXPECT_TRUE(ConsoleComesUp());
-  kill(static_cast<pid_t>(process_.processId()), SIGTERM);
+  ASSERT_NO_FATAL_FAILURE(Signal(SIGTERM));
   EXPECT_TRUE(process_.waitForFinished(20000));
   close(silent);
 }
@@ -155,7 +161,7 @@ TEST_F(RealProgramTest, RunsWithAHomeOfAnyAlphabetAndASetNamedSoAtTheStart) {
     ASSERT_NO_FATAL_FAILURE(Start({folder + ".txt"}));
     ASSERT_TRUE(ConsoleComesUp()) << folder.toStdString();
     EXPECT_TRUE(QFileInfo(home_ + "/data/Ostara Show Kit Data/Pawnfield").isDir()) << folder.toStdString();
-    kill(static_cast<pid_t>(process_.processId()), SIGTERM);
+    ASSERT_NO_FATAL_FAILURE(Signal(SIGTERM));
     ASSERT_TRUE(process_.waitForFinished(20000)) << "waits in a box: " << folder.toStdString();
   }
 }

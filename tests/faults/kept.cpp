@@ -29,8 +29,8 @@ class LinkedFile {
  public:
   LinkedFile(const QString& path, int number)
       : path_(path),
-        target_(QFileInfo(path).path() + '/' + QString::number(number).rightJustified(255, 'n')),
-        second_(target_.chopped(1) + 's') {
+        target_(QFileInfo(path).path() + "/t" + QString::number(number).rightJustified(254, 'n')),
+        second_(QFileInfo(path).path() + "/s" + QString::number(number).rightJustified(254, 'n')) {
     QFile::rename(path_, target_);
     QFile::link(target_, path_);
     [[maybe_unused]] const int linked = link(Coded(target_).constData(), Coded(second_).constData());
@@ -66,12 +66,13 @@ int RunKept(const QString& root) {
   for (const Writer& writer : AllWriters()) {
     Rig rig(root + '/' + QString::fromStdString(writer.Kind));
     rig.places.MakeFolders();
-    writer.Write(rig, 0);
+    // Twice, so that the copy of the file before the last save is there too.
+    for (int variant = 0; variant < 2; ++variant) writer.Write(rig, variant);
     std::vector<LinkedFile> files;
     for (const QString& file : writer.Files) {
       files.emplace_back(rig.places.Root + '/' + writer.Folder + '/' + file, static_cast<int>(files.size()));
     }
-    writer.Write(rig, 1);
+    writer.Write(rig, 2);
     std::string fault = rig.dialogs.Told.empty() ? "" : rig.dialogs.Told.front();
     for (const LinkedFile& file : files) {
       if (fault.empty()) fault = file.Fault();

@@ -41,9 +41,9 @@ void Places::MakeFolders() const {
 Rig::Rig(const QString& root)
     : places(root),
       settings(places.Config()),
-      platform{sim.clock, dialogs,      sim.media.Channels(), settings,         files,   sim.text,
-               pictures,  sim.displays, sim.processes,        sim.random,       sim.hid, sim.devices,
-               printing,  sim.pages,    sim.serial,           FoldersOf(places)},
+      platform{sim.clock,  dialogs,      sim.media.Channels(), settings,   files,   sim.text,    pictures,
+               mediaFiles, sim.displays, sim.processes,        sim.random, sim.hid, sim.devices, printing,
+               sim.pages,  sim.serial,   FoldersOf(places)},
       show(platform) {
   AttachHandlers(show);
 }

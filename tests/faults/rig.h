@@ -6,7 +6,8 @@
 
 #include "desktop/files/qt_file_system.h"
 #include "desktop/files/qt_settings_store.h"
-#include "desktop/system/qt_readers.h"
+#include "desktop/media/media_files.h"
+#include "desktop/painting/picture_cache.h"
 #include "show/show.h"
 #include "sim/sim_platform.h"
 

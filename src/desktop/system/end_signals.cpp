@@ -50,7 +50,10 @@ void SayAtExit() {
 
 void IgnoreBrokenPipes() { SetHandler(SIGPIPE, SIG_IGN); }
 
-LastWords::LastWords(std::function<void()> say) : say_(std::move(say)) {
+LastWords::LastWords(Form& console, std::function<void()> say) : say_(std::move(say)) { console.AddObserver(*this); }
+
+void LastWords::Changed(Control& console, PropertyId id) {
+  if (id != PropertyId::Visible || !console.Visible || ToSay() != nullptr) return;
   ToSay() = &say_;
   std::atexit(SayAtExit);
 }

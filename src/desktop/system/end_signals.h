@@ -5,6 +5,8 @@
 #include <QSocketNotifier>
 #include <functional>
 
+#include "platform/controls.h"
+
 namespace pawnfield {
 
 // A write to a reader that has gone, as to a closed standard error, fails from now on and ends nothing.
@@ -12,14 +14,16 @@ void IgnoreBrokenPipes();
 
 // What is done when the process ends behind the program's back, as the toolkit ends it when the display's server dies.
 // No window may be touched then.
-class LastWords {
+class LastWords : public Observer {
  public:
-  // One at a time.
-  explicit LastWords(std::function<void()> say);
+  // One at a time. In force from the moment that the console is shown: what was made until then is still there when the
+  // process ends.
+  LastWords(Form& console, std::function<void()> say);
   // The program has ended in order.
-  ~LastWords();
+  ~LastWords() override;
   LastWords(const LastWords&) = delete;
   LastWords& operator=(const LastWords&) = delete;
+  void Changed(Control& console, PropertyId id) override;
 
  private:
   std::function<void()> say_;
