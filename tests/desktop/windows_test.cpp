@@ -5,6 +5,7 @@
 #include <QLineEdit>
 #include <QTest>
 #include <QTimer>
+#include <QWindow>
 
 #include "desktop/windows/bindings.h"
 #include "desktop/windows/fitting_scale.h"
@@ -117,6 +118,20 @@ TEST_F(WindowsTest, TypedTextOfAnyAlphabetReachesTheModelAndIsShownAsTyped) {
   EXPECT_EQ(changes, 3);
   EXPECT_EQ(line.text(), QString::fromUtf8("C4\u4e2d"));
   EXPECT_EQ(form_.txtDJCommand.Text.Get(), "C4" + EscapeOf(0x4e2d));
+}
+
+TEST_F(WindowsTest, AClickAnywhereOnTheSplashAndAnyKeyReachIt) {
+  int ends = 0;
+  show_.frmSplash.OnClick = [&] { ++ends; };
+  show_.frmSplash.Visible = true;
+  FormWindow& splash = Window(show_.frmSplash);
+  for (const QPoint place : {splash.rect().center(), QPoint(5, 5), QPoint(splash.width() / 2, splash.height() - 3)}) {
+    QTest::mouseClick(splash.windowHandle(), Qt::LeftButton, {}, place);
+  }
+  EXPECT_EQ(ends, 3);
+  for (const Qt::Key key : {Qt::Key_Space, Qt::Key_Escape, Qt::Key_A}) QTest::keyClick(&splash, key);
+  EXPECT_EQ(ends, 6);
+  show_.frmSplash.Visible = false;
 }
 
 TEST_F(WindowsTest, SquaresAreHitWhereTheyStandAndNotThroughPanelsWhichAreSeenInOrderOfZ) {

@@ -29,6 +29,8 @@ SplashWindow::SplashWindow(SplashForm& form, FormWindows& windows, Screens& scre
     : FormWindow(form, windows, kBare), screens_(screens) {
   SetUp<Ui::frmSplash>(*this);
   BindForm();
+  // A click anywhere is the splash's own.
+  centralWidget()->setAttribute(Qt::WA_TransparentForMouseEvents);
 }
 
 void SplashWindow::ShowForm() {
