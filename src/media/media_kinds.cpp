@@ -62,7 +62,7 @@ std::string TitledFilters(Medium kind) {
     last = type.Title;
     const std::string patterns =
         Patterns(";", [&](const MediaType& one) { return std::string_view(one.Title) == last; });
-    filters += std::string(last) + " (" + patterns + ")|" + patterns + "|";
+    filters.append(last).append(" (").append(patterns).append(")|").append(patterns).append("|");
   }
   return filters;
 }

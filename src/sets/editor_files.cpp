@@ -27,7 +27,7 @@ bool MayOverwrite(Show& show, const std::string& path, const std::string& questi
 
 // The path to save under, in the form that SaveFile gives it; empty after a cancel.
 std::string AskSavePath(Show& show, FileDialogMode mode, const std::string& title, const std::string& fileName) {
-  const std::string chosen = Trim(ShowFileDialog(show, {mode, title, kSetFilter, "txt", fileName, SetsFolder(show)}));
+  std::string chosen = Trim(ShowFileDialog(show, {mode, title, kSetFilter, "txt", fileName, SetsFolder(show)}));
   if (chosen.empty()) return chosen;
   const std::string path = NormalSetPath(chosen);
   // The dialog has asked about the name that was typed and not about the one with its ".txt".

@@ -127,11 +127,9 @@ class RowReader {
     do {
       row.push_back(NextCell());
     } while (Takes(separator_));
-    if (Takes('\r')) {
-      Takes('\n');
-    } else {
-      Takes('\n');
-    }
+    // A line ends with either sign or with both.
+    Takes('\r');
+    Takes('\n');
     return row;
   }
 
