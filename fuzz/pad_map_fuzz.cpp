@@ -5,7 +5,7 @@
 #include <cstdlib>
 #include <string>
 
-#include "controllers/pad_map.h"
+#include "devices/pad_map_table.h"
 
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
   using namespace pawnfield;
