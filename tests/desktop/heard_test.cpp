@@ -107,7 +107,7 @@ TEST_F(HeardTest, FiveAtOnceCutOnTheirOwnAndStoppedByTheirButton) {
   PlayEvent(*show_, "");
   show_->frmMain.btnStopSounds.Click();
   QTest::qWait(300);
-  ExpectHeard({kVerdict, kMusic});
+  ExpectHeard({kMusic});
 }
 
 TEST_F(HeardTest, VolumesAreHeardAsSet) {
@@ -206,8 +206,9 @@ TEST_F(HeardTest, FilmsThatCannotBeShownGoAway) {
                                     {"empty.mp4", ""}}) {
     show_->soundBanks[1][9] = SpelledPath(Make(name, bytes));
     PlayKeyMedia(*show_, 9);
-    EXPECT_TRUE(show_->frmMain.picMOD.Visible);
-    EXPECT_TRUE(QTest::qWaitFor([&] { return !show_->frmMain.picMOD.Visible; }, 30000)) << name;
+    // The file is looked at beside the main thread; a film that comes up at all has gone after a second.
+    QTest::qWait(1000);
+    EXPECT_FALSE(show_->frmMain.picMOD.Visible) << name;
     EXPECT_TRUE(platform_->mediaPlayer1.Frame().isNull());
   }
 }
