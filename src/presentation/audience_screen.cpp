@@ -137,6 +137,12 @@ void MonitorsChanged(Show& show) {
     if (show.state.DualScreen) CopyPairs(show);
     return;
   }
+  // A monitor that goes before the console is up was none of the show's.
+  if (!show.frmMain.Visible && !HasSecondMonitor(show)) {
+    show.frmSS.Visible = false;
+    show.state.DualScreen = false;
+    return;
+  }
   HasSecondMonitor(show) ? AudienceScreenFound(show) : AudienceScreenLost(show);
 }
 

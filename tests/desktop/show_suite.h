@@ -3,8 +3,10 @@
 
 #include <gtest/gtest.h>
 
+#include <QGuiApplication>
 #include <QProcess>
 #include <QTemporaryDir>
+#include <QTest>
 
 #include "forms/fs_main_form.h"
 #include "forms/main_form.h"
@@ -21,6 +23,9 @@ class ShowSuite : public testing::Test {
   static void SetUpTestSuite() { Begin(kTwoMonitors); }
   static void Begin(const char* monitors) {
     ready_ = Xrandr(monitors);
+    // The toolkit hears of it by an event of its own, and the program is to start on what is there.
+    const int count = monitors == kOneMonitor ? 1 : 2;
+    ready_ = ready_ && QTest::qWaitFor([count] { return QGuiApplication::screens().size() == count; }, 30000);
     folder_ = new QTemporaryDir;
     driver_ = new ShowDriver(folder_->path());
     ready_ = ready_ && driver_->Start();
