@@ -3,8 +3,10 @@
 #include <QDir>
 #include <QFile>
 #include <QPrinter>
+#include <optional>
 
 #include "desktop/files/native_path.h"
+#include "desktop/files/whole_file.h"
 #include "desktop/system/qt_printing.h"
 #include "forms/main_form.h"
 #include "program/handlers.h"
@@ -55,7 +57,14 @@ void Start(Rig& rig) {
 
 std::vector<std::string> NextStart(const QString& root) {
   Rig rig(root);
+  // A start keeps by itself that missing hardware has been told; what is tried here shall find its own files alone.
+  const QString settings = rig.places.Config() + "/pawnfield.ini";
+  QFile file(settings);
+  const std::optional<QByteArray> before = file.open(QFile::ReadOnly) ? std::optional(file.readAll()) : std::nullopt;
+  file.close();
   Start(rig);
+  before ? ReplaceFile(settings, {before->data(), static_cast<std::size_t>(before->size())})
+         : static_cast<void>(QFile::remove(settings));
   std::vector<std::string> odd;
   for (const std::string& text : rig.dialogs.Told) {
     if (text.find("No hardware was detected") == std::string::npos) odd.push_back(text);
