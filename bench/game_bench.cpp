@@ -55,7 +55,7 @@ void WholeGame(benchmark::State& state) {
     PlayGame(machine, show);
     state.PauseTiming();
     const bool over = show.frmMain.lblWinner.Caption->starts_with("Game Over!") && !show.state.GameLoaded;
-    const bool clean = machine.dialogs.TakeFaults().empty();
+    const bool clean = machine.dialogs.TakeErrors().empty();
     if (!over || !clean) {
       state.SkipWithError("the game did not come to its end");
       break;

@@ -1,4 +1,4 @@
-// Any bytes in the transceiver's buffer decode to a remote of the tables or to nothing, or are told as error 9; any
+// Any bytes in the transceiver's buffer decode to a remote of the tables or to nothing, or are reported as error 9; any
 // report descriptor gives lengths that a machine can hold.
 #include <cstddef>
 #include <cstdint>

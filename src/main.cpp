@@ -25,7 +25,7 @@ int main(int argc, char** argv) {
   pawnfield::DesktopProgram program(places);
   pawnfield::Show& show = program.TheShow();
   const pawnfield::EndSignals endSignals([&show] { pawnfield::EndWithoutAsking(show); });
-  const pawnfield::LastWords lastWords(show.frmMain, [&show] { pawnfield::KeepSettings(show); });
+  const pawnfield::LastWords lastWords(show.frmMain, [&show] { pawnfield::SaveSettingsAtDeath(show); });
   if (places.copyFailure) pawnfield::ReportCopyFailure(show.platform.dialogs, *places.copyFailure);
   if (set) show.consoleDialog.FileName = pawnfield::SpelledPath(*set);
   pawnfield::Main(show);

@@ -24,8 +24,9 @@ int RunPlain(long long startedNs);
 // flip and standing still. False where there is no second monitor.
 bool MeasurePaints();
 
-// Hands presses of wireless remotes to the real windows and tells how long each took to reach the game, the screens and
-// the player of the clip: from the moment it was handed over, and from the poll that took it. False when one got lost.
+// Hands presses of wireless remotes to the real windows and reports how long each took to reach the game, the screens
+// and the player of the clip: from the moment it was handed over, and from the poll that took it. False when one got
+// lost.
 bool MeasurePresses();
 
 // Fits a long question into both boxes with the desktop's own measurer, quickly and plainly.

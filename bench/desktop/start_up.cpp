@@ -84,8 +84,8 @@ double OfThisProcess(const char* file, const char* line) {
                       .toDouble();
 }
 
-// Tells what is held after a while of rest, and ends. Memory that is shared with others counts by its share.
-void TellAtRest() {
+// Reports what is held after a while of rest, and ends. Memory that is shared with others counts by its share.
+void ReportAtRest() {
   QTimer::singleShot(kRestMs, [] {
     constexpr double kKilobytes = 1024;
     std::printf("%f %f\n", OfThisProcess("smaps_rollup", "\nPss:") / kKilobytes, OfThisProcess("status", "Threads:"));
@@ -119,7 +119,7 @@ int RunPlain(long long startedNs) {
   const FirstPaint painted(window, [&] {
     const double ms = static_cast<double>(NowNs() - startedNs) / 1e6;
     std::printf("%f %f ", ms, ms);
-    TellAtRest();
+    ReportAtRest();
   });
   window.showMaximized();
   return QApplication::exec();
@@ -132,7 +132,7 @@ int RunStartUp(long long startedNs, const QString& folder) {
   show.platform.settings.SaveSetting("Pawnfield", "Settings", "NoHardwareTold", "True");
   const FirstPaint console(program.Console(), [&] {
     std::printf("%f ", static_cast<double>(NowNs() - startedNs) / 1e6);
-    TellAtRest();
+    ReportAtRest();
   });
   const FirstPaint loading(WindowOf(program, show.frmLoading),
                            [&] { std::printf("%f ", static_cast<double>(NowNs() - startedNs) / 1e6); });

@@ -7,7 +7,7 @@ namespace pawnfield {
 
 struct Show;
 
-// Opens the maker's page, or else the shipped one; tells the operator when neither can be shown.
+// Opens the maker's page, or else the shipped one; reports to the operator when neither can be shown.
 void OpenHelpPage(Show& show, const HelpPage& page);
 
 void AttachHelpHandlers(Show& show);

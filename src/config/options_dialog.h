@@ -1,4 +1,4 @@
-// What frmOptions does: volumes act at once, the rest on Apply or OK. Each option is kept when it changes.
+// What frmOptions does: volumes act at once, the rest on Apply or OK. Each option is saved when it changes.
 #pragma once
 
 namespace pawnfield {

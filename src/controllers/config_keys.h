@@ -1,4 +1,4 @@
-// frmConfigKeys' handlers: two different letters, kept for the next start and shown here. The judging keys themselves
+// frmConfigKeys' handlers: two different letters, saved for the next start and shown here. The judging keys themselves
 // are fixed.
 #pragma once
 

@@ -112,7 +112,7 @@ void SquareKey(Show& show, int key) {
   }
 }
 
-// A letter brings up its row of the sound table, 9 for A to 34 for Z, also when a stage before has used it.
+// A letter shows or plays its row of the sound table, 9 for A to 34 for Z, also when a stage before has used it.
 void MediaKey(Show& show, int key) {
   if (key >= 'A' && key <= 'Z') PlayKeyMedia(show, key - 'A' + 9);
   if (key >= 'a' && key <= 'z') PlayKeyMedia(show, key - 'a' + 9);

@@ -56,7 +56,7 @@ void dgTransceiver_OnButtonPressed(Show& show, const TransceiverData& data) {
   } catch (const RuntimeError& error) {
     if (error.Number() != kErrorSubscript) throw;
     // The operator learns once of a remote that the show has no place for; its other presses are passed over.
-    if (!show.presses.ToldRemotes.insert(data.Remote).second) return;
+    if (!show.presses.ReportedRemotes.insert(data.Remote).second) return;
     throw RuntimeError(error.Number(), std::string(error.what()) + " (remote " + std::to_string(data.Remote) + ")");
   }
 }
@@ -65,7 +65,7 @@ bool MayRingIn(const Show& show) { return IsPhase(show, PhaseKind::QuestionOpen)
 
 bool RefuseWhoDoesNotPlay(Show& show, int player) {
   if (Plays(show.state, player)) return false;
-  const bool named = player > 0 && player < 10 && show.presses.ToldPlayers.insert(player).second;
+  const bool named = player > 0 && player < 10 && show.presses.ReportedPlayers.insert(player).second;
   if (named) {
     show.frmMain.lblStatusBar.Caption = "Player " + std::to_string(player) + " isn't in this game of " +
                                         std::to_string(show.state.Players) + " players.";

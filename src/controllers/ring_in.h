@@ -9,7 +9,7 @@ class TransceiverData;
 
 // A question of any kind is open to all, and the room sees it.
 bool MayRingIn(const Show& show);
-// True for a number that isn't among the game's players; the status line tells of each once a game.
+// True for a number that isn't among the game's players; the status line reports each once a game.
 bool RefuseWhoDoesNotPlay(Show& show, int player);
 // Gives the question to the player: score boxes, ring-in clip, verdict buttons, the cover on the audience screen. False
 // for who doesn't play.

@@ -43,7 +43,7 @@ std::int32_t PadIdentity(const std::string& frame) {
   return id;
 }
 
-void Tell(Show& show, const std::string& text) {
+void ShowMessage(Show& show, const std::string& text) {
   show.platform.dialogs.MessageBox(text, kAppTitle, BoxKind::Exclamation);
 }
 
@@ -54,11 +54,11 @@ void PressPad(Show& show, std::int32_t id) {
   }
   const int slot = LookupPad(show.presses.MFMap, id);
   if (slot == 0) {
-    Tell(show, "An unmapped controller has been detected. Please remap your controllers before proceeding.");
+    ShowMessage(show, "An unmapped controller has been detected. Please remap your controllers before proceeding.");
   } else if (slot >= 4) {
-    Tell(show,
-         "This game only uses 3 player controls. A controller outside of this range has been used and will be "
-         "ignored.");
+    ShowMessage(show,
+                "This game only uses 3 player controls. A controller outside of this range has been used and will be "
+                "ignored.");
   } else if (MayRingIn(show) && !RefuseWhoDoesNotPlay(show, slot)) {
     // The operator may give the question to another player by hand; a pad that comes second may not.
     const Button& button = show.frmMain.btnSelectPlayer[static_cast<std::size_t>(slot - 1)];
@@ -79,17 +79,17 @@ void PressHostKey(Show& show, int key) {
   }
 }
 
-// A broken frame is told once; a line that carries one carries many.
+// A broken frame is reported once; a line that carries one carries many.
 void ProcessGuarded(Show& show, const std::string& frame) {
   try {
     ProcessZR610Frame(show, frame);
   } catch (const RuntimeError& error) {
-    if (error.Number() == kErrorInvalidArgument && std::exchange(show.presses.BrokenFrameTold, true)) return;
+    if (error.Number() == kErrorInvalidArgument && std::exchange(show.presses.BrokenFrameReported, true)) return;
     ReportError(show.platform.dialogs, error, show.frmMain.Name(), "mscZR610_OnComm");
   }
 }
 
-// Has a frame that waits for its rest looked at again when it is to be given up.
+// Has an unfinished frame looked at again when it is to be dropped.
 void WatchHead(Show& show) {
   const auto due = show.presses.RxBuffer.GivenUpAtMs();
   if (due)
@@ -206,7 +206,7 @@ void mnuReconnectMF_Click(Show& show) {
   CloseLine(show);
   show.presses.CommPortNumber = FindZR610Port(port);
   if (show.presses.CommPortNumber < 0) {
-    Tell(show, "Unable to find a ZR-610 device. Please check connections and retry.");
+    ShowMessage(show, "Unable to find a ZR-610 device. Please check connections and retry.");
     return;
   }
   OpenZR610Port(show);
@@ -226,7 +226,7 @@ void mTestK7Controllers_Click(Show& show) {
   if (show.platform.files.CanOpen(path)) {
     show.platform.processes.Start(path);
   } else {
-    Tell(show, "For some reason the file: \r\n" + path + "\r\ncannot be found.");
+    ShowMessage(show, "For some reason the file: \r\n" + path + "\r\ncannot be found.");
   }
 }
 

@@ -1,4 +1,4 @@
-// What the players press, and so how presses come in: the interface code that SerialComm holds and its setting keeps.
+// What the players press, and so how presses come in: the interface code that SerialComm holds and its setting saves.
 #pragma once
 
 namespace pawnfield {

@@ -12,8 +12,8 @@ namespace pawnfield {
 // object is made.
 void AnswerQuestions(int& argc, char** argv);
 
-// The set's file, as a whole path, or nothing. What can't be understood is told on standard error and ends the process.
-// The application has taken its own options out.
+// The set's file, as a whole path, or nothing. What can't be understood is reported on standard error and ends the
+// process. The application has taken its own options out.
 std::optional<QString> SetToLoad(const QCoreApplication& application);
 
 }  // namespace pawnfield

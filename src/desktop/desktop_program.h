@@ -59,7 +59,7 @@ class DesktopProgram {
   HelpKey helpKey_;
 };
 
-// Its name and version, as the desktop and the command line are told.
+// Its name and version, for the desktop and the command line.
 void NameApplication();
 // What the application object needs before the first window: fonts, colours, number format.
 void PrepareApplication();

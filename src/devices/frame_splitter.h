@@ -12,10 +12,10 @@ namespace pawnfield {
 class FrameSplitter {
  public:
   void Add(const std::string& bytes);
-  // The next whole frame with its marker and length; none until more bytes come or the head that waits is given up.
+  // The next whole frame with its marker and length; none until more bytes come or the head that waits is dropped.
   // What lies before a marker is lost. The time is in milliseconds, of a clock that never goes back.
   std::optional<std::string> Next(std::int64_t nowMs);
-  // When the frame that waits for its rest is given up; none when no head waits.
+  // When the unfinished frame is dropped; none when no head waits.
   std::optional<std::int64_t> GivenUpAtMs() const;
   // Forgets all that waits.
   void Clear();

@@ -11,7 +11,7 @@ namespace pawnfield {
 
 class SelfTimer {
  public:
-  // The handler is told the seconds since the first event after creation or Reset, and runs inside the guard.
+  // The handler is given the seconds since the first event after creation or Reset, and runs inside the guard.
   using Handler = std::function<void(double seconds)>;
   using GuardFunction = decltype(Form::Guard);
 

@@ -102,7 +102,7 @@ void Transceiver::ProcessReport(const std::string& report) {
     data.Parse(buffer);
   } catch (const RuntimeError&) {
     // A device that sends one broken report sends many; the first is enough to know of it.
-    if (std::exchange(brokenReportTold_, true)) return;
+    if (std::exchange(malformedReported_, true)) return;
     throw;
   }
   if (data.Remote != -1 && onButtonPressed_) onButtonPressed_(data);

@@ -22,14 +22,15 @@ inline constexpr int kTransceiverShort = 0x1001;
 class Transceiver {
  public:
   // Looks for the device; without one the object lives on and does nothing. The guard runs every poll, so that what
-  // onButtonPressed throws is told; polling has been started anew by then. A device that goes is told to onLost.
+  // onButtonPressed throws is reported; polling has been started anew by then. A device that goes is reported to
+  // onLost.
   Transceiver(HidPort& port, Clock& clock, std::function<void(const TransceiverData&)> onButtonPressed,
               SelfTimer::GuardFunction guard, std::function<void()> onLost = {});
   ~Transceiver();
   Transceiver(const Transceiver&) = delete;
   Transceiver& operator=(const Transceiver&) = delete;
 
-  // Looks for the device anew, unless one is served. True when one has been taken up by this call.
+  // Looks for the device anew, unless one is served. True when one has been opened by this call.
   bool Open();
   // Sets the light of the remote with that number.
   void LED_Set(int number, int color);
@@ -53,7 +54,7 @@ class Transceiver {
   HidLengths lengths_;
   bool shortCommand_ = false;
   bool ready_ = false;
-  bool brokenReportTold_ = false;
+  bool malformedReported_ = false;
   SelfTimer timer_;
 };
 

@@ -187,7 +187,7 @@ void LeaveTurn(Show& show) {
 void optPlayers_Click(Show& show, int index) {
   show.state.Players = index + 2;
   ApplyPlayerLayout(show, show.state.Players);
-  show.presses.ToldPlayers.clear();
+  show.presses.ReportedPlayers.clear();
   MainForm& form = show.frmMain;
   form.btnSelectPlayer[2].Enabled = index == 1 && form.btnSelectPlayer[1].Enabled;
   form.btnBuzzer[2].Enabled = index == 1 && form.btnBuzzer[1].Enabled;
@@ -230,7 +230,7 @@ void btnStart_Click(Show& show) {
   form.tmrWinner.Enabled = false;
   HidePanel(show, Panel::Winner);
   BringMusicBack(show);
-  show.presses.ToldPlayers.clear();
+  show.presses.ReportedPlayers.clear();
   show.state.LastPlayer = 0;
   show.state.LastPoints = 0;
   form.shpStart.Visible = false;

@@ -28,7 +28,7 @@ namespace {
 
 bool IsBlank(const std::string& field) { return field.empty() || field == " "; }
 
-// The console's label takes the question's colour. One that is no number is told, and the fit's white stays.
+// The console's label takes the question's colour. One that is no number is reported, and the fit's white stays.
 void ColorQuestion(Show& show, const TriviaQuestion& question) {
   if (IsBlank(question.FontColor)) return;
   if (const auto number = ParseNumber(question.FontColor)) {

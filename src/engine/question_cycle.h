@@ -10,7 +10,7 @@ struct Show;
 void ShowQuestion(Show& show, int index);
 // Reads the picture of the question of that number ahead, where it has one.
 void HoldPicture(Show& show, int number);
-// Takes down the question that is up: its panels, the cover over it and the verdict buttons.
+// Hides the question that is up: its panels, the cover over it and the verdict buttons.
 void CloseQuestion(Show& show);
 // The question that is up is open to all again, in Trivia C.
 void ReopenQuestion(Show& show);

@@ -7,7 +7,7 @@ struct Show;
 
 // Passes focus on, from the lamps and not from CurrentPlayer; nothing when no lamp is on.
 void AdvanceToNextPlayer(Show& show);
-// Passes focus to that player, and tells the companion of him and of who had it.
+// Passes focus to that player, and reports him and who had it to the companion.
 void PassTurnTo(Show& show, int player);
 // Nobody has the turn. The lamps stay, since the turn goes on from them.
 void TakeTurn(Show& show);
@@ -17,7 +17,7 @@ void GiveFirstTurn(Show& show);
 void ShowRingIn(Show& show, int player);
 // Makes player n the one with the turn: lamps, score box, corner piece, colour of the typed command, CurrentPlayer.
 void GiveTurnTo(Show& show, int player);
-// Tells the operator in the status line how somebody gets the turn.
+// Says in the status line how somebody gets the turn.
 void SayNobodyHasTurn(Show& show);
 // Who may ring in: all players of the game, or nobody.
 void SetBuzzerStates(Show& show, bool enabled);

@@ -13,7 +13,7 @@ ConfigKeysForm::ConfigKeysForm() : Form("frmConfigKeys") {
   lblKeyPrompt[0].Caption = "Correct";
   lblKeyPrompt[1].Caption = "Incorrect";
   for (std::size_t i = 0; i < 2; ++i) {
-    txtKey[i].ToolTipText = "Kept with the settings. The console itself judges with Y and N.";
+    txtKey[i].ToolTipText = "Saved with the settings. The console itself judges with Y and N.";
   }
   btnKeyDefaults.Caption = "Restore Defaults";
   btnFinished.Caption = "Finished";

@@ -1,4 +1,4 @@
-// frmConfigKeys, the dialog that tells the console's fixed keys and keeps the letters of the two verdicts.
+// frmConfigKeys, the dialog that shows the console's fixed keys and saves the letters of the two verdicts.
 #pragma once
 
 #include "platform/controls.h"

@@ -39,7 +39,7 @@ OptionsForm::OptionsForm() : Form("frmOptions") {
     cboMODPictureTmr.AddItem(std::to_string(seconds));
   }
   chkFullScreenGameBoard.Caption = "Full Screen Game Board";
-  chkFullScreenGameBoard.ToolTipText = "Kept with the settings. The room's screen always fills its monitor.";
+  chkFullScreenGameBoard.ToolTipText = "Saved with the settings. The room's screen always fills its monitor.";
   chkTSSupport.Caption = "Companion Support";
 }
 

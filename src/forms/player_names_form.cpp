@@ -15,7 +15,7 @@ PlayerNamesForm::PlayerNamesForm() : Form("frmPlayerNames") {
   for (Control* control : {static_cast<Control*>(&chkPlayer1Penalty), static_cast<Control*>(&chkPlayer2Penalty),
                            static_cast<Control*>(&chkPlayer3Penalty), static_cast<Control*>(&cboPenaltyPoints),
                            static_cast<Control*>(&Command1), static_cast<Control*>(&Command2)}) {
-    control->ToolTipText = "Kept with the settings. No press costs points in this version.";
+    control->ToolTipText = "Saved with the settings. No press costs points in this version.";
   }
   btnClearAll.Caption = "Clear Names";
   Command2.Caption = "Set Penalties";

@@ -31,7 +31,7 @@ struct KnobStop {
 };
 KnobStop StopAtEnds(const SliderTrack& track, double knobLeft);
 
-// What the channel is told: the faintest volume is none.
+// What the channel is given: the faintest volume is none.
 int AudibleVolume(int percent);
 
 enum class MouseButton { Left, Other };

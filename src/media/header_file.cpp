@@ -27,7 +27,7 @@ std::string FormatRecord(const OptionalHeader& header) {
          header.HeaderBackColor;
 }
 
-// A field in quotes ends at the closing quote, and what follows it up to the comma is passed over. More tells whether a
+// A field in quotes ends at the closing quote, and what follows it up to the comma is passed over. More says whether a
 // comma promises a further field.
 std::string TakeField(std::string_view& rest, bool& more) {
   while (rest.starts_with(' ')) rest.remove_prefix(1);

@@ -1,5 +1,5 @@
-// Media on demand: a letter key brings up the sound, video or picture that the sound table binds to it. Pictures and
-// video stand over the question area of the console and fill the audience's screen.
+// Media on demand: a letter key plays or shows the sound, video or picture that the sound table binds to it. Pictures
+// and video stand over the question area of the console and fill the audience's screen.
 #pragma once
 
 #include <string>
@@ -15,7 +15,7 @@ struct Show;
 void PlayKeyMedia(Show& show, int row);
 
 // Shows the picture on both screens for MODPictureTimer seconds, as soon as it has been read; a film ends with that.
-// One that can't be shown is told in the status bar.
+// One that can't be shown is reported in the status bar.
 void ShowMODPic(Show& show, const std::string& path);
 // Fits a picture of that size into picMODPicture.
 void MODImageResize(Show& show, PixelSize size);

@@ -1,4 +1,4 @@
-// The shared per-user key, through which the program and the external keyboard program tell each other what they need:
+// The shared per-user key, through which the program and the external keyboard program send each other what they need:
 // whether keystrokes are wanted now, and the players and their scores.
 #pragma once
 
@@ -15,8 +15,8 @@ bool PublishesPlayers(const Show& show);
 // Sets a value of the shared key. It is written when the present event is done, and only when it has changed since it
 // was written last.
 void WriteSharedKey(Show& show, const std::string& name, const std::string& text);
-// Writes the values that wait, all at once. A failure is told once and stops nothing: the values wait for the next
-// write, and the next failure is told after a success.
+// Writes the values that wait, all at once. A failure is reported once and stops nothing: the values wait for the next
+// write, and the next failure is reported after a success.
 void FlushSharedKey(Show& show);
 // Writes "sendkeypress", "1" while keystrokes are wanted.
 void SendKeyPress(Show& show, bool on);

@@ -126,22 +126,22 @@ struct Setting {
 class SettingsStore {
  public:
   virtual ~SettingsStore() = default;
-  // Told on the main thread when what was kept can't be brought to the disk.
+  // Called on the main thread when what was saved can't be written to the disk.
   std::function<void(const RuntimeError& error)> OnSaveFailed;
   // Why an application's settings can't be read, in words; empty when they can, or there are none yet.
   virtual std::string Problem(const std::string& /*application*/) const { return {}; }
-  // Keeps them without making the caller wait for a disk, which may have them a second later.
-  virtual void KeepSettings(const std::string& application, const std::string& section,
-                            const std::vector<Setting>& settings) {
+  // Saves them without making the caller wait for the disk, which may have them a second later.
+  virtual void SaveSettingsAsync(const std::string& application, const std::string& section,
+                                 const std::vector<Setting>& settings) {
     SaveSettings(application, section, settings);
   }
-  // All that was kept is on the disk when it returns; a RuntimeError when that can't be. For the program's end.
+  // All that was saved is on the disk when it returns; a RuntimeError when that can't be. For the program's end.
   virtual void Flush() {}
   virtual std::string GetSetting(const std::string& application, const std::string& section, const std::string& key,
                                  const std::string& fallback) const = 0;
   virtual void SaveSetting(const std::string& application, const std::string& section, const std::string& key,
                            const std::string& value) = 0;
-  // Saves all of them, in their order; a store that can keeps either all or none.
+  // Saves all of them, in their order; a store that can saves either all or none.
   virtual void SaveSettings(const std::string& application, const std::string& section,
                             const std::vector<Setting>& settings) {
     for (const auto& [key, value] : settings) SaveSetting(application, section, key, value);
@@ -196,10 +196,10 @@ class PictureReader {
   virtual ~PictureReader() = default;
   // The picture's size, a look at the disk included. RuntimeError with the numbers above.
   virtual PixelSize Size(const std::string& path) = 0;
-  // Tells what is known: at once of a picture that is held, else between events when it has been read beside. It can
+  // Reports what is known: at once of a picture that is held, else between events when it has been read beside. It can
   // be painted then without the disk.
   virtual void Look(const std::string& path, std::function<void(const PictureFacts&)> then) = 0;
-  // Reads the whole file beside, keeps nothing of it and tells, later than any Look.
+  // Reads the whole file in the background, caches nothing of it and reports, later than any Look.
   virtual void Check(const std::string& path, std::function<void(const PictureFacts&)> then) = 0;
   // Reads the picture ahead, so that a Look finds it.
   virtual void Hold(const std::string& path) = 0;
@@ -209,7 +209,7 @@ class PictureReader {
 class MediaReader {
  public:
   virtual ~MediaReader() = default;
-  // Tells, at once or between events, whether the path is a file that a player takes.
+  // Reports, at once or between events, whether the path is a file that a player takes.
   virtual void Look(const std::string& path, std::function<void(bool plays)> then) = 0;
 };
 
@@ -287,7 +287,7 @@ class HidPort {
   virtual void Close() = 0;
 };
 
-// Tells of devices that come and go, because the system tells; nothing looks for them over and over.
+// Reports devices that come and go, when the system announces them; nothing polls for them.
 class DeviceWatch {
  public:
   virtual ~DeviceWatch() = default;

@@ -49,7 +49,7 @@ void SecondScreenMoved(Show& show) {
   show.frmFSMain.Left = show.state.FSLeft;
 }
 
-// What happens on this timer is told of by the monitors as well; nothing is looked for over and over.
+// What happens on this timer is announced by the monitors as well; nothing is polled.
 void tmrRePaint_Timer(Show& show) {
   show.frmFSMain.tmrRePaint.Enabled = false;
   PaintGB(show);

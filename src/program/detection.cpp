@@ -21,7 +21,8 @@ namespace pawnfield {
 namespace {
 
 constexpr int kAudienceInset = 60;
-constexpr const char* kNoHardwareTold = "NoHardwareTold";
+// The stored name of what this version calls reported; it stays so that an update asks nobody again.
+constexpr const char* kNoHardwareReported = "NoHardwareTold";
 
 std::string Between(const std::string& text, std::size_t from, std::size_t end) {
   return text.substr(from, end == std::string::npos ? end : end - from);
@@ -43,7 +44,7 @@ void ReportManualMode(Show& show) {
   show.platform.dialogs.MessageBox("No hardware was detected so you will be loaded in manual mode.", kAppTitle,
                                    BoxKind::Plain);
   RunGuarded(
-      show.platform.dialogs, [&] { SaveSetting(show, kNoHardwareTold, BooleanText(true)); }, "frmSplash",
+      show.platform.dialogs, [&] { SaveSetting(show, kNoHardwareReported, BooleanText(true)); }, "frmSplash",
       "tmrSplash_Timer");
 }
 
@@ -51,20 +52,20 @@ void ReportManualMode(Show& show) {
 void ServeWhatIsFound(Show& show) {
   GameState& state = show.state;
   PressState& presses = show.presses;
-  const bool toldBefore =
-      show.platform.settings.GetSetting(kAppTitle, "Settings", kNoHardwareTold, "") == BooleanText(true);
+  const bool reportedBefore =
+      show.platform.settings.GetSetting(kAppTitle, "Settings", kNoHardwareReported, "") == BooleanText(true);
   presses.CommPortNumber = FindZR610Port(show.platform.serial);
   presses.ZR610Present = presses.CommPortNumber > -1;
   if (!presses.ZR610Present) {
     presses.HardwareFound = DetectHIDTransceiver(show);
-    if (!presses.HardwareFound && !toldBefore) ReportManualMode(show);
+    if (!presses.HardwareFound && !reportedBefore) ReportManualMode(show);
     state.SerialComm = presses.HardwareFound ? InterfaceCode::Wireless : InterfaceCode::Manual;
   }
   const bool manual = !presses.ZR610Present && !presses.HardwareFound;
   ShowAudienceAt(show, state.FSLeft + (manual ? 0 : kAudienceInset));
   LoadMainForm(show);
   if (presses.ZR610Present) show.frmMain.lblStatusBar.Caption = "ZR-610 System initialized";
-  if (manual && toldBefore) show.frmMain.lblStatusBar.Caption = "No hardware was detected: manual mode";
+  if (manual && reportedBefore) show.frmMain.lblStatusBar.Caption = "No hardware was detected: manual mode";
 }
 
 }  // namespace

@@ -21,7 +21,7 @@ bool FindTransceiverInRegistry(const RegistryReader& read);
 // The same question, asked of the HID devices that are present.
 bool DetectHIDTransceiver(Show& show);
 
-// The end of the splash: finds what is attached, or tells of manual mode, and brings up the screens.
+// The end of the splash: finds what is attached, or reports manual mode, and shows the screens.
 void tmrSplash_Timer(Show& show);
 
 }  // namespace pawnfield

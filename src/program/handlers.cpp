@@ -163,7 +163,7 @@ void AttachHandlers(Show& show) {
     form->Guard = [&show](const std::function<void()>& handler, const std::string& location,
                           const std::string& procedure) {
       RunGuarded(show.platform.dialogs, handler, location, procedure);
-      KeepChangedSettings(show);
+      SaveChangedSettings(show);
     };
     show.platform.clock.Attach(*form);
   }

@@ -73,7 +73,7 @@ void frmSetInterface_Load(Show& show) {
 void frmSetInterface_btnOK_Click(Show& show) {
   show.state.ZR650 = false;
   TakeUp(show, ChosenInterface(show));
-  // A choice that can't be kept is reported, and holds for this evening all the same.
+  // A choice that can't be saved is reported, and holds for this evening all the same.
   SaveSettingOrReport(show, kSerialCommKey, show.frmSetInterface, "btnOK_Click");
   show.frmSetInterface.Unload();
 }

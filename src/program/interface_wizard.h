@@ -8,7 +8,7 @@ struct Show;
 
 // Offers the interfaces that the program knows, beginning with the keypads that the keyboard program types for.
 void frmSetInterface_Load(Show& show);
-// Takes the choice up at once and keeps it.
+// Takes the choice up at once and saves it.
 void frmSetInterface_btnOK_Click(Show& show);
 // Leaves everything as it was.
 void frmSetInterface_btnCancel_Click(Show& show);

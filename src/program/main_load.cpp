@@ -184,7 +184,7 @@ void ShowIdleBoard(Show& show) {
   form.btnEndGame.Enabled = false;
 }
 
-// All six are tried before the first that is missing is told.
+// All six are tried before the first that is missing is reported.
 void LoadPieces(Show& show) {
   MainForm& form = show.frmMain;
   std::string missing;
@@ -249,7 +249,7 @@ void LoadMainForm(Show& show) {
                           LoadOptionalHeaders, ShowIdleBoard, ShowAudience,        ShowConsole,   LoadPieces}) {
     RunStep(show, step);
   }
-  BeginKeepingSettings(show);
+  BeginSavingSettings(show);
   LightScoreBox(show, 0);
   if (show.frmMain.OnResize) show.frmMain.OnResize();
 }

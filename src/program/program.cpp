@@ -36,7 +36,7 @@ void Main(Show& show) {
     processes.EndProgram();
     return;
   }
-  if (ScanForSiblings(show, ScanMode::Tell)) return;
+  if (ScanForSiblings(show, ScanMode::Report)) return;
   ReadMonitors(show);
   RunGuarded(
       show.platform.dialogs, [&] { ShowStandbyFirst(show); }, "modMain", "ShowStandbyFirst");

@@ -25,7 +25,7 @@ bool ScanForSiblings(Show& show, ScanMode mode) {
     const bool sibling = process.Caption.size() > 5 && ToUpper(process.Caption.substr(0, 6)) == kFamily &&
                          process.Handle != processes.CurrentId();
     if (!sibling) continue;
-    if (mode == ScanMode::Tell) {
+    if (mode == ScanMode::Report) {
       show.platform.dialogs.MessageBox(process.Caption + " is already running. Please close that instance first.",
                                        kAppTitle, BoxKind::Critical);
       processes.Activate(process.Handle);
@@ -89,7 +89,7 @@ void EndWithoutAsking(Show& show) {
   show.frmMain.Visible ? show.frmMain.Unload() : show.platform.processes.EndProgram();
 }
 
-void KeepSettings(Show& show) {
+void SaveSettingsAtDeath(Show& show) {
   if (!show.frmMain.Visible) return;
   for (const auto save : {SaveAllSettings, SaveInterfaceFile}) {
     try {
@@ -111,7 +111,7 @@ void fileExit(Show& show) {
         &form.tmrOptionalHeaders, &form.tmrRotate, &form.tmrWinner}) {
     timer->Enabled = false;
   }
-  // Settings that can't be saved are told, and the program ends all the same.
+  // Settings that can't be saved are reported, and the program ends all the same.
   RunGuarded(
       show.platform.dialogs, [&] { SaveAllSettings(show); }, "frmMain", "fileExit");
   ReportExit(show);

@@ -8,8 +8,8 @@ struct Show;
 // Of the windows without a frame, in pixels.
 inline constexpr int kCornerRadius = 10;
 
-enum class ScanMode { Tell, AskOnly };
-// True when a sibling title runs; with Tell the operator is told, its window comes to the front and the program ends.
+enum class ScanMode { Report, AskOnly };
+// True when a sibling title runs; with Report a message says so, its window comes to the front and the program ends.
 bool ScanForSiblings(Show& show, ScanMode mode);
 // Makes what is missing of DataRoot and its folders.
 void PrepareDataFolders(Show& show);
@@ -24,7 +24,7 @@ bool Form_QueryUnload(Show& show);
 // The system ends the program: what the exit saves is saved, and nobody is asked.
 void EndWithoutAsking(Show& show);
 // Saves what the exit saves and shows nothing, not even an error.
-void KeepSettings(Show& show);
+void SaveSettingsAtDeath(Show& show);
 // Stops the timers, saves the settings, unloads every form and ends the program.
 void fileExit(Show& show);
 

@@ -25,7 +25,7 @@ void ServeWireless(Show& show) {
 void TransceiverIsLost(Show& show) {
   show.presses.TransceiverLost = true;
   show.frmMain.lblStatusBar.Caption = kLost;
-  // One that was pulled and put back faster than a poll has told of its coming already.
+  // One that was pulled and put back faster than a poll has reported already.
   DevicesChanged(show);
 }
 

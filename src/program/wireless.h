@@ -1,5 +1,5 @@
 // The wireless transceiver through an evening: made with the console, missed when it is pulled, and taken up again, or
-// for the first time, when the system tells of a device that has come.
+// for the first time, when the system reports a device that has come.
 #pragma once
 
 namespace pawnfield {
@@ -8,7 +8,8 @@ struct Show;
 
 // Makes the show's transceiver, which presses reach from then on.
 void CreateTransceiver(Show& show);
-// Takes up a transceiver that has come, and tells of it. Nothing while one is served and before the console's load.
+// Opens a transceiver that has been connected, and reports it. Nothing while one is served and before the console's
+// load.
 void DevicesChanged(Show& show);
 // Ties the system's word of devices to DevicesChanged.
 void AttachDeviceWatch(Show& show);

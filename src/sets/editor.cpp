@@ -105,7 +105,7 @@ void ShowRecord(Show& show) {
   if (kind == QuestionKind::Sound) ShowSoundRecord(form, text);
   if (kind == QuestionKind::Text) {
     ShowTextRecord(show, record, text);
-    // A colour that is none is told once all else stands.
+    // A colour that is none is reported once all else stands.
     TakeRecordColor(form.txtDisplayQuestion, record);
   }
 }
@@ -167,7 +167,7 @@ void EditChoice_Click(Show& show, bool current) {
 void ShowEditor(Show& show) {
   EditorForm& form = show.frmEditor;
   form.Reset();
-  // The form is loaded and then activated, and what a bad record tells must not keep it from coming up.
+  // The form is loaded and then activated, and an error in a bad record must not prevent it from being shown.
   form.Dispatch([&show] { PrepareForm(show); }, "Form_Load");
   StopSoundClip(show);
   form.txtEnterQuestion.SetFocus();

@@ -18,7 +18,7 @@ void btnImport_Click(Show& show);
 // True when the editor may close: nothing is unsaved, or the operator has decided. The set is then gone from it.
 bool Editor_QueryUnload(Show& show);
 
-// Fills EditSet from the file. False when it can't be read, which is told.
+// Fills EditSet from the file. False when it can't be read, which is reported.
 bool OpenFile(Show& show, const std::string& path);
 
 }  // namespace editor

@@ -7,7 +7,7 @@ struct Show;
 
 namespace editor {
 
-// Each ends with the question it leads to on screen; what a press does at the ends of the set is told at its routine.
+// Each ends with the question it leads to on screen; what a press does at the ends of the set stands at its routine.
 void btnBack_Click(Show& show);
 void btnBack10_Click(Show& show);
 void btnForward_Click(Show& show);

@@ -10,7 +10,9 @@ namespace {
 
 constexpr std::size_t kLongestPath = 256;
 
-void Tell(Show& show, const std::string& text) { show.platform.dialogs.MessageBox(text, kAppTitle, BoxKind::Plain); }
+void ShowMessage(Show& show, const std::string& text) {
+  show.platform.dialogs.MessageBox(text, kAppTitle, BoxKind::Plain);
+}
 
 }  // namespace
 
@@ -26,7 +28,7 @@ std::string ShowFileDialog(Show& show, const FileDialogSpec& spec) {
   request.FileName = hasFolder ? ExtractFileName(spec.FileName) : spec.FileName;
   std::string chosen = show.platform.dialogs.ChooseFile(request);
   if (CountLetters(chosen) <= kLongestPath) return chosen;
-  Tell(show, "Error with filename(s).");
+  ShowMessage(show, "Error with filename(s).");
   return "";
 }
 
@@ -41,11 +43,11 @@ void ShowOpen(Show& show, CommonDialog& dialog) {
 
 bool CanStorePath(Show& show, const std::string& path) {
   if (CountLetters(path) > kQuestionLength) {
-    Tell(show, "File path exceeds 256 characters in length");
+    ShowMessage(show, "File path exceeds 256 characters in length");
     return false;
   }
   if (path.find_first_of(std::string("\r\n\0", 3)) == std::string::npos) return true;
-  Tell(show, "The file's name or folder holds a line break, which a set can't keep. Please rename it.");
+  ShowMessage(show, "The file's name or folder holds a line break, which a set can't keep. Please rename it.");
   return false;
 }
 

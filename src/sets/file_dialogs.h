@@ -22,7 +22,7 @@ struct FileDialogSpec {
   std::string InitialFolder;
 };
 
-// The chosen path; empty after a cancel and for a name that is too long, which is told.
+// The chosen path; empty after a cancel and for a name that is too long, which is reported.
 std::string ShowFileDialog(Show& show, const FileDialogSpec& spec);
 // Asks for a file to open, beginning with what the dialog holds. Its FileName takes the choice, empty after a cancel.
 void ShowOpen(Show& show, CommonDialog& dialog);

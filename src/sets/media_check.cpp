@@ -16,7 +16,7 @@ std::string WholePath(Show& show, const std::string& text) {
   return text.starts_with('.') ? show.AppPath("\\Trivia Sets") + text.substr(1) : text;
 }
 
-const char* FaultOf(const PictureFacts& facts) {
+const char* ErrorOf(const PictureFacts& facts) {
   if (facts.Error == 0) return "";
   return facts.Error == kErrorFileNotFound ? "no such file" : "no picture, or too large a one";
 }
@@ -24,19 +24,19 @@ const char* FaultOf(const PictureFacts& facts) {
 std::string BoxText(const MediaCheck& check) {
   std::string text = "These questions' files can't be shown:\r\n\r\n";
   std::size_t named = 0;
-  for (const auto& [number, fault] : check.Faults) {
+  for (const auto& [number, error] : check.Errors) {
     if (++named > kMostNamed) break;
-    text += "Question " + std::to_string(number) + ": " + fault + "\r\n";
+    text += "Question " + std::to_string(number) + ": " + error + "\r\n";
   }
-  if (check.Faults.size() > kMostNamed) {
-    text += "and " + std::to_string(check.Faults.size() - kMostNamed) + " more\r\n";
+  if (check.Errors.size() > kMostNamed) {
+    text += "and " + std::to_string(check.Errors.size() - kMostNamed) + " more\r\n";
   }
   return text;
 }
 
 std::string StatusText(const MediaCheck& check) {
   std::string numbers;
-  for (const auto& [number, fault] : check.Faults) numbers += (numbers.empty() ? "" : ", ") + std::to_string(number);
+  for (const auto& [number, error] : check.Errors) numbers += (numbers.empty() ? "" : ", ") + std::to_string(number);
   return "Can't be shown: the files of questions " + numbers;
 }
 
@@ -50,16 +50,16 @@ void EndCheck(Show& show) {
   MainForm& form = show.frmMain;
   form.tmrMediaCheck.Enabled = false;
   form.prgMediaCheck.Visible = false;
-  if (show.mediaCheck.Faults.empty()) return;
+  if (show.mediaCheck.Errors.empty()) return;
   form.lblStatusBar.Caption = StatusText(show.mediaCheck);
   // Start is enabled from the load to the start of the game: no box comes up in a show.
   if (!form.btnStart.Enabled) return;
   show.platform.dialogs.MessageBox(BoxText(show.mediaCheck), kAppTitle, BoxKind::Exclamation);
 }
 
-void NoteFile(Show& show, int check, int number, const std::string& path, const std::string& fault) {
+void NoteFile(Show& show, int check, int number, const std::string& path, const std::string& error) {
   if (check != show.mediaCheck.Number) return;
-  if (!fault.empty()) show.mediaCheck.Faults[number] = ExtractFileName(path) + ": " + fault;
+  if (!error.empty()) show.mediaCheck.Errors[number] = ExtractFileName(path) + ": " + error;
   --show.mediaCheck.Left;
   ShowProgress(show);
   if (show.mediaCheck.Left == 0) show.frmMain.Dispatch([&] { EndCheck(show); }, "CheckSetMedia");
@@ -69,7 +69,7 @@ void LookAt(Show& show, int number, QuestionKind kind, const std::string& path) 
   const int check = show.mediaCheck.Number;
   if (kind == QuestionKind::Picture) {
     show.platform.pictures.Check(path, [&show, check, number, path](const PictureFacts& facts) {
-      NoteFile(show, check, number, path, FaultOf(facts));
+      NoteFile(show, check, number, path, ErrorOf(facts));
     });
   } else {
     show.platform.mediaFiles.Look(path, [&show, check, number, path](bool plays) {

@@ -7,7 +7,7 @@ namespace pawnfield {
 struct Show;
 
 // Starts the look at GameSet's files; one that runs for an earlier set ends unheard. A bar shows how far it is when it
-// takes over half a second. At its end the operator is told which questions' files can't be shown and why: in a box
+// takes over half a second. At its end it reports which questions' files can't be shown and why: in a box
 // until the game is started, and in the status bar.
 void CheckSetMedia(Show& show);
 

@@ -31,7 +31,7 @@ int CountQuestions(const TriviaSet& set);
 // The record of that number, 1 to 101; any other is the subscript error.
 TriviaQuestion& RecordAt(TriviaSet& set, int number);
 
-// The bytes of a set's file. Nothing, once the operator has been told, when it is too large or can't be read.
+// The bytes of a set's file. Nothing, and an error message, when it is too large or can't be read.
 std::optional<std::string> ReadSetBytes(Show& show, const std::string& path, const std::string& form,
                                         const std::string& procedure);
 
@@ -63,7 +63,7 @@ std::string BackupPath(const std::string& path);
 // the set's file is there unharmed.
 void ReplaceSetFile(Show& show, const std::string& path, const std::string& bytes);
 // Writes the set in the given path's normal form, which goes back to the caller. True when it was saved; a
-// failure is told to the operator.
+// failure is reported to the operator.
 bool SaveSetFile(Show& show, TriviaSet& set, std::string& path);
 
 enum class QuestionKind { Text, Picture, Sound };

@@ -14,7 +14,7 @@ constexpr std::string_view kLittleEndianMark = "\xFF\xFE";
 constexpr std::string_view kBigEndianMark = "\xFE\xFF";
 constexpr char32_t kBroken = 0xFFFD;
 constexpr std::string_view kSeparators = ",;\t";
-constexpr std::string_view kTold = "sep=";
+constexpr std::string_view kSeparatorMark = "sep=";
 
 // The characters of the bytes 80 to 9F; a byte without one stands for itself.
 constexpr std::array<char16_t, 32> kWindows1252{0x20AC, 0x0081, 0x201A, 0x0192, 0x201E, 0x2026, 0x2020, 0x2021,
@@ -168,13 +168,13 @@ class RowReader {
   std::size_t at_ = 0;
 };
 
-// Where the first line tells the separator: that, and nothing otherwise.
-std::optional<char> ToldSeparator(std::string_view text) {
-  const std::size_t length = kTold.size() + 1;
-  if (!text.starts_with(kTold) || text.size() < length) return std::nullopt;
-  const char told = text[kTold.size()];
+// The separator that the first line declares; nothing otherwise.
+std::optional<char> DeclaredSeparator(std::string_view text) {
+  const std::size_t length = kSeparatorMark.size() + 1;
+  if (!text.starts_with(kSeparatorMark) || text.size() < length) return std::nullopt;
+  const char declared = text[kSeparatorMark.size()];
   const bool ends = text.size() == length || text[length] == '\r' || text[length] == '\n';
-  return ends && kSeparators.find(told) != std::string_view::npos ? std::optional(told) : std::nullopt;
+  return ends && kSeparators.find(declared) != std::string_view::npos ? std::optional(declared) : std::nullopt;
 }
 
 // The text without what stands in quotation marks, whichever separator it is for: none counts in there.
@@ -237,7 +237,7 @@ std::string ToUtf8(std::string_view bytes) {
 }
 
 char SeparatorOf(std::string_view text) {
-  if (const auto told = ToldSeparator(text)) return *told;
+  if (const auto declared = DeclaredSeparator(text)) return *declared;
   constexpr std::size_t kRows = 50;
   char best = kSeparators.front();
   std::size_t most = 0;
@@ -263,7 +263,7 @@ Table ParseTable(std::string_view text, char separator, std::size_t mostRows) {
 Table ReadTable(std::string_view bytes) {
   const std::string text = ToUtf8(bytes);
   Table table = ParseTable(text, SeparatorOf(text));
-  if (ToldSeparator(text)) table.erase(table.begin());
+  if (DeclaredSeparator(text)) table.erase(table.begin());
   return table;
 }
 

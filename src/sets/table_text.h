@@ -22,7 +22,7 @@ TableEncoding EncodingOf(std::string_view bytes);
 // The text without its mark. A broken character becomes U+FFFD.
 std::string ToUtf8(std::string_view bytes);
 // Comma, semicolon or tab: what cuts most of the first rows into as many fields as the very first; a comma where none
-// does. A first line "sep=;" tells it itself.
+// does. A first line "sep=;" declares it.
 char SeparatorOf(std::string_view text);
 // Takes CR LF, LF and CR for the end of a line, and a quotation mark that is never closed to the end. An empty line is
 // a row of one empty cell.

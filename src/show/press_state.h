@@ -16,17 +16,17 @@ namespace pawnfield {
 struct PressState {
   // Milliseconds of the clock at a remote's last press that passed the debounce, by remote number; 0 for none.
   std::array<std::int64_t, 51> LastPressTick{};
-  // Remotes that the operator has been told of because the show has no place for them.
-  std::set<int> ToldRemotes;
+  // Remotes that have been reported because the show has no place for them.
+  std::set<int> ReportedRemotes;
 
-  // Numbers beyond the players of whose presses the operator has been told in this game.
-  std::set<int> ToldPlayers;
+  // Numbers beyond the players whose presses have been reported in this game.
+  std::set<int> ReportedPlayers;
 
   bool ZR610Present = false;
   // The wired pads' port, -1 for none.
   int CommPortNumber = -1;
   FrameSplitter RxBuffer;
-  bool BrokenFrameTold = false;
+  bool BrokenFrameReported = false;
   // Runs while frames wait behind a message box.
   std::unique_ptr<SelfTimer> HeldFrames;
   // Runs while half a frame waits for its rest.
@@ -34,7 +34,7 @@ struct PressState {
   PadMap MFMap{};
 
   bool HardwareFound = false;
-  // The operator has been told that the transceiver is gone.
+  // The loss of the transceiver has been reported.
   bool TransceiverLost = false;
   // The first five fields of Interface.txt, which are carried through.
   std::array<int, 5> InterfaceFields{4, 0, 0, 0, 0};

@@ -48,22 +48,22 @@ void LoadSettings(Show& show) {
   ReportUnreadable(show, show.platform.settings.Problem(kAppTitle), lines);
 }
 
-void BeginKeepingSettings(Show& show) { show.KeptSettings = TextsOf(show.state); }
+void BeginSavingSettings(Show& show) { show.SavedSettings = TextsOf(show.state); }
 
-void KeepChangedSettings(Show& show) {
-  if (show.KeptSettings.empty()) return;
+void SaveChangedSettings(Show& show) {
+  if (show.SavedSettings.empty()) return;
   std::vector<Setting> changed;
   const auto& table = SettingsTable();
   for (std::size_t i = 0; i < table.size(); ++i) {
     std::string text = table[i].Text(show.state);
-    if (text == show.KeptSettings[i]) continue;
+    if (text == show.SavedSettings[i]) continue;
     // Also after a failure: the exit saves it once more, and a full disk isn't asked at each event.
-    show.KeptSettings[i] = text;
+    show.SavedSettings[i] = text;
     changed.push_back({table[i].Key, std::move(text)});
   }
   if (changed.empty()) return;
   try {
-    show.platform.settings.KeepSettings(kAppTitle, kSection, changed);
+    show.platform.settings.SaveSettingsAsync(kAppTitle, kSection, changed);
     show.SettingsFail = false;
   } catch (const RuntimeError& error) {
     ReportSettingsFailure(show, error);
@@ -74,8 +74,8 @@ void SaveSetting(Show& show, const std::string& key, const std::string& value) {
 
 void SaveSettingOrReport(Show& show, const std::string& key, const Form& form, const std::string& procedure) {
   const auto& table = SettingsTable();
-  for (std::size_t i = 0; i < show.KeptSettings.size(); ++i) {
-    if (table[i].Key == key) show.KeptSettings[i] = table[i].Text(show.state);
+  for (std::size_t i = 0; i < show.SavedSettings.size(); ++i) {
+    if (table[i].Key == key) show.SavedSettings[i] = table[i].Text(show.state);
   }
   RunGuarded(
       show.platform.dialogs, [&] { SaveSetting(show, key, SettingOf(key).Text(show.state)); }, form.Name(), procedure);
@@ -84,9 +84,9 @@ void SaveSettingOrReport(Show& show, const std::string& key, const Form& form, c
 void SaveAllSettings(Show& show) {
   std::vector<Setting> settings;
   for (const SettingRow& row : SettingsTable()) {
-    if (row.When == Kept::AtExitToo) settings.push_back({row.Key, row.Text(show.state)});
+    if (row.Save == SaveAt::ExitToo) settings.push_back({row.Key, row.Text(show.state)});
   }
-  if (!show.KeptSettings.empty()) show.KeptSettings = TextsOf(show.state);
+  if (!show.SavedSettings.empty()) show.SavedSettings = TextsOf(show.state);
   Save(show, settings);
   show.platform.settings.Flush();
 }

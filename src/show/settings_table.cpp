@@ -48,7 +48,7 @@ SettingRow Whole(std::string key, int standard, Clamp clamp, Field field) {
     return value.has_value();
   };
   const auto text = [field](const GameState& state) { return std::to_string(static_cast<int>(field(state))); };
-  return {std::move(key), std::to_string(standard), ReadAt::Load, Kept::AtExitToo, take, text};
+  return {std::move(key), std::to_string(standard), ReadAt::Load, SaveAt::ExitToo, take, text};
 }
 
 template <typename Field>
@@ -59,7 +59,7 @@ SettingRow Truth(std::string key, bool standard, Field field) {
     return value.has_value();
   };
   const auto text = [field](const GameState& state) { return BooleanText(field(state)); };
-  return {std::move(key), BooleanText(standard), ReadAt::Load, Kept::AtExitToo, take, text};
+  return {std::move(key), BooleanText(standard), ReadAt::Load, SaveAt::ExitToo, take, text};
 }
 
 template <typename Field>
@@ -70,7 +70,7 @@ SettingRow Real(std::string key, double standard, Field field) {
     return value.has_value();
   };
   const auto text = [field](const GameState& state) { return NumberText(field(state)); };
-  return {std::move(key), NumberText(standard), ReadAt::Load, Kept::AtExitToo, take, text};
+  return {std::move(key), NumberText(standard), ReadAt::Load, SaveAt::ExitToo, take, text};
 }
 
 // A blank text becomes the default.
@@ -81,7 +81,7 @@ SettingRow Text(std::string key, std::string standard, Field field) {
     return true;
   };
   const auto text = [field](const GameState& state) { return field(state); };
-  return {std::move(key), standard, ReadAt::Load, Kept::AtExitToo, take, text};
+  return {std::move(key), standard, ReadAt::Load, SaveAt::ExitToo, take, text};
 }
 
 SettingRow WrittenOnly(SettingRow row) {
@@ -90,7 +90,7 @@ SettingRow WrittenOnly(SettingRow row) {
 }
 
 SettingRow AtChangeOnly(SettingRow row) {
-  row.When = Kept::AtChangeOnly;
+  row.Save = SaveAt::ChangeOnly;
   return row;
 }
 
@@ -186,7 +186,7 @@ Rows MakeTable() {
   Rows rows;
   AddRouting(rows);
   // Other programs of the family look for it; it stands for nothing here.
-  rows.push_back({"RememberCommPort", "False", ReadAt::Never, Kept::AtExitToo, {}, [](const GameState&) {
+  rows.push_back({"RememberCommPort", "False", ReadAt::Never, SaveAt::ExitToo, {}, [](const GameState&) {
                     return BooleanText(false);
                   }});
   AddGame(rows);

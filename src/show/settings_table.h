@@ -1,5 +1,5 @@
 // Every setting of the program, each once: its key, what stands where nothing is stored, what of the game's state it is
-// and its range, and when it is read and kept. Reading, saving, the forms' lists and the tests take it from here.
+// and its range, and when it is read and saved. Reading, saving, the forms' lists and the tests take it from here.
 #pragma once
 
 #include <array>
@@ -36,14 +36,14 @@ inline constexpr const char* kShowBaseHeaderKey = "ShowBaseHeader";
 
 // What is never read is found anew at each start, or is there for other programs.
 enum class ReadAt { Load, Never };
-// All are kept when they change while the console runs. AtExitToo: once more at the exit, in the table's order.
-enum class Kept { AtExitToo, AtChangeOnly };
+// All are saved when they change while the console runs. AtExitToo: once more at the exit, in the table's order.
+enum class SaveAt { ExitToo, ChangeOnly };
 
 struct SettingRow {
   std::string Key;
   std::string Default;
   ReadAt Read;
-  Kept When;
+  SaveAt Save;
   // Takes a stored text; what is out of range becomes what the row says. False, and nothing taken, for a text that
   // can't be converted.
   std::function<bool(GameState&, const std::string& text)> Take;

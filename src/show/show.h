@@ -70,11 +70,11 @@ using SoundBanks = std::array<std::array<std::string, 35>, 4>;
 
 // The look at the media of a set that has been loaded.
 struct MediaCheck {
-  // Counts the looks, so that what is told of an earlier set is known to be late.
+  // Counts the looks, so that a report on an earlier set is known to be late.
   int Number = 0;
   int Files = 0, Left = 0;
   // What can't be shown, by the question's number.
-  std::map<int, std::string> Faults;
+  std::map<int, std::string> Errors;
 };
 
 // All forms of the program, which the show's references below name.
@@ -126,8 +126,8 @@ struct Show {
   // The values of that key: those that wait until the present event is done, and what each was when it was written.
   std::vector<Setting> SharedKeyWaiting;
   std::map<std::string, std::string> SharedKeyWritten;
-  // Each setting as it was kept last, in the table's order; empty until the console has loaded them.
-  std::vector<std::string> KeptSettings;
+  // Each setting as it was saved last, in the table's order; empty until the console has loaded them.
+  std::vector<std::string> SavedSettings;
   std::vector<MonitorInfo> Monitors;
   // frmFSMain has been loaded; and the desktop's saver and sleep are held off.
   bool AudienceLoaded = false, AwakeHeld = false;

@@ -26,7 +26,7 @@ class MemorySettings : public SettingsStore {
 
   // Key and value of every save, in order.
   std::vector<std::pair<std::string, std::string>> Writes;
-  // That many of the next saves keep nothing and throw error 61.
+  // That many of the next saves write nothing and throw error 61.
   int FailSaves = 0;
   // Why nothing can be read, as a store on a disk would say it.
   std::string Unreadable;

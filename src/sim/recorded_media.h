@@ -35,7 +35,7 @@ class RecordedChannel : public MediaChannel {
   double CurrentPosition() const override;
   double Duration() const override { return duration_; }
 
-  // The operator's hand on the player's own controls, or the file's end: tells the program.
+  // The operator's hand on the player's own controls, or the file's end: notifies the program.
   void Report(PlayState state);
 
   std::string Url;

@@ -7,9 +7,9 @@
 namespace pawnfield {
 
 ScriptedDialogs::~ScriptedDialogs() {
-  const auto faults = TakeFaults();
-  for (const std::string& fault : faults) std::cerr << "Dialogs: " << fault << "\n";
-  if (!faults.empty()) std::abort();
+  const auto errors = TakeErrors();
+  for (const std::string& error : errors) std::cerr << "Dialogs: " << error << "\n";
+  if (!errors.empty()) std::abort();
 }
 
 void ScriptedDialogs::ExpectMessage(const std::string& textPart, BoxAnswer answer, std::function<void()> act) {
@@ -66,7 +66,7 @@ bool ScriptedDialogs::Fits(const Step& step, Kind kind, const std::string& shown
 bool ScriptedDialogs::Take(Kind kind, const std::string& shown, Step& step) {
   if (script_.empty() || !Fits(script_.front(), kind, shown)) {
     const std::string expected = script_.empty() ? "nothing" : Describe(script_.front().kind, script_.front().text);
-    faults_.push_back("unexpected " + Describe(kind, shown) + ", expected " + expected);
+    errors_.push_back("unexpected " + Describe(kind, shown) + ", expected " + expected);
     return false;
   }
   step = std::move(script_.front());
@@ -120,16 +120,16 @@ void ScriptedDialogs::ShowModal(Form& form) {
   form.Visible = true;
   if (expected) Act(step, ModalKind::Window);
   if (!form.Visible) return;
-  if (expected) faults_.push_back("form " + form.Name() + " was left open");
+  if (expected) errors_.push_back("form " + form.Name() + " was left open");
   form.Unload();
 }
 
-std::vector<std::string> ScriptedDialogs::TakeFaults() {
-  std::vector<std::string> faults;
-  faults.swap(faults_);
-  for (const Step& step : script_) faults.push_back("nothing asked for " + Describe(step.kind, step.text));
+std::vector<std::string> ScriptedDialogs::TakeErrors() {
+  std::vector<std::string> errors;
+  errors.swap(errors_);
+  for (const Step& step : script_) errors.push_back("nothing asked for " + Describe(step.kind, step.text));
   script_.clear();
-  return faults;
+  return errors;
 }
 
 }  // namespace pawnfield

@@ -1,5 +1,5 @@
 // Modal questions answered from a script. A dialog that the script does not have next, and an answer that nothing
-// asked for, are faults.
+// asked for, are errors.
 #pragma once
 
 #include <deque>
@@ -20,7 +20,7 @@ struct ShownBox {
 
 class ScriptedDialogs : public Dialogs {
  public:
-  // Ends the process when faults were left unread: a script that went wrong can't pass for one that went well.
+  // Ends the process when errors were left unread: a script that went wrong can't pass for one that went well.
   ~ScriptedDialogs() override;
 
   // The next box must contain textPart; act runs while it is shown.
@@ -46,9 +46,9 @@ class ScriptedDialogs : public Dialogs {
   Font FontStart;
   Color ColorStart = 0;
   // What went wrong so far, the answers left over included; empties both.
-  std::vector<std::string> TakeFaults();
-  // True when nothing went wrong and no answer is left over; the faults stay to be taken.
-  bool Verify() const { return faults_.empty() && script_.empty(); }
+  std::vector<std::string> TakeErrors();
+  // True when nothing went wrong and no answer is left over; the errors stay to be taken.
+  bool Verify() const { return errors_.empty() && script_.empty(); }
 
  private:
   enum class Kind { Message, File, Form, Typeface, Tint };
@@ -61,7 +61,7 @@ class ScriptedDialogs : public Dialogs {
     std::optional<Color> color{};
   };
 
-  // Takes the next step when it is of that kind and fits what is shown; otherwise records a fault.
+  // Takes the next step when it is of that kind and fits what is shown; otherwise records an error.
   bool Take(Kind kind, const std::string& shown, Step& step);
   // Runs the step's act while a dialog of that kind is up.
   void Act(const Step& step, ModalKind kind);
@@ -70,7 +70,7 @@ class ScriptedDialogs : public Dialogs {
 
   ModalKind modal_ = ModalKind::None;
   std::deque<Step> script_;
-  std::vector<std::string> faults_;
+  std::vector<std::string> errors_;
   std::vector<ShownBox> boxes_;
   std::vector<FileDialogRequest> requests_;
 };

@@ -79,8 +79,8 @@ class SimDisplays : public Displays {
 class SimDeviceWatch : public DeviceWatch {
  public:
   void OnChanged(std::function<void()> changed) override { changed_ = std::move(changed); }
-  // The system tells of a device that was plugged in or pulled.
-  void Tell() const {
+  // The system reports a device that was plugged in or pulled.
+  void Notify() const {
     if (changed_) changed_();
   }
 

@@ -19,9 +19,9 @@ class SimSerial : public SerialPort {
 
   // The system's adapter under that caption.
   void Plug(const std::string& caption = "USB-SERIAL (COM7)");
-  // Bytes arrive and are told of, once for all of them.
+  // Bytes arrive and are announced, once for all of them.
   void Feed(const std::string& bytes);
-  // The adapter is gone: an open port tells so again and again, at most a hundred times.
+  // The adapter is gone: an open port reports so again and again, at most a hundred times.
   void Pull();
 
   std::vector<SerialDevice> Devices;

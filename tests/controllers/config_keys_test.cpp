@@ -19,7 +19,7 @@ const Story kConfigKeys[] = {
 };
 
 using ConfigKeys = StoryTest;
-TEST_P(ConfigKeys, GoAsTold) { Play(); }
+TEST_P(ConfigKeys, GoAsWritten) { Play(); }
 INSTANTIATE_TEST_SUITE_P(Stories, ConfigKeys, testing::ValuesIn(kConfigKeys), StoryTest::Name);
 
 }  // namespace

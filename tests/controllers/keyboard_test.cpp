@@ -53,7 +53,7 @@ class Keyboard : public GamePlayer {
   std::vector<std::string> Look() {
     std::string board, dialogs;
     for (const auto& row : state.Board) board.append(row.begin(), row.end());
-    for (const std::string& fault : fixture().sim.dialogs.TakeFaults()) dialogs += fault;
+    for (const std::string& fault : fixture().sim.dialogs.TakeErrors()) dialogs += fault;
     return {std::to_string(state.CurrentPlayer),
             std::to_string(form().btnQuestionCorrect.Visible),
             std::to_string(state.CurrentQuestion),
@@ -199,7 +199,7 @@ TEST(Keyboard, TellsTheExternalKeyboardProgramWhenPressesAreWanted) {
 TEST(Keyboard, APressIsSeenBeforeTheKeyboardProgramReadsOfIt) {
   Keyboard keyboard('5', "");
   keyboard.state.SerialComm = InterfaceCode::PublishingKeypads;
-  BeginKeepingSettings(keyboard.show());
+  BeginSavingSettings(keyboard.show());
   const auto& writes = keyboard.fixture().sim.settings.Writes;
   keyboard.fixture().sim.settings.Writes.clear();
   keyboard.form().KeyPress('2');

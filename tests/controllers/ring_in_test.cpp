@@ -14,13 +14,13 @@ const Story kPresses[] = {
     {"APressWithin200MillisecondsIsDroppedAndItsTimeIsNotKept", "5 3 3 full w",
      "1 >30 turn=1 - >150 1 >30 turn=0 1 >30 turn=1"},
     {"APressAtADialogIsDroppedAndItsTimeIsKept", "5 3 3 full w", "[ 1 >30 ] 1 >30 turn=0 >180 1 >30 turn=1"},
-    {"RemotesBeyondTheTablesAreToldOnceEachAndTheShowGoesOn", "5 3 3 full w",
+    {"RemotesBeyondTheTablesAreReportedOnceEachAndTheShowGoesOn", "5 3 3 full w",
      "?Description:_Subscript_out_of_range_(remote_51) #398 >30 ?(remote_22) #28 >30 >1000 #398 >30 #28 >30 turn=0 "
      "1 >30 turn=1 #29 >30 turn=1"},
 };
 
 using RemoteStory = StoryTest;
-TEST_P(RemoteStory, GoesAsTold) { Play(); }
+TEST_P(RemoteStory, GoesAsWritten) { Play(); }
 INSTANTIATE_TEST_SUITE_P(RingIn, RemoteStory, testing::ValuesIn(kPresses), StoryTest::Name);
 
 TEST(RingIn, TheRoutingChoosesThePlayerWhoIsLitAndHeardTwiceByTheRemotesOwnLight) {

@@ -62,15 +62,15 @@ const Story kPads[] = {
      "*3 *2 turn=0 2 turn=2 *4 *9 turn=2 *2 turn=0 3 *5 turn=0 1 *6 00 *5 question=0 *2 question=1 1 *3 turn=1 "
      "btnQuestionCorrect=-"},
     {"ADisabledPlayerHasNoPad", "5 2 3 full lm", "3 turn=0 1 turn=1"},
-    {"StrangersAreToldAndPassedOver", "5 3 3 full lm",
+    {"StrangersAreReportedAndPassedOver", "5 3 3 full lm",
      "?An_unmapped_controller_has_been_detected. #999 ?This_game_only_uses_3_player_controls. #104 turn=0 2 turn=2"},
 };
 
 using PadStory = StoryTest;
-TEST_P(PadStory, GoesAsTold) { Play(); }
+TEST_P(PadStory, GoesAsWritten) { Play(); }
 INSTANTIATE_TEST_SUITE_P(Pads, PadStory, testing::ValuesIn(kPads), StoryTest::Name);
 
-TEST(Pads, BrokenFramesAreToldOnceAndAPulledAdapterUntilReconnected) {
+TEST(Pads, BrokenFramesAreReportedOnceAndAPulledAdapterUntilReconnected) {
   GamePlayer player("5 3 3 full lm");
   SimSerial& port = player.fixture().sim.serial;
   player.Play("?Error_Number:_5");

@@ -181,7 +181,7 @@ QString WhereItBegins(QtDialogs& dialogs, const FileDialogRequest& request) {
   return folder;
 }
 
-TEST(FileDialogTest, BeginsWhereItIsToldAndRemembersNothing) {
+TEST(FileDialogTest, BeginsWhereItIsReportedAndRemembersNothing) {
   const QTemporaryDir folder;
   PictureCache pictures;
   FormWindows windows{pictures};

@@ -192,14 +192,14 @@ TEST_F(SettingsTest, WhatIsKeptInPassingIsFoundAtOnceAndReachesTheDisk) {
   };
   {
     QtSettingsStore store(folder);
-    for (const char* value : {"2", "3"}) store.KeepSettings("Pawnfield", "Settings", {{"Players", value}});
+    for (const char* value : {"2", "3"}) store.SaveSettingsAsync("Pawnfield", "Settings", {{"Players", value}});
     EXPECT_EQ(store.GetSetting("Pawnfield", "Settings", "players", ""), "3");
     store.Flush();
     EXPECT_EQ(onDisk("Players"), "3");
-    store.KeepSettings("Pawnfield", "Settings", {{"GridControl", "4"}});
+    store.SaveSettingsAsync("Pawnfield", "Settings", {{"GridControl", "4"}});
     store.SaveSetting("Pawnfield", "Settings", "SoundSet", "2");
     EXPECT_EQ(onDisk("GridControl") + onDisk("SoundSet"), "42") << "nothing overtakes what waits";
-    store.KeepSettings("Pawnfield", "Settings", {{"GridControl", "5"}});
+    store.SaveSettingsAsync("Pawnfield", "Settings", {{"GridControl", "5"}});
   }
   EXPECT_EQ(onDisk("GridControl"), "5") << "nor is it lost with the store";
 }
@@ -218,7 +218,7 @@ TEST_F(SettingsTest, OnlyAPlainFileOfSettingsSizeIsReadAndNothingElseIsWrittenOv
   EXPECT_EQ(QFileInfo(Native("large/pawnfield.ini")).size(), 2 * 1024 * 1024 + 21);
 }
 
-TEST_F(SettingsTest, MissingAndBrokenStoresGiveTheFallbackAndAFolderThatCannotBeIsTold) {
+TEST_F(SettingsTest, MissingAndBrokenStoresGiveTheFallbackAndAFolderThatCannotBeIsReported) {
   Make("broken/pawnfield.ini", QByteArray("\xFF\xFE[[[\0=]\n==", 11));
   for (const char* folder : {"none", "broken"}) {
     EXPECT_EQ(QtSettingsStore(Native(folder)).GetSetting("Pawnfield", "Settings", "Players", "3"), "3") << folder;
@@ -321,7 +321,7 @@ TEST_F(BusTest, OneThatAnswersIsFoundAndOneThatIsSilentIsGivenUpInTwoSeconds) {
 
 using ProcessesTest = FolderTest;
 
-TEST_F(ProcessesTest, AFolderInTheMarksPlaceIsToldAsOneAndTheProgramCanBeRaised) {
+TEST_F(ProcessesTest, AFolderInTheMarksPlaceIsReportedAsOneAndTheProgramCanBeRaised) {
   QDir().mkpath(Native("run/pawnfield.lock"));
   int raised = 0;
   LinuxProcesses processes(Native("run"), [&] { ++raised; });
@@ -420,7 +420,7 @@ TEST_F(UserCopyTest, FollowsTheShippedFilesAndKeepsTheOperators) {
   }
 }
 
-TEST_F(UserCopyTest, WhatCannotBeMadeIsToldOfOnce) {
+TEST_F(UserCopyTest, WhatCannotBeMadeIsReportedOfOnce) {
   for (const char* name : {"shared/a.bmp", "shared/Trivia Sets/b.txt", "user"}) Make(name, "x");
   const auto failure = UpdateUserCopy(Native("shared"), Native("user"));
   ASSERT_TRUE(failure);

@@ -115,7 +115,7 @@ TEST_F(Wireless, TextGoesOutInPiecesSixtyMillisecondsApart) {
   EXPECT_EQ(hid.Writes.size(), 1U + 2U);
 }
 
-TEST_F(Wireless, ADeviceThatTakesTooLittleIsTold) {
+TEST_F(Wireless, ADeviceThatTakesTooLittleIsReported) {
   hid.Devices = {{{3, kTransceiverLong}, {33, 8}}};
   Start();
   EXPECT_THROW(transceiver->LED_Set(1, 2), RuntimeError) << "nine bytes don't fit eight";

@@ -38,7 +38,7 @@ const Story kBoardPlay[] = {
      "picQuestion'=up picQuestionPicture'=- picSound'=- + picQuestion'=- 00 C "
      "picQuestion'=- picQuestionPicture'=up picSound'=- + picQuestionPicture'=- 10 C "
      "picQuestion'=- picQuestionPicture'=- picSound'=up clip=clip.WAV + picSound'=- lblAnswer=The_answer"},
-    {"FiveQuestionsLeftIsToldOnce", "4 2 4 full m7",
+    {"FiveQuestionsLeftIsReportedOnce", "4 2 4 full m7",
      "+ 00 tmr5QuestionTimer=off C + 01 lblQuestion(0)=5_Questions_Left! btnContinue=off btnUndo=off "
      "> picQuestion=- btnContinue=on btnUndo=on C + 02 tmr5QuestionTimer=off picQuestion=-"},
     {"TheLineAndThenTheWinnerAreSeen", "2 2 3 row",
@@ -68,7 +68,7 @@ const Story kBoardPlay[] = {
 };
 
 using BoardPlayStory = StoryTest;
-TEST_P(BoardPlayStory, GoesAsTold) { Play(); }
+TEST_P(BoardPlayStory, GoesAsWritten) { Play(); }
 INSTANTIATE_TEST_SUITE_P(BoardPlay, BoardPlayStory, testing::ValuesIn(kBoardPlay), StoryTest::Name);
 
 // The room's label had neither place nor size before the first question in words.

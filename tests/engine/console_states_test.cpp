@@ -54,7 +54,7 @@ const Story kStates[] = {
 };
 
 using ConsoleStates = StoryTest;
-TEST_P(ConsoleStates, AreAsTold) { Play(); }
+TEST_P(ConsoleStates, AreAsWritten) { Play(); }
 INSTANTIATE_TEST_SUITE_P(Stories, ConsoleStates, testing::ValuesIn(kStates), StoryTest::Name);
 
 TEST(Console, ALoadThatIsCancelledOrRefusedLeavesTheGameAndItsQuestionAsTheyWere) {

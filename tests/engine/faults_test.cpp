@@ -27,7 +27,7 @@ class Faults : public testing::Test {
   ShowFixture fixture;
 };
 
-TEST_F(Faults, BrokenAndMissingMediaAreToldBeforeTheGameAndOpenNoBoxInIt) {
+TEST_F(Faults, BrokenAndMissingMediaAreReportedBeforeTheGameAndOpenNoBoxInIt) {
   fixture.sim.files.Put("C:\\Shows\\broken.jpg", "no picture at all");
   fixture.WriteSet("Media", {"C:\\Shows\\broken.jpg", "C:\\Shows\\missing.jpg", "C:\\Shows\\missing.wav", "The last?"});
   fixture.Start();
@@ -63,7 +63,7 @@ TEST_F(Faults, AColourThatIsNoNumberLeavesTheQuestionUpBehindItsMessage) {
   ExpectSeen(fixture.show(), "picQuestion=up picQuestion'=up btnQuestionCorrect=on", " the odd colour");
 }
 
-TEST_F(Faults, SettingsThatCannotBeSavedAreToldAndTheProgramEnds) {
+TEST_F(Faults, SettingsThatCannotBeSavedAreReportedAndTheProgramEnds) {
   fixture.Start();
   fixture.sim.settings.FailSaves = 2;
   fixture.sim.dialogs.ExpectMessage("Are you sure you want to exit?", BoxAnswer::Yes);

@@ -1,4 +1,4 @@
-// A setting that can't be kept is told, and what the operator asked for happens all the same.
+// A setting that can't be saved is reported, and what the operator asked for happens all the same.
 #include <gtest/gtest.h>
 
 #include "../support/show_fixture.h"

@@ -60,7 +60,7 @@ const Story kJudging[] = {
 };
 
 using JudgingStory = StoryTest;
-TEST_P(JudgingStory, GoesAsTold) { Play(); }
+TEST_P(JudgingStory, GoesAsWritten) { Play(); }
 INSTANTIATE_TEST_SUITE_P(Judging, JudgingStory, testing::ValuesIn(kJudging), StoryTest::Name);
 
 TEST(Judging, AnIncorrectVerdictCostsOnlyWhoHoldsTheQuestion) {

@@ -31,7 +31,7 @@ const Story kNames[] = {
 };
 
 using PlayerNames = StoryTest;
-TEST_P(PlayerNames, AreAsTold) { Play(); }
+TEST_P(PlayerNames, AreAsWritten) { Play(); }
 INSTANTIATE_TEST_SUITE_P(Stories, PlayerNames, testing::ValuesIn(kNames), StoryTest::Name);
 
 TEST(PlayerNamesForm, HeadingSaysForInTheBoxAndItsOtherWordingAfterADoubleClick) {

@@ -5,7 +5,7 @@
 namespace pawnfield {
 namespace {
 
-const Told kNobody[] = {
+const WordStory kNobody[] = {
     {"A verdict without a player is refused", "Trivia B, Finish Row",
      "skip, wait 3, phase open, correct, phase open, picQuestion=up, btnQuestionCorrect=on, incorrect, phase open, "
      "says "
@@ -32,7 +32,7 @@ const Told kNobody[] = {
      "player 2 rings in, correct, clear all scores, player 2 lit, claim A1, board 200/000/000"},
 };
 
-const Told kUndo[] = {
+const WordStory kUndo[] = {
     {"The turn goes back in Trivia C", "Trivia C, remotes",
      "remote 2, correct, claim A1, undo, phase player 2 claims, player 2 lit, imgDJEntry=O-100a.bmp, btnContinue=on, "
      "claim "
@@ -63,7 +63,7 @@ const Told kUndo[] = {
      "claim A1, claim B1, claim C1, two players, undo, turn 1, board 120/000/000"},
 };
 
-const Told kPause[] = {
+const WordStory kPause[] = {
     {"A claim after a skip has its whole pause", "Trivia A",
      "correct, skip, wait 2.5, click A1, wait 3.8, question 1, wait 0.2, question 2, wait 2.8, question 2"},
     {"The timer and Continue exclude each other after the notice", "Trivia A, 7 questions",
@@ -83,7 +83,7 @@ const Told kPause[] = {
      "correct, claim A1, continue, correct, keys b2, end game, key enter, click C3, board 100/000/000, scores 50/0/0"},
 };
 
-const Told kPlayers[] = {
+const WordStory kPlayers[] = {
     {"The third is shut out of a game of two", "Trivia C, remotes, not started",
      "choose the set, two players, start, key 3, turn nobody, says Player 3 isn't in this game of 2 players., remote "
      "3, "
@@ -103,7 +103,7 @@ const Told kPlayers[] = {
      "player 3 rings in, correct, two players, phase pause, wait 3, question 2, phase open"},
 };
 
-const Told kKeys[] = {
+const WordStory kKeys[] = {
     {"A square typed at the first question takes nothing", "Trivia C",
      "keys b2, key enter, txtDJCommand=, turn 2, board 000/000/000, picQuestion=up, picQuestion'=up"},
     {"A click at the first question takes nothing", "Trivia A",
@@ -121,21 +121,21 @@ const Told kKeys[] = {
      "skip, continue, phase open, player 3 rings in, phase player 3 answers, incorrect, turn 1"},
 };
 
-using Nobody = ToldTest;
-using Undo = ToldTest;
-using Pause = ToldTest;
-using Players = ToldTest;
-using WrongMoment = ToldTest;
+using Nobody = WordStoryTest;
+using Undo = WordStoryTest;
+using Pause = WordStoryTest;
+using Players = WordStoryTest;
+using WrongMoment = WordStoryTest;
 TEST_P(Nobody, HasTheTurn) { Play(); }
 TEST_P(Undo, TakesAClaimBack) { Play(); }
 TEST_P(Pause, PassesNoQuestionOver) { Play(); }
 TEST_P(Players, BeyondTheGameStayOut) { Play(); }
 TEST_P(WrongMoment, ChangesNothing) { Play(); }
-INSTANTIATE_TEST_SUITE_P(Turns, Nobody, testing::ValuesIn(kNobody), ToldTest::Name);
-INSTANTIATE_TEST_SUITE_P(Turns, Undo, testing::ValuesIn(kUndo), ToldTest::Name);
-INSTANTIATE_TEST_SUITE_P(Turns, Pause, testing::ValuesIn(kPause), ToldTest::Name);
-INSTANTIATE_TEST_SUITE_P(Turns, Players, testing::ValuesIn(kPlayers), ToldTest::Name);
-INSTANTIATE_TEST_SUITE_P(Turns, WrongMoment, testing::ValuesIn(kKeys), ToldTest::Name);
+INSTANTIATE_TEST_SUITE_P(Turns, Nobody, testing::ValuesIn(kNobody), WordStoryTest::Name);
+INSTANTIATE_TEST_SUITE_P(Turns, Undo, testing::ValuesIn(kUndo), WordStoryTest::Name);
+INSTANTIATE_TEST_SUITE_P(Turns, Pause, testing::ValuesIn(kPause), WordStoryTest::Name);
+INSTANTIATE_TEST_SUITE_P(Turns, Players, testing::ValuesIn(kPlayers), WordStoryTest::Name);
+INSTANTIATE_TEST_SUITE_P(Turns, WrongMoment, testing::ValuesIn(kKeys), WordStoryTest::Name);
 
 }  // namespace
 }  // namespace pawnfield

@@ -85,7 +85,7 @@ void ImportInEditor(Rig& rig, const std::string& path) { ChooseInEditor(rig, pat
 
 // The milliseconds that the read took, and a fault where that is too long or a file was refused without a word.
 int TryReading(Rig& rig, const Reading& reading, const QString& file, bool mustRefuse) {
-  rig.dialogs.Told.clear();
+  rig.dialogs.Messages.clear();
   rig.show.frmEditor.Visible = true;
   QElapsedTimer timer;
   timer.start();
@@ -93,9 +93,9 @@ int TryReading(Rig& rig, const Reading& reading, const QString& file, bool mustR
   reading.Read(rig, SpelledPath(file));
   alarm(0);
   const qint64 took = timer.elapsed();
-  const bool silent = mustRefuse && rig.dialogs.Told.empty();
+  const bool silent = mustRefuse && rig.dialogs.Messages.empty();
   std::printf("%-18s %-8s %5lld ms  %s%s%s\n", QFileInfo(file).fileName().toLocal8Bit().constData(), reading.Way,
-              static_cast<long long>(took), rig.dialogs.Told.empty() ? "read" : "told",
+              static_cast<long long>(took), rig.dialogs.Messages.empty() ? "read" : "told",
               took > kLongestMs ? "  fault: too long" : "", silent ? "  fault: nothing was said" : "");
   std::fflush(stdout);
   return (took > kLongestMs ? 1 : 0) + (silent ? 1 : 0);

@@ -73,7 +73,7 @@ int RunKept(const QString& root) {
       files.emplace_back(rig.places.Root + '/' + writer.Folder + '/' + file, static_cast<int>(files.size()));
     }
     writer.Write(rig, 2);
-    std::string fault = rig.dialogs.Told.empty() ? "" : rig.dialogs.Told.front();
+    std::string fault = rig.dialogs.Messages.empty() ? "" : rig.dialogs.Messages.front();
     for (const LinkedFile& file : files) {
       if (fault.empty()) fault = file.Fault();
     }

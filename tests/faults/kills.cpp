@@ -108,9 +108,9 @@ int KillWriter(const Writer& writer, const QString& root, int kills, Progress& p
   std::printf("%-24s %6d %9d %9d %8d %5d %10lld %10lld %9zu\n", writer.Kind.c_str(), kills, counts.Old, counts.New,
               counts.Between, counts.Torn, left, stays, odd.size());
   for (const std::string& text : odd) std::printf("  next start: %s\n", text.c_str());
-  for (const std::string& text : rig.dialogs.Told) std::printf("  told: %s\n", text.c_str());
+  for (const std::string& text : rig.dialogs.Messages) std::printf("  told: %s\n", text.c_str());
   std::fflush(stdout);
-  return counts.Torn + (healed ? 0 : 1) + static_cast<int>(stays + left / 2 + odd.size() + rig.dialogs.Told.size());
+  return counts.Torn + (healed ? 0 : 1) + static_cast<int>(stays + left / 2 + odd.size() + rig.dialogs.Messages.size());
 }
 
 // The mark of a running program, which must not outlive it.

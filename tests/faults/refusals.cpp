@@ -49,7 +49,7 @@ class Trial {
   // A write that nothing hinders: no message, the new file, and nothing beside it.
   void WriteInPeace(int variant) {
     Write(variant);
-    if (!told_.empty() || !IsNew(variant)) Fault("not written though nothing hinders it");
+    if (!messages_.empty() || !IsNew(variant)) Fault("not written though nothing hinders it");
     const QStringList strays = Strays(Folder(), writer_.Files);
     if (!strays.isEmpty()) Fault("left behind: " + strays.join(", ").toStdString());
   }
@@ -60,7 +60,7 @@ class Trial {
     Write(variant);
     ++tries_;
     const Snapshot now = Take(Folder(), writer_.Files);
-    if (told_.empty()) {
+    if (messages_.empty()) {
       if (IsNew(variant)) {
         ++new_;
       } else {
@@ -90,9 +90,9 @@ class Trial {
 
  private:
   void Write(int variant) {
-    rig_.dialogs.Told.clear();
+    rig_.dialogs.Messages.clear();
     writer_.Write(rig_, variant);
-    told_ = rig_.dialogs.Told;
+    messages_ = rig_.dialogs.Messages;
   }
 
   bool IsNew(int variant) const {
@@ -100,16 +100,16 @@ class Trial {
            Verdict::New;
   }
 
-  // A handler that writes two files tells of each.
+  // A handler that writes two files reports each.
   void CheckMessages() {
     bool fits = false;
-    for (const std::string& text : told_) {
+    for (const std::string& text : messages_) {
       if (!Fits(text)) continue;
       fits = true;
       message_ = OneLine(text);
     }
-    if (!fits) Fault("another message: " + OneLine(told_.front()));
-    if (std::set<std::string>(told_.begin(), told_.end()).size() < told_.size()) Fault("told twice");
+    if (!fits) Fault("another message: " + OneLine(messages_.front()));
+    if (std::set<std::string>(messages_.begin(), messages_.end()).size() < messages_.size()) Fault("told twice");
   }
 
   bool Fits(const std::string& text) const {
@@ -127,7 +127,7 @@ class Trial {
   QString root_;
   Rig rig_;
   std::vector<Snapshot> reference_;
-  std::vector<std::string> told_, faults_;
+  std::vector<std::string> messages_, faults_;
   std::string message_;
   int tries_ = 0, refused_ = 0, old_ = 0, new_ = 0, torn_ = 0;
 };
@@ -237,13 +237,13 @@ int StartAndEnd(const QString& root) {
   if (LinuxProcesses(Places(root).Runtime(), [] {}).AnotherInstanceRuns()) faults.push_back("taken for another copy");
   Rig rig(root);
   Start(rig);
-  const std::size_t atStart = rig.dialogs.Told.size() - 1;
+  const std::size_t atStart = rig.dialogs.Messages.size() - 1;
   if (!rig.show.frmMain.Visible) faults.push_back("no console");
   rig.show.frmMain.mnuFileExit.Click();
-  const std::size_t atExit = rig.dialogs.Told.size() - 1 - atStart;
+  const std::size_t atExit = rig.dialogs.Messages.size() - 1 - atStart;
   if (!rig.sim.processes.Ended) faults.push_back("no end");
   std::printf("%-24s %zu messages at the start, %zu at the exit\n", "start and exit", atStart, atExit);
-  for (const std::string& text : rig.dialogs.Told) std::printf("  %s\n", OneLine(text).c_str());
+  for (const std::string& text : rig.dialogs.Messages) std::printf("  %s\n", OneLine(text).c_str());
   for (const std::string& fault : faults) std::printf("  fault: %s\n", fault.c_str());
   return static_cast<int>(faults.size());
 }

@@ -20,9 +20,9 @@ Folders FoldersOf(const Places& places) { return {SpelledPath(places.App()), Spe
 
 }  // namespace
 
-BoxAnswer ToldDialogs::MessageBox(const std::string& text, const std::string&, BoxKind kind) {
+BoxAnswer RecordingDialogs::MessageBox(const std::string& text, const std::string&, BoxKind kind) {
   if (kind == BoxKind::YesNo || kind == BoxKind::YesNoCancel) return BoxAnswer::Yes;
-  Told.push_back(text);
+  Messages.push_back(text);
   return BoxAnswer::Ok;
 }
 
@@ -66,7 +66,7 @@ std::vector<std::string> NextStart(const QString& root) {
   before ? ReplaceFile(settings, {before->data(), static_cast<std::size_t>(before->size())})
          : static_cast<void>(QFile::remove(settings));
   std::vector<std::string> odd;
-  for (const std::string& text : rig.dialogs.Told) {
+  for (const std::string& text : rig.dialogs.Messages) {
     if (text.find("No hardware was detected") == std::string::npos) odd.push_back(text);
   }
   for (const std::string& name : rig.show.frmMain.cboList.List.Get()) {

@@ -13,8 +13,8 @@
 
 namespace pawnfield::faults {
 
-// Answers Yes to every question, chooses one file in every dialog, and keeps what the operator was told.
-class ToldDialogs : public Dialogs {
+// Answers Yes to every question, chooses one file in every dialog, and records what the operator was shown.
+class RecordingDialogs : public Dialogs {
  public:
   BoxAnswer MessageBox(const std::string& text, const std::string& title, BoxKind kind) override;
   std::string ChooseFile(const FileDialogRequest&) override { return Chosen; }
@@ -24,7 +24,7 @@ class ToldDialogs : public Dialogs {
   ModalKind Modal() const override { return ModalKind::None; }
 
   std::string Chosen;
-  std::vector<std::string> Told;
+  std::vector<std::string> Messages;
 };
 
 // Prints to a file as if the operator had chosen it in the dialog.
@@ -56,7 +56,7 @@ struct Rig {
 
   Places places;
   SimPlatform sim;
-  ToldDialogs dialogs;
+  RecordingDialogs dialogs;
   QtFileSystem files;
   QtSettingsStore settings;
   PictureCache pictures;

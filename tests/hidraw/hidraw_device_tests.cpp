@@ -40,7 +40,7 @@ class Hidraw : public ::testing::Test {
       std::this_thread::sleep_for(Milliseconds(kPollMs));
       fixture_.sim.clock.Advance(kPollMs);
       clock_.Advance(kPollMs);
-      if (fixture_.sim.hid.Instead != nullptr && folder_.TakeChanges()) fixture_.sim.devices.Tell();
+      if (fixture_.sim.hid.Instead != nullptr && folder_.TakeChanges()) fixture_.sim.devices.Notify();
     }
     return condition();
   }

@@ -68,7 +68,7 @@ TEST_F(Music, AModeWithNothingToPlayBecomesNone) {
   }
 }
 
-TEST_F(Music, AHundredTracksAreKeptAndTheRestIsTold) {
+TEST_F(Music, AHundredTracksAreKeptAndTheRestIsReported) {
   for (int i = 100; i < 201; ++i) sim.files.Put(kFolder + std::to_string(i) + ".mp3", "music");
   sim.dialogs.ExpectMessage("Procedure: LoadMusicList");
   EXPECT_TRUE(LoadMusicList(show()));

@@ -20,7 +20,7 @@ inline constexpr std::array kWords = {"Ann",
                                       "\"quoted\", ^ and ~",
                                       "12345678901234567890"};
 
-// Errors that a changed world brings and the program is to tell of; the editor's when its only question goes; and those
+// Errors that a changed world brings and the program is to report; the editor's when its only question goes; and those
 // of a remote beyond the tables, a broken frame, a transceiver that takes no text, and a sound table that is none.
 bool IsExpectedError(const std::string& text);
 

@@ -166,7 +166,7 @@ TEST(Controls, GuardTurnsWhatAHandlerThrowsIntoTheBox) {
   EXPECT_EQ(sim.dialogs.Boxes().at(0).Text,
             "An untrapped error has occurred. Please make a note of the following information: \r\n"
             "Error Number: 53\r\nDescription: File not found\r\nLocation: frmSample\r\nProcedure: btnGo_Click\r\n");
-  EXPECT_TRUE(sim.dialogs.TakeFaults().empty());
+  EXPECT_TRUE(sim.dialogs.TakeErrors().empty());
 }
 
 }  // namespace

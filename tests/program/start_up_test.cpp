@@ -204,7 +204,7 @@ TEST(StartUp, ASecondInstanceGivesWayToTheFirst) {
   EXPECT_TRUE(fixture.sim.processes.Ended && !fixture.form().Visible);
 }
 
-TEST(StartUp, OnlyMissingDataFoldersAreMadeAndAFailureIsTold) {
+TEST(StartUp, OnlyMissingDataFoldersAreMadeAndAFailureIsReported) {
   const std::string root = "C:\\Ostara Show Kit Data\\";
   ShowFixture fixture;
   fixture.sim.files.Put(root + "Pawnfield\\keep.txt", "kept");

@@ -12,12 +12,12 @@ class WirelessEvening {
   explicit WirelessEvening(const char* setup) : player(setup) {}
   void Pull() {
     sim.hid.Pull();
-    sim.devices.Tell();
+    sim.devices.Notify();
     sim.clock.Advance(60);
   }
   void Plug() {
     sim.hid.PlugTransceiver(kTransceiverShort);
-    sim.devices.Tell();
+    sim.devices.Notify();
   }
   std::string Status() { return player.form().lblStatusBar.Caption; }
 
@@ -32,8 +32,8 @@ TEST(WirelessEvening, PulledAmidAQuestionItIsMissedOnceAndBackByItself) {
   evening.Pull();
   EXPECT_EQ(evening.Status(), "Wireless transceiver lost");
   evening.player.form().lblStatusBar.Caption = "";
-  // The system tells of other devices too, and the show goes on by hand.
-  evening.sim.devices.Tell();
+  // The system reports other devices too, and the show goes on by hand.
+  evening.sim.devices.Notify();
   evening.player.Play(">3000 turn=0 keys:3 turn=3 -");
   EXPECT_EQ(evening.Status(), "") << "told once";
   evening.Plug();
@@ -50,7 +50,7 @@ TEST(WirelessEvening, PulledAmidAQuestionItIsMissedOnceAndBackByItself) {
 TEST(WirelessEvening, PluggedInFirstWhenTheConsoleIsUpItServesTheGame) {
   WirelessEvening evening("5 3 3 full m");
   EXPECT_EQ(evening.player.show().state.SerialComm, InterfaceCode::Manual);
-  evening.sim.devices.Tell();
+  evening.sim.devices.Notify();
   EXPECT_EQ(evening.Status(), "") << "some other device";
   evening.Plug();
   EXPECT_EQ(evening.Status(), "Wireless transceiver found");

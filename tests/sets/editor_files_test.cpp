@@ -64,7 +64,7 @@ TEST_F(EditorFiles, SavingAsksForANameOnceAndForAnOverwrite) {
   EXPECT_EQ(editor().EditFileName, kSets + "Other.txt");
 }
 
-TEST_F(EditorFiles, WhatCannotBeSavedOrReadIsToldAndNothingIsLost) {
+TEST_F(EditorFiles, WhatCannotBeSavedOrReadIsReportedAndNothingIsLost) {
   sim.files.Put(kQuiz, "Old\r\nA\r\nT\r\n");
   editor().EditFileName = kQuiz;
   TypeQuestion("New?");

@@ -79,7 +79,7 @@ TEST(EditorNavigation, InsertAndDeleteMoveWholeRecords) {
   EXPECT_TRUE(editor.btnNext.Enabled);
 }
 
-TEST(EditorNavigation, WhatTheSetDoesNotHaveIsToldAndLeavesAnEmptyEditorThatWorks) {
+TEST(EditorNavigation, WhatTheSetDoesNotHaveIsReportedAndLeavesAnEmptyEditorThatWorks) {
   EditorFixture fixture;
   fixture.OpenEditor("a");
   fixture.sim.dialogs.ExpectMessage("Would you like to delete question 1?", BoxAnswer::Yes);

@@ -50,7 +50,7 @@ TEST_F(LoadedMedia, ALateAnswerSaysNothingOfTheNextSet) {
   ChooseSet("Bad");
   ChooseSet("Good");
   sim.pictures.Answer();
-  EXPECT_EQ(show().mediaCheck.Faults.size(), 0U);
+  EXPECT_EQ(show().mediaCheck.Errors.size(), 0U);
 }
 
 TEST_F(LoadedMedia, TheNextPictureIsReadAhead) {

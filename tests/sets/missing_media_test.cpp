@@ -127,7 +127,7 @@ TEST_F(MissingMedia, TheWindowStaysUntilAllAreFoundAndTheSetGoesBackWhereItCameF
   }
 }
 
-TEST_F(MissingMedia, ASetThatCannotBeWrittenIsTold) {
+TEST_F(MissingMedia, ASetThatCannotBeWrittenIsReported) {
   int error = kErrorDiskFull;
   const auto finish = [&] {
     Repair(kHere);

@@ -136,7 +136,7 @@ TEST(SetParser, CompactionMovesBlanksOneStepInOnePass) {
   }
 }
 
-TEST(SetParser, TheKindOfAQuestionIsToldByItsEnding) {
+TEST(SetParser, TheKindOfAQuestionIsReportedByItsEnding) {
   for (const auto& [text, kind] : {std::pair{"D:\\a.JPG ", 'P'},
                                    {"a.bmp", 'P'},
                                    {"a.wav", 'S'},

@@ -6,7 +6,7 @@
 namespace pawnfield {
 namespace {
 
-const Told kPhases[] = {
+const WordStory kPhases[] = {
     {"A challenge goes from claim to claim", "Challenge A, not started",
      "phase idle, start, phase player 1 claims, click A1, phase player 1 flashes, wait 0.9, phase player 2 claims, "
      "hide, phase player 2 claims, show, phase player 2 claims, undo, phase player 1 claims, "
@@ -33,9 +33,9 @@ const Told kPhases[] = {
      "skip, continue, player 1 rings in, correct, claim A1, phase notice, wait 3, phase pause"},
 };
 
-using PhaseStory = ToldTest;
+using PhaseStory = WordStoryTest;
 TEST_P(PhaseStory, IsWhatTheShowWaitsFor) { Play(); }
-INSTANTIATE_TEST_SUITE_P(Show, PhaseStory, testing::ValuesIn(kPhases), ToldTest::Name);
+INSTANTIATE_TEST_SUITE_P(Show, PhaseStory, testing::ValuesIn(kPhases), WordStoryTest::Name);
 
 }  // namespace
 }  // namespace pawnfield

@@ -1,4 +1,4 @@
-// What the other tests lean on: that a script which goes wrong is told, and that files fail as a disk's would.
+// What the other tests lean on: that a script which goes wrong is reported, and that files fail as a disk's would.
 #include "sim/sim_platform.h"
 
 #include <gmock/gmock.h>
@@ -11,7 +11,7 @@ TEST(ScriptedDialogs, FailWhenTheScriptAndTheProgramDisagree) {
   const auto quit = [](ScriptedDialogs& d) { d.MessageBox("Quit?", "", BoxKind::YesNo); };
   Form form("frmSample");
   struct Case {
-    const char* fault;
+    const char* error;
     std::function<void(ScriptedDialogs&)> expect;
     std::function<void(ScriptedDialogs&)> happens;
   };
@@ -26,8 +26,8 @@ TEST(ScriptedDialogs, FailWhenTheScriptAndTheProgramDisagree) {
     ScriptedDialogs dialogs;
     c.expect(dialogs);
     c.happens(dialogs);
-    EXPECT_FALSE(dialogs.Verify()) << c.fault;
-    EXPECT_THAT(dialogs.TakeFaults(), testing::Contains(testing::HasSubstr(c.fault)));
+    EXPECT_FALSE(dialogs.Verify()) << c.error;
+    EXPECT_THAT(dialogs.TakeErrors(), testing::Contains(testing::HasSubstr(c.error)));
   }
   EXPECT_DEATH({ ScriptedDialogs().ExpectFile("a.txt"); }, "nothing asked for");
 }

@@ -51,7 +51,7 @@ void Gauge::Read(const std::string& moment) {
   std::fflush(stdout);
 }
 
-bool Gauge::TellVerdict() const {
+bool Gauge::ReportVerdict() const {
   if (readings_.size() < 2) {
     std::printf("too few readings for a verdict\n");
     return false;

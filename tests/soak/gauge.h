@@ -24,7 +24,7 @@ class Gauge {
   // Reads the process and prints the line of that moment.
   void Read(const std::string& moment);
   // Prints whether all readings after the first tenth are within the bound of the one that ends it.
-  bool TellVerdict() const;
+  bool ReportVerdict() const;
 
  private:
   Reading bound_;

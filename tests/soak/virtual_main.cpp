@@ -1,4 +1,4 @@
-// A long show in virtual time: pawnfield_soak_virtual HOURS. Tells at each tenth what the process holds, and fails when
+// A long show in virtual time: pawnfield_soak_virtual HOURS. Logs at each tenth what the process holds, and fails when
 // that grows after the first.
 #include <cstdio>
 #include <cstdlib>
@@ -66,7 +66,7 @@ class VirtualHands : public Hands {
   }
 
  private:
-  // The simulation's player doesn't tell of its end.
+  // The simulation's player doesn't report its end.
   void EndFilm() {
     RecordedChannel& film = sim_.media.MediaPlayer1;
     if (film.Playing && film.CurrentPosition() >= film.Duration()) film.Report(PlayState::Stopped);
@@ -134,5 +134,5 @@ int main(int argc, char** argv) {
       "%d games, %d of them to their winner, %d squares claimed, %d media on demand, %d films of them, %d error "
       "boxes\n",
       person.Games(), person.Winners(), person.Claims(), person.MediaPlayed(), person.Films(), dialogs.Errors);
-  return gauge.TellVerdict() && person.Winners() == person.Games() && dialogs.Errors == 0 ? 0 : 1;
+  return gauge.ReportVerdict() && person.Winners() == person.Games() && dialogs.Errors == 0 ? 0 : 1;
 }

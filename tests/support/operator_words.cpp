@@ -134,7 +134,7 @@ std::string StepsOfWords(const std::string& words) {
   return steps;
 }
 
-std::string ToldTest::Name(const testing::TestParamInfo<Told>& story) {
+std::string WordStoryTest::Name(const testing::TestParamInfo<WordStory>& story) {
   std::string name;
   bool first = true;
   for (const char c : std::string(story.param.claim)) {

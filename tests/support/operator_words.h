@@ -21,22 +21,22 @@ namespace pawnfield {
 std::string SetupOfWords(const std::string& words);
 std::string StepsOfWords(const std::string& words);
 
-struct Told {
+struct WordStory {
   // The one claim of the story.
   const char* claim;
   const char* setup;
   const char* steps;
-  friend void PrintTo(const Told& story, std::ostream* out) { *out << story.claim; }
+  friend void PrintTo(const WordStory& story, std::ostream* out) { *out << story.claim; }
 };
 
-class ToldTest : public testing::TestWithParam<Told> {
+class WordStoryTest : public testing::TestWithParam<WordStory> {
  public:
   static void Play() {
     SCOPED_TRACE(GetParam().claim);
     GamePlayer(SetupOfWords(GetParam().setup)).Play(StepsOfWords(GetParam().steps));
   }
   // The claim without blanks, as the test's name.
-  static std::string Name(const testing::TestParamInfo<Told>& story);
+  static std::string Name(const testing::TestParamInfo<WordStory>& story);
 };
 
 }  // namespace pawnfield

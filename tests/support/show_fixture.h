@@ -22,7 +22,7 @@ class ShowFixture {
     if (screens == Screens::Two) sim.displays.Monitors = {{0, 0, 1280, 800}, {1280, 0, 3200, 1080}};
   }
   ~ShowFixture() {
-    for (const std::string& fault : sim.dialogs.TakeFaults()) ADD_FAILURE() << fault;
+    for (const std::string& error : sim.dialogs.TakeErrors()) ADD_FAILURE() << error;
   }
 
   // Runs the entry, the splash and the console's load. Devices are plugged in before; messages other

@@ -69,14 +69,14 @@ class Gallery {
     show_.state.Animation = true;
     Do(driver_.Press("btnStart"));
     driver_.TakePictures("question-text");
-    TellLetters("a question of 60 characters", show_.frmFSMain.lblQuestion[0]);
+    ReportLetters("a question of 60 characters", show_.frmFSMain.lblQuestion[0]);
     Do(driver_.Press("btnSelectPlayer_1"));
     driver_.TakePictures("cover");
     Do(driver_.Press("btnQuestionIncorrect"));
     Verdict("verdict-incorrect");
     Next();
     driver_.TakePictures("question-256-characters");
-    TellLetters("a question of 256 characters", show_.frmFSMain.lblQuestion[0]);
+    ReportLetters("a question of 256 characters", show_.frmFSMain.lblQuestion[0]);
     Do(driver_.Press("btnSelectPlayer_0"));
     Do(driver_.Press("btnQuestionCorrect"));
     Verdict("verdict-correct");
@@ -96,7 +96,7 @@ class Gallery {
   void Winners() {
     form_.tmrAutoContinue.Enabled = false;
     for (const Panel panel : {Panel::Question, Panel::Standby}) HidePanel(show_, panel);
-    TellLetters("PLAYER 1", show_.frmFSMain.lblPlayer[0]);
+    ReportLetters("PLAYER 1", show_.frmFSMain.lblPlayer[0]);
     for (int tied = 1; tied <= 3; ++tied) {
       for (int player = 1; player <= 3; ++player) SetScore(show_, player, player <= tied ? "450" : "50");
       Winner(QString("winner-%1").arg(tied));
@@ -106,8 +106,8 @@ class Gallery {
       SetScore(show_, player, "-999999");
     }
     driver_.TakePictures("long-names-and-scores");
-    TellLetters("the longest name", show_.frmFSMain.lblPlayer[0]);
-    TellLetters("the longest score", show_.frmFSMain.Label11[0]);
+    ReportLetters("the longest name", show_.frmFSMain.lblPlayer[0]);
+    ReportLetters("the longest score", show_.frmFSMain.Label11[0]);
     for (int player = 1; player <= 3; ++player) SetScore(show_, player, "450");
     Winner("winner-3-long-names");
   }
@@ -115,7 +115,7 @@ class Gallery {
  private:
   void Do(bool done) { worked_ = worked_ && done; }
 
-  void TellLetters(const QString& what, const Control& label) {
+  void ReportLetters(const QString& what, const Control& label) {
     const double height = driver_.Program().Audience().Screen().LetterHeight(label);
     QTextStream(stdout) << "capitals of " << what << ": 1/" << show_.frmFSMain.Height / height << " of the picture\n";
   }

@@ -8,7 +8,7 @@ namespace pawnfield {
 
 class DeviceFolder {
  public:
-  // Without a watch, where the system gives none, nothing is ever told.
+  // Without a watch, where the system gives none, nothing is ever reported.
   explicit DeviceFolder(const std::string& folder = "/dev");
   ~DeviceFolder();
   DeviceFolder(const DeviceFolder&) = delete;

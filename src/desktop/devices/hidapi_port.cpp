@@ -18,7 +18,7 @@ DeviceList ListDevices(int vendor) {
   return {hid_enumerate(static_cast<unsigned short>(vendor), 0), &hid_free_enumeration};
 }
 
-// The library of Debian's age tells no report lengths, so they are taken from the descriptor that the kernel shows.
+// The library of Debian's age gives no report lengths, so they are taken from the descriptor that the kernel shows.
 std::string ReportDescriptor(const std::filesystem::path& device) {
   std::ifstream file("/sys/class/hidraw" / device.filename() / "device/report_descriptor", std::ios::binary);
   return {std::istreambuf_iterator<char>(file), {}};

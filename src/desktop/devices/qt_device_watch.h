@@ -1,4 +1,4 @@
-// Tells the message loop of the devices that come and go in the system's folder.
+// Notifies the message loop of the devices that come and go in the system's folder.
 #pragma once
 
 #include <QSocketNotifier>

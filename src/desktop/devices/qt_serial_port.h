@@ -9,7 +9,7 @@
 
 namespace pawnfield {
 
-// An adapter that is present: what is told of it, and what it is opened by.
+// An adapter that is present: what is shown of it, and what it is opened by.
 struct SerialAdapter {
   SerialDevice Device;
   QString Location;

@@ -115,8 +115,8 @@ void QtSettingsStore::SaveSettings(const std::string& application, const std::st
   Write(entries);
 }
 
-void QtSettingsStore::KeepSettings(const std::string& application, const std::string& section,
-                                   const std::vector<Setting>& settings) {
+void QtSettingsStore::SaveSettingsAsync(const std::string& application, const std::string& section,
+                                        const std::vector<Setting>& settings) {
   const std::lock_guard lock(mutex_);
   Take(application, section, settings);
   if (!writer_.joinable()) writer_ = std::thread([this] { WriteWaiting(); });

@@ -1,5 +1,5 @@
 // The per-user settings: one ini file for each application in the user's configuration folder, parsed once. What is
-// kept in passing is written by a thread of its own, at most once a second.
+// saved without waiting is written by a thread of its own, at most once a second.
 #pragma once
 
 #include <QObject>
@@ -34,8 +34,8 @@ class QtSettingsStore : public SettingsStore {
                    const std::string& value) override {
     SaveSettings(application, section, {{key, value}});
   }
-  void KeepSettings(const std::string& application, const std::string& section,
-                    const std::vector<Setting>& settings) override;
+  void SaveSettingsAsync(const std::string& application, const std::string& section,
+                         const std::vector<Setting>& settings) override;
   void Flush() override;
 
  private:

@@ -19,7 +19,7 @@ struct CopyFailure {
 // such failure comes back.
 std::optional<CopyFailure> UpdateUserCopy(const QString& shared, const QString& userFolder);
 
-// Tells the operator.
+// Reports to the operator.
 void ReportCopyFailure(Dialogs& dialogs, const CopyFailure& failure);
 
 }  // namespace pawnfield

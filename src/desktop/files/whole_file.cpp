@@ -93,7 +93,7 @@ class Part {
     }
   }
 
-  // A disk across a network may tell only now, or at the close, that it is full.
+  // A disk across a network may report only now, or at the close, that it is full.
   void Finish() {
     const bool cannotSync = fsync(file_) != 0 && errno != EINVAL && errno != ENOSYS && errno != ENOTSUP;
     if (cannotSync) Fail();

@@ -11,7 +11,7 @@ namespace pawnfield {
 // The error that a failed call of the operating system means, with the words of its number.
 RuntimeError FileError(int systemError);
 
-// All that the file holds. A RuntimeError when it can't be read, with the number that tells whether it, its folder or
+// All that the file holds. A RuntimeError when it can't be read, with the number that says whether it, its folder or
 // the right to it is missing.
 QByteArray ReadFile(const QString& path);
 

@@ -114,7 +114,7 @@ void MpvChannel::SetPaused(bool paused) {
 void MpvChannel::SetUrl(const std::string& path) {
   if (player_ == nullptr) return;
   // What stood of the old file ends here; a seek that was asked for it must not reach the new one.
-  told_.reset();
+  notified_.reset();
   pendingSeek_.reset();
   file_ = path;
   if (path.empty()) {
@@ -126,7 +126,7 @@ void MpvChannel::SetUrl(const std::string& path) {
   duration_ = 0;
   wanted_ = 0;
   paused_ = false;
-  // The disk may take its time to tell whether the file is there.
+  // The disk may take its time to report whether the file is there.
   finder_.start([this, path, load = ++load_] {
     const std::optional<QString> native = FindPlayableFile(path);
     QMetaObject::invokeMethod(
@@ -244,7 +244,7 @@ void MpvChannel::HandleProperty(const mpv_event_property& property) {
     (name == "time-pos" ? position_ : duration_) = *static_cast<double*>(property.data);
   } else if (name == "pause") {
     if (property.format != MPV_FORMAT_FLAG || state_ != State::Running) return;
-    Tell(*static_cast<int*>(property.data) != 0 ? PlayState::Paused : PlayState::Playing);
+    NotifyState(*static_cast<int*>(property.data) != 0 ? PlayState::Paused : PlayState::Playing);
   } else {
     PropertyChanged(property);
   }
@@ -254,11 +254,11 @@ void MpvChannel::HandleRestart() {
   if (wanted_ == 0 || entry_ != wanted_) return;
   state_ = State::Running;
   deviceWatch_.start();
-  // A file as long as the last one is no change that would be told.
+  // A file as long as the last one is no change that would be announced.
   mpv_get_property_async(player_, kDuration, "duration", MPV_FORMAT_DOUBLE);
   if (pendingSeek_ && *pendingSeek_ > 0) SeekTo(*pendingSeek_);
   pendingSeek_.reset();
-  Tell(paused_ ? PlayState::Paused : PlayState::Playing);
+  NotifyState(paused_ ? PlayState::Paused : PlayState::Playing);
 }
 
 void MpvChannel::HandleEnd(const mpv_event_end_file& end) {
@@ -282,13 +282,13 @@ void MpvChannel::BecomeIdle(double position, double duration) {
   position_ = position;
   duration_ = duration;
   FileGone();
-  Tell(PlayState::Stopped);
+  NotifyState(PlayState::Stopped);
 }
 
-void MpvChannel::Tell(PlayState state) {
-  if (told_ == state || !OnPlayStateChange) return;
-  told_ = state;
-  // Whoever has just given a file is told afterwards, like of any other change.
+void MpvChannel::NotifyState(PlayState state) {
+  if (notified_ == state || !OnPlayStateChange) return;
+  notified_ = state;
+  // Whoever has just given a file is notified afterwards, like of any other change.
   QMetaObject::invokeMethod(
       this,
       [this, state, load = load_] {

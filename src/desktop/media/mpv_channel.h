@@ -64,7 +64,7 @@ class MpvChannel : public QObject, public MediaChannel {
   void BecomeIdle(double position, double duration);
   void Command(std::initializer_list<const char*> words, std::uint64_t reply = 0);
   void SetPaused(bool paused);
-  void Tell(PlayState state);
+  void NotifyState(PlayState state);
   void LookForDevice();
   void Load(const std::optional<QString>& native, std::uint64_t load);
 
@@ -81,7 +81,7 @@ class MpvChannel : public QObject, public MediaChannel {
   bool paused_ = false;
   double position_ = 0;
   double duration_ = 0;
-  std::optional<PlayState> told_;
+  std::optional<PlayState> notified_;
   QByteArray output_;
   QTimer deviceWatch_;
   // Finds the files, one after another.

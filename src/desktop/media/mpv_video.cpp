@@ -49,7 +49,7 @@ void MpvVideo::Render() {
   if (context_ == nullptr || (mpv_render_context_update(context_) & MPV_RENDER_UPDATE_FRAME) == 0) return;
   const QSize wanted = FrameSize();
   if (!IsPlaying() || wanted.isEmpty()) {
-    // The frame has to be taken all the same, or no further one is told of.
+    // The frame has to be taken all the same, or no further one is announced.
     int skip = 1;
     std::array<mpv_render_param, 2> params{
         {{MPV_RENDER_PARAM_SKIP_RENDERING, &skip}, {MPV_RENDER_PARAM_INVALID, nullptr}}};

@@ -78,7 +78,7 @@ struct Canvas::Item : Observer {
   std::size_t declared;
   // The path of what it shows, empty for none.
   std::string picture;
-  // Laid out text, kept until caption, font or width changes.
+  // Laid out text, cached until caption, font or width changes.
   std::unique_ptr<TextBlock> text;
   double textWidth = 0;
   // The share of their width that the letters have.

@@ -144,7 +144,7 @@ void PictureCache::Request(const std::string& path, int priority, Then then) {
       [this, path](Outcome outcome) { Take(path, std::move(outcome)); });
 }
 
-PictureCache::Held PictureCache::Keep(const std::string& path, const ReadPicture& picture) {
+PictureCache::Held PictureCache::Store(const std::string& path, const ReadPicture& picture) {
   const Held held{QPixmap::fromImage(picture.Image), ++versions_};
   originals_.insert(KeyOf(path), new Held(held), std::min(CostOf(held.Pixels), kOriginalsLimit));
   return held;
@@ -155,7 +155,7 @@ void PictureCache::Take(const std::string& path, Outcome outcome) {
   const std::vector<Then> waiting = waiting_.take(key);
   if (!outcome.Unchanged) {
     known_[key] = {FactsOf(outcome.Picture), outcome.Stamp};
-    Keep(path, outcome.Picture);
+    Store(path, outcome.Picture);
     emit Decoded(path);
   }
   const PictureFacts facts = known_[key].Facts;
@@ -190,7 +190,7 @@ QPixmap PictureCache::Original(const std::string& path) {
   if (own != own_.cend()) {
     const ReadPicture picture = ReadPictureBytes(*own, LargestSide());
     known_[key] = {FactsOf(picture), {}};
-    return Keep(path, picture).Pixels;
+    return Store(path, picture).Pixels;
   }
   if (!waiting_.contains(key)) Request(path, kShown, {});
   return {};

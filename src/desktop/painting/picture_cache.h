@@ -35,7 +35,7 @@ class PictureCache : public QObject, public PictureReader {
   // The picture at exactly that size in pixels; cover keeps its shape and cuts what overhangs, else it is stretched.
   enum class Fill { Stretch, Cover };
   QPixmap Scaled(const std::string& path, const QSize& size, Fill fill);
-  // The picture as it was decoded; null when it can't be read, and until it has been: Decoded tells.
+  // The picture as it was decoded; null when it can't be read, and until it has been: see Decoded.
   QPixmap Original(const std::string& path);
   // Nothing is being read or waits to be.
   bool IsIdle() const { return running_ == 0; }
@@ -49,7 +49,7 @@ class PictureCache : public QObject, public PictureReader {
     QPixmap Pixels;
     int Version = 0;
   };
-  // What the worker tells of a file.
+  // What the worker reports of a file.
   struct Outcome {
     ReadPicture Picture;
     // Differs for two states of one file; empty for none.
@@ -66,7 +66,7 @@ class PictureCache : public QObject, public PictureReader {
   static Outcome ReadOutcome(const std::string& path, const QString& stamp, int side);
   void Request(const std::string& path, int priority, Then then);
   void Take(const std::string& path, Outcome outcome);
-  Held Keep(const std::string& path, const ReadPicture& picture);
+  Held Store(const std::string& path, const ReadPicture& picture);
   // Runs the work beside and hands its result to done between events.
   template <typename Work, typename Done>
   void Beside(int priority, Work work, Done done);

@@ -18,7 +18,7 @@ constexpr qint64 kHeadBytes = 256 * 1024;
 
 ReadPicture Refused(int error) { return {{}, {}, error}; }
 
-// What a JPEG's header tells of the memory that its reader needs.
+// What a JPEG's header says of the memory that its reader needs.
 struct JpegFrame {
   bool IsWhole = false;
   // Bytes for each pixel where the reader keeps the whole picture, which it does when that comes in several passes.

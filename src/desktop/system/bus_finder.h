@@ -1,5 +1,5 @@
 // Connects to the two buses of the desktop, beside the thread that shows the windows. A bus that accepts and never
-// answers is given up, where the toolkit's own connection would wait for minutes.
+// answers is dropped, where the toolkit's own connection would wait for minutes.
 #pragma once
 
 #include <QDBusConnection>

@@ -1,4 +1,4 @@
-// What the machine can tell of text, and chance.
+// What the machine knows of text, and chance.
 #pragma once
 
 #include "platform/ports.h"

@@ -17,7 +17,7 @@ Screens::Screens() {
   for (const auto& [timer, wait] : {std::pair{&soon_, kSoonMs}, {&settled_, kSettledMs}}) {
     timer->setSingleShot(true);
     timer->setInterval(wait);
-    timer->callOnTimeout(this, [this] { Tell(); });
+    timer->callOnTimeout(this, [this] { NotifyChanged(); });
   }
   if (const QScreen* primary = QGuiApplication::primaryScreen()) home_ = primary->name();
   for (QScreen* screen : QGuiApplication::screens()) Watch(*screen);
@@ -38,7 +38,7 @@ void Screens::Change() {
   settled_.start();
 }
 
-void Screens::Tell() {
+void Screens::NotifyChanged() {
   for (const auto& changed : subscribers_) changed();
 }
 

@@ -1,5 +1,5 @@
 // Which monitors there are, in the order in which the program counts them: the console's own is the first, whatever
-// the desktop calls its primary one. Tells when that changes.
+// the desktop calls its primary one. Notifies when that changes.
 #pragma once
 
 #include <QObject>
@@ -30,20 +30,20 @@ class Screens : public QObject {
   QRect Room(const QScreen& screen) const;
   // The screen that shows the point, null when none does.
   QScreen* At(QPoint point) const;
-  // The operator has put the console on another monitor, or one of the windows has told which it is.
+  // The operator has put the console on another monitor, or one of the windows has reported which it is.
   void MoveHome(const QScreen& screen);
   // False in a Wayland session until then.
   bool HomeIsKnown() const { return homeIsKnown_; }
   // True from a change of the monitors until it has settled: what moves meanwhile is not the operator's doing.
   bool IsChanging() const { return settled_.isActive(); }
 
-  // Told soon after a change and once more when it has settled, in the order of subscribing.
+  // Called soon after a change and once more when it has settled, in the order of subscribing.
   void Subscribe(std::function<void()> changed) { subscribers_.push_back(std::move(changed)); }
 
  private:
   void Watch(QScreen& screen);
   void Change();
-  void Tell();
+  void NotifyChanged();
 
   // By name, so that a monitor which comes back is known again.
   QString home_;

@@ -1,4 +1,4 @@
-// The monitors' places as the X server tells them. The toolkit can keep an old place for a while, of a monitor whose
+// The monitors' places as the X server reports them. The toolkit can keep an old place for a while, of a monitor whose
 // mode alone has changed for good.
 #pragma once
 

@@ -72,7 +72,7 @@ void AudienceWindow::Fill(FSMainForm& form) {
 }
 
 void AudienceWindow::Changed(Control& control, PropertyId id) {
-  // What frmFSMain tells of a window is frmSS's affair, but for the cursor.
+  // What frmFSMain says of a window is frmSS's affair, but for the cursor.
   if (&control == &copy_ ? id == PropertyId::Visible : id == PropertyId::MouseIcon) {
     id == PropertyId::Visible ? Place() : FormWindow::Changed(control, id);
   }

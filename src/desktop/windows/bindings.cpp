@@ -161,7 +161,7 @@ class ComboBinding : public Binding<ComboBox, ModelComboBox> {
   }
 };
 
-// Tells the model when the user goes to its box. A window that merely comes back to the front tells nothing.
+// Notifies the model when the user goes to its box. A window that merely comes back to the front is no such event.
 class FocusWatch : public QObject {
  public:
   FocusWatch(TextBox& box, QWidget& view) : QObject(&view), box_(box) { view.installEventFilter(this); }

@@ -86,7 +86,7 @@ void ConsoleWindow::HoldUnseen() {
                     "imgCursor(2)", "imgCursor(3)", "imgStandardStandby", "imgStandardBonus", "imgStandardHeader",
                     // What only measures.
                     "lblQuestionAutoResize", "lblAnswerAutoResize", "lblWinnerResize", "picEntScreen",
-                    // Tell of the game's state to what asks for it; a button that does nothing would only mislead.
+                    // They report the game's state to what asks for it; a button that does nothing would only mislead.
                     "btnCorrect", "btnEnableAllBuzzers", "btnPlayVideo", "btnStopVideo",
                     // The player's own widget shows it.
                     "MediaPlayer1"});

@@ -1,4 +1,4 @@
-// Widgets that the form files promote to: those that tell more of the user's actions, or paint what no widget does.
+// Widgets that the form files promote to: those that report more of the user's actions, or paint what no widget does.
 #pragma once
 
 #include <QComboBox>
@@ -9,7 +9,7 @@
 
 namespace pawnfield {
 
-// Tells before its list opens, so that the model can fill it.
+// Notifies before its list opens, so that the model can fill it.
 class ModelComboBox : public QComboBox {
   Q_OBJECT
  public:

@@ -116,17 +116,17 @@ void SetTextEdit::Insert(const QString& text) {
   const QString line = OneLine(text);
   const QString refused = Unstorable(line);
   if (!refused.isEmpty()) {
-    Tell(NameOf(refused) + " can't be kept in a set file and was not taken.");
+    ShowNotice(NameOf(refused) + " can't be kept in a set file and was not taken.");
     return;
   }
   const qsizetype selected = textCursor().selectionEnd() - textCursor().selectionStart();
   const qsizetype room = limit_ == 0 ? line.size() : limit_ - (Content().size() - selected);
-  if (line.size() > room) Tell(QString("Only %1 characters fit here. The rest was left out.").arg(limit_));
+  if (line.size() > room) ShowNotice(QString("Only %1 characters fit here. The rest was left out.").arg(limit_));
   insertPlainText(line.left(std::max<qsizetype>(room, 0)));
   ensureCursorVisible();
 }
 
-void SetTextEdit::Tell(const QString& notice) {
+void SetTextEdit::ShowNotice(const QString& notice) {
   notice_ = notice;
   QToolTip::showText(mapToGlobal(QPoint(0, height())), notice, this);
 }

@@ -29,7 +29,7 @@ class SetTextEdit : public QPlainTextEdit {
 
  private:
   void Insert(const QString& text);
-  void Tell(const QString& notice);
+  void ShowNotice(const QString& notice);
 
   qsizetype limit_ = 0;
   QString notice_;

@@ -39,7 +39,7 @@ void SplashWindow::ShowForm() {
   if (!screens_.HomeIsKnown()) QTimer::singleShot(kEnterMs, this, &SplashWindow::NoteHome);
 }
 
-// A Wayland session tells a window of its screen a moment after it is drawn.
+// A Wayland session notifies a window of its screen a moment after it is drawn.
 void SplashWindow::NoteHome() {
   if (isVisible() && windowHandle() != nullptr) screens_.MoveHome(*windowHandle()->screen());
 }

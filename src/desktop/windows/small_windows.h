@@ -20,7 +20,7 @@ class LoadingWindow : public FormWindow {
 
 class SplashWindow : public FormWindow {
  public:
-  // Tells the screens which one it has come up on.
+  // Reports to the screens which one it is shown on.
   SplashWindow(SplashForm& form, FormWindows& windows, Screens& screens);
 
  protected:

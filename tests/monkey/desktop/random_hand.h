@@ -14,7 +14,7 @@ namespace pawnfield {
 
 class RandomHand {
  public:
-  // The note is told of each act before it is done.
+  // The note is given each act before it is done.
   RandomHand(Show& show, Chance& chance, std::function<void(const QString&)> note)
       : show_(show), chance_(chance), note_(std::move(note)) {}
 

@@ -1,5 +1,5 @@
 // A long show in the real windows: pawnfield_soak MINUTES. Needs a display with two monitors. Sound goes into a server
-// of its own and is listened to. Tells each minute what the process holds, and fails when that grows after the first
+// of its own and is listened to. Logs each minute what the process holds, and fails when that grows after the first
 // tenth.
 #include <QApplication>
 #include <QElapsedTimer>
@@ -75,7 +75,7 @@ class LongShow {
         "readings, %d error boxes\n",
         person.Games(), person.Winners(), person.Claims(), person.MediaPlayed(), person.Films(), heard, minutes,
         Errors());
-    return gauge.TellVerdict() && person.Films() > 0 && heard == minutes && Errors() == 0;
+    return gauge.ReportVerdict() && person.Films() > 0 && heard == minutes && Errors() == 0;
   }
 
  private:
