@@ -28,6 +28,12 @@ bool MayDelete(Show& show) {
                                           BoxKind::YesNo) == BoxAnswer::Yes;
 }
 
+// The only question of a new set isn't counted before Next, and what is being written must not be passed over.
+void CountWritten(Show& show) {
+  const int number = show.frmEditor.EditQuestionNumber;
+  if (number == show.NumEditQuestions + 1 && !IsShownBlank(show)) SetNumEditQuestions(show, number);
+}
+
 void GoTo(Show& show, int number) {
   show.frmEditor.EditQuestionNumber = number;
   DisplayEditQuestion(show);
@@ -89,6 +95,7 @@ void btnNext_Click(Show& show) {
 }
 
 void btnInsertQuestion_Click(Show& show) {
+  CountWritten(show);
   const int number = show.frmEditor.EditQuestionNumber;
   if (show.NumEditQuestions >= kLastNumber || number > show.NumEditQuestions) return;
   ShiftUp(show, number);

@@ -221,11 +221,15 @@ TEST_F(EditorShow, ASetIsWrittenSavedLoadedAndPlayedToTheWinner) {
   EditorDriver editor(*driver_);
   const QString sets = driver_->AppFolder() + "/Trivia Sets/";
   const bool written = editor.WithNewSet([&] {
-    EXPECT_TRUE(editor.Write("Question 1?", "Answer 1"));
-    EXPECT_TRUE(editor.Press("btnNext"));
-    EXPECT_TRUE(editor.Write("", "Answer 2", "btnPicture", sets + "Media/Flag 1.jpg") && editor.Press("btnNext"));
-    EXPECT_TRUE(editor.Write("", "Answer 3", "btnSound", sets + "Media/Tune 1.mp3"));
-    for (int i = 4; i <= 9; ++i) {
+    EXPECT_TRUE(editor.Write("Question 2?", "Answer 2"));
+    EXPECT_TRUE(editor.Press("btnInsertQuestion"));
+    QTest::keyClicks(QApplication::focusWidget(), "Is it 1 of 9?");
+    EXPECT_TRUE(editor.Type("txtAnswer", "Answer 1"));
+    EXPECT_EQ(TheShow().EditSet[0].QuestionText + TheShow().EditSet[1].QuestionText, "Is it 1 of 9?Question 2?");
+    EXPECT_TRUE(editor.Press("btnForward") && editor.Press("btnNext"));
+    EXPECT_TRUE(editor.Write("", "Answer 3", "btnPicture", sets + "Media/Flag 1.jpg") && editor.Press("btnNext"));
+    EXPECT_TRUE(editor.Write("", "Answer 4", "btnSound", sets + "Media/Tune 1.mp3"));
+    for (int i = 5; i <= 9; ++i) {
       EXPECT_TRUE(editor.Press("btnNext") && editor.Write(QString("Question %1?").arg(i), "Answer")) << i;
     }
     EXPECT_TRUE(editor.PressAndChoose("frmEditor", "btnSave", sets + "Ten"));

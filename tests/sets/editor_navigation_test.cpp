@@ -66,6 +66,10 @@ TEST(EditorNavigation, InsertAndDeleteMoveWholeRecords) {
     EXPECT_EQ(fixture.Letters() + "|" + fixture.Shown(), after + "|" + shown) << button->Name() << " " << from;
     EXPECT_EQ(editor.EditDirty, fixture.Letters() != letters);
   }
+  fixture.OpenEditor("");
+  editor.txtEnterQuestion.Type("new");
+  editor.btnInsertQuestion.Click();
+  EXPECT_EQ(fixture.Shown() + "|" + fixture.record(1).QuestionText, "1/2 |new") << "the only question of a new set";
   fixture.OpenEditor("abc");
   fixture.record(1).FontName = "Own";
   fixture.GoTo(2);
