@@ -420,7 +420,26 @@ TEST_F(UserCopyTest, FollowsTheShippedFilesAndKeepsTheOperators) {
   }
 }
 
-TEST_F(UserCopyTest, WhatCannotBeMadeIsReportedOfOnce) {
+TEST_F(UserCopyTest, ACopyThatWasCutOffFollowsTheVersionThatIsInstalledNext) {
+  const QStringList files{"a.bmp", "b.bmp", "Trivia Sets/c.txt", "d.bmp", "Trivia Sets/e.txt"};
+  const auto install = [&](const char* version, int count) {
+    for (int i = 0; i < count; ++i) Make("shared/" + files[i], version);
+    UpdateUserCopy(Native("shared"), Native("user"));
+    return ReadFile(Native("user/Shipped.lst"));
+  };
+  const QByteArray first = install("first", 3);
+  const QByteArray second = install("second", 5);
+  // As a kill leaves it: the list that is written before, half of the files, and of the new ones the first.
+  QByteArray list = first;
+  for (const QByteArray& line : second.trimmed().split('\n')) list += '+' + line + '\n';
+  Make("user/Shipped.lst", list.constData());
+  Make("user/b.bmp", "first");
+  QFile::remove(Native("user/Trivia Sets/e.txt"));
+  install("third", 5);
+  for (const QString& name : files) EXPECT_EQ(ReadFile(Native("user/" + name)), "third") << name;
+}
+
+TEST_F(UserCopyTest, WhatCannotBeMadeIsReportedOnce) {
   for (const char* name : {"shared/a.bmp", "shared/Trivia Sets/b.txt", "user"}) Make(name, "x");
   const auto failure = UpdateUserCopy(Native("shared"), Native("user"));
   ASSERT_TRUE(failure);

@@ -84,6 +84,9 @@ int KillWriter(const Writer& writer, const QString& root, int kills, Progress& p
   // A few writes long, so that kills fall on each of a write's steps.
   const useconds_t longest = std::max<useconds_t>(5000, 3 * reference.WriteTime);
   const QString folder = root + '/' + writer.Folder;
+  // The last write that was begun, also when the process after it was killed before it began anything.
+  int begun = 1;
+  int unhealed = 0;
   for (int i = 0; i < kills; ++i) {
     // A write that was cut off is done again first, as after a restart.
     progress.Begun = progress.Ended.load();
@@ -94,23 +97,30 @@ int KillWriter(const Writer& writer, const QString& root, int kills, Progress& p
           progress.Ended = progress.Begun.load();
         },
         chance, longest);
-    const int begun = progress.Begun, ended = progress.Ended;
-    counts.Add(writer.JudgedBy(Take(folder, writer.Files), variant(ended - 1), variant(begun - 1)));
+    begun = std::max(begun, progress.Begun.load());
+    const Snapshot now = Take(folder, writer.Files);
+    const Verdict verdict = writer.JudgedBy(now, variant(progress.Ended - 1), variant(begun - 1));
+    counts.Add(verdict);
     // What was on its way may have arrived.
-    if (Take(folder, writer.Files) == variant(begun - 1)) progress.Ended = begun;
+    if (now == variant(begun - 1)) progress.Ended = begun;
+    if (verdict != Verdict::Between) continue;
+    // Another one comes next, as an update does that is installed after one was cut off.
+    writer.Write(rig, begun % kVariants);
+    progress.Ended = ++begun;
+    if (writer.JudgedBy(Take(folder, writer.Files), {}, variant(begun - 1)) != Verdict::New) ++unhealed;
   }
   const auto left = Strays(folder, writer.Files).size();
   const std::vector<std::string> odd = NextStart(root);
-  writer.Write(rig, (progress.Begun - 1) % kVariants);
-  const bool healed = writer.JudgedBy(Take(folder, writer.Files), {}, variant(progress.Begun - 1)) == Verdict::New;
-  if (!healed) std::printf("  not whole after the next write\n");
+  writer.Write(rig, (begun - 1) % kVariants);
+  if (writer.JudgedBy(Take(folder, writer.Files), {}, variant(begun - 1)) != Verdict::New) ++unhealed;
+  if (unhealed > 0) std::printf("  %d times not whole after the next write\n", unhealed);
   const auto stays = Strays(folder, writer.Files).size();
   std::printf("%-24s %6d %9d %9d %8d %5d %10lld %10lld %9zu\n", writer.Kind.c_str(), kills, counts.Old, counts.New,
               counts.Between, counts.Torn, left, stays, odd.size());
   for (const std::string& text : odd) std::printf("  next start: %s\n", text.c_str());
   for (const std::string& text : rig.dialogs.Messages) std::printf("  told: %s\n", text.c_str());
   std::fflush(stdout);
-  return counts.Torn + (healed ? 0 : 1) + static_cast<int>(stays + left / 2 + odd.size() + rig.dialogs.Messages.size());
+  return counts.Torn + unhealed + static_cast<int>(stays + left / 2 + odd.size() + rig.dialogs.Messages.size());
 }
 
 // The mark of a running program, which must not outlive it.

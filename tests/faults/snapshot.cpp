@@ -45,7 +45,7 @@ Verdict JudgeCopy(const Snapshot& now, const Snapshot& before, const Snapshot& a
   const QByteArray list = files.take(kList);
   const QList<QByteArray> known = (before.value(kList) + after.value(kList)).split('\n');
   for (const QByteArray& line : list.split('\n')) {
-    if (!known.contains(line)) return Verdict::Torn;
+    if (!known.contains(line.startsWith('+') ? line.mid(1) : line)) return Verdict::Torn;
   }
   const bool settled = list == before.value(kList) || list == after.value(kList);
   if (settled) return JudgeFiles(now, before, after);

@@ -20,7 +20,7 @@ Snapshot Take(const QString& folder, const QStringList& files);
 
 // Each file is the old one or the new one.
 Verdict JudgeFiles(const Snapshot& now, const Snapshot& before, const Snapshot& after);
-// The same, and the list of what was shipped may have lines of both.
+// The same, and the list of what was shipped may have lines of both, and such as tell what is on its way.
 Verdict JudgeCopy(const Snapshot& now, const Snapshot& before, const Snapshot& after);
 // The set is the old one or the new one, and beside it lies what it replaced, or still what the old one replaced.
 Verdict JudgeSet(const Snapshot& now, const Snapshot& before, const Snapshot& after);

@@ -15,8 +15,18 @@ namespace pawnfield {
 
 namespace {
 
-// What was shipped: the content's digest by the path below the folder.
-using Manifest = QMap<QString, QByteArray>;
+// The digest of a shipped file that the user's was copied from, and of the one that is being copied. Both are empty for
+// a file that is the operator's own.
+struct Known {
+  QByteArray Copied, Coming;
+  bool operator==(const Known&) const = default;
+};
+
+// By the path below the folder.
+using Manifest = QMap<QString, Known>;
+
+// Before the digest of what is being copied.
+constexpr char kComing = '+';
 
 QString ManifestPath(const QString& userFolder) { return userFolder + "/Shipped.lst"; }
 
@@ -34,7 +44,9 @@ Manifest ReadManifest(const QString& userFolder) {
   while (!file.atEnd()) {
     const QByteArray line = file.readLine().trimmed();
     const auto gap = line.indexOf(' ');
-    if (gap > 0) manifest[QString::fromUtf8(line.mid(gap + 1))] = line.left(gap);
+    if (gap <= 0) continue;
+    Known& known = manifest[QString::fromUtf8(line.mid(gap + 1))];
+    line.startsWith(kComing) ? known.Coming = line.mid(1, gap - 1) : known.Copied = line.left(gap);
   }
   return manifest;
 }
@@ -42,7 +54,9 @@ Manifest ReadManifest(const QString& userFolder) {
 QByteArray FormatManifest(const Manifest& manifest) {
   QByteArray bytes;
   for (auto entry = manifest.begin(); entry != manifest.end(); ++entry) {
-    bytes += entry.value() + ' ' + entry.key().toUtf8() + '\n';
+    const QByteArray path = ' ' + entry.key().toUtf8() + '\n';
+    if (!entry->Copied.isEmpty()) bytes += entry->Copied + path;
+    if (!entry->Coming.isEmpty()) bytes += kComing + entry->Coming + path;
   }
   return bytes;
 }
@@ -72,35 +86,57 @@ class Copier {
   std::optional<CopyFailure> First;
 };
 
-bool WasRemovedByOperator(const QString& path, const QByteArray& known) {
-  return !known.isEmpty() && path.startsWith("Trivia Sets/");
+bool WasRemovedByOperator(const QString& path, const Known& known) {
+  return !known.Copied.isEmpty() && path.startsWith("Trivia Sets/");
 }
 
-// True when the user's file now is, or may be left as, what the manifest is to say.
-bool UpdateFile(const QString& from, const QString& to, const QString& path, const QByteArray& known,
-                const QByteArray& shipped, Copier& copier) {
-  if (!QFileInfo::exists(to)) return WasRemovedByOperator(path, known) || copier.Copy(from, to);
-  if (known.isEmpty() || known == shipped || Digest(to) != known) return true;
-  return copier.Copy(from, to);
+// Whether the shipped file is to take the place of the user's, or of none.
+bool MustCopy(const QString& to, const QString& path, const Known& known, const QByteArray& shipped) {
+  if (!QFileInfo::exists(to)) return !WasRemovedByOperator(path, known);
+  const bool settled = known.Coming.isEmpty() && (known.Copied.isEmpty() || known.Copied == shipped);
+  if (settled) return false;
+  const QByteArray present = Digest(to);
+  return present != shipped && (present == known.Copied || present == known.Coming);
+}
+
+// The digests of all that is shipped.
+QMap<QString, QByteArray> Shipped(const QString& shared) {
+  QMap<QString, QByteArray> shipped;
+  QDirIterator files(shared, QDir::Files, QDirIterator::Subdirectories);
+  while (files.hasNext()) {
+    const QString from = files.next();
+    const QByteArray digest = Digest(from);
+    if (!digest.isEmpty()) shipped[QDir(shared).relativeFilePath(from)] = digest;
+  }
+  return shipped;
 }
 
 }  // namespace
 
 std::optional<CopyFailure> UpdateUserCopy(const QString& shared, const QString& userFolder) {
   Copier copier;
+  const auto shipped = Shipped(shared);
   const Manifest before = ReadManifest(userFolder);
-  Manifest manifest = before;
-  QDirIterator files(shared, QDir::Files, QDirIterator::Subdirectories);
-  while (files.hasNext()) {
-    const QString from = files.next();
-    const QString path = QDir(shared).relativeFilePath(from);
-    const QByteArray shipped = Digest(from);
-    if (shipped.isEmpty()) continue;
-    if (UpdateFile(from, userFolder + '/' + path, path, manifest.value(path), shipped, copier)) {
-      manifest[path] = shipped;
+  Manifest coming = before, after = before;
+  QStringList copied;
+  for (auto file = shipped.begin(); file != shipped.end(); ++file) {
+    const QString& path = file.key();
+    if (MustCopy(userFolder + '/' + path, path, before.value(path), *file)) {
+      copied << path;
+      coming[path].Coming = *file;
+    } else {
+      after[path] = {*file, {}};
     }
   }
-  if (manifest != before) copier.Write(ManifestPath(userFolder), FormatManifest(manifest));
+  // Kept first: what a copy that was cut off has written would else pass for the operator's own, with another version.
+  const auto write = [&](const Manifest& manifest) {
+    return copier.Write(ManifestPath(userFolder), FormatManifest(manifest));
+  };
+  if (coming != before && !write(coming)) return copier.First;
+  for (const QString& path : copied) {
+    if (copier.Copy(shared + '/' + path, userFolder + '/' + path)) after[path] = {shipped[path], {}};
+  }
+  if (after != coming) write(after);
   return copier.First;
 }
 
