@@ -1,7 +1,6 @@
 // Runs the random operator on the real windows: pawnfield_window_monkey SEED ACTIONS [LOG]. Needs a display with two
 // monitors. The seed decides what he tries; how the machine keeps time decides the rest, so that a run need not repeat.
 // A failing run prints its seed and the last actions; the log has them all, after a crash too.
-#include <QApplication>
 #include <QDesktopServices>
 #include <QFile>
 #include <QProcess>
@@ -21,15 +20,16 @@ class NoBrowser : public QObject {
   void Open(const QUrl&) {}
 };
 
-int Work(std::uint32_t seed, int actions, QFile& log) {
+int Work(WatchedApplication& application, std::uint32_t seed, int actions, QFile& log) {
   Chance chance(seed);
   World world(chance);
   DesktopProgram program(world.Places());
-  WindowMonkey monkey(program, world, chance, log);
+  WindowMonkey monkey(application, program, world, chance, log);
   const QString broken = monkey.Run(actions);
   const auto& came = monkey.Came();
-  std::printf("seed %u, %d actions, %d checks, %d questions, %d squares, %d winners: %s\n", seed, actions, came.Checks,
-              came.Questions, came.Claims, came.Winners, broken.isEmpty() ? "all held" : qPrintable(broken));
+  std::printf("seed %u, %d actions, %d checks, %d events, %d questions, %d squares, %d winners: %s\n", seed, actions,
+              came.Checks, came.Events, came.Questions, came.Claims, came.Winners,
+              broken.isEmpty() ? "all held" : qPrintable(broken));
   if (broken.isEmpty()) return 0;
   for (const QString& action : monkey.LastActions()) std::printf("  %s\n", qPrintable(action));
   return 1;
@@ -47,11 +47,11 @@ int main(int argc, char** argv) {
   // What a dialog writes in the user's home by itself.
   const QTemporaryDir home;
   qputenv("HOME", home.path().toLocal8Bit());
-  QApplication application(argc, argv);
+  WatchedApplication application(argc, argv);
   PrepareApplication();
   NoBrowser browser;
   for (const char* scheme : {"http", "https", "file"}) QDesktopServices::setUrlHandler(scheme, &browser, "Open");
-  const int status = Work(static_cast<std::uint32_t>(std::strtoul(argv[1], nullptr, 10)), std::atoi(argv[2]), log);
+  const int status = Work(application, static_cast<std::uint32_t>(std::strtoul(argv[1], nullptr, 10)), std::atoi(argv[2]), log);
   for (const char* scheme : {"http", "https", "file"}) QDesktopServices::unsetUrlHandler(scheme);
   QProcess::execute("xrandr", {"--output", "DUMMY1", "--mode", "1920x1080", "--pos", "1280x0"});
   return status;

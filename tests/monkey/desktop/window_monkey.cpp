@@ -25,8 +25,10 @@ constexpr int kMostClosings = 500;
 
 }  // namespace
 
-WindowMonkey::WindowMonkey(DesktopProgram& program, World& world, Chance& chance, QFile& log)
-    : program_(program),
+WindowMonkey::WindowMonkey(WatchedApplication& application, DesktopProgram& program, World& world, Chance& chance,
+                           QFile& log)
+    : application_(application),
+      program_(program),
       show_(program.TheShow()),
       world_(world),
       chance_(chance),
@@ -37,9 +39,11 @@ WindowMonkey::WindowMonkey(DesktopProgram& program, World& world, Chance& chance
 
 QString WindowMonkey::Run(int actions) {
   left_ = actions;
+  application_.Watch([this] { event_.Before(show_); }, [this] { CheckEvent(); });
   QTimer::singleShot(0, this, &WindowMonkey::Tick);
   QTimer::singleShot(0, this, [this] { Main(show_); });
   QCoreApplication::exec();
+  application_.Watch({}, {});
   world_.Leave();
   if (!ended_ && broken_.isEmpty()) Fail("the program ended");
   return broken_;
@@ -84,7 +88,7 @@ void WindowMonkey::Tick() {
     return;
   }
   ++depth_;
-  Act();
+  application_.EachInside([this] { Act(); });
   --depth_;
   // A handler that waits for a dialog has not done all it does.
   if (up_ && !modalBefore && depth_ == 0 && QApplication::activeModalWidget() == nullptr) Check();
@@ -204,6 +208,14 @@ void WindowMonkey::CountProgress() {
   question_ = question;
   winner_ = form.picWinner.Visible;
   claimed_ = claimed;
+}
+
+// Whatever came to the program: a hand's click, a key, a timer, a press by radio or wire.
+void WindowMonkey::CheckEvent() {
+  if (!up_ || ended_) return;
+  ++came_.Events;
+  const std::string fault = event_.Broken(show_);
+  if (!fault.empty()) Fail(Unescape(fault));
 }
 
 void WindowMonkey::Check() {

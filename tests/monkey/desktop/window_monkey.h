@@ -11,24 +11,25 @@
 #include "monkey/chance.h"
 #include "monkey/desktop/heartbeat.h"
 #include "monkey/desktop/random_hand.h"
+#include "monkey/desktop/watched_application.h"
 #include "monkey/desktop/world.h"
 #include "monkey/invariants.h"
 
 namespace pawnfield {
 
-// Beside what holds for every show: the message loop is never silent for more than two seconds, and the audience's
-// window never lies over the console's monitor.
+// Beside what holds for every show, and for each event of it: the message loop is never silent for more than two
+// seconds, and the audience's window never lies over the console's monitor.
 class WindowMonkey : public QObject {
  public:
   // Writes each action to the log before it is done, where that is open.
-  WindowMonkey(DesktopProgram& program, World& world, Chance& chance, QFile& log);
+  WindowMonkey(WatchedApplication& application, DesktopProgram& program, World& world, Chance& chance, QFile& log);
 
   // From the program's entry to so many actions later. What was broken, empty when all held.
   QString Run(int actions);
   const std::deque<QString>& LastActions() const { return last_; }
-  // How far he came: checks, questions asked, squares claimed and games won.
+  // How far he came: checks, events checked, questions asked, squares claimed and games won.
   struct Progress {
-    int Checks = 0, Questions = 0, Claims = 0, Winners = 0;
+    int Checks = 0, Events = 0, Questions = 0, Claims = 0, Winners = 0;
   };
   const Progress& Came() const { return came_; }
 
@@ -42,6 +43,7 @@ class WindowMonkey : public QObject {
   // True when nothing is open any more.
   bool CloseAll();
   void Check();
+  void CheckEvent();
   void CountProgress();
   QString WhatIsBroken();
   QString AudienceInTheWay();
@@ -49,6 +51,7 @@ class WindowMonkey : public QObject {
   void Note(const QString& action);
   void Fail(const QString& what);
 
+  WatchedApplication& application_;
   DesktopProgram& program_;
   Show& show_;
   World& world_;
@@ -59,6 +62,7 @@ class WindowMonkey : public QObject {
   QElapsedTimer sinceMonitors_;
   std::deque<QString> last_;
   QString broken_;
+  LastAction event_;
   QPointer<QWidget> read_;
   int left_ = 0, depth_ = 0, closing_ = 0;
   Progress came_;
