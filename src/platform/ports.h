@@ -155,6 +155,8 @@ class FileSystem {
   virtual std::string Read(const std::string& path) const = 0;
   // Replaces the file as a whole: after a failure the old file is there unharmed.
   virtual void Write(const std::string& path, const std::string& bytes) = 0;
+  // The same, for whoever may read and write the other file and for nobody else.
+  virtual void WriteLike(const std::string& path, const std::string& bytes, const std::string& other) = 0;
   // True when a plain file can be opened for reading.
   virtual bool CanOpen(const std::string& path) const = 0;
   virtual bool FolderExists(const std::string& path) const = 0;

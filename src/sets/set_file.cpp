@@ -136,7 +136,7 @@ void ReplaceSetFile(Show& show, const std::string& path, const std::string& byte
   FileSystem& files = show.platform.files;
   // The old file stays under its own name until the new one takes its place.
   const std::string old = FileExists(show, path) ? files.Read(path) : bytes;
-  if (old != bytes) files.Write(BackupPath(path), old);
+  if (old != bytes) files.WriteLike(BackupPath(path), old, path);
   files.Write(path, bytes);
 }
 

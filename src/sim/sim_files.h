@@ -14,6 +14,7 @@ class SimFiles : public FileSystem {
  public:
   std::string Read(const std::string& path) const override;
   void Write(const std::string& path, const std::string& bytes) override;
+  void WriteLike(const std::string& path, const std::string& bytes, const std::string&) override { Write(path, bytes); }
   bool CanOpen(const std::string& path) const override;
   bool FolderExists(const std::string& path) const override;
   void CreateFolder(const std::string& path) override;

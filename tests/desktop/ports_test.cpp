@@ -14,6 +14,7 @@
 
 #include "desktop/devices/qt_device_watch.h"
 #include "desktop/files/user_copy.h"
+#include "desktop/files/whole_file.h"
 #include "desktop/files/windows_1252.h"
 #include "desktop/system/bus_finder.h"
 #include "places.h"
@@ -436,7 +437,7 @@ TEST_F(UserCopyTest, ACopyThatWasCutOffFollowsTheVersionThatIsInstalledNext) {
   Make("user/b.bmp", "first");
   QFile::remove(Native("user/Trivia Sets/e.txt"));
   install("third", 5);
-  for (const QString& name : files) EXPECT_EQ(ReadFile(Native("user/" + name)), "third") << name;
+  for (const QString& name : files) EXPECT_EQ(ReadFile(Native("user/" + name)), "third") << name.toStdString();
 }
 
 TEST_F(UserCopyTest, WhatCannotBeMadeIsReportedOnce) {

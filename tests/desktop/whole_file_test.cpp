@@ -47,6 +47,12 @@ TEST_F(WholeFileTest, OwnerGroupAndRightsStayAsTheyWere) {
     EXPECT_EQ(now.st_mode & 07777, rights) << std::oct << rights;
     EXPECT_EQ(now.st_uid, owner);
     EXPECT_EQ(now.st_gid, owner == kOther ? kOther : getegid());
+    Make("set.bak", "open to all");
+    QtFileSystem().WriteLike(Spelled("\\set.bak"), "kept", Spelled("\\set.txt"));
+    struct stat kept {};
+    ASSERT_EQ(stat(QFile::encodeName(Native("set.bak")), &kept), 0);
+    EXPECT_EQ(kept.st_mode & 07777, rights) << "what is kept beside it is as private";
+    EXPECT_EQ(kept.st_uid, owner);
   }
 }
 

@@ -25,6 +25,10 @@ std::string QtFileSystem::Read(const std::string& path) const {
 
 void QtFileSystem::Write(const std::string& path, const std::string& bytes) { ReplaceFile(NativePath(path), bytes); }
 
+void QtFileSystem::WriteLike(const std::string& path, const std::string& bytes, const std::string& other) {
+  ReplaceFile(NativePath(path), bytes, NativePath(other));
+}
+
 bool QtFileSystem::CanOpen(const std::string& path) const { return NativePlainFile(path).has_value(); }
 
 bool QtFileSystem::FolderExists(const std::string& path) const { return QFileInfo(NativePath(path)).isDir(); }

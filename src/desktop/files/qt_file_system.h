@@ -9,6 +9,7 @@ class QtFileSystem : public FileSystem {
  public:
   std::string Read(const std::string& path) const override;
   void Write(const std::string& path, const std::string& bytes) override;
+  void WriteLike(const std::string& path, const std::string& bytes, const std::string& other) override;
   bool CanOpen(const std::string& path) const override;
   bool FolderExists(const std::string& path) const override;
   void CreateFolder(const std::string& path) override;

@@ -169,16 +169,20 @@ QByteArray ReadFile(const QString& path) {
   return bytes;
 }
 
-void ReplaceFile(const QString& path, std::string_view bytes) {
+void ReplaceFile(const QString& path, std::string_view bytes, const QString& like) {
   const QFileInfo target = Target(path);
   const QByteArray name = QFile::encodeName(target.absoluteFilePath());
   struct stat old {};
   const bool exists = stat(name.constData(), &old) == 0;
   if (exists && !S_ISREG(old.st_mode)) throw FileError(EISDIR);
   if (exists && access(name.constData(), W_OK) != 0) Fail();
+  if (!like.isEmpty() && stat(QFile::encodeName(like).constData(), &old) != 0) Fail();
+  const bool hasModel = exists || !like.isEmpty();
   RemoveParts(target);
-  Part part(target.absolutePath() + '/' + PartBeginning(target) + QString::number(getpid()) + kPartEnding, 0666);
-  if (exists) part.TakeAfter(old);
+  // Nobody reads the part who may not read the file.
+  Part part(target.absolutePath() + '/' + PartBeginning(target) + QString::number(getpid()) + kPartEnding,
+            hasModel ? 0600 : 0666);
+  if (hasModel) part.TakeAfter(old);
   part.Write(bytes);
   part.Finish();
   part.MoveTo(name);

@@ -19,7 +19,7 @@ QByteArray ReadFile(const QString& path);
 // one its rights, and its owner and group where this user may set them. A link stays one and its target is replaced; of
 // a file that has several names, this name alone gets the bytes and the others keep the old ones. After a RuntimeError
 // the old file is there unharmed and nothing beside it. What a process left that was killed amid a write goes with the
-// next write of the same file.
-void ReplaceFile(const QString& path, std::string_view bytes);
+// next write of the same file. Where another file is named, that one gives owner, group and rights.
+void ReplaceFile(const QString& path, std::string_view bytes, const QString& like = {});
 
 }  // namespace pawnfield
