@@ -16,7 +16,8 @@ void PrintPercentile(const std::string& name, std::vector<double> milliseconds, 
 // the times to their windows and what they hold at rest. False when a start failed.
 bool MeasureStartUp();
 // One such start: prints the milliseconds from the given reading of the steady clock to the first paint of the loading
-// form and of the console, whose splash is clicked away, and then megabytes and threads.
+// form and of the console, whose splash is clicked away, and then megabytes, threads and wake-ups a
+// second at rest.
 int RunStartUp(long long startedNs, const QString& folder);
 int RunPlain(long long startedNs);
 
@@ -36,6 +37,8 @@ void MeasureFits();
 // did not run.
 bool MeasureFilm();
 
+// Each time so far that one of this process's threads has waited for something.
+long long Waits();
 // How often the program wakes up in a second of standby. Takes 25 seconds.
 bool MeasureWakeUps();
 

@@ -21,7 +21,8 @@ namespace {
 
 constexpr int kStarts = 7;
 constexpr int kLongestStartMs = 30000;
-constexpr int kRestMs = 2000;
+// To come to rest, and to count in.
+constexpr int kRestMs = 3000;
 
 long long NowNs() {
   return std::chrono::duration_cast<std::chrono::nanoseconds>(std::chrono::steady_clock::now().time_since_epoch())
@@ -65,7 +66,7 @@ DesktopPlaces PlacesBelow(const QString& folder) {
 
 // What one start took, and what the program holds when it has come to rest.
 struct StartFigures {
-  double firstPaint = 0, console = 0, megabytes = 0, threads = 0;
+  double firstPaint = 0, console = 0, megabytes = 0, threads = 0, wakeUps = 0;
 };
 
 // The value of that line of a file of the kernel's about this process, in the line's own unit; 0 without one.
@@ -87,10 +88,15 @@ double OfThisProcess(const char* file, const char* line) {
 // Reports what is held after a while of rest, and ends. Memory that is shared with others counts by its share.
 void ReportAtRest() {
   QTimer::singleShot(kRestMs, [] {
-    constexpr double kKilobytes = 1024;
-    std::printf("%f %f\n", OfThisProcess("smaps_rollup", "\nPss:") / kKilobytes, OfThisProcess("status", "Threads:"));
-    // Quitting would ask the windows, and the console would ask the operator.
-    QApplication::exit();
+    const long long before = Waits();
+    QTimer::singleShot(kRestMs, [before] {
+      constexpr double kKilobytes = 1024;
+      const double wakeUps = static_cast<double>(Waits() - before) * 1000 / kRestMs;
+      std::printf("%f %f %f\n", OfThisProcess("smaps_rollup", "\nPss:") / kKilobytes,
+                  OfThisProcess("status", "Threads:"), wakeUps);
+      // Quitting would ask the windows, and the console would ask the operator.
+      QApplication::exit();
+    });
   });
 }
 
@@ -106,9 +112,9 @@ std::optional<StartFigures> StartOnce(const char* mode) {
   }
   StartFigures figures;
   const QByteArray output = process.readAllStandardOutput();
-  const int read = std::sscanf(output.constData(), "%lf %lf %lf %lf", &figures.firstPaint, &figures.console,
-                               &figures.megabytes, &figures.threads);
-  if (read != 4) return std::nullopt;
+  const int read = std::sscanf(output.constData(), "%lf %lf %lf %lf %lf", &figures.firstPaint, &figures.console,
+                               &figures.megabytes, &figures.threads, &figures.wakeUps);
+  if (read != 5) return std::nullopt;
   return figures;
 }
 
@@ -156,7 +162,8 @@ bool MeasureStartUp() {
     for (const auto& [name, figure] : {std::pair{"first_paint", &StartFigures::firstPaint},
                                        {"console", &StartFigures::console},
                                        {"megabytes", &StartFigures::megabytes},
-                                       {"threads", &StartFigures::threads}}) {
+                                       {"threads", &StartFigures::threads},
+                                       {"wake_ups", &StartFigures::wakeUps}}) {
       std::vector<double> values;
       for (const StartFigures& figures : all[mode]) values.push_back(figures.*figure);
       PrintMedian(std::string(mode == 0 ? "Start/" : "PlainStart/") + name, values);

@@ -27,7 +27,8 @@ void Stand(int ms) {
   loop.exec();
 }
 
-// Each time that one of the process's threads has waited for something.
+}  // namespace
+
 long long Waits() {
   constexpr const char* kLine = "\nvoluntary_ctxt_switches:";
   long long waits = 0;
@@ -40,8 +41,6 @@ long long Waits() {
   }
   return waits;
 }
-
-}  // namespace
 
 bool MeasureWakeUps() {
   const QTemporaryDir folder;
