@@ -7,22 +7,33 @@
 
 namespace pawnfield::editor {
 
-bool DisplayPicture(Show& show, const std::string& path) {
-  EditorForm& form = show.frmEditor;
+namespace {
+
+void PlacePicture(EditorForm& form, const std::string& path, PixelSize size) {
   const PictureBox& frame = form.picQuestionPicture;
-  try {
-    const FittedPicture place = FitPictureOnAudience(show.platform.pictures.Size(path), frame.Width, frame.Height);
-    form.imgQuestionPicture.MoveTo(place.Left, place.Top, place.Width, place.Height);
-    form.imgQuestionPicture.Picture = path;
-    return true;
-  } catch (const RuntimeError& error) {
-    form.imgQuestionPicture.Picture = std::string();
-    const bool missing = error.Number() == kErrorFileNotFound || error.Number() == kErrorPathNotFound;
-    show.platform.dialogs.MessageBox(
-        missing ? "File not found: " + path : NotedErrorText(error, form.Name(), "DisplayPicture", path), kAppTitle,
-        BoxKind::Critical);
-    return false;
-  }
+  const FittedPicture place = FitPictureOnAudience(size, frame.Width, frame.Height);
+  form.imgQuestionPicture.MoveTo(place.Left, place.Top, place.Width, place.Height);
+  form.imgQuestionPicture.Picture = path;
+}
+
+void ReportPicture(Show& show, const std::string& path, int error) {
+  const std::string text = error == kErrorFileNotFound ? "File not found: " + path
+                                                       : NotedErrorText({error, "Invalid picture"},
+                                                                        show.frmEditor.Name(), "DisplayPicture", path);
+  show.platform.dialogs.MessageBox(text, kAppTitle, BoxKind::Critical);
+}
+
+}  // namespace
+
+void DisplayPicture(Show& show, const std::string& path) {
+  show.frmEditor.imgQuestionPicture.Picture = std::string();
+  show.platform.pictures.Look(path, [&show, path](const PictureFacts& facts) {
+    EditorForm& form = show.frmEditor;
+    if (!form.picQuestionPicture.Visible || form.txtPath.Text.Get() != path) return;
+    form.Dispatch(
+        [&] { facts.Error == 0 ? PlacePicture(form, path, facts.Size) : ReportPicture(show, path, facts.Error); },
+        "DisplayPicture");
+  });
 }
 
 }  // namespace pawnfield::editor

@@ -9,8 +9,9 @@ struct Show;
 
 namespace editor {
 
-// Loads the picture and fits it into its frame. False, after a message, when it can't; the frame is then empty.
-bool DisplayPicture(Show& show, const std::string& path);
+// Empties the frame and fits the picture into it as soon as it has been read beside the program. A message where it
+// can't be shown. What comes after the editor has gone on to something else is dropped.
+void DisplayPicture(Show& show, const std::string& path);
 
 }  // namespace editor
 

@@ -58,7 +58,7 @@ TextSize LinearTextMeasurer::Measure(const Font& font, const std::string& text, 
   return {std::max(wrapWidth, widest * unit), lines * kLineHeight * font.Size * kTwipsPerPoint};
 }
 
-PixelSize SimPictures::Size(const std::string& path) {
+PixelSize SimPictures::Size(const std::string& path) const {
   if (!files_.CanOpen(path)) throw RuntimeError(kErrorFileNotFound, "File not found");
   const std::string bytes = files_.Read(path);
   PixelSize size;

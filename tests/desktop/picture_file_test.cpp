@@ -139,7 +139,9 @@ TEST_F(PictureCacheTest, OneDecodeGivesSizeAndPixelsAndAChangedFileIsSeen) {
   EXPECT_TRUE(atOnce) << "what is held needs no disk";
   Make("a.jpg", Saved(TwoHalves(50, 60), "jpg"));
   EXPECT_TRUE(QTest::qWaitFor([&] { return cache_.IsIdle(); }, 5000));
-  EXPECT_EQ(cache_.Size(path).Width, 50);
+  cache_.Hold(path);
+  EXPECT_TRUE(QTest::qWaitFor([&] { return cache_.IsIdle(); }, 5000));
+  EXPECT_EQ(Looked("\\A.JPG")->Size.Width, 50);
   EXPECT_EQ(cache_.Original(path).size(), QSize(50, 60));
 }
 

@@ -245,18 +245,6 @@ TEST(TextMeasureTest, GrowsInProportionAndWrapsAtWords) {
   EXPECT_NEAR(line, 30 * 30, 30 * 10);
 }
 
-using PictureTest = FolderTest;
-
-TEST_F(PictureTest, TellsSizeAndWhatIsWrong) {
-  QImage(37, 21, QImage::Format_RGB32).save(Native("a.png"));
-  Make("broken.jpg", "no picture");
-  PictureCache reader;
-  const PixelSize size = reader.Size(Spelled("\\A.PNG"));
-  EXPECT_EQ(std::pair(size.Width, size.Height), std::pair(37, 21));
-  EXPECT_EQ(ErrorOf([&] { reader.Size(Spelled("\\broken.jpg")); }), kErrorInvalidPicture);
-  EXPECT_EQ(ErrorOf([&] { reader.Size(Spelled("\\none.jpg")); }), kErrorFileNotFound);
-}
-
 TEST(ClockTest, TimersFollowTheirModels) {
   Form form("frmTest");
   Timer timer(form, "tmrTest", 10);

@@ -90,16 +90,6 @@ PictureCache::Outcome PictureCache::ReadOutcome(const std::string& path, const Q
   return {ReadPictureFile(*native, side), now, false};
 }
 
-PixelSize PictureCache::Size(const std::string& path) {
-  const QString key = KeyOf(path);
-  const QString stamp = originals_.contains(key) ? known_.value(key).Stamp : QString();
-  Take(path, ReadOutcome(path, stamp, LargestSide()));
-  const PictureFacts facts = known_[key].Facts;
-  if (facts.Error == kErrorFileNotFound) throw RuntimeError(kErrorFileNotFound, "File not found");
-  if (facts.Error != 0) throw RuntimeError(kErrorInvalidPicture, "Invalid picture");
-  return facts.Size;
-}
-
 void PictureCache::Look(const std::string& path, std::function<void(const PictureFacts&)> then) {
   const QString key = KeyOf(path);
   const auto known = known_.constFind(key);

@@ -1,5 +1,5 @@
 // Pictures by path, each decoded once on a thread of its own, with their sizes and scaled copies. What both screens
-// paint and what the program asks of a picture comes from here; nothing here waits for a disk but Size.
+// paint and what the program asks of a picture comes from here; nothing here waits for a disk.
 #pragma once
 
 #include <QCache>
@@ -24,7 +24,6 @@ class PictureCache : public QObject, public PictureReader {
   PictureCache(const PictureCache&) = delete;
   PictureCache& operator=(const PictureCache&) = delete;
 
-  PixelSize Size(const std::string& path) override;
   void Look(const std::string& path, std::function<void(const PictureFacts&)> then) override;
   void Check(const std::string& path, std::function<void(const PictureFacts&)> then) override;
   void Hold(const std::string& path) override;
