@@ -72,7 +72,7 @@ void LookAt(Show& show, int number, QuestionKind kind, const std::string& path) 
       NoteFile(show, check, number, path, ErrorOf(facts));
     });
   } else {
-    show.platform.mediaFiles.Look(path, [&show, check, number, path](bool plays) {
+    show.platform.mediaFiles.Check(path, [&show, check, number, path](bool plays) {
       NoteFile(show, check, number, path, plays ? "" : "no such file, or no sound");
     });
   }

@@ -27,7 +27,8 @@ class LinearTextMeasurer : public TextMeasurer {
 class SimPictures : public PictureReader {
  public:
   explicit SimPictures(const SimFiles& files) : files_(files) {}
-  PixelSize Size(const std::string& path) override;
+  // RuntimeError with the number of a picture's error.
+  PixelSize Size(const std::string& path) const;
   void Look(const std::string& path, std::function<void(const PictureFacts&)> then) override;
   void Check(const std::string& path, std::function<void(const PictureFacts&)> then) override { Look(path, then); }
   void Hold(const std::string& path) override { Held.push_back(path); }
@@ -51,6 +52,7 @@ class SimMediaFiles : public MediaReader {
   void Look(const std::string& path, std::function<void(bool plays)> then) override {
     then(files_.CanOpen(path) && !files_.Read(path).empty());
   }
+  void Check(const std::string& path, std::function<void(bool plays)> then) override { Look(path, std::move(then)); }
 
  private:
   const SimFiles& files_;

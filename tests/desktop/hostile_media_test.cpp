@@ -4,6 +4,7 @@
 #include <QTcpSocket>
 #include <QTest>
 
+#include "desktop/media/media_files.h"
 #include "desktop/media/mpv_video.h"
 #include "places.h"
 #include "sound_rig.h"
@@ -91,6 +92,27 @@ TEST_F(HostileMediaTest, AListOfSoundsIsNotFollowed) {
   }
   sound.SetUrl(Spelled("\\tone.wav"));
   EXPECT_TRUE(QTest::qWaitFor([&] { return sound.IsPlaying(); }, 5000));
+}
+
+// What can't be heard is named when a set is loaded, and not when its question is up.
+TEST_F(HostileMediaTest, WhatIsNoSoundIsFoundBeforeTheShow) {
+  const QByteArray tone = ToneFile(440, 20000);
+  QByteArray noise;
+  for (int i = 0; i < 5000; ++i) noise += static_cast<char>(i * i % 251);
+  const std::tuple<const char*, QByteArray, bool> files[] = {
+      {"tone.wav", tone, true},           {"cut.wav", tone.left(tone.size() / 2), true},
+      {"head.wav", tone.left(30), false}, {"noise.wav", noise, false},
+      {"renamed.mp3", tone, true},        {"zeros.mp3", QByteArray(9000, 0), false},
+      {"words.wma", "words", false},      {"list.mp3", "#EXTM3U\ntone.wav\n\x01", false},
+  };
+  MediaFiles media;
+  for (const auto& [name, bytes, sounds] : files) {
+    Make(name, bytes);
+    std::optional<bool> answer;
+    media.Check(Spelled(std::string("\\") + name), [&](bool plays) { answer = plays; });
+    ASSERT_TRUE(QTest::qWaitFor([&] { return answer.has_value(); }, 10000)) << name;
+    EXPECT_EQ(*answer, sounds) << name;
+  }
 }
 
 // What a player offers to people at a terminal is of no use here, and each script would be a thread of every player.

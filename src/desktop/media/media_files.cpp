@@ -5,6 +5,7 @@
 #include <algorithm>
 
 #include "desktop/files/native_path.h"
+#include "desktop/media/sound_check.h"
 
 namespace pawnfield {
 
@@ -43,10 +44,23 @@ MediaFiles::~MediaFiles() {
 }
 
 void MediaFiles::Look(const std::string& path, std::function<void(bool plays)> then) {
-  workers_.start([this, path, then = std::move(then)] {
-    const bool plays = FindPlayableFile(path).has_value();
+  Ask([path] { return FindPlayableFile(path).has_value(); }, std::move(then));
+}
+
+void MediaFiles::Check(const std::string& path, std::function<void(bool plays)> then) {
+  Ask(
+      [path] {
+        const auto native = FindPlayableFile(path);
+        return native && IsDecodableSound(*native);
+      },
+      std::move(then));
+}
+
+void MediaFiles::Ask(std::function<bool()> question, std::function<void(bool)> then) {
+  workers_.start([this, question = std::move(question), then = std::move(then)] {
+    const bool answer = question();
     QMetaObject::invokeMethod(
-        this, [then, plays] { then(plays); }, Qt::QueuedConnection);
+        this, [then, answer] { then(answer); }, Qt::QueuedConnection);
   });
 }
 

@@ -20,8 +20,11 @@ class MediaFiles : public QObject, public MediaReader {
   MediaFiles& operator=(const MediaFiles&) = delete;
 
   void Look(const std::string& path, std::function<void(bool plays)> then) override;
+  void Check(const std::string& path, std::function<void(bool plays)> then) override;
 
  private:
+  // Runs the question beside and hands its answer on between events.
+  void Ask(std::function<bool()> question, std::function<void(bool)> then);
   QThreadPool workers_;
 };
 

@@ -8,6 +8,7 @@
 #include <vector>
 
 #include "desktop/media/media_files.h"
+#include "desktop/media/player_options.h"
 #include "desktop/media/sound_devices.h"
 
 namespace pawnfield {
@@ -39,31 +40,8 @@ MpvChannel::MpvChannel() : MpvChannel({{"vid", "no"}, {"vo", "null"}}) {}
 
 MpvChannel::MpvChannel(std::initializer_list<Option> options) : player_(mpv_create()) {
   if (player_ == nullptr) return;
-  const QByteArray outputs = SoundOutputs();
-  for (const auto& [name, value] : {Option{"config", "no"},
-                                    {"idle", "yes"},
-                                    {"terminal", "no"},
-                                    {"load-scripts", "no"},
-                                    {"load-stats-overlay", "no"},
-                                    {"load-osd-console", "no"},
-                                    {"load-auto-profiles", "no"},
-                                    // A list of other files is no medium, and nothing is fetched from anywhere.
-                                    {"demuxer", "lavf"},
-                                    {"stream-lavf-o", "protocol_whitelist=file"},
-                                    {"demuxer-lavf-o", "protocol_whitelist=file"},
-                                    {"osc", "no"},
-                                    {"ytdl", "no"},
-                                    {"sub-auto", "no"},
-                                    {"gapless-audio", "no"},
-                                    {"audio-fallback-to-null", "yes"},
-                                    {"ao", outputs.constData()},
-                                    {"audio-display", "no"},
-                                    {"sid", "no"},
-                                    {"audio-file-auto", "no"},
-                                    {"input-default-bindings", "no"},
-                                    {"audio-client-name", "Pawnfield"}}) {
-    mpv_set_option_string(player_, name, value);
-  }
+  SetPlayerOptions(player_);
+  mpv_set_option_string(player_, "ao", SoundOutputs().constData());
   for (const auto& [name, value] : options) mpv_set_option_string(player_, name, value);
   if (mpv_initialize(player_) < 0) {
     Close();
