@@ -3,8 +3,11 @@
 
 #include <QAbstractButton>
 #include <QLineEdit>
+#include <QMimeData>
+#include <QTableWidget>
 #include <QTest>
 #include <QTimer>
+#include <QToolTip>
 #include <QWindow>
 
 #include "desktop/windows/bindings.h"
@@ -12,6 +15,7 @@
 #include "desktop/windows/model_widgets.h"
 #include "forms/fs_main_form.h"
 #include "forms/small_forms.h"
+#include "forms/sound_effects_form.h"
 #include "places.h"
 #include "platform/escapes.h"
 #include "presentation/board_layout.h"
@@ -90,6 +94,35 @@ TEST_F(WindowsTest, CheckBoxAndItsTextToggleTogether) {
   EXPECT_EQ(Widget<QAbstractButton>("chkAnimation").isChecked(), before == 0);
   Widget<QAbstractButton>("chkAnimation").click();
   EXPECT_EQ(form_.chkAnimation.Value, before);
+}
+
+TEST_F(WindowsTest, FilesDroppedOnTheSoundTableTakeACellEachAndTheRestIsTold) {
+  SoundEffectsForm& sounds = show_.frmSoundEffects;
+  auto& table = *Window(sounds).findChild<QTableWidget*>("Grid1");
+  sounds.Visible = true;
+  std::string taken;
+  sounds.Grid1.OnDropFile = [&](const std::string& path) {
+    taken += std::to_string(sounds.Grid1.Row) + ":" + path.substr(path.find_last_of('\\') + 1) + " ";
+  };
+  const auto drop = [&](int row, const QStringList& names) {
+    QMimeData data;
+    QList<QUrl> files;
+    for (const QString& name : names) files << QUrl::fromLocalFile(Native(name));
+    data.setUrls(files);
+    table.scrollToItem(table.item(row - 1, 1));
+    const QPoint place = table.visualItemRect(table.item(row - 1, 1)).center();
+    QDragEnterEvent enter(place, Qt::CopyAction, &data, Qt::LeftButton, Qt::NoModifier);
+    QDropEvent release(place, Qt::CopyAction, &data, Qt::LeftButton, Qt::NoModifier);
+    QApplication::sendEvent(table.viewport(), &enter);
+    QApplication::sendEvent(table.viewport(), &release);
+    return std::exchange(taken, "");
+  };
+  const int last = table.rowCount();
+  EXPECT_EQ(drop(3, {"horn.wav", "film.mp4"}), "3:horn.wav 4:film.mp4 ");
+  EXPECT_TRUE(QToolTip::text().isEmpty());
+  EXPECT_EQ(drop(last, {"a.wav", "b.wav", "c.wav"}), std::to_string(last) + ":a.wav ");
+  EXPECT_EQ(QToolTip::text(), "2 files found no cell left in this column.");
+  QToolTip::hideText();
 }
 
 TEST_F(WindowsTest, ListsFillBeforeTheyOpenAndPickThroughTheModel) {

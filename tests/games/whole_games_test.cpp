@@ -113,6 +113,7 @@ TEST(AfterTheEnd, AnEditorOfTheCurrentSetAsksForANameAndLeavesTheFile) {
   player.form().cboList.ListIndex = 0;
   dialogs.ExpectForm("frmEditChoice", [&] { player.show().frmEditChoice.btnCurrent.Click(); });
   dialogs.ExpectForm("frmEditor", [&] {
+    EXPECT_EQ(player.show().frmEditor.lblNumQuestions.Caption.Get(), "0") << "of the set that has gone";
     dialogs.ExpectFile("");
     player.show().frmEditor.mnuFileSave.Click();
     player.show().frmEditor.mnuFileExit.Click();
