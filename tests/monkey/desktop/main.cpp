@@ -51,7 +51,8 @@ int main(int argc, char** argv) {
   PrepareApplication();
   NoBrowser browser;
   for (const char* scheme : {"http", "https", "file"}) QDesktopServices::setUrlHandler(scheme, &browser, "Open");
-  const int status = Work(application, static_cast<std::uint32_t>(std::strtoul(argv[1], nullptr, 10)), std::atoi(argv[2]), log);
+  const int status =
+      Work(application, static_cast<std::uint32_t>(std::strtoul(argv[1], nullptr, 10)), std::atoi(argv[2]), log);
   for (const char* scheme : {"http", "https", "file"}) QDesktopServices::unsetUrlHandler(scheme);
   QProcess::execute("xrandr", {"--output", "DUMMY1", "--mode", "1920x1080", "--pos", "1280x0"});
   return status;
