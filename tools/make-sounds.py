@@ -60,6 +60,14 @@ def skip():
     return track
 
 
+def time_up():
+    """The seconds to answer are over: one low, round gong, heard under talk and never taken for a verdict."""
+    track = partials(pitch("D4"), 0.9, BELL, 0.002, 0.30)
+    add(track, partials(pitch("D3"), 0.9, MUSIC_BOX, 0.004, 0.35), 0, 0.9)
+    add(track, partials(pitch("D4"), 0.7, BELL, 0.002, 0.26), 0.24, 0.8)
+    return reverb(track, 0.12, 0.2)
+
+
 def pawn():
     """A wooden piece set down on the board."""
     track = partials(196, 0.30, [(1, 1, 1), (2.76, 0.6, 0.5), (5.4, 0.35, 0.25)], 0.0008, 0.055)
@@ -91,8 +99,8 @@ def incorrect_sting():
 
 
 SOUNDS = {"RingsIn.mp3": rings_in, "Correct.mp3": correct, "Incorrect.mp3": incorrect, "DDouble.wav": double,
-          "Question Appears.wav": question_appears, "Skip.Wav": skip, "Pawn.Wav": pawn,
-          "Correct4swf.mp3": correct_sting, "Incorrect4swf.mp3": incorrect_sting}
+          "Question Appears.wav": question_appears, "Skip.Wav": skip, "TimeUp.Wav": time_up,
+          "Pawn.Wav": pawn, "Correct4swf.mp3": correct_sting, "Incorrect4swf.mp3": incorrect_sting}
 
 
 def main():

@@ -1,6 +1,7 @@
 #include "controllers/ring_in.h"
 
 #include "devices/transceiver.h"
+#include "engine/answer_clock.h"
 #include "engine/question_cycle.h"
 #include "engine/turn_order.h"
 #include "forms/fs_main_form.h"
@@ -85,6 +86,7 @@ bool AcceptRingIn(Show& show, int player) {
   PlayRingIn(show, player);
   form.btnCorrect.Enabled = true;
   ShowVerdictButtons(show, true, true);
+  StartAnswerClock(show);
   const bool cover = show.state.Nature().RingIn && show.state.HideQuestion && show.state.DualScreen;
   if (!cover) return true;
   show.frmFSMain.lblPlayerName.Caption = form.lblPlayer1[PlayerIndex(player)].Caption;

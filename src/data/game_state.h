@@ -46,6 +46,14 @@ struct BoardSquare {
   bool operator==(const BoardSquare&) const = default;
 };
 
+// The seconds in which a player is to answer. Player 0 while none run; 0 seconds left is "time is up", which stands
+// until the verdict.
+struct AnswerClock {
+  int Player = 0;
+  int SecondsLeft = 0;
+  bool operator==(const AnswerClock&) const = default;
+};
+
 struct GameState {
   GameMode GameType = GameMode::TriviaC;
   int Players = kPlayers;
@@ -89,7 +97,9 @@ struct GameState {
   bool KeyControl = true;
   bool Animation = false;
   int SoundSet = 1;
+  // Seconds to answer in; 0 for as long as it takes. Which of them are left is asked of RunningAnswerClock.
   int TimedResponse = 0;
+  AnswerClock Clock;
   int AutoContinue = 3;
   bool GameEnds = false;
   bool IncorrectPenalty = false;

@@ -43,8 +43,12 @@ struct GameNature {
 };
 
 inline constexpr Offers kChallengeOffers{.NextPlayer = true};
-inline constexpr Offers kTurnsOffers{
-    .Animation = true, .IncorrectPenalty = true, .AutoContinue = true, .SelectPlayer = true, .NextPlayer = true};
+inline constexpr Offers kTurnsOffers{.Animation = true,
+                                     .IncorrectPenalty = true,
+                                     .TimedResponse = true,
+                                     .AutoContinue = true,
+                                     .SelectPlayer = true,
+                                     .NextPlayer = true};
 inline constexpr Offers kRingInOffers{.Animation = true,
                                       .HideQuestion = true,
                                       .IncorrectPenalty = true,

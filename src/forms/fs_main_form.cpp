@@ -3,6 +3,7 @@
 #include <array>
 
 #include "forms/form_layout.h"
+#include "forms/player_colors.h"
 
 namespace pawnfield {
 
@@ -16,8 +17,8 @@ constexpr double kBandGap = 120;
 constexpr double kPlayerWidth = (kWidth - 4 * kBandGap) / 3;
 constexpr double kNameMargin = 150;
 constexpr double kNameShare = 0.56;
-// The players' red, yellow and green, light enough to be read on the lit box.
-constexpr std::array<Color, 3> kPlayerColors{0x706BFF, 0x4DD8FF, 0x8CE046};
+constexpr double kClockWidth = 1500;
+constexpr double kClockHeight = 1036;
 }  // namespace
 
 FSMainForm::FSMainForm() : Form("frmFSMain") {
@@ -37,7 +38,7 @@ FSMainForm::FSMainForm() : Form("frmFSMain") {
     picPlayer[i].MoveTo(left, kBandTop, kPlayerWidth, kBandHeight);
     scoreBox.MoveTo(left + kPlayerWidth * kNameShare, kBandTop, kPlayerWidth * (0.98 - kNameShare), kBandHeight);
     lblPlayer[i].MoveTo(left + kNameMargin, kBandTop, kPlayerWidth * kNameShare - kNameMargin, kBandHeight);
-    lblPlayer[i].ForeColor = kPlayerColors[i];
+    lblPlayer[i].ForeColor = kPlayerColors[static_cast<int>(i) + 1];
     lblPlayer[i].Font = {"Segoe UI", 23, true, false};
     Label11[i].MoveTo(left + kPlayerWidth * kNameShare, kBandTop, kPlayerWidth * (0.98 - kNameShare), kBandHeight);
     Label11[i].Font = {"Segoe UI", 40, true, false};
@@ -69,6 +70,9 @@ FSMainForm::FSMainForm() : Form("frmFSMain") {
   lblWhatIsAnswer.Height = 1500;
   lblRightWrong.Font = {"Segoe UI", 120, true, false};
   lblRightWrong.Height = 3600;
+  lblAnswerClock.MoveTo(kWidth - kClockWidth, kHeight - kClockHeight, kClockWidth, kClockHeight);
+  lblAnswerClock.Font = {"Segoe UI", 48, true, false};
+  lblAnswerClock.Visible = false;
   lblWinner.Font = {"Segoe UI", 72, true, false};
   // The sound comes once, from the console's player.
   MediaPlayer1.uiMode = std::string("none");
@@ -96,6 +100,7 @@ void FSMainForm::Form_Resize() {
     MoveLike(*panel, picStandby, Extent::Copy);
     panel->BringToFront();
   }
+  lblAnswerClock.BringToFront();
   picStandby.BringToFront();
   MoveLike(picMOD, picStandby, Extent::Copy);
   picMOD.BringToFront();

@@ -43,6 +43,8 @@ class FSMainForm : public Form {
   PictureBox picHideQuestion{*this, "picHideQuestion"};
   Label lblPlayerName{*this, "lblPlayerName"};
   Label lblWhatIsAnswer{*this, "lblWhatIsAnswer"};
+  // The seconds that are left to answer, in the colour of the player who answers.
+  Label lblAnswerClock{*this, "lblAnswerClock"};
   PictureBox picCorrect{*this, "picCorrect"};
   Image imgCorrect{*this, "imgCorrect"};
   Label lblRightWrong{*this, "lblRightWrong"};

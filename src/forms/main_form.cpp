@@ -9,6 +9,8 @@ namespace {
 // The panel that the board and the question panels share, in twips.
 constexpr double kPanelWidth = 7210;
 constexpr double kPanelHeight = 5640;
+constexpr double kClockWidth = 700;
+constexpr double kClockHeight = 600;
 
 template <typename... Items>
 void Hide(Items&... items) {
@@ -132,6 +134,8 @@ void MainForm::SetCaptions() {
   btnPlay.Caption = "Play";
   btnPlayVideo.Caption = ">";
   btnStop.Caption = "Stop";
+  btnAnswerClock.Caption = "Clock";
+  btnAnswerClock.ToolTipText = "F9";
   btnCorrect.Caption = "Correct";
   btnQuestionCorrect.Caption = "Correct";
   btnQuestionIncorrect.Caption = "Incorrect";
@@ -152,6 +156,7 @@ void MainForm::PlaceControls() {
   lblWinner.MoveTo(0, 0, kPanelWidth, kPanelHeight);
   fraSoundButtons.MoveTo(0, kPanelHeight - 735, kPanelWidth, 735);
   lblAnswer.MoveTo(0, 0, kPanelWidth, 900);
+  lblAnswerClock.MoveTo(kPanelWidth - kClockWidth, kPanelHeight - kClockHeight, kClockWidth, kClockHeight);
   imgHeader.MoveTo(0, 0, kPanelWidth, 750);
   txtOptionalHeading.MoveTo(0, 0, kPanelWidth, 750);
 
@@ -180,6 +185,8 @@ void MainForm::PlaceControls() {
   Contain(picP2Score, {&lblP2Score});
   Contain(picP3Score, {&lblP3Score});
 
+  lblAnswerClock.Font = {"Segoe UI", 28, true, false};
+  lblAnswerClock.BringToFront();
   lblWinner.Font = {"Segoe UI", 48, true, false};
   lblRightWrong.Font = {"Segoe UI", 72, true, false};
   lblAnswer.Font = {"Segoe UI", 24, true, false};
@@ -193,9 +200,10 @@ void MainForm::SetInitialStates() {
   for (std::size_t i = 0; i < 4; ++i) imgCursor[i].Visible = false;
   for (std::size_t i = 1; i < 5; ++i) lblQuestion[i].Visible = false;
   Hide(lblQuestionAutoResize, lblAnswerAutoResize, lblWinnerResize, txtOptionalHeading);
-  Hide(shpStart, lblListLeftArrow, lblListRightArrow, btnQuestionCorrect, btnQuestionIncorrect);
+  Hide(shpStart, lblListLeftArrow, lblListRightArrow, btnQuestionCorrect, btnQuestionIncorrect, lblAnswerClock);
   mnuZR610.Visible = false;
-  Disable(btnSkipQuestion, btnNextPlayer, btnContinue, btnStart, btnUndo, btnReset, btnEndGame, btnCorrect);
+  Disable(btnSkipQuestion, btnNextPlayer, btnContinue, btnStart, btnUndo, btnReset, btnEndGame, btnCorrect,
+          btnAnswerClock);
 }
 
 void MainForm::picMOD_Resize() {

@@ -171,6 +171,9 @@ class MainForm : public Form {
   Label lblAnswerAutoResize{*this, "lblAnswerAutoResize"};
   Label lblWinnerResize{*this, "lblWinnerResize"};
   Label lblStatusBar{*this, "lblStatusBar"};
+  // The seconds that are left to answer, and what starts them where nobody rings in.
+  Label lblAnswerClock{*this, "lblAnswerClock"};
+  Button btnAnswerClock{*this, "btnAnswerClock"};
   // How far the look at a set's media has come.
   ProgressBar prgMediaCheck{*this, "prgMediaCheck"};
 
@@ -187,6 +190,7 @@ class MainForm : public Form {
   Timer tmrExternalCtrlFlasher{*this, "tmrExternalCtrlFlasher", 280};
   Timer tmrAnswer{*this, "tmrAnswer", 150};
   Timer tmrFlipPlayerPiece{*this, "tmrFlipPlayerPiece", 10};
+  Timer tmrAnswerClock{*this, "tmrAnswerClock", 1000};
   Timer tmrWinner{*this, "tmrWinner", 5000};
   Timer tmrOptionalHeaders{*this, "tmrOptionalHeaders", 5000};
   Timer tmrBGMusic{*this, "tmrBGMusic", 1000, true};

@@ -81,6 +81,8 @@ void AddPanels(PairTable& table, MainForm& console, FSMainForm& audience) {
   table.Pair(console.picQuestion.Visible, audience.picQuestion.Visible);
   table.Picture(console.imgQuestionBackground, audience.imgQuestionBackground);
   for (std::size_t i = 0; i < 5; ++i) table.Text(console.lblQuestion[i], audience.lblQuestion[i]);
+  table.Text(console.lblAnswerClock, audience.lblAnswerClock);
+  table.Pair(console.lblAnswerClock.ForeColor, audience.lblAnswerClock.ForeColor);
   table.Pair(console.picQuestionPicture.Visible, audience.picQuestionPicture.Visible);
   table.Picture(console.picImageResize[0], audience.picImageResize[0]);
   table.Pair(console.picSound.Visible, audience.picSound.Visible);

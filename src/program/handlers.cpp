@@ -6,6 +6,7 @@
 #include "controllers/keyboard.h"
 #include "controllers/ring_in.h"
 #include "controllers/zr610.h"
+#include "engine/answer_clock.h"
 #include "engine/board_play.h"
 #include "engine/game_flow.h"
 #include "engine/judging.h"
@@ -13,6 +14,7 @@
 #include "engine/question_cycle.h"
 #include "engine/set_choice.h"
 #include "engine/turn_order.h"
+#include "engine/undo_text.h"
 #include "engine/win_detection.h"
 #include "forms/fs_main_form.h"
 #include "forms/main_form.h"
@@ -88,6 +90,7 @@ void AttachButtons(Show& show) {
   OnClick(show, form.btnQuestionCorrect, HandleCorrect);
   OnClick(show, form.btnQuestionIncorrect, HandleIncorrect);
   OnClick(show, form.btnCorrect, HandleCorrect);
+  OnClick(show, form.btnAnswerClock, btnAnswerClock_Click);
   OnClick(show, form.btnSelectPlayer, btnSelectPlayer_Click);
   OnClick(show, form.fileClearAllScores, fileClearAllScores_Click);
   AttachScoreButtons(show);
@@ -117,6 +120,7 @@ void AttachTimers(Show& show) {
   OnTimer(show, form.tmrRotate, tmrRotate_Timer);
   OnTimer(show, form.tmrAnswer, tmrAnswer_Timer);
   OnTimer(show, form.tmrFlipPlayerPiece, tmrFlipPlayerPiece_Timer);
+  OnTimer(show, form.tmrAnswerClock, tmrAnswerClock_Timer);
   OnTimer(show, form.tmrWinner, tmrWinner_Timer);
   OnTimer(show, show.frmFSMain.tmrFSFlipPlayerPiece, tmrFSFlipPlayerPiece_Timer);
   OnTimer(show, show.frmAlwaysLoaded.tmrAlwaysLoaded, tmrAlwaysLoaded_Timer);
@@ -163,6 +167,8 @@ void AttachHandlers(Show& show) {
     form->Guard = [&show](const std::function<void()>& handler, const std::string& location,
                           const std::string& procedure) {
       RunGuarded(show.platform.dialogs, handler, location, procedure);
+      UpdateAnswerClock(show);
+      UpdateUndoTip(show);
       SaveChangedSettings(show);
     };
     show.platform.clock.Attach(*form);

@@ -43,6 +43,12 @@ int HolderOfTurn(const Show& show) {
   return phase.Kind == PhaseKind::Flashing ? 0 : phase.Player;
 }
 
+AnswerClock RunningAnswerClock(const Show& show) {
+  const AnswerClock& clock = show.state.Clock;
+  const GamePhase phase = Phase(show);
+  return phase.Kind == PhaseKind::Answering && phase.Player == clock.Player ? clock : AnswerClock{};
+}
+
 bool ScreenCovered(const Show& show) { return show.frmMain.picStandby.Visible; }
 
 }  // namespace pawnfield

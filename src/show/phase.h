@@ -4,6 +4,7 @@
 
 namespace pawnfield {
 
+struct AnswerClock;
 struct Show;
 
 enum class PhaseKind {
@@ -32,6 +33,8 @@ bool IsPhase(const Show& show, PhaseKind kind);
 bool QuestionIsUp(const Show& show);
 // Who has the turn, and is shown with it: 0 for nobody, as in Trivia C between two ring-ins.
 int HolderOfTurn(const Show& show);
+// The seconds that run for the player who answers now; none for anybody else, whatever the last tick left behind.
+AnswerClock RunningAnswerClock(const Show& show);
 // Standby stands over the room's screen. A game goes on beneath it, in whatever phase it is.
 bool ScreenCovered(const Show& show);
 

@@ -9,10 +9,10 @@ const Story kStates[] = {
     {"AfterResetOfChallengeB", "2 3 3 full", "00 R picStandby=up offers=Start,PlayMode options=GameType(0)"},
     {"AfterResetOfTriviaA", "3 3 3 full m",
      "+ 00 R picStandby=up offers=SelectGame,PlayMode "
-     "options=Animation,IncorrectPenalty,AutoContinue,List,SelectPlayer(0),SelectPlayer(2),GameType(0)"},
+     "options=Animation,IncorrectPenalty,TimedResponse,AutoContinue,List,SelectPlayer(0),SelectPlayer(2),GameType(0)"},
     {"AfterResetOfTriviaB", "4 3 3 full m",
      "+ 00 R picStandby=up offers=SelectGame,PlayMode "
-     "options=Animation,IncorrectPenalty,AutoContinue,List,SelectPlayer(0),SelectPlayer(2),GameType(0)"},
+     "options=Animation,IncorrectPenalty,TimedResponse,AutoContinue,List,SelectPlayer(0),SelectPlayer(2),GameType(0)"},
     {"AfterResetOfTriviaC", "5 2 3 full m",
      "r1 + 00 R picStandby=up offers=SelectGame,PlayMode "
      "options=Animation,HideQuestion,IncorrectPenalty,TimedResponse,AutoContinue,List,SelectPlayer(0),GameType(0)"},

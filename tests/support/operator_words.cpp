@@ -67,6 +67,7 @@ std::string Plain(const std::string& phrase) {
                                                             {"clear all scores", "fileClearAllScores"},
                                                             {"two players", "optPlayers(0)"},
                                                             {"nobody lit", "lit=nobody"},
+                                                            {"start the clock", "btnAnswerClock"},
                                                             {"turn nobody", "turn=0"},
                                                             {"choose the set", "set"},
                                                             {"pause of 5 s", "cboAutoContinue:2"}};
@@ -110,7 +111,7 @@ std::string SetupOfWords(const std::string& words) {
       {"penalty", 'p'},  {"user advances", 'm'}, {"worthless squares", '0'},
       {"animated", 'a'}, {"7 questions", '7'},   {"remotes", 'w'},
       {"pads", 'l'},     {"not started", 'i'},   {"picture second", 'k'}};
-  std::string type = "1", players = "3", grid = "3", ending = "full", options = "-";
+  std::string type = "1", players = "3", grid = "3", ending = "full", options = "-", settings;
   for (const std::string& phrase : Phrases(words)) {
     if (kTypes.contains(phrase)) {
       type = kTypes.at(phrase);
@@ -118,6 +119,8 @@ std::string SetupOfWords(const std::string& words) {
       players = phrase.substr(0, 1);
     } else if (phrase.size() == 3 && phrase[1] == 'x') {
       grid = phrase.substr(0, 1);
+    } else if (phrase.ends_with(" s to answer")) {
+      settings = " TimedResponse=" + phrase.substr(0, phrase.find(' '));
     } else if (kOptions.contains(phrase)) {
       options += kOptions.at(phrase);
     } else {
@@ -125,7 +128,7 @@ std::string SetupOfWords(const std::string& words) {
       ending = phrase == "Finish Row" ? "row" : "full";
     }
   }
-  return type + " " + players + " " + grid + " " + ending + " " + options;
+  return type + " " + players + " " + grid + " " + ending + " " + options + settings;
 }
 
 std::string StepsOfWords(const std::string& words) {

@@ -71,6 +71,7 @@ std::string PropertyOf(const Control& control, const std::string& name) {
   const auto* label = dynamic_cast<const Label*>(&control);
   if (name == "Top") return NumberText(control.Top);
   if (name == "Height") return NumberText(control.Height);
+  if (name == "Tip") return Plain(control.ToolTipText);
   if (name == "Enabled") return control.Enabled ? "yes" : "no";
   if (label == nullptr) return NumberText(dynamic_cast<const TextBox&>(control).BackColor);
   return NumberText(name == "Font" ? label->Font->Size : label->BackColor.Get());

@@ -9,8 +9,8 @@ namespace pawnfield {
 
 // Checks states such as "btnStart=on turn=2", parted by blanks, after what was done. On the left stands
 //   a control by its name on the form (null for the console), with an apostrophe behind on the audience's
-//   ("picBonus'"); its property behind a dot: ".Height" and ".Top" in twips, ".Enabled" with "yes" or "no", a text's
-//   size with ".Font" or its ".BackColor" as a number; "turn" and "question" by their numbers, "phase" as in
+//   ("picBonus'"); its property behind a dot: ".Height" and ".Top" in twips, ".Enabled" with "yes" or "no", its ".Tip",
+//   a text's size with ".Font" or its ".BackColor" as a number; "turn" and "question" by their numbers, "phase" as in
 //   "player_2_answers", "lit" for the players whose score boxes are red, "scores" ("50/0/-100"), "names", "board" as
 //   rows of owners ("100/020/000"), "winner" for the winner's text, "offers" and "options" for what can be pressed,
 //   without "btn", "chk" and "cbo", parted by commas, "penalties" for the players who pay and the points ("1-3/20").

@@ -72,6 +72,7 @@ void ConsoleWindow::FillBoard(MainForm& form) {
   }
   for (const auto& [control, style] : FittedTextStyles(form)) board_->Add(*control, style);
   board_->Add(form.lblRightWrong);
+  board_->Add(form.lblAnswerClock);
 }
 
 void ConsoleWindow::FillAnswer(MainForm& form, PictureCache&) {
@@ -87,7 +88,7 @@ void ConsoleWindow::HoldUnseen() {
                     // What only measures.
                     "lblQuestionAutoResize", "lblAnswerAutoResize", "lblWinnerResize", "picEntScreen",
                     // They report the game's state to what asks for it; a button that does nothing would only mislead.
-                    "btnCorrect", "btnEnableAllBuzzers", "btnPlayVideo", "btnStopVideo",
+                    "btnCorrect", "btnAnswerClock", "btnEnableAllBuzzers", "btnPlayVideo", "btnStopVideo",
                     // The player's own widget shows it.
                     "MediaPlayer1"});
 }
