@@ -216,9 +216,10 @@ void mnuReconnectMF_Click(Show& show) {
 void mTestK7Controllers_Click(Show& show) {
   show.presses.CommPortNumber = FindZR610Port(show.platform.serial);
   if (show.presses.CommPortNumber >= 0) {
-    const BoxAnswer answer = show.platform.dialogs.MessageBox(
-        "A ZR-610 system has been detected. Would you like to begin using this instead?", kAppTitle,
-        BoxKind::YesNoCancel);
+    const BoxAnswer answer =
+        show.platform.dialogs.Ask({"A ZR-610 system has been detected. Would you like to begin using this instead?",
+                                   BoxKind::YesNoCancel, BoxAnswer::Cancel, "Use It", "Open the Tester", "Cancel"},
+                                  kAppTitle);
     if (answer == BoxAnswer::Yes) LoadMF(show);
     if (answer != BoxAnswer::No) return;
   }

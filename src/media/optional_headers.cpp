@@ -197,8 +197,9 @@ void mnuFileSaveAs_Click(Show& show) {
   const std::string path = show.platform.dialogs.ChooseFile(request);
   if (path.empty()) return;
   if (show.platform.files.CanOpen(path) &&
-      show.platform.dialogs.MessageBox("File already exists. Select Yes to overwrite", kAppTitle, BoxKind::YesNo) !=
-          BoxAnswer::Yes) {
+      show.platform.dialogs.Ask(
+          {"File already exists. Select Yes to overwrite", BoxKind::YesNo, BoxAnswer::No, kReplace, kSpareFile},
+          kAppTitle) != BoxAnswer::Yes) {
     return;
   }
   show.frmOptionalHeaders.FileName = path;

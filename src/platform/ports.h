@@ -62,6 +62,19 @@ class Clock {
 enum class BoxKind { Plain, Critical, YesNoCancel, YesNo, Exclamation };
 enum class BoxAnswer { Ok, Yes, No, Cancel };
 
+// A question whose buttons may say what they do; each word is empty for the plain "Yes", "No" and "Cancel".
+struct BoxQuestion {
+  std::string Text;
+  BoxKind Kind = BoxKind::YesNo;
+  // What loses nothing: it has the focus, and Escape and the close box give it.
+  BoxAnswer Safe = BoxAnswer::No;
+  std::string Yes{}, No{}, Cancel{};
+};
+
+// The words for a file that is about to be replaced.
+inline constexpr const char* kReplace = "Replace";
+inline constexpr const char* kSpareFile = "Keep the Old File";
+
 enum class ModalKind { None, Box, Window };
 
 struct FileDialogRequest {
@@ -82,6 +95,10 @@ class Dialogs {
  public:
   virtual ~Dialogs() = default;
   virtual BoxAnswer MessageBox(const std::string& text, const std::string& title, BoxKind kind) = 0;
+  // The same question with the question's own words on its buttons, where there are buttons to write on.
+  virtual BoxAnswer Ask(const BoxQuestion& question, const std::string& title) {
+    return MessageBox(question.Text, title, question.Kind);
+  }
   // The chosen path, empty when cancelled.
   virtual std::string ChooseFile(const FileDialogRequest& request) = 0;
   // The choice, nothing when cancelled.

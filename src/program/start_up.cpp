@@ -78,8 +78,8 @@ void frmSplash_Click(Show& show) {
 bool Form_QueryUnload(Show& show) {
   Displays& displays = show.platform.displays;
   displays.SetTopMost(show.frmMain, true);
-  const BoxAnswer answer =
-      show.platform.dialogs.MessageBox("Are you sure you want to exit?", kAppTitle, BoxKind::YesNoCancel);
+  const BoxAnswer answer = show.platform.dialogs.Ask(
+      {"Are you sure you want to exit?", BoxKind::YesNoCancel, BoxAnswer::No, "Exit", "Stay"}, kAppTitle);
   displays.SetTopMost(show.frmMain, false);
   return answer == BoxAnswer::Yes;
 }

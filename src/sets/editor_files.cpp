@@ -22,7 +22,8 @@ std::string SetsFolder(const Show& show) { return show.AppPath("\\Trivia Sets");
 
 bool MayOverwrite(Show& show, const std::string& path, const std::string& question) {
   if (!FileExists(show, path)) return true;
-  return show.platform.dialogs.MessageBox(question, kAppTitle, BoxKind::YesNo) == BoxAnswer::Yes;
+  return show.platform.dialogs.Ask({question, BoxKind::YesNo, BoxAnswer::No, kReplace, kSpareFile}, kAppTitle) ==
+         BoxAnswer::Yes;
 }
 
 // The path to save under, in the form that SaveFile gives it; empty after a cancel.
@@ -59,7 +60,9 @@ bool SaveChanges(Show& show) {
 bool SavedFirst(Show& show) {
   if (!show.frmEditor.EditDirty) return true;
   const BoxAnswer answer =
-      show.platform.dialogs.MessageBox("Would you like to save the changes you made?", kAppTitle, BoxKind::YesNoCancel);
+      show.platform.dialogs.Ask({"Would you like to save the changes you made?", BoxKind::YesNoCancel,
+                                 BoxAnswer::Cancel, "Save", "Don't Save", "Go On Editing"},
+                                kAppTitle);
   if (answer == BoxAnswer::Yes) return SaveChanges(show);
   return answer == BoxAnswer::No;
 }

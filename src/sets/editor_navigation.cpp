@@ -24,8 +24,9 @@ void DropBlank(Show& show) {
 bool MayDelete(Show& show) {
   if (IsShownBlank(show) && Trim(ShownRecord(show).AnswerText).empty()) return true;
   const std::string number = std::to_string(show.frmEditor.EditQuestionNumber);
-  return show.platform.dialogs.MessageBox("Would you like to delete question " + number + "?", kAppTitle,
-                                          BoxKind::YesNo) == BoxAnswer::Yes;
+  return show.platform.dialogs.Ask(
+             {"Would you like to delete question " + number + "?", BoxKind::YesNo, BoxAnswer::No, "Delete", "Keep It"},
+             kAppTitle) == BoxAnswer::Yes;
 }
 
 // The only question of a new set isn't counted before Next, and what is being written must not be passed over.

@@ -8,7 +8,7 @@ namespace {
 
 const WordStory kClocks[] = {
     {"Without a time nothing runs", "Trivia C, user advances",
-     "player 2 rings in, btnAnswerClock=off, start the clock, wait 11, lblAnswerClock=-, lblAnswerClock'=-, phase "
+     "player 2 rings in, btnAnswerClock=off, wait 11, lblAnswerClock=-, lblAnswerClock'=-, phase "
      "player 2 answers"},
     {"A ring in starts the seconds on both screens", "Trivia C, 3 s to answer, user advances",
      "lblAnswerClock=-, player 2 rings in, lblAnswerClock=3, lblAnswerClock'=3, wait 0.999, lblAnswerClock'=3, "
@@ -29,7 +29,7 @@ const WordStory kClocks[] = {
      "lblAnswerClock'=3, wait 2, incorrect, lblAnswerClock'=-, wait 5, event=Incorrect.mp3, start the clock, "
      "lblAnswerClock'=3, wait 3, says \"Time is up: PLAYER 2\""},
     {"A pass of the turn takes it down", "Trivia B, 3 s to answer, user advances",
-     "start the clock, next player, lblAnswerClock=-, tmrAnswerClock=off, wait 5, event=Question_Appears.wav"},
+     "start the clock, next player, lblAnswerClock=-, tmrAnswerClock=off, wait 5, says \"Player 2 Selected!\""},
     {"A skip takes it down", "Trivia C, 3 s to answer, user advances",
      "player 1 rings in, skip, lblAnswerClock'=-, wait 5, event=Skip.Wav"},
     {"The end of the game takes it down", "Trivia C, 3 s to answer, user advances",
@@ -41,7 +41,7 @@ const WordStory kClocks[] = {
     {"Standby leaves it running", "Trivia C, 5 s to answer, user advances",
      "player 1 rings in, hide, wait 3, show, lblAnswerClock'=2"},
     {"A challenge has none", "Challenge A, 5 s to answer",
-     "start the clock, lblAnswerClock=-, claim A1, btnAnswerClock=off, cboTimedResponse=-"},
+     "btnAnswerClock=off, claim A1, btnAnswerClock=off, wait 6, lblAnswerClock=-"},
 };
 
 using AnswerClockStory = WordStoryTest;

@@ -1,5 +1,6 @@
 #include "desktop/system/qt_dialogs.h"
 
+#include <QAbstractButton>
 #include <QApplication>
 #include <QColorDialog>
 #include <QDir>
@@ -8,6 +9,7 @@
 #include <QFontDialog>
 #include <QFontInfo>
 #include <QMessageBox>
+#include <tuple>
 
 #include "desktop/files/native_path.h"
 #include "desktop/files/windows_1252.h"
@@ -26,6 +28,32 @@ QMessageBox::StandardButtons ButtonsOf(BoxKind kind) {
       return QMessageBox::Yes | QMessageBox::No;
     default:
       return QMessageBox::Ok;
+  }
+}
+
+QMessageBox::Icon IconOf(BoxKind kind) {
+  if (kind == BoxKind::Exclamation) return QMessageBox::Warning;
+  if (kind == BoxKind::Critical) return QMessageBox::Critical;
+  return kind == BoxKind::Plain ? QMessageBox::NoIcon : QMessageBox::Question;
+}
+
+// The question's own words, and the focus on what loses nothing. Of two buttons that would do the same one is enough:
+// the one without a word goes.
+void WriteButtons(QMessageBox& box, const BoxQuestion& question) {
+  const bool worded = !question.Yes.empty();
+  for (const auto& [button, word, answer] : {std::tuple(QMessageBox::Yes, question.Yes, BoxAnswer::Yes),
+                                             std::tuple(QMessageBox::No, question.No, BoxAnswer::No),
+                                             std::tuple(QMessageBox::Cancel, question.Cancel, BoxAnswer::Cancel)}) {
+    QAbstractButton* view = box.button(button);
+    if (view == nullptr) continue;
+    if (worded && word.empty()) {
+      box.removeButton(view);
+      continue;
+    }
+    if (worded) view->setText(Unescape(word));
+    if (answer != question.Safe) continue;
+    box.setDefaultButton(button);
+    box.setEscapeButton(button);
   }
 }
 
@@ -72,16 +100,21 @@ QString FilterList(const std::string& filter) {
 }
 
 BoxAnswer QtDialogs::MessageBox(const std::string& text, const std::string& title, BoxKind kind) {
+  return Ask({text, kind, AnswerOf(QMessageBox::NoButton, kind)}, title);
+}
+
+BoxAnswer QtDialogs::Ask(const BoxQuestion& question, const std::string& title) {
   QMessageBox box(QApplication::activeWindow());
-  box.setWindowFlag(Qt::WindowStaysOnTopHint);
+  // Nothing to minimise: a question that is out of sight would hold the show.
+  box.setWindowFlags(Qt::Dialog | Qt::CustomizeWindowHint | Qt::WindowTitleHint | Qt::WindowCloseButtonHint |
+                     Qt::WindowStaysOnTopHint);
   box.setWindowTitle(Unescape(title));
   box.setTextFormat(Qt::PlainText);
-  box.setText(Unescape(text).replace("\r\n", "\n"));
-  if (kind == BoxKind::Exclamation) box.setIcon(QMessageBox::Warning);
-  if (kind == BoxKind::Critical) box.setIcon(QMessageBox::Critical);
-  if (kind == BoxKind::YesNo || kind == BoxKind::YesNoCancel) box.setIcon(QMessageBox::Question);
-  box.setStandardButtons(ButtonsOf(kind));
-  return AnswerOf(box.exec(), kind);
+  box.setText(Unescape(question.Text).replace("\r\n", "\n"));
+  box.setIcon(IconOf(question.Kind));
+  box.setStandardButtons(ButtonsOf(question.Kind));
+  WriteButtons(box, question);
+  return AnswerOf(box.exec(), question.Kind);
 }
 
 std::string QtDialogs::ChooseFile(const FileDialogRequest& request) {

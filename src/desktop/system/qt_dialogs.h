@@ -12,6 +12,7 @@ class QtDialogs : public Dialogs {
  public:
   explicit QtDialogs(const FormWindows& windows) : windows_(windows) {}
   BoxAnswer MessageBox(const std::string& text, const std::string& title, BoxKind kind) override;
+  BoxAnswer Ask(const BoxQuestion& question, const std::string& title) override;
   std::string ChooseFile(const FileDialogRequest& request) override;
   std::optional<Font> ChooseFont(const Font& start) override;
   std::optional<Color> ChooseColor(Color start) override;
