@@ -6,6 +6,7 @@
 #include <QVBoxLayout>
 #include <algorithm>
 #include <cmath>
+#include <ranges>
 
 #include "desktop/media/film.h"
 #include "desktop/media/mpv_video.h"
@@ -205,8 +206,8 @@ QRectF Canvas::FillRect(const Item& item) const {
 }
 
 Control* Canvas::At(const QPoint& point) const {
-  for (auto it = order_.rbegin(); it != order_.rend(); ++it) {
-    Control& control = (*it)->control;
+  for (const Item* item : std::views::reverse(order_)) {
+    Control& control = item->control;
     const bool touchable = control.Kind() != ControlKind::Label || control.OnDblClick || control.OnClick;
     if (touchable && control.IsShown() && PixelRect(control).contains(point)) return &control;
   }
