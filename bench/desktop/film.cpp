@@ -11,6 +11,7 @@
 
 #include "counted_film.h"
 #include "desktop/files/native_path.h"
+#include "desktop/windows/audience_window.h"
 #include "figures.h"
 #include "forms/main_form.h"
 #include "media/media_on_demand.h"

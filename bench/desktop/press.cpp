@@ -9,6 +9,8 @@
 #include "controllers/ring_in.h"
 #include "desktop/desktop_program.h"
 #include "desktop/files/native_path.h"
+#include "desktop/windows/audience_window.h"
+#include "desktop/windows/console_window.h"
 #include "figures.h"
 #include "forms/main_form.h"
 #include "program/detection.h"

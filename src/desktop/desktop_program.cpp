@@ -9,6 +9,19 @@
 #endif
 
 #include "desktop/painting/text_layout.h"
+#include "desktop/windows/audience_window.h"
+#include "desktop/windows/config_keys_window.h"
+#include "desktop/windows/connect_to_projector_window.h"
+#include "desktop/windows/console_window.h"
+#include "desktop/windows/editor_window.h"
+#include "desktop/windows/help_about_window.h"
+#include "desktop/windows/help_key.h"
+#include "desktop/windows/optional_headers_window.h"
+#include "desktop/windows/options_window.h"
+#include "desktop/windows/player_names_window.h"
+#include "desktop/windows/press_windows.h"
+#include "desktop/windows/small_windows.h"
+#include "desktop/windows/sound_effects_window.h"
 #include "forms/config_keys_form.h"
 #include "forms/connect_to_projector_form.h"
 #include "forms/editor_form.h"
@@ -42,30 +55,57 @@ void KeepMemoryFlat() {
 
 }  // namespace
 
+struct DesktopProgram::AllWindows {
+  AllWindows(DesktopPlatform& desktop, Show& show);
+
+  ConsoleWindow Console;
+  AudienceWindow Audience;
+  ConnectToProjectorWindow ConnectToProjector;
+  LoadingWindow Loading;
+  SplashWindow Splash;
+  GameLoadingWindow GameLoading;
+  GameInProgressWindow GameInProgress;
+  GameTypeHelpWindow GameTypeHelp;
+  PlayerNamesWindow PlayerNames;
+  HelpAboutWindow HelpAbout;
+  ConfigKeysWindow ConfigKeys;
+  EditorWindow Editor;
+  EditChoiceWindow EditChoice;
+  MissingMediaWindow MissingMedia;
+  SoundEffectsWindow SoundEffects;
+  OptionalHeadersWindow OptionalHeaders;
+  OptionsWindow Options;
+  MapMFWindow MapMF;
+  SetInterfaceWindow SetInterface;
+  HelpKey Help;
+};
+
+DesktopProgram::AllWindows::AllWindows(DesktopPlatform& desktop, Show& show)
+    : Console(show.frmMain, desktop.windows, desktop.pictures, desktop.screens, desktop.mediaPlayer1),
+      Audience(show.frmFSMain, show.frmSS, desktop.windows, desktop.pictures, desktop.screens, desktop.mediaPlayer1),
+      ConnectToProjector(show.frmConnectToProjector, desktop.windows, desktop.pictures),
+      Loading(show.frmLoading, desktop.windows),
+      Splash(show.frmSplash, desktop.windows, desktop.screens),
+      GameLoading(show.frmGameLoading, desktop.windows),
+      GameInProgress(show.frmGameInProgress, desktop.windows),
+      GameTypeHelp(show.frmGameTypeHelp, desktop.windows),
+      PlayerNames(show.frmPlayerNames, desktop.windows),
+      HelpAbout(show.frmHelpAbout, desktop.windows),
+      ConfigKeys(show.frmConfigKeys, desktop.windows),
+      Editor(show.frmEditor, desktop.windows, desktop.pictures),
+      EditChoice(show.frmEditChoice, desktop.windows),
+      MissingMedia(show.frmDialog2, desktop.windows),
+      SoundEffects(show.frmSoundEffects, desktop.windows),
+      OptionalHeaders(show.frmOptionalHeaders, desktop.windows),
+      Options(show.frmOptions, desktop.windows),
+      MapMF(show.frmMapMF, desktop.windows),
+      SetInterface(show.frmSetInterface, desktop.windows),
+      Help(show) {}
+
 DesktopProgram::DesktopProgram(const DesktopPlaces& places)
-    : desktop_(places, [this] { console_.ComeForward(); }),
+    : desktop_(places, [this] { windows_->Console.ComeForward(); }),
       show_(desktop_.platform),
-      console_(show_.frmMain, desktop_.windows, desktop_.pictures, desktop_.screens, desktop_.mediaPlayer1),
-      audience_(show_.frmFSMain, show_.frmSS, desktop_.windows, desktop_.pictures, desktop_.screens,
-                desktop_.mediaPlayer1),
-      connectToProjector_(show_.frmConnectToProjector, desktop_.windows, desktop_.pictures),
-      loading_(show_.frmLoading, desktop_.windows),
-      splash_(show_.frmSplash, desktop_.windows, desktop_.screens),
-      gameLoading_(show_.frmGameLoading, desktop_.windows),
-      gameInProgress_(show_.frmGameInProgress, desktop_.windows),
-      gameTypeHelp_(show_.frmGameTypeHelp, desktop_.windows),
-      playerNames_(show_.frmPlayerNames, desktop_.windows),
-      helpAbout_(show_.frmHelpAbout, desktop_.windows),
-      configKeys_(show_.frmConfigKeys, desktop_.windows),
-      editor_(show_.frmEditor, desktop_.windows, desktop_.pictures),
-      editChoice_(show_.frmEditChoice, desktop_.windows),
-      missingMedia_(show_.frmDialog2, desktop_.windows),
-      soundEffects_(show_.frmSoundEffects, desktop_.windows),
-      optionalHeaders_(show_.frmOptionalHeaders, desktop_.windows),
-      options_(show_.frmOptions, desktop_.windows),
-      mapMF_(show_.frmMapMF, desktop_.windows),
-      setInterface_(show_.frmSetInterface, desktop_.windows),
-      helpKey_(show_) {}
+      windows_(std::make_unique<AllWindows>(desktop_, show_)) {}
 
 // The clock, the serial line and the watch over the devices outlive the forms, whose timers must not be looked at any
 // more.
@@ -76,11 +116,17 @@ DesktopProgram::~DesktopProgram() {
   for (Form* form : AllForms(show_)) desktop_.clock.Detach(*form);
 }
 
+ConsoleWindow& DesktopProgram::Console() { return windows_->Console; }
+
+AudienceWindow& DesktopProgram::Audience() { return windows_->Audience; }
+
 std::vector<FormWindow*> DesktopProgram::Windows() {
-  return {&console_,        &audience_,     &connectToProjector_, &loading_,         &splash_,     &gameLoading_,
-          &gameInProgress_, &gameTypeHelp_, &playerNames_,        &helpAbout_,       &configKeys_, &editor_,
-          &editChoice_,     &missingMedia_, &soundEffects_,       &optionalHeaders_, &options_,    &mapMF_,
-          &setInterface_};
+  AllWindows& all = *windows_;
+  return {&all.Console,     &all.Audience,     &all.ConnectToProjector, &all.Loading,
+          &all.Splash,      &all.GameLoading,  &all.GameInProgress,     &all.GameTypeHelp,
+          &all.PlayerNames, &all.HelpAbout,    &all.ConfigKeys,         &all.Editor,
+          &all.EditChoice,  &all.MissingMedia, &all.SoundEffects,       &all.OptionalHeaders,
+          &all.Options,     &all.MapMF,        &all.SetInterface};
 }
 
 void NameApplication() {

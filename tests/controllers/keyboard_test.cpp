@@ -4,6 +4,7 @@
 #include <algorithm>
 #include <memory>
 
+#include "forms/main_form.h"
 #include "outward/shared_key.h"
 #include "show/settings.h"
 #include "show/settings_table.h"

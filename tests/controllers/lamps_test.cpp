@@ -2,6 +2,7 @@
 
 #include <gtest/gtest.h>
 
+#include "forms/main_form.h"
 #include "support/show_fixture.h"
 
 namespace pawnfield {

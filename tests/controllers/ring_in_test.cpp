@@ -3,6 +3,8 @@
 
 #include <algorithm>
 
+#include "forms/fs_main_form.h"
+#include "forms/main_form.h"
 #include "support/game_player.h"
 
 namespace pawnfield {

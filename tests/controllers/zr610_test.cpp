@@ -3,6 +3,7 @@
 
 #include <gmock/gmock.h>
 
+#include "forms/main_form.h"
 #include "forms/press_forms.h"
 #include "support/game_player.h"
 

@@ -22,6 +22,8 @@
 #include "desktop/system/qt_printing.h"
 #include "desktop/windows/set_text_edit.h"
 #include "editor_driver.h"
+#include "forms/fs_main_form.h"
+#include "forms/main_form.h"
 #include "show_suite.h"
 
 namespace pawnfield {

@@ -4,6 +4,8 @@
 #include <QComboBox>
 
 #include "desktop/files/windows_1252.h"
+#include "desktop/windows/audience_window.h"
+#include "forms/fs_main_form.h"
 #include "places.h"
 #include "show_suite.h"
 

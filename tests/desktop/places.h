@@ -9,7 +9,7 @@
 
 #include "desktop/desktop_program.h"
 #include "desktop/files/native_path.h"
-#include "forms/main_form.h"
+#include "desktop/windows/console_window.h"
 
 namespace pawnfield {
 

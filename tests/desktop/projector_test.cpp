@@ -6,6 +6,10 @@
 #include <QScreen>
 #include <QTimer>
 
+#include "desktop/windows/audience_window.h"
+#include "desktop/windows/console_window.h"
+#include "forms/fs_main_form.h"
+#include "forms/main_form.h"
 #include "forms/second_screen_form.h"
 #include "show_suite.h"
 

@@ -8,8 +8,6 @@
 #include <QTemporaryDir>
 #include <QTest>
 
-#include "forms/fs_main_form.h"
-#include "forms/main_form.h"
 #include "show_driver.h"
 
 namespace pawnfield {

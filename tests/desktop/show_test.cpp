@@ -7,6 +7,10 @@
 #include <QTimer>
 #include <QWindow>
 
+#include "desktop/windows/audience_window.h"
+#include "desktop/windows/console_window.h"
+#include "forms/fs_main_form.h"
+#include "forms/main_form.h"
 #include "forms/player_names_form.h"
 #include "show_suite.h"
 

@@ -12,6 +12,7 @@
 #include <QTemporaryDir>
 #include <cstdio>
 
+#include "desktop/windows/audience_window.h"
 #include "forms/fs_main_form.h"
 #include "forms/main_form.h"
 #include "show_driver.h"

@@ -10,10 +10,12 @@
 #include <QToolTip>
 #include <QWindow>
 
+#include "desktop/windows/audience_window.h"
 #include "desktop/windows/bindings.h"
 #include "desktop/windows/fitting_scale.h"
 #include "desktop/windows/model_widgets.h"
 #include "forms/fs_main_form.h"
+#include "forms/main_form.h"
 #include "forms/small_forms.h"
 #include "forms/sound_effects_form.h"
 #include "places.h"

@@ -1,5 +1,6 @@
 // The seconds to answer in, as they run on both screens.
 #include "data/game_state.h"
+#include "forms/main_form.h"
 #include "show/phase.h"
 #include "support/operator_words.h"
 

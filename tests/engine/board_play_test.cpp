@@ -1,6 +1,7 @@
 // A claim from the click to the resting piece, tick by tick, and the cycle that follows it.
 #include "engine/board_play.h"
 
+#include "forms/fs_main_form.h"
 #include "support/game_player.h"
 
 namespace pawnfield {

@@ -1,4 +1,5 @@
 // What goes wrong with files in mid-show is told once, and the show runs on.
+#include "forms/main_form.h"
 #include "forms/missing_media_form.h"
 #include "program/program.h"
 #include "support/seen.h"

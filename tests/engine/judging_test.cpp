@@ -1,4 +1,5 @@
 // Verdicts, points, skip and undo, by presses on the console.
+#include "forms/main_form.h"
 #include "presentation/both_screens.h"
 #include "support/game_player.h"
 

@@ -1,4 +1,5 @@
 // The names dialog: what fills it, what OK takes and Cancel leaves, and its two spellings of every heading.
+#include "forms/main_form.h"
 #include "forms/player_names_form.h"
 #include "support/game_player.h"
 

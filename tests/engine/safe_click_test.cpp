@@ -2,6 +2,7 @@
 #include "engine/safe_click.h"
 
 #include "engine/undo_text.h"
+#include "forms/main_form.h"
 #include "support/game_player.h"
 
 namespace pawnfield {

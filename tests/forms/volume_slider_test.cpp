@@ -1,4 +1,5 @@
 // The slider's arithmetic, and a slider dragged and stepped in virtual time.
+#include "forms/main_form.h"
 #include "forms/options_form.h"
 #include "support/show_fixture.h"
 

@@ -2,6 +2,7 @@
 // 50 and a line 50 more unless a row says otherwise; an anti-diagonal pays 200 for three.
 #include "forms/editor_form.h"
 #include "forms/fs_main_form.h"
+#include "forms/main_form.h"
 #include "forms/small_forms.h"
 #include "support/game_player.h"
 

@@ -6,6 +6,7 @@
 #include "desktop/devices/hidapi_port.h"
 #include "devices/packing.h"
 #include "devices/transceiver.h"
+#include "forms/main_form.h"
 #include "hidraw/uhid_device.h"
 #include "support/show_fixture.h"
 

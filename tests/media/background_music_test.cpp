@@ -1,5 +1,6 @@
 #include "media/background_music.h"
 
+#include "forms/main_form.h"
 #include "forms/options_form.h"
 #include "media/sound_channels.h"
 #include "support/show_fixture.h"

@@ -2,6 +2,8 @@
 
 #include <sstream>
 
+#include "forms/fs_main_form.h"
+#include "forms/main_form.h"
 #include "support/seen.h"
 #include "support/show_fixture.h"
 

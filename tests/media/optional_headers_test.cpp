@@ -2,6 +2,8 @@
 
 #include <gmock/gmock.h>
 
+#include "forms/fs_main_form.h"
+#include "forms/main_form.h"
 #include "forms/optional_headers_form.h"
 #include "media/header_file.h"
 #include "support/game_player.h"

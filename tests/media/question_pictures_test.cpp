@@ -2,6 +2,8 @@
 
 #include <gmock/gmock.h>
 
+#include "forms/fs_main_form.h"
+#include "forms/main_form.h"
 #include "presentation/audience_step.h"
 #include "presentation/both_screens.h"
 #include "presentation/picture_question.h"

@@ -1,5 +1,6 @@
 #include "media/sound_effects.h"
 
+#include "forms/main_form.h"
 #include "forms/sound_effects_form.h"
 #include "media/sound_table.h"
 #include "support/game_player.h"

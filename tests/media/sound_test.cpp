@@ -1,5 +1,6 @@
 #include <gmock/gmock.h>
 
+#include "forms/main_form.h"
 #include "media/sound_channels.h"
 #include "media/sound_table.h"
 #include "show/settings.h"

@@ -1,8 +1,10 @@
 // The audience screen on its monitor: where it goes, how it comes and goes with a cable, and that it is in step.
 #include "presentation/audience_screen.h"
 
+#include "forms/fs_main_form.h"
 #include "forms/second_screen_form.h"
 #include "presentation/monitors.h"
+#include "program/program.h"
 #include "support/game_player.h"
 #include "support/screen_pairs.h"
 
@@ -14,11 +16,6 @@ using Names = std::vector<std::string>;
 const std::vector<MonitorInfo> kOne{{0, 0, 1280, 800}};
 const std::vector<MonitorInfo> kTwo{{0, 0, 1280, 800}, {1280, 0, 3200, 1080}};
 const std::vector<MonitorInfo> kLeft{{0, 0, 1280, 800}, {-1920, 0, 0, 1080}};
-
-void Exit(ShowFixture& fixture) {
-  fixture.sim.dialogs.ExpectMessage("Are you sure you want to exit?", BoxAnswer::Yes);
-  fixture.form().mnuFileExit.Click();
-}
 
 TEST(Monitors, AreCountedFromOneAndTheAudienceStandsOnTheSecond) {
   struct Row {
@@ -38,7 +35,7 @@ TEST(Monitors, AreCountedFromOneAndTheAudienceStandsOnTheSecond) {
     EXPECT_EQ(MonitorRect(fixture.show(), 4).Right, 0);
     EXPECT_EQ(fixture.audience().Left, second ? row.fsLeft : 0);
     EXPECT_EQ(fixture.sim.displays.TopMost.size(), second ? 1u : 0u);
-    Exit(fixture);
+    fixture.Exit();
     EXPECT_FALSE(fixture.show().frmSS.Visible);
     EXPECT_EQ(fixture.sim.settings.GetSetting("Pawnfield", "Settings", "SecondaryLeft", "none"), row.leftAtExit);
   }
@@ -55,7 +52,7 @@ TEST(AudienceScreen, GoesWithItsMonitorAndComesBackInStep) {
   EXPECT_TRUE(fixture.show().frmSS.Visible);
   EXPECT_EQ(fixture.show().frmSS.Left, -28800);
   EXPECT_EQ(fixture.audience().Left, -28800);
-  EXPECT_NE(fixture.form().lblStatusBar.Caption.Get(), "Audience screen lost");
+  EXPECT_NE(fixture.StatusBar().Caption.Get(), "Audience screen lost");
   EXPECT_EQ(UnlikePairs(fixture.show()), Names());
 }
 
@@ -142,7 +139,7 @@ TEST(AudienceScreen, SleepIsHeldOffFromStartToStandbyAndExit) {
     awake += player.fixture().sim.displays.Awake ? '1' : '0';
   }
   EXPECT_EQ(awake, "0101");
-  Exit(player.fixture());
+  player.fixture().Exit();
   EXPECT_FALSE(player.fixture().sim.displays.Awake);
 }
 

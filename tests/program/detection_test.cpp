@@ -49,7 +49,7 @@ TEST(Detection, EachKindOfHardwareAtTheStart) {
     fixture.Start();
     EXPECT_EQ(fixture.show().state.SerialComm, serialComm);
     EXPECT_EQ(fixture.show().dgTransceiver->Ready(), opened);
-    EXPECT_EQ(fixture.form().lblStatusBar.Caption == "System Initialized", serialComm == InterfaceCode::Wireless);
+    EXPECT_EQ(fixture.StatusBar().Caption == "System Initialized", serialComm == InterfaceCode::Wireless);
   }
   ShowFixture pads;
   pads.sim.hid.PlugTransceiver();
@@ -57,9 +57,9 @@ TEST(Detection, EachKindOfHardwareAtTheStart) {
   pads.sim.serial.FailNextOpen = kErrorInvalidPort;
   pads.sim.dialogs.ExpectMessage("Error Number: 8002");
   pads.Start();
-  EXPECT_EQ(pads.form().lblStatusBar.Caption, "ZR-610 System initialized") << "looked for first, and told";
+  EXPECT_EQ(pads.StatusBar().Caption, "ZR-610 System initialized") << "looked for first, and told";
   EXPECT_EQ(pads.show().state.SerialComm, InterfaceCode::OutOfRange) << "left as it was";
-  EXPECT_TRUE(pads.form().Visible);
+  EXPECT_TRUE(IsFormVisible(pads.show(), "frmMain"));
 }
 
 TEST(InterfaceFile, IsReadFieldByFieldAndWrittenAtTheExit) {

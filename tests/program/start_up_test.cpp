@@ -3,6 +3,8 @@
 
 #include <gmock/gmock.h>
 
+#include "forms/fs_main_form.h"
+#include "forms/main_form.h"
 #include "forms/second_screen_form.h"
 #include "forms/small_forms.h"
 #include "program/handlers.h"

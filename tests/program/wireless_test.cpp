@@ -19,7 +19,7 @@ class WirelessEvening {
     sim.hid.PlugTransceiver(kTransceiverShort);
     sim.devices.Notify();
   }
-  std::string Status() { return player.form().lblStatusBar.Caption; }
+  std::string Status() { return player.fixture().StatusBar().Caption; }
 
   GamePlayer player;
   SimPlatform& sim = player.fixture().sim;
@@ -31,7 +31,7 @@ TEST(WirelessEvening, PulledAmidAQuestionItIsMissedOnceAndBackByItself) {
   evening.sim.hid.Reports.push_back({'\0', '\0', '\3'});
   evening.Pull();
   EXPECT_EQ(evening.Status(), "Wireless transceiver lost");
-  evening.player.form().lblStatusBar.Caption = "";
+  evening.player.fixture().StatusBar().Caption = "";
   // The system reports other devices too, and the show goes on by hand.
   evening.sim.devices.Notify();
   evening.player.Play(">3000 turn=0 keys:3 turn=3 -");

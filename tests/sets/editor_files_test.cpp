@@ -1,6 +1,7 @@
 #include "engine/game_flow.h"
 #include "engine/question_cycle.h"
 #include "forms/editor_form.h"
+#include "forms/main_form.h"
 #include "platform/large_file.h"
 #include "sets/missing_media.h"
 #include "support/editor_fixture.h"

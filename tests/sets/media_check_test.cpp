@@ -1,6 +1,7 @@
 // What is said of a set's pictures and sounds when the set is loaded.
 #include "sets/media_check.h"
 
+#include "forms/main_form.h"
 #include "support/show_fixture.h"
 
 namespace pawnfield {

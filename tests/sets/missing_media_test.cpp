@@ -1,5 +1,6 @@
 #include "sets/missing_media.h"
 
+#include "forms/main_form.h"
 #include "forms/missing_media_form.h"
 #include "sets/set_file.h"
 #include "support/show_fixture.h"

@@ -4,6 +4,7 @@
 
 #include <algorithm>
 
+#include "forms/main_form.h"
 #include "platform/large_file.h"
 #include "support/show_fixture.h"
 

@@ -160,7 +160,7 @@ TEST(SettingsAtStart, OneBoxListsWhatCannotBeReadAndWhatStandsInstead) {
   EXPECT_EQ((std::array{state.Routing[7], state.Routing[2], static_cast<int>(state.GameType),
                         state.BackgroundPlayerVolume, state.ScreenFonts[3].FontSize, state.Scoring}),
             (std::array{7, 9, static_cast<int>(GameMode::TriviaC), 33, 44, 5}));
-  EXPECT_TRUE(fixture.form().Visible);
+  EXPECT_TRUE(IsFormVisible(fixture.show(), "frmMain"));
   EXPECT_TRUE(fixture.sim.settings.Writes.empty()) << "what can't be read stays for whoever can";
 }
 

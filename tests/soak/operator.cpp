@@ -1,6 +1,7 @@
 #include "soak/operator.h"
 
 #include "engine/win_detection.h"
+#include "forms/main_form.h"
 #include "media/background_music.h"
 
 namespace pawnfield {

@@ -4,7 +4,7 @@
 
 #include <string>
 
-#include "forms/main_form.h"
+#include "platform/controls.h"
 #include "show/show.h"
 
 namespace pawnfield {

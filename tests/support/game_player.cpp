@@ -6,6 +6,8 @@
 #include <sstream>
 
 #include "devices/transceiver.h"
+#include "forms/fs_main_form.h"
+#include "forms/main_form.h"
 #include "program/handlers.h"
 #include "support/screen_pairs.h"
 #include "support/seen.h"
@@ -44,7 +46,7 @@ std::string FileName(const std::string& path) { return path.substr(path.rfind('\
 
 }  // namespace
 
-GamePlayer::GamePlayer(const std::string& setup, Screens monitors) : fixture_(monitors) {
+GamePlayer::GamePlayer(const std::string& setup, Screens monitors) : fixture_(monitors), shown_(&fixture_.form()) {
   int type = 0, players = 0, grid = 0;
   std::string ending, options;
   std::istringstream in(setup);

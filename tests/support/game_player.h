@@ -4,7 +4,6 @@
 #include <ostream>
 #include <string>
 
-#include "forms/main_form.h"
 #include "support/show_fixture.h"
 
 namespace pawnfield {
@@ -55,7 +54,7 @@ class GamePlayer {
 
   ShowFixture fixture_;
   // The form that steps go to.
-  Form* shown_ = &fixture_.form();
+  Form* shown_;
   bool wired_ = false;
   std::string played_;
 };

@@ -6,6 +6,8 @@
 #include <QTest>
 #include <QTimer>
 
+#include "desktop/windows/form_window.h"
+
 namespace pawnfield {
 
 namespace {

@@ -2,6 +2,7 @@
 
 #include <QTextStream>
 
+#include "desktop/windows/audience_window.h"
 #include "engine/question_cycle.h"
 #include "engine/win_detection.h"
 #include "forms/fs_main_form.h"

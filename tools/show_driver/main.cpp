@@ -12,6 +12,7 @@
 
 #include "desktop/files/native_path.h"
 #include "desktop/windows/fitting_scale.h"
+#include "desktop/windows/form_window.h"
 #include "editor_driver.h"
 #include "forms/fs_main_form.h"
 #include "forms/main_form.h"

@@ -14,6 +14,8 @@
 
 #include "desktop/files/native_path.h"
 #include "desktop/files/user_copy.h"
+#include "desktop/windows/audience_window.h"
+#include "desktop/windows/console_window.h"
 #include "desktop/windows/model_widgets.h"
 #include "forms/fs_main_form.h"
 #include "forms/main_form.h"

@@ -9,6 +9,8 @@
 
 namespace pawnfield {
 
+class Canvas;
+
 // All that the program writes, below one folder, with a copy of the assets of the source tree to work on.
 DesktopPlaces PlacesBelow(const QString& folder);
 

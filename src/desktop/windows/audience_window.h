@@ -5,8 +5,6 @@
 #include "desktop/painting/board_items.h"
 #include "desktop/system/screens.h"
 #include "desktop/windows/form_window.h"
-#include "forms/fs_main_form.h"
-#include "forms/second_screen_form.h"
 
 namespace pawnfield {
 

@@ -2,7 +2,6 @@
 #pragma once
 
 #include "desktop/windows/form_window.h"
-#include "forms/config_keys_form.h"
 
 namespace pawnfield {
 

@@ -3,7 +3,6 @@
 
 #include "desktop/painting/canvas.h"
 #include "desktop/windows/form_window.h"
-#include "forms/connect_to_projector_form.h"
 
 namespace pawnfield {
 

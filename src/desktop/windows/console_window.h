@@ -4,7 +4,6 @@
 #include "desktop/painting/canvas.h"
 #include "desktop/system/screens.h"
 #include "desktop/windows/form_window.h"
-#include "forms/main_form.h"
 
 namespace pawnfield {
 

@@ -3,8 +3,6 @@
 
 #include "desktop/painting/canvas.h"
 #include "desktop/windows/form_window.h"
-#include "forms/editor_form.h"
-#include "forms/missing_media_form.h"
 
 class QHBoxLayout;
 class QVBoxLayout;

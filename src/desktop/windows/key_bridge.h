@@ -3,8 +3,6 @@
 
 #include <QObject>
 
-#include "forms/main_form.h"
-
 class QKeyEvent;
 class QWidget;
 

@@ -2,7 +2,6 @@
 #pragma once
 
 #include "desktop/windows/form_window.h"
-#include "forms/player_names_form.h"
 
 namespace pawnfield {
 

@@ -3,7 +3,6 @@
 
 #include "desktop/system/screens.h"
 #include "desktop/windows/form_window.h"
-#include "forms/small_forms.h"
 
 namespace pawnfield {
 

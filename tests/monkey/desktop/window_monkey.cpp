@@ -10,6 +10,8 @@
 #include <algorithm>
 
 #include "desktop/files/windows_1252.h"
+#include "desktop/windows/audience_window.h"
+#include "desktop/windows/console_window.h"
 #include "forms/main_form.h"
 #include "monkey/random_world.h"
 #include "program/program.h"

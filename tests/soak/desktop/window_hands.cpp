@@ -6,7 +6,9 @@
 #include <QTimer>
 #include <cctype>
 
+#include "desktop/windows/audience_window.h"
 #include "desktop/windows/binder.h"
+#include "desktop/windows/console_window.h"
 
 namespace pawnfield {
 
