@@ -10,8 +10,8 @@ namespace {
 using Pages = std::vector<std::string>;
 
 TEST(Help, EveryEntryOpensItsPageWhileAGameRunsTooAndTheAboutBoxClosesFirst) {
-  GamePlayer player("1 2 3 row");
-  player.Play("mnuHelpManual mnuHelpDocumentation mnuHelpSupport mnuHelpAbout@frmHelpAbout { btnLicence }");
+  GamePlayer player("Challenge A, 2 players, Finish Row");
+  player.Do("press Manual, press Documentation, press Support, at the about box: press Licence");
   const HelpAboutForm& about = player.show().frmHelpAbout;
   EXPECT_FALSE(about.Visible);
   EXPECT_EQ(player.fixture().sim.pages.Opened,

@@ -9,8 +9,8 @@ const std::string kSong = "C:\\Shows\\clip.WAV";
 
 class Options : public GamePlayer, public testing::Test {
  protected:
-  Options() : GamePlayer("5 3 3 full mi") {}
-  void Open(const std::string& script) { Play("mnuFileOptions@frmOptions { " + script + " }"); }
+  Options() : GamePlayer("Trivia C, user advances, not started") {}
+  void Open(const std::string& words) { Do("at the options: " + words); }
   std::string Music() {
     return std::to_string(state.BackgroundMusic) + (state.MusicEnabled ? " on" : " off") +
            (state.BgMusicFileName.empty() ? "" : " song");
@@ -26,12 +26,13 @@ TEST_F(Options, OkAppliesAndClosesApplyOnlyAppliesAndCancelKeepsTheRest) {
   // The companion's switch and the file's name are taken at once.
   const std::string cancelled = "1,20 hold 5 - companion music 0 off song";
   for (const auto& [end, wanted] :
-       {std::pair{"btnCancel", cancelled}, {"btnOK", applied}, {"btnApply btnApply=off btnCancel", applied}}) {
+       {std::pair{"Cancel", cancelled}, {"OK", applied}, {"Apply; Apply is off; press Cancel", applied}}) {
     state = {};
     for (int n = 1; n <= 20; ++n) state.Routing[static_cast<std::size_t>(n)] = n;
     options.chkFullScreenGameBoard.Value = 0;
-    Open("cboRouting(0):2 cboRouting(19):0 file:" + kSong +
-         " btnBGMusic optBackgroundMusic(2) cboMODPictureTmr:15 chkFullScreenGameBoard chkTSSupport " + end);
+    Open("choose entry 2 of routing 1; choose entry 0 of routing 20; file " + kSong +
+         "; press Browse; press One File; choose entry 15 of picture time; press Full Screen; press Companion; press " +
+         end);
     EXPECT_EQ(std::to_string(state.Routing[1]) + "," + std::to_string(state.Routing[20]) + " hold " +
                   std::to_string(state.MODPictureTimer) + (state.FullScreenGameBoard ? " full" : " -") +
                   (state.TSSupport ? " companion music " : " - music ") + Music(),
@@ -42,12 +43,12 @@ TEST_F(Options, OkAppliesAndClosesApplyOnlyAppliesAndCancelKeepsTheRest) {
 
 TEST_F(Options, OnlyAChangeOffersApply) {
   for (const std::string change :
-       {"cboRouting(7):3", "cboMODPictureTmr:1", "optBackgroundMusic(1)", "chkFullScreenGameBoard",
-        "btnRoutingDefaults", "file:C:\\Shows\\clip.WAV btnBGMusic"}) {
-    Open("btnApply=off " + change + " btnApply=on btnCancel");
+       {"choose entry 3 of routing 8", "choose entry 1 of picture time", "press Whole Folder", "press Full Screen",
+        "press Defaults", "file C:\\Shows\\clip.WAV; press Browse"}) {
+    Open("Apply is off; " + change + "; Apply is on; press Cancel");
   }
   // No file chosen, and the switch that is taken at once.
-  Open("file: btnBGMusic chkTSSupport btnApply=off btnCancel");
+  Open("file none; press Browse; press Companion; Apply is off; press Cancel");
 }
 
 TEST_F(Options, DialogOpensWithWhatRunsNowAndDefaultsPutEachBuzzerBack) {
@@ -58,8 +59,8 @@ TEST_F(Options, DialogOpensWithWhatRunsNowAndDefaultsPutEachBuzzerBack) {
   state.BackgroundMusic = 7;
   state.BgMusicFileName = "C:\\Music\\Gone.mp3";
   Open(
-      "cboRouting(4)=17 cboMODPictureTmr=12 chkTSSupport=1 optBackgroundMusic(0)=1 lblBackgroundMusic= "
-      "btnRoutingDefaults btnOK");
+      "routing 5 is 17; picture time is 12; Companion is 1; No Music is 1; music file is empty; "
+      "press Defaults; press OK");
   EXPECT_EQ(state.Routing, routing);
 }
 
@@ -75,12 +76,12 @@ TEST_F(Options, MusicModesTakeWhatIsThereToPlay) {
     fileExists ? sim.files.Put(kSong, "music") : sim.files.Remove(kSong);
     folderHasMusic ? sim.files.Put(track, "m") : sim.files.Remove(track);
     state.MusicEnabled = false;
-    Open("file:" + kSong + " btnBGMusic optBackgroundMusic(" + option + ") btnOK");
+    Open("file " + kSong + "; press Browse; press optBackgroundMusic(" + option + "); press OK");
     EXPECT_EQ(Music(), music);
   }
   state.MusicEnabled = true;
   sim.media.Log.clear();
-  Open("optBackgroundMusic(2) btnOK");
+  Open("press One File; press OK");
   EXPECT_EQ(Music(), "0 off") << "no file was chosen";
   EXPECT_EQ(sim.media.Log, MediaLog{"BackgroundPlayer stop"});
 }

@@ -13,26 +13,28 @@
 namespace pawnfield {
 namespace {
 
-constexpr const char* kKeys[] = {"1", "7", "^^", "^N", "^S", "^U", "^Z", "y", "n", "c", "X", "^M", "^H"};
+constexpr const char* kKeys[] = {"1", "7", "^", "ctrl n", "ctrl s", "ctrl u",   "ctrl z",
+                                 "y", "n", "c", "X",      "enter",  "backspace"};
+// What a key can change, in the order of Look.
+constexpr const char* kChanges[] = {"turn", "verdicts", "question", "panel", "entry", "board", "names", "Continue"};
 
 class Keyboard : public GamePlayer {
  public:
   // A game of that type for three on a board of 3x3, on which the user advances, brought to a phase.
-  Keyboard(char type, const std::string& script, const char* options = "m")
-      : GamePlayer(std::string(1, type) + " 3 3 full " + (type < '3' ? "-" : options)) {
-    Play(script);
+  explicit Keyboard(const std::string& type, const std::string& words = "", const std::string& options = "")
+      : GamePlayer(type + (type.starts_with("Trivia") ? ", user advances" : "") + options) {
+    if (!words.empty()) Do(words);
   }
-  // A letter for each thing that the key changed: player, verdicts offered, question, its panel, entry, board, names
-  // dialog, continue offered; "." for nothing.
+  // What the key changed, parted by blanks.
   std::string PressKey(const char* key) {
     const std::vector<std::string> before = Look();
-    Play(std::string("keys:") + key);
+    Do(std::string("key ") + key);
     const std::vector<std::string> after = Look();
     std::string changes;
     for (std::size_t i = 0; i < after.size(); ++i) {
-      if (before[i] != after[i]) changes += "pvqhebdk"[i];
+      if (before[i] != after[i]) changes += (changes.empty() ? "" : " ") + std::string(kChanges[i]);
     }
-    return changes.empty() ? "." : changes;
+    return changes;
   }
   // The writes to the shared key since the last look, once the present event is done.
   std::string Written() {
@@ -67,67 +69,94 @@ class Keyboard : public GamePlayer {
 };
 
 TEST(Keyboard, EachKeyDoesItsPartInEachPhase) {
-  // The game types that behave so, how the phase is reached, the keyboard control, and what each key changes.
-  const std::tuple<std::string, const char*, bool, const char*> phases[] = {
-      // 1 7 ^ Ctrl+N Ctrl+S Ctrl+U Ctrl+Z y n c X Enter Backspace
-      {"12", "", true, ". . . p . . d . . e . p ."},
-      {"3", "", true, ". . . p vhk . d vh p . . . ."},
-      {"4", "", true, ". . . p pvhk . d vh p . . . ."},
-      {"5", "", true, "pv . . . hk . d . . . . . ."},
-      {"5", "r2", true, ". . . . pvhk . d vh pv . . . ."},
-      {"3", "+", true, ". . . p k . d . . e . p ."},
-      {"4", "+", true, ". . . p pk . d . . e . p ."},
-      {"5", "r2 +", true, ". . . . pk . d . . e . . ."},
-      {"12", "keys:b", true, "e . . p . . d . . . . . e"},
-      {"3", "+ keys:b", true, "e . . p k . d . . . . . e"},
-      {"1", "keys:b2", true, ". . . p . . d . . . . peb e"},
-      {"2", "keys:b2", true, ". . . p . . d . . . . eb e"},
-      {"5", "r2 + keys:b2", true, ". . . . pk . d . . . . peb e"},
-      {"1", "00", true, ". . . p . pb d . . e . p ."},
-      {"2", "00", true, ". . . p . b d . . e . p ."},
-      {"3", "+ 00", true, ". . . p . pb d . . vqhk . . ."},
-      {"4", "+ 00", true, ". . . p p b d . . vqhk . . ."},
-      {"5", "r2 + 00", true, ". . . . . pb d . . qhk . . ."},
-      {"1", "H", true, ". . . p . . . . . . . . ."},
-      {"3", "+ H", true, ". . . p k . . . . . . . ."},
-      {"5", "r2 + H", true, ". . . . pk . . . . . . . ."},
-      {"1", "", false, ". . . . . . . . . e . p ."},
-      {"3", "", false, ". . . . . . . . . . . . ."},
-      {"5", "", false, "pv . . . . . . . . . . . ."},
-      {"3", "+ 00", false, ". . . . . . . . . . . . ."}};
-  for (const auto& [types, script, keyControl, effects] : phases) {
-    for (const char type : types) {
+  // The game types that behave so, how the phase is reached, the keyboard control, and what each key changes; a key
+  // that isn't named changes nothing.
+  const std::tuple<std::vector<const char*>, const char*, bool, const char*> phases[] = {
+      {{"Challenge A", "Challenge B"}, "", true, "ctrl n: turn; ctrl z: names; c: entry; enter: turn"},
+      {{"Trivia A"},
+       "",
+       true,
+       "ctrl n: turn; ctrl s: verdicts panel Continue; ctrl z: names; y: verdicts panel; n: turn"},
+      {{"Trivia B"},
+       "",
+       true,
+       "ctrl n: turn; ctrl s: turn verdicts panel Continue; ctrl z: names; y: verdicts panel; n: turn"},
+      {{"Trivia C"}, "", true, "1: turn verdicts; ctrl s: panel Continue; ctrl z: names"},
+      {{"Trivia C"},
+       "player 2 rings in",
+       true,
+       "ctrl s: turn verdicts panel Continue; ctrl z: names; y: verdicts panel; n: turn verdicts"},
+      {{"Trivia A"}, "correct", true, "ctrl n: turn; ctrl s: Continue; ctrl z: names; c: entry; enter: turn"},
+      {{"Trivia B"}, "correct", true, "ctrl n: turn; ctrl s: turn Continue; ctrl z: names; c: entry; enter: turn"},
+      {{"Trivia C"}, "player 2 rings in, correct", true, "ctrl s: turn Continue; ctrl z: names; c: entry"},
+      {{"Challenge A", "Challenge B"}, "key b", true, "1: entry; ctrl n: turn; ctrl z: names; backspace: entry"},
+      {{"Trivia A"},
+       "correct, key b",
+       true,
+       "1: entry; ctrl n: turn; ctrl s: Continue; ctrl z: names; backspace: entry"},
+      {{"Challenge A"}, "keys b2", true, "ctrl n: turn; ctrl z: names; enter: turn entry board; backspace: entry"},
+      {{"Challenge B"}, "keys b2", true, "ctrl n: turn; ctrl z: names; enter: entry board; backspace: entry"},
+      {{"Trivia C"},
+       "player 2 rings in, correct, keys b2",
+       true,
+       "ctrl s: turn Continue; ctrl z: names; enter: turn entry board; backspace: entry"},
+      {{"Challenge A"}, "claim A1", true, "ctrl n: turn; ctrl u: turn board; ctrl z: names; c: entry; enter: turn"},
+      {{"Challenge B"}, "claim A1", true, "ctrl n: turn; ctrl u: board; ctrl z: names; c: entry; enter: turn"},
+      {{"Trivia A"},
+       "correct, claim A1",
+       true,
+       "ctrl n: turn; ctrl u: turn board; ctrl z: names; c: verdicts question panel Continue"},
+      {{"Trivia B"},
+       "correct, claim A1",
+       true,
+       "ctrl n: turn; ctrl s: turn; ctrl u: board; ctrl z: names; c: verdicts question panel Continue"},
+      {{"Trivia C"},
+       "player 2 rings in, correct, claim A1",
+       true,
+       "ctrl u: turn board; ctrl z: names; c: question panel Continue"},
+      {{"Challenge A"}, "hide", true, "ctrl n: turn"},
+      {{"Trivia A"}, "correct, hide", true, "ctrl n: turn; ctrl s: Continue"},
+      {{"Trivia C"}, "player 2 rings in, correct, hide", true, "ctrl s: turn Continue"},
+      {{"Challenge A"}, "", false, "c: entry; enter: turn"},
+      {{"Trivia A"}, "", false, ""},
+      {{"Trivia C"}, "", false, "1: turn verdicts"},
+      {{"Trivia A"}, "correct, claim A1", false, ""}};
+  for (const auto& [types, steps, keyControl, effects] : phases) {
+    for (const char* type : types) {
       std::unique_ptr<Keyboard> keyboard;
       std::string changes;
       for (const char* key : kKeys) {
-        if (!keyboard) keyboard = std::make_unique<Keyboard>(type, script);
+        if (!keyboard) keyboard = std::make_unique<Keyboard>(type, steps);
         keyboard->state.KeyControl = keyControl;
-        changes += (changes.empty() ? "" : " ") + keyboard->PressKey(key);
-        if (!changes.ends_with('.')) keyboard.reset();
+        const std::string change = keyboard->PressKey(key);
+        if (change.empty()) continue;
+        changes += (changes.empty() ? "" : "; ") + std::string(key) + ": " + change;
+        keyboard.reset();
       }
-      EXPECT_EQ(changes, effects) << script << " in type " << type;
+      EXPECT_EQ(changes, effects) << type << ": " << steps;
     }
   }
 }
 
-const Story kEntries[] = {
-    {"NoKeyActsBeforeTheStart", "5 3 3 full mi",
-     "keys:27^^^N^S^UyncX^M^H turn=0 question=0 board=000/000/000 names="
-     "PLAYER_1/PLAYER_2/PLAYER_3"},
-    {"OnABoardOf3x3", "1 3 3 full",
-     "keys:d txtDJCommand= keys:b4 txtDJCommand=B keys:^HC2^M board=000/001/000 txtDJCommand="},
-    {"OnABoardOf4x4", "1 3 4 full", "keys:e txtDJCommand= keys:D4 txtDJCommand=D4"},
-    {"OnABoardOf5x5", "1 3 5 full",
-     "keys:2f txtDJCommand= keys:e6 txtDJCommand=E keys:5a txtDJCommand=E5 keys:^H txtDJCommand=E keys:^H "
-     "txtDJCommand="},
+const WordStory kEntries[] = {
+    {"No key acts before the start", "Trivia C, user advances, not started",
+     "keys 27, key ^, key ctrl n, key ctrl s, key ctrl u, keys yncX, key enter, key backspace, turn nobody, question "
+     "1, board 000/000/000, names is PLAYER 1/PLAYER 2/PLAYER 3"},
+    {"On a board of 3x3", "Challenge A",
+     "key d, entry is empty, keys b4, entry is B, key backspace, keys C2, key enter, board 000/001/000, entry is "
+     "empty"},
+    {"On a board of 4x4", "Challenge A, 4x4", "key e, entry is empty, keys D4, entry is D4"},
+    {"On a board of 5x5", "Challenge A, 5x5",
+     "keys 2f, entry is empty, keys e6, entry is E, keys 5a, entry is E5, key backspace, entry is E, key backspace, "
+     "entry is empty"},
 };
 
-using TypedSquare = StoryTest;
+using TypedSquare = WordStoryTest;
 TEST_P(TypedSquare, IsAColumnLetterAndARowDigit) { Play(); }
-INSTANTIATE_TEST_SUITE_P(Keyboard, TypedSquare, testing::ValuesIn(kEntries), StoryTest::Name);
+INSTANTIATE_TEST_SUITE_P(Keyboard, TypedSquare, testing::ValuesIn(kEntries), WordStoryTest::Name);
 
 TEST(Keyboard, LettersBringUpTheirMediaWhateverElseTheyDo) {
-  Keyboard keyboard('3', "");
+  Keyboard keyboard("Trivia A");
   SimPlatform& sim = keyboard.fixture().sim;
   for (const std::size_t row : {9U, 11U, 33U, 34U}) {
     const std::string path = "C:\\" + std::to_string(row) + ".wav";
@@ -142,7 +171,7 @@ TEST(Keyboard, LettersBringUpTheirMediaWhateverElseTheyDo) {
     played += sim.media.KeyPressPlayer.Url;
   }
   EXPECT_EQ(played, "C:\\9.wavC:\\34.wavC:\\33.wavC:\\11.wav");
-  keyboard.Play("btnQuestionCorrect=on txtDJCommand=");
+  keyboard.Do("Correct is on, entry is empty");
 }
 
 TEST(Keyboard, KeypadsRingInByTheRouting) {
@@ -157,7 +186,7 @@ TEST(Keyboard, KeypadsRingInByTheRouting) {
       {Manual, '4', 4, 2, 0, ""},
       {Manual, '2', 4, 3, 2, ""}};
   for (const auto& [mode, key, controller, routed, player, written] : keypads) {
-    Keyboard keyboard('5', "");
+    Keyboard keyboard("Trivia C");
     keyboard.state.SerialComm = mode;
     keyboard.state.Routing.fill(0);
     keyboard.state.Routing[controller] = routed;
@@ -169,42 +198,42 @@ TEST(Keyboard, KeypadsRingInByTheRouting) {
 }
 
 TEST(Keyboard, TellsTheExternalKeyboardProgramWhenPressesAreWanted) {
-  Keyboard keyboard('5', "", "mi");
+  Keyboard keyboard("Trivia C", "", ", not started");
   keyboard.state.SerialComm = InterfaceCode::PublishingKeypads;
   keyboard.Written();
   const std::string on = "sendkeypress=1 ", off = "sendkeypress=0 ";
   // Only what has changed is written.
   const std::pair<const char*, std::string> steps[] = {
-      {"fileClearAllScores", "10=0 11=0 13=0 "},
-      {"file:C:\\Pawnfield\\Trivia_Sets\\Long.txt btnSelectGame", "12=0 "},
-      {"btnStart", on},
+      {"clear all scores", "10=0 11=0 13=0 "},
+      {"file C:\\Pawnfield\\Trivia Sets\\Long.txt, press Select Game", "12=0 "},
+      {"start", on},
       // Back to what stands there.
-      {"r2 -", ""},
-      {"r2", off},
-      {"+ 11 U", ""},
+      {"player 2 rings in, incorrect", ""},
+      {"player 2 rings in", off},
+      {"correct, claim B2, undo", ""},
       // The question and the automatic continue.
-      {"cboAutoContinue:0 S >", on}};
-  for (const auto& [script, written] : steps) {
-    keyboard.Play(script);
-    EXPECT_EQ(keyboard.Written(), written) << script;
+      {"pause of 3 s, skip, wait 3 s", on}};
+  for (const auto& [words, written] : steps) {
+    keyboard.Do(words);
+    EXPECT_EQ(keyboard.Written(), written) << words;
   }
   keyboard.fixture().sim.settings.FailSaves = 3;
-  keyboard.Play("?Procedure:_WriteSharedKey");
+  keyboard.Do("expect Procedure: WriteSharedKey");
   for (int i = 0; i < 4; ++i) {
     SendKeyPress(keyboard.show(), false);
     FlushSharedKey(keyboard.show());
   }
-  EXPECT_EQ(keyboard.Written(), off) << "three failures are told once";
+  EXPECT_EQ(keyboard.Written(), off) << "three failures are reported once";
 }
 
 TEST(Keyboard, APressIsSeenBeforeTheKeyboardProgramReadsOfIt) {
-  Keyboard keyboard('5', "");
+  Keyboard keyboard("Trivia C");
   keyboard.state.SerialComm = InterfaceCode::PublishingKeypads;
   BeginSavingSettings(keyboard.show());
   const auto& writes = keyboard.fixture().sim.settings.Writes;
   keyboard.fixture().sim.settings.Writes.clear();
   keyboard.form().KeyPress('2');
-  keyboard.Play("turn=2 btnQuestionCorrect=on");
+  keyboard.Do("turn 2, Correct is on");
   EXPECT_TRUE(writes.empty()) << "nothing goes to the disk between the press and its light";
   keyboard.fixture().sim.clock.Advance(100);
   EXPECT_EQ(writes.size(), 2U) << "the press is wanted no more, and whose it is";

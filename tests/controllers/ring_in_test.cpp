@@ -12,22 +12,23 @@ namespace {
 
 using std::string_literals::operator""s;
 
-const Story kPresses[] = {
-    {"APressWithin200MillisecondsIsDroppedAndItsTimeIsNotKept", "5 3 3 full w",
-     "1 >30 turn=1 - >150 1 >30 turn=0 1 >30 turn=1"},
-    {"APressAtADialogIsDroppedAndItsTimeIsKept", "5 3 3 full w", "[ 1 >30 ] 1 >30 turn=0 >180 1 >30 turn=1"},
-    {"RemotesBeyondTheTablesAreReportedOnceEachAndTheShowGoesOn", "5 3 3 full w",
-     "?Description:_Subscript_out_of_range_(remote_51) #398 >30 ?(remote_22) #28 >30 >1000 #398 >30 #28 >30 turn=0 "
-     "1 >30 turn=1 #29 >30 turn=1"},
+const WordStory kPresses[] = {
+    {"A press within 200 milliseconds is dropped and its time is not kept", "Trivia C, remotes",
+     "remote 1, turn 1, incorrect, wait 150 ms, remote 1, turn nobody, remote 1, turn 1"},
+    {"A press at a dialog is dropped and its time is kept", "Trivia C, remotes",
+     "at a message box: remote 1, remote 1, turn nobody, wait 180 ms, remote 1, turn 1"},
+    {"Remotes beyond the tables are reported once each and the show goes on", "Trivia C, remotes",
+     "expect Description: Subscript out of range (remote 51), remote code 398, expect (remote 22), remote code 28, "
+     "wait 1 s, remote code 398, remote code 28, turn nobody, remote 1, turn 1, remote code 29, turn 1"},
 };
 
-using RemoteStory = StoryTest;
-TEST_P(RemoteStory, GoesAsWritten) { Play(); }
-INSTANTIATE_TEST_SUITE_P(RingIn, RemoteStory, testing::ValuesIn(kPresses), StoryTest::Name);
+using RemoteStory = WordStoryTest;
+TEST_P(RemoteStory, CountsByItsTime) { Play(); }
+INSTANTIATE_TEST_SUITE_P(RingIn, RemoteStory, testing::ValuesIn(kPresses), WordStoryTest::Name);
 
 TEST(RingIn, TheRoutingChoosesThePlayerWhoIsLitAndHeardTwiceByTheRemotesOwnLight) {
-  GamePlayer player("5 3 3 full w Routing4=2");
-  player.Play("5 >30 #27 >30 turn=0 4 >30 turn=2");
+  GamePlayer player("Trivia C, remotes, Routing4=2");
+  player.Do("remote 5, remote code 27, turn nobody, remote 4, turn 2");
   const SimPlatform& sim = player.fixture().sim;
   EXPECT_EQ(player.fixture().audience().picPlayer[1].Picture, "C:\\Pawnfield\\images\\scoreboxred.bmp");
   const std::string heard = "EventPlayer url C:\\Pawnfield\\Sound Effects\\RingsIn.mp3";
@@ -35,7 +36,7 @@ TEST(RingIn, TheRoutingChoosesThePlayerWhoIsLitAndHeardTwiceByTheRemotesOwnLight
   ASSERT_EQ(sim.hid.Writes.size(), 1U);
   EXPECT_EQ(sim.hid.Writes[0].Report, "\0cmd\4\0\0\0\0"s);
   player.form().Enabled = false;
-  player.Play("- 3 >30 turn=0");
+  player.Do("incorrect, remote 3, turn nobody");
 }
 
 }  // namespace

@@ -58,60 +58,62 @@ TEST(Port, ANumberIsTheLastDigitOfACaptionAndTheWholeOneOfADevice) {
 }
 
 // Pads 101 to 103 are the players, 104 is slot 4.
-const Story kPads[] = {
-    {"TheHostUnitJudgesAndGoesOn", "5 3 3 full lm",
-     "*3 *2 turn=0 2 turn=2 *4 *9 turn=2 *2 turn=0 3 *5 turn=0 1 *6 00 *5 question=0 *2 question=1 1 *3 turn=1 "
-     "btnQuestionCorrect=-"},
-    {"ADisabledPlayerHasNoPad", "5 2 3 full lm", "3 turn=0 1 turn=1"},
-    {"StrangersAreReportedAndPassedOver", "5 3 3 full lm",
-     "?An_unmapped_controller_has_been_detected. #999 ?This_game_only_uses_3_player_controls. #104 turn=0 2 turn=2"},
+const WordStory kPads[] = {
+    {"The host unit judges and goes on", "Trivia C, pads, user advances",
+     "host key 3, host key 2, turn nobody, pad 2, turn 2, host key 4, host key 9, turn 2, host key 2, turn nobody, pad "
+     "3, host key 5, turn nobody, pad 1, host key 6, claim A1, host key 5, question 1, host key 2, question 2, pad 1, "
+     "host key 3, turn 1, Correct is hidden"},
+    {"A disabled player has no pad", "Trivia C, 2 players, pads, user advances", "pad 3, turn nobody, pad 1, turn 1"},
+    {"Strangers are reported and passed over", "Trivia C, pads, user advances",
+     "expect An unmapped controller has been detected., pad code 999, expect This game only uses 3 player controls., "
+     "pad code 104, turn nobody, pad 2, turn 2"},
 };
 
-using PadStory = StoryTest;
-TEST_P(PadStory, GoesAsWritten) { Play(); }
-INSTANTIATE_TEST_SUITE_P(Pads, PadStory, testing::ValuesIn(kPads), StoryTest::Name);
+using PadStory = WordStoryTest;
+TEST_P(PadStory, CountsByItsCode) { Play(); }
+INSTANTIATE_TEST_SUITE_P(Pads, PadStory, testing::ValuesIn(kPads), WordStoryTest::Name);
 
 TEST(Pads, BrokenFramesAreReportedOnceAndAPulledAdapterUntilReconnected) {
-  GamePlayer player("5 3 3 full lm");
+  GamePlayer player("Trivia C, pads, user advances");
   SimSerial& port = player.fixture().sim.serial;
-  player.Play("?Error_Number:_5");
+  player.Do("expect Error Number: 5");
   port.Feed(Frame("") + Frame("\xB4") + Frame("") + Frame("\x01") + Pad(101));
-  player.Play("turn=1 -");
+  player.Do("turn 1, incorrect");
   port.Pull();
   EXPECT_FALSE(port.PortOpen());
   EXPECT_THAT(player.form().lblStatusBar.Caption.Get(), testing::HasSubstr("was unplugged"));
-  player.Play("?Unable_to_find_a_ZR-610_device._Please_check_connections_and_retry. mnuReconnectMF");
+  player.Do("expect Unable to find a ZR-610 device. Please check connections and retry., reconnect the pads");
   port.Plug("USB-SERIAL (COM4)");
   port.FailNextOpen = kErrorInvalidPort;
-  player.Play("?Error_Number:_8002 mnuReconnectMF mnuReconnectMF 2 turn=2");
+  player.Do("expect Error Number: 8002, reconnect the pads, reconnect the pads, pad 2, turn 2");
   EXPECT_EQ(port.Number, 4);
 }
 
 TEST(Pads, HalfAFrameAndAWrongLengthCostNoLaterPress) {
-  GamePlayer player("5 3 3 full lm");
+  GamePlayer player("Trivia C, pads, user advances");
   SimSerial& port = player.fixture().sim.serial;
   // An adapter pulled amid a frame, and put back.
   port.Feed(Pad(102).substr(0, 6));
   port.Pull();
   port.Plug();
-  player.Play("mnuReconnectMF 1 turn=1 -");
+  player.Do("reconnect the pads, pad 1, turn 1, incorrect");
   port.Feed(Pad(102).substr(0, 6));
-  player.Play("mnuReconnectMF 1 turn=1 -");
+  player.Do("reconnect the pads, pad 1, turn 1, incorrect");
   // A head whose frame never ends.
   port.Feed("MF\xFF\xFF\1");
-  player.Play(">1000 3 turn=3 -");
+  player.Do("wait 1 s, pad 3, turn 3, incorrect");
   // What was pressed behind such a head counts as soon as the head is given up, in its order.
   port.Feed("MF\xFF\xFF");
-  player.Play(">500 2 1 turn=0 >499 turn=0 >1 turn=2 -");
+  player.Do("wait 500 ms, pad 2, pad 1, turn nobody, wait 499 ms, turn nobody, wait 1 ms, turn 2, incorrect");
   // A frame in two parts, half a second apart, and one whose rest waits behind a message box.
   port.Feed(Pad(103).substr(0, 5));
-  player.Play(">500");
+  player.Do("wait 500 ms");
   port.Feed(Pad(103).substr(5));
-  player.Play("turn=3 -");
+  player.Do("turn 3, incorrect");
 }
 
 TEST(Pads, TheDialogWalksDownAndAPadStandsInOneRow) {
-  GamePlayer player("5 3 3 full l");
+  GamePlayer player("Trivia C, pads");
   SimPlatform& sim = player.fixture().sim;
   MapMFForm& dialog = player.show().frmMapMF;
   const auto act = [&](int error) {
@@ -137,7 +139,7 @@ TEST(Pads, TheDialogWalksDownAndAPadStandsInOneRow) {
   PadMap wanted{7, 103, 103, 104};
   wanted[19] = 9;
   EXPECT_EQ(act(0), wanted) << "a slot is never emptied";
-  player.Play("#103 turn=2");
+  player.Do("pad code 103, turn 2");
 }
 
 TEST(PadMapFile, IsEightyBytesLowByteFirstAndAShortOneLeavesTheRestEmpty) {

@@ -9,40 +9,41 @@ namespace {
 
 const WordStory kClocks[] = {
     {"Without a time nothing runs", "Trivia C, user advances",
-     "player 2 rings in, btnAnswerClock=off, wait 11, lblAnswerClock=-, lblAnswerClock'=-, phase "
+     "player 2 rings in, clock button is off, wait 11, answer clock is hidden, room answer clock is hidden, phase "
      "player 2 answers"},
     {"A ring in starts the seconds on both screens", "Trivia C, 3 s to answer, user advances",
-     "lblAnswerClock=-, player 2 rings in, lblAnswerClock=3, lblAnswerClock'=3, wait 0.999, lblAnswerClock'=3, "
-     "wait 0.001, lblAnswerClock=2, lblAnswerClock'=2, wait 1, lblAnswerClock'=1"},
+     "answer clock is hidden, player 2 rings in, answer clock is 3, room answer clock is 3, wait 0.999, room answer "
+     "clock is 3, wait 0.001, answer clock is 2, room answer clock is 2, wait 1, room answer clock is 1"},
     {"At the end it sounds and says so and judges nobody", "Trivia C, 3 s to answer, user advances, penalty",
-     "player 2 rings in, wait 2.999, event=RingsIn.mp3, wait 0.001, event=TimeUp.Wav, lblAnswerClock'=0, "
-     "says \"Time is up: PLAYER 2\", wait 10, event=TimeUp.Wav, phase player 2 answers, scores 0/0/0, correct, "
-     "lblAnswerClock'=-, claim A1, scores 0/50/0"},
+     "player 2 rings in, wait 2.999, event sound is RingsIn.mp3, wait 0.001, event sound is TimeUp.Wav, room answer "
+     "clock is 0, says \"Time is up: PLAYER 2\", wait 10, event sound is TimeUp.Wav, phase player 2 answers, scores "
+     "0/0/0, correct, room answer clock is hidden, claim A1, scores 0/50/0"},
     {"Each player who rings in has the whole time", "Trivia C, 5 s to answer, user advances",
-     "player 1 rings in, wait 3, lblAnswerClock'=2, incorrect, lblAnswerClock=-, lblAnswerClock'=-, wait 1, "
-     "player 3 rings in, wait 3, lblAnswerClock'=2, tmrAnswerClock=on"},
+     "player 1 rings in, wait 3, room answer clock is 2, incorrect, answer clock is hidden, room answer clock is "
+     "hidden, wait 1, player 3 rings in, wait 3, room answer clock is 2, tmrAnswerClock is on"},
     {"A question that is given to another player begins his time", "Trivia C, 5 s to answer, user advances",
-     "player 1 rings in, wait 3, player 2 rings in, lblAnswerClock'=5"},
+     "player 1 rings in, wait 3, player 2 rings in, room answer clock is 5"},
     {"A remote's press starts it as a hand does", "Trivia C, remotes, 5 s to answer, user advances",
-     "remote 2, turn 2, lblAnswerClock'=5, btnAnswerClock=on"},
+     "remote 2, turn 2, room answer clock is 5, clock button is on"},
     {"In Trivia A the operator starts it and each player's anew", "Trivia A, 3 s to answer, user advances",
-     "wait 5, lblAnswerClock'=-, btnAnswerClock=on, start the clock, wait 2, lblAnswerClock'=1, start the clock, "
-     "lblAnswerClock'=3, wait 2, incorrect, lblAnswerClock'=-, wait 5, event=Incorrect.mp3, start the clock, "
-     "lblAnswerClock'=3, wait 3, says \"Time is up: PLAYER 2\""},
+     "wait 5, room answer clock is hidden, clock button is on, start the clock, wait 2, room answer clock is 1, start "
+     "the clock, room answer clock is 3, wait 2, incorrect, room answer clock is hidden, wait 5, event sound is "
+     "Incorrect.mp3, start the clock, room answer clock is 3, wait 3, says \"Time is up: PLAYER 2\""},
     {"A pass of the turn takes it down", "Trivia B, 3 s to answer, user advances",
-     "start the clock, next player, lblAnswerClock=-, tmrAnswerClock=off, wait 5, says \"Player 2 Selected!\""},
+     "start the clock, next player, answer clock is hidden, tmrAnswerClock is off, wait 5, says \"Player 2 "
+     "Selected!\""},
     {"A skip takes it down", "Trivia C, 3 s to answer, user advances",
-     "player 1 rings in, skip, lblAnswerClock'=-, wait 5, event=Skip.Wav"},
+     "player 1 rings in, skip, room answer clock is hidden, wait 5, event sound is Skip.Wav"},
     {"The end of the game takes it down", "Trivia C, 3 s to answer, user advances",
-     "player 1 rings in, correct, claim A1, continue, player 1 rings in, end game, lblAnswerClock'=-, "
-     "tmrAnswerClock=off"},
+     "player 1 rings in, correct, claim A1, continue, player 1 rings in, end game, room answer clock is hidden, "
+     "tmrAnswerClock is off"},
     {"A reset takes it down", "Trivia C, 3 s to answer, user advances",
-     "player 1 rings in, correct, claim A1, continue, player 1 rings in, reset, lblAnswerClock'=-, "
-     "tmrAnswerClock=off"},
+     "player 1 rings in, correct, claim A1, continue, player 1 rings in, reset, room answer clock is hidden, "
+     "tmrAnswerClock is off"},
     {"Standby leaves it running", "Trivia C, 5 s to answer, user advances",
-     "player 1 rings in, hide, wait 3, show, lblAnswerClock'=2"},
+     "player 1 rings in, hide, wait 3, show, room answer clock is 2"},
     {"A challenge has none", "Challenge A, 5 s to answer",
-     "btnAnswerClock=off, claim A1, btnAnswerClock=off, wait 6, lblAnswerClock=-"},
+     "clock button is off, claim A1, clock button is off, wait 6, answer clock is hidden"},
 };
 
 using AnswerClockStory = WordStoryTest;
@@ -50,7 +51,7 @@ TEST_P(AnswerClockStory, IsAsTold) { Play(); }
 INSTANTIATE_TEST_SUITE_P(Engine, AnswerClockStory, testing::ValuesIn(kClocks), WordStoryTest::Name);
 
 TEST(AnswerClock, IsTheAnsweringPlayersAndHasHisColour) {
-  GamePlayer player("5 3 3 full m TimedResponse=5");
+  GamePlayer player("5 3 3 full m TimedResponse is 5");
   const Color colors[] = {0x706BFF, 0x4DD8FF, 0x8CE046};
   for (int number = 1; number <= 3; ++number) {
     player.Play("r" + std::to_string(number) + " >1000");

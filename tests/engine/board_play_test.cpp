@@ -7,87 +7,132 @@
 namespace pawnfield {
 namespace {
 
-const Story kBoardPlay[] = {
-    {"APieceTurnsOnItsMiddleOnA3x3Board", "2 2 3 full",
-     "12! >10 img12.Height=900 img12.Top=3312.5 img12.Height'=1609 img12.Top'=5780.5 >30 img12.Height=135 "
-     "img12.Height'=406 >40 img12.Height=1155 img12.Top=3185 tmrFlipPlayerPiece=off >20 img12.Height'=2010 "
-     "img12.Top'=5580"},
-    {"APieceTurnsOnItsMiddleOnA4x4Board", "2 2 4 full",
-     "12! >10 img12.Height=705 img12.Top=2810 img12.Height'=1287 img12.Top'=4936.5 >30 img12.Height=75 "
-     "img12.Height'=324 >40 img12.Height=915 img12.Top=2705 tmrFlipPlayerPiece=off >20 img12.Height'=1608 "
-     "img12.Top'=4776"},
-    {"APieceTurnsOnItsMiddleOnA5x5Board", "2 2 5 full",
-     "12! >10 img12.Height=585 img12.Top=2457.5 img12.Height'=1072 img12.Top'=4374 >30 img12.Height=90 "
-     "img12.Height'=268 >40 img12.Height=750 img12.Top=2375 tmrFlipPlayerPiece=off >20 img12.Height'=1340 "
-     "img12.Top'=4240"},
-    {"TheFlashShowsBothFacesSixTimesAndRestsOnTheFirst", "2 3 3 full",
-     "00! >50 img00=X-100b.bmp >50 img00=X-100a.bmp >50 img00=X-100b.bmp >150 img00=X-100a.bmp >150 img00=X-100b.bmp "
-     ">150 img00=X-100a.bmp >150 img00=X-100b.bmp >150 tmrAnswer=off img00=X-100a.bmp >150 img00=X-100a.bmp"},
-    {"ThePieceOfPlayer2HasNoSecondFaceWhileItTurns", "2 3 3 full",
-     "N 00! >50 img00=O-100a.bmp >50 img00=O-100a.bmp >50 img00=O-100b.bmp >150 img00=O-100a.bmp"},
-    {"ThePieceOfPlayer3", "2 3 3 full",
-     "N N 00! >50 img00=T-100b.bmp >50 img00=T-100a.bmp >50 img00=T-100b.bmp >150 img00=T-100a.bmp"},
-    {"OnlyAnOpenBoardTakesAClaimFromEitherScreen", "2 2 3 full",
-     "22' board=000/000/001 00! >899 00! board=000/000/001 >1 00! board=100/000/001 event=Pawn.Wav"},
-    {"ABonusStandsThreeSecondsAndThenTheGameGoesOn", "2 2 3 full",
-     "00 22 20 02 11! >899 picBonus=- >1 picBonus'=up event=DDouble.wav 01! board=101/010/101 >2999 picBonus'=up >1 "
-     "picBonus'=- btnUndo=on scores=500/0/0 01 board=111/010/101"},
-    {"ThePauseIsThreeSeconds", "4 2 3 full", "+ cboAutoContinue:0 00! >3899 question=0 >1 question=1 btnContinue=off"},
-    {"ThePauseIsFiveSeconds", "4 2 3 full", "+ cboAutoContinue:2 00! >5899 question=0 >1 question=1 btnContinue=off"},
-    {"TheUserAdvances", "4 2 3 full", "+ cboAutoContinue:3 00! >60000 question=0 btnContinue=on C question=1"},
-    {"EachKindOfQuestionHasItsPanelUntilTheVerdict", "3 2 3 full mk",
-     "picQuestion'=up picQuestionPicture'=- picSound'=- + picQuestion'=- 00 C "
-     "picQuestion'=- picQuestionPicture'=up picSound'=- + picQuestionPicture'=- 10 C "
-     "picQuestion'=- picQuestionPicture'=- picSound'=up clip=clip.WAV + picSound'=- lblAnswer=The_answer"},
-    {"FiveQuestionsLeftIsReportedOnce", "4 2 4 full m7",
-     "+ 00 tmr5QuestionTimer=off C + 01 lblQuestion(0)=5_Questions_Left! btnContinue=off btnUndo=off "
-     "> picQuestion=- btnContinue=on btnUndo=on C + 02 tmr5QuestionTimer=off picQuestion=-"},
-    {"TheLineAndThenTheWinnerAreSeen", "2 2 3 row",
-     "00 01 02! scores=200/0/0 offers=StandbyMode picWinner=- >150 img00=X-100b.bmp img01'=X-100b.bmp img02=X-100b.bmp "
-     ">150 img00'=X-100a.bmp img01=X-100a.bmp >599 img02=X-100b.bmp picWinner=- tmrWinner=off >1 img02=X-100a.bmp "
-     "picWinner=up picWinner'=up >4999 picWinner=up >1 picWinner=- picStandby=up"},
-    {"ABonusComesBetweenTheFlashAndTheWinner", "2 2 3 row",
-     "cbxScore(0):10 02 11 20! >900 picBonus=up picBonus'=up picWinner=- >2999 picWinner=- >1 picBonus'=- "
-     "picWinner'=up "
-     "winner=Game_Over!/PLAYER_1/Wins! btnUndo=off"},
-    {"TheWinnerWaitsAlsoOnAFullBoard", "2 2 3 full 0",
-     "00 01 02 10 11 12 20 21 cbxScore(1):0 22! >899 picWinner=- > picBonus=- picWinner=up"},
-    {"EndGameAmidAFlashLeavesNothingToCome", "4 2 3 full",
-     "+ 00 > + 01! >100 E picWinner=up tmrAutoContinue=off > question=1 picQuestion=- btnUndo=off picWinner=up"},
-    {"UndoWithinTheFlashLeavesTheSquareEmptyOnBothScreens", "2 2 3 full",
-     "00 01! >160 U img01=Blank.bmp img01'=Blank.bmp btnReset=on >2000 img01=Blank.bmp img01'=Blank.bmp "
-     "board=100/000/000 "
-     "scores=50/0/0 lblPlayer1Score=50 Label11(0)'=50 02 board=101/000/000"},
-    {"UndoWhileThePieceTurnsPutsTheSquareBackInItsPlace", "2 2 3 full",
-     "00 12! >30 U img12.Height=1155 img12.Top=3185 img12.Height'=2010 >2000 img12=Blank.bmp img12'=Blank.bmp"},
-    {"TheSetEndsWithTheBoardAndAWord", "4 2 3 full mk",
-     "lblStatusBar=3_questions_for_9_squares:_this_set_ends_before_the_board_is_full. "
-     "+ 00 C + 11 C + 01 C lblStatusBar=No_questions_left picQuestion=- picQuestion'=- picSound'=- picStandby=- "
-     "btnQuestionCorrect=- btnContinue=off question=2 btnUndo=on"},
-    {"TheSetEndsAlsoWhereTheGameGoesOnByItself", "4 2 3 full k",
-     "+ 00 > + 11 > + 01 > lblStatusBar=No_questions_left picQuestion'=- btnQuestionCorrect=- question=2"},
+const WordStory kBoardPlay[] = {
+    {"A piece turns on its middle on a 3x3 board", "Challenge B, 2 players",
+     "click C2, wait 10 ms, C2 height is 900, C2 top is 3312.5, room C2 height is 1609, room C2 top is 5780.5, wait 30 "
+     "ms, C2 height is 135, room C2 height is 406, wait 40 ms, C2 height is 1155, C2 top is 3185, tmrFlipPlayerPiece "
+     "is off, wait 20 ms, room C2 height is 2010, room C2 top is 5580"},
+    {"A piece turns on its middle on a 4x4 board", "Challenge B, 2 players, 4x4",
+     "click C2, wait 10 ms, C2 height is 705, C2 top is 2810, room C2 height is 1287, room C2 top is 4936.5, wait 30 "
+     "ms, C2 height is 75, room C2 height is 324, wait 40 ms, C2 height is 915, C2 top is 2705, tmrFlipPlayerPiece is "
+     "off, wait 20 ms, room C2 height is 1608, room C2 top is 4776"},
+    {"A piece turns on its middle on a 5x5 board", "Challenge B, 2 players, 5x5",
+     "click C2, wait 10 ms, C2 height is 585, C2 top is 2457.5, room C2 height is 1072, room C2 top is 4374, wait 30 "
+     "ms, C2 height is 90, room C2 height is 268, wait 40 ms, C2 height is 750, C2 top is 2375, tmrFlipPlayerPiece is "
+     "off, wait 20 ms, room C2 height is 1340, room C2 top is 4240"},
+    {"The flash shows both faces six times and rests on the first", "Challenge B",
+     "click A1, wait 50 ms, A1 shows X-100b, wait 50 ms, A1 shows X-100a, wait 50 ms, A1 shows X-100b, wait 150 ms, A1 "
+     "shows X-100a, wait 150 ms, A1 shows X-100b, wait 150 ms, A1 shows X-100a, wait 150 ms, A1 shows X-100b, wait 150 "
+     "ms, tmrAnswer is off, A1 shows X-100a, wait 150 ms, A1 shows X-100a"},
+    {"The piece of player 2 has no second face while it turns", "Challenge B",
+     "next player, click A1, wait 50 ms, A1 shows O-100a, wait 50 ms, A1 shows O-100a, wait 50 ms, A1 shows O-100b, "
+     "wait 150 ms, A1 shows O-100a"},
+    {"The piece of player 3", "Challenge B",
+     "next player, next player, click A1, wait 50 ms, A1 shows T-100b, wait 50 ms, A1 shows T-100a, wait 50 ms, A1 "
+     "shows T-100b, wait 150 ms, A1 shows T-100a"},
+    {"Only an open board takes a claim from either screen", "Challenge B, 2 players",
+     "click room C3, board 000/000/001, click A1, wait 899 ms, click A1, board 000/000/001, wait 1 ms, click A1, board "
+     "100/000/001, event sound is Pawn.Wav"},
+    {"A bonus stands three seconds", "Challenge B, 2 players",
+     "claim A1, claim C3, claim A3, claim C1, click B2, wait 899 ms, bonus is hidden, wait 1 ms, room bonus is shown, "
+     "event sound is DDouble.wav, wait 2999 ms, room bonus is shown, wait 1 ms, room bonus is hidden"},
+    {"Nobody claims under a bonus", "Challenge B, 2 players",
+     "claim A1, claim C3, claim A3, claim C1, click B2, wait 900 ms, click B1, board 101/010/101"},
+    {"After a bonus the game goes on", "Challenge B, 2 players",
+     "claim A1, claim C3, claim A3, claim C1, claim B2, wait 3 s, Undo is on, scores 500/0/0, claim B1, board "
+     "111/010/101"},
+    {"The pause is three seconds", "Trivia B, 2 players",
+     "correct, pause of 3 s, click A1, wait 3899 ms, question 1, wait 1 ms, question 2, Continue is off"},
+    {"The pause is five seconds", "Trivia B, 2 players",
+     "correct, pause of 5 s, click A1, wait 5899 ms, question 1, wait 1 ms, question 2, Continue is off"},
+    {"The user advances", "Trivia B, 2 players",
+     "correct, user advances, click A1, wait 60 s, question 1, Continue is on, continue, question 2"},
+    {"A question in words has its panel until the verdict", "Trivia A, 2 players, user advances, picture second",
+     "room question panel is shown, room picture panel is hidden, room sound panel is hidden, correct, room question "
+     "panel is hidden"},
+    {"A picture has its panel until the verdict", "Trivia A, 2 players, user advances, picture second",
+     "correct, claim A1, continue, room question panel is hidden, room picture panel is shown, room sound panel is "
+     "hidden, correct, room picture panel is hidden"},
+    {"A sound has its panel until the verdict", "Trivia A, 2 players, user advances, picture second",
+     "skip, continue, skip, continue, room question panel is hidden, room picture panel is hidden, room sound panel is "
+     "shown, correct, room sound panel is hidden"},
+    {"A sound question plays its clip and shows the answer to the operator",
+     "Trivia A, 2 players, user advances, picture second",
+     "skip, continue, skip, continue, clip is clip.WAV, answer text is The answer"},
+    {"The notice of five questions comes once", "Trivia B, 2 players, 4x4, user advances, 7 questions",
+     "correct, claim A1, tmr5QuestionTimer is off, continue, correct, claim B1, question text is 5 Questions Left!, "
+     "wait 3 s, question panel is hidden, continue, correct, claim C1, tmr5QuestionTimer is off, question panel is "
+     "hidden"},
+    {"The notice of five questions locks Continue and Undo while it stands",
+     "Trivia B, 2 players, 4x4, user advances, 7 questions",
+     "correct, claim A1, continue, correct, claim B1, Continue is off, Undo is off, wait 3 s, Continue is on, Undo is "
+     "on"},
+    {"The squares of a line flash together on both screens", "Challenge B, 2 players, Finish Row",
+     "claim A1, claim B1, click C1, wait 150 ms, A1 shows X-100b, room B1 shows X-100b, C1 shows X-100b, wait 150 ms, "
+     "room A1 shows X-100a, B1 shows X-100a"},
+    {"The winner waits for the flash", "Challenge B, 2 players, Finish Row",
+     "claim A1, claim B1, click C1, wait 899 ms, C1 shows X-100b, winner is hidden, tmrWinner is off, wait 1 ms, C1 "
+     "shows X-100a, winner is shown, room winner is shown"},
+    {"While a line flashes its points are paid and only standby is offered", "Challenge B, 2 players, Finish Row",
+     "claim A1, claim B1, click C1, scores 200/0/0, offers StandbyMode"},
+    {"The winner stands five seconds before standby", "Challenge B, 2 players, Finish Row",
+     "claim A1, claim B1, click C1, wait 900 ms, winner is shown, wait 4999 ms, winner is shown, wait 1 ms, winner is "
+     "hidden, standby is shown"},
+    {"A bonus comes between the flash and the winner", "Challenge B, 2 players, Finish Row",
+     "squares worth 100, claim C1, claim B2, click A3, wait 900 ms, bonus is shown, room bonus is shown, winner is "
+     "hidden, wait 2999 ms, winner is hidden, wait 1 ms, room bonus is hidden, room winner is shown, winner text is "
+     "Game Over!/PLAYER 1/Wins!, Undo is off"},
+    {"The winner waits also on a full board", "Challenge B, 2 players, worthless squares",
+     "claim A1, claim B1, claim C1, claim A2, claim B2, claim C2, claim A3, claim B3, lines worth 0, click C3, wait "
+     "899 ms, winner is hidden, wait 3 s, bonus is hidden, winner is shown"},
+    {"End game amid a flash leaves nothing to come", "Trivia B, 2 players",
+     "correct, claim A1, wait 3 s, correct, click B1, wait 100 ms, end game, winner is shown, tmrAutoContinue is off, "
+     "wait 3 s, question 2, question panel is hidden, Undo is off, winner is shown"},
+    {"Undo within the flash leaves the square empty on both screens", "Challenge B, 2 players",
+     "claim A1, click B1, wait 160 ms, undo, B1 is empty, room B1 is empty, wait 2 s, B1 is empty, room B1 is empty, "
+     "board 100/000/000"},
+    {"Undo within the flash takes the points back on every display", "Challenge B, 2 players",
+     "claim A1, click B1, wait 160 ms, undo, scores 50/0/0, lblPlayer1Score is 50, room score 1 is 50"},
+    {"Play goes on after an undo within the flash", "Challenge B, 2 players",
+     "claim A1, click B1, wait 160 ms, undo, Reset is on, wait 2 s, claim C1, board 101/000/000"},
+    {"Undo while the piece turns puts the square back in its place", "Challenge B, 2 players",
+     "claim A1, click C2, wait 30 ms, undo, C2 height is 1155, C2 top is 3185, room C2 height is 2010, wait 2 s, C2 is "
+     "empty, room C2 is empty"},
+    {"Start says when a set is too short for the board", "Trivia B, 2 players, picture second",
+     "says 3 questions for 9 squares: this set ends before the board is full."},
+    {"Behind the last question the board stays", "Trivia B, 2 players, user advances, picture second",
+     "correct, claim A1, continue, correct, claim B2, continue, correct, claim B1, continue, says No questions left, "
+     "question panel is hidden, room question panel is hidden, room sound panel is hidden, standby is hidden, question "
+     "3"},
+    {"Behind the last question only undo is left", "Trivia B, 2 players, user advances, picture second",
+     "correct, claim A1, continue, correct, claim B2, continue, correct, claim B1, continue, Correct is hidden, "
+     "Continue is off, Undo is on"},
+    {"The set ends also where the game goes on by itself", "Trivia B, 2 players, picture second",
+     "correct, claim A1, wait 3 s, correct, claim B2, wait 3 s, correct, claim B1, wait 3 s, says No questions left, "
+     "room question panel is hidden, Correct is hidden, question 3"},
 };
 
-using BoardPlayStory = StoryTest;
-TEST_P(BoardPlayStory, GoesAsWritten) { Play(); }
-INSTANTIATE_TEST_SUITE_P(BoardPlay, BoardPlayStory, testing::ValuesIn(kBoardPlay), StoryTest::Name);
+using BoardPlayStory = WordStoryTest;
+TEST_P(BoardPlayStory, GoesTickByTick) { Play(); }
+INSTANTIATE_TEST_SUITE_P(BoardPlay, BoardPlayStory, testing::ValuesIn(kBoardPlay), WordStoryTest::Name);
 
 // The room's label had neither place nor size before the first question in words.
 TEST(BoardPlay, AMachineThatSleptWhileAPieceTurnedShowsTheFlashAlikeOnBothScreens) {
-  for (const char* turned : {">20", ">60", ">80", ">90", ">99"}) {
-    GamePlayer player("1 2 3 full");
-    player.Play(std::string("10! ") + turned);
+  for (const char* turned : {"20 ms", "60 ms", "80 ms", "90 ms", "99 ms"}) {
+    GamePlayer player("Challenge A, 2 players");
+    player.Do(std::string("click A2, wait ") + turned);
     player.fixture().sim.clock.Sleep(4 * 3600 * 1000);
-    player.Play(">1 >40 >40 >40 >2000 img10=X-100a.bmp img10'=X-100a.bmp");
+    player.Do("wait 1 ms, wait 40 ms, wait 40 ms, wait 40 ms, wait 2 s, A2 shows X-100a, room A2 shows X-100a");
   }
 }
 
 TEST(BoardPlay, FiveQuestionsLeftIsFittedAndCentredAlsoWhereOnlyPicturesCameBefore) {
-  GamePlayer player("4 2 3 full mi");
+  GamePlayer player("Trivia B, 2 players, user advances, not started");
   player.fixture().WriteSet("Pictures", std::vector<std::string>(7, "C:\\Shows\\photo.jpg"));
   player.fixture().ChooseSet("Pictures");
-  player.Play(
-      "btnStart + 00 C + 01 tmr5QuestionTimer=on lblQuestion(0)'=5_Questions_Left! lblQuestion(1)'=5_Questions_Left!");
+  player.Do(
+      "start, correct, claim A1, continue, correct, claim B1, tmr5QuestionTimer is on, room question text is 5 "
+      "Questions Left!, room question shadow is 5 Questions Left!");
   const Label& notice = player.fixture().audience().lblQuestion[0];
   const PictureBox& panel = player.fixture().audience().picQuestion;
   EXPECT_GT(notice.Width, panel.Width * 0.9);
@@ -95,7 +140,7 @@ TEST(BoardPlay, FiveQuestionsLeftIsFittedAndCentredAlsoWhereOnlyPicturesCameBefo
 }
 
 TEST(BoardPlay, ThereIsNoSquareBeyondTheTable) {
-  GamePlayer player("4 2 5 full m");
+  GamePlayer player("Trivia B, 2 players, 5x5, user advances");
   EXPECT_FALSE(TryClaimSquare(player.show(), 6, 0) || TryClaimSquare(player.show(), 0, -1));
 }
 

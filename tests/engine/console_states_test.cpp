@@ -4,76 +4,107 @@
 namespace pawnfield {
 namespace {
 
-const Story kStates[] = {
-    {"AfterResetOfChallengeA", "1 3 3 full", "00 R picStandby=up offers=Start,PlayMode options=GameType(0)"},
-    {"AfterResetOfChallengeB", "2 3 3 full", "00 R picStandby=up offers=Start,PlayMode options=GameType(0)"},
-    {"AfterResetOfTriviaA", "3 3 3 full m",
-     "+ 00 R picStandby=up offers=SelectGame,PlayMode "
-     "options=Animation,IncorrectPenalty,TimedResponse,AutoContinue,List,SelectPlayer(0),SelectPlayer(2),GameType(0)"},
-    {"AfterResetOfTriviaB", "4 3 3 full m",
-     "+ 00 R picStandby=up offers=SelectGame,PlayMode "
-     "options=Animation,IncorrectPenalty,TimedResponse,AutoContinue,List,SelectPlayer(0),SelectPlayer(2),GameType(0)"},
-    {"AfterResetOfTriviaC", "5 2 3 full m",
-     "r1 + 00 R picStandby=up offers=SelectGame,PlayMode "
-     "options=Animation,HideQuestion,IncorrectPenalty,TimedResponse,AutoContinue,List,SelectPlayer(0),GameType(0)"},
-    {"AChangeOfTypeWhileIdleOffersTheNewTypesOptions", "1 2 3 full i",
-     "offers=Start,PlayMode optGameType(2) offers=SelectGame,PlayMode cboList:0 cboAutoContinue:0 "
-     "optGameType(1) offers=Start,PlayMode"},
-    {"PhasesOfAChallenge", "1 2 3 full",
-     "offers=StandbyMode,NextPlayer 00 offers=StandbyMode,NextPlayer,Undo,Reset,EndGame "
-     "H offers=PlayMode,NextPlayer,Undo,Reset,EndGame E picWinner=- V E picWinner=up offers=StandbyMode"},
-    {"PhasesOfATriviaTurn", "3 2 3 full m",
-     "offers=SelectGame,StandbyMode,NextPlayer,SkipQuestion,QuestionCorrect "
-     "+ offers=SelectGame,StandbyMode,NextPlayer,SkipQuestion "
-     "00 offers=SelectGame,StandbyMode,NextPlayer,Continue,SkipQuestion,Undo,Reset,EndGame "
-     "C offers=SelectGame,StandbyMode,NextPlayer,SkipQuestion,Reset,EndGame,QuestionCorrect"},
-    {"PhasesOfATriviaTurnThatGoesOnByItself", "3 2 3 full",
-     "+ 00 offers=SelectGame,StandbyMode,NextPlayer,SkipQuestion,Undo,Reset,EndGame"},
-    {"PhasesOfARingIn", "5 2 3 full m",
-     "offers=SelectGame,StandbyMode,SkipQuestion options=List,SelectPlayer(0) "
-     "r1 offers=SelectGame,StandbyMode,SkipQuestion,QuestionCorrect - offers=SelectGame,StandbyMode,SkipQuestion "
-     "r1 + "
-     "options=Animation,HideQuestion,IncorrectPenalty,TimedResponse,AutoContinue,List,SelectPlayer(0),GameType(0)"},
-    {"AChangeOfGridOrPlayersActsAtOnce", "1 3 5 full",
-     "00 44 H V turn=3 optPlayers(0) turn=1 picP3Score=- picPlayer(2)'=- fraGridControl=off "
-     "R optGameType(0) >2000 optGridControl(0) board=000/000/000 img03=- imgD'=- img4=- turn=1"},
-    {"AChangeOfTypeInARunningGameIsAsked", "2 2 3 full",
-     "00 optGameType(1) optGameType(3)@frmGameInProgress { btnCancel } optGameType(1)=1 optGameType(3)=0 "
-     "board=100/000/000 scores=50/0/0 optGameType(3)@frmGameInProgress { btnReset } optGameType(3)=1 "
-     "board=000/000/000 picStandby=up btnStart=off"},
-    {"TheGridStaysLockedInARunningGameWhateverWasClicked", "2 2 3 full",
-     "fraGridControl=off 00 optGameType(1) >4000 fraGridControl=off optGameType(3)@frmGameInProgress { btnCancel } "
-     ">4000 fraGridControl=off tmrArrowsTimer=off R >2000 fraGridControl=up"},
-    {"AGameStartedWhileTheWinnerStandsIsKept", "2 2 3 full",
-     "00 E picWinner'=up optGameType(1) picWinner'=- picStandby=up btnStart 11 >8000 scores=50/0/0 board=000/010/000 "
-     "picStandby=-"},
-    {"TheTurnHasItsColourAndTheStatusTextSkipsTheStepFromThreeToOne", "2 3 3 full",
-     "N N lblStatusBar=Player_3_Selected! lblP3Score.BackColor=255 lblP1Score.BackColor=65535 "
-     "txtDJCommand.BackColor=65280 N turn=1 lblStatusBar=Player_3_Selected!"},
-    {"TheStatusTextTellsTheStepFromTwoToOne", "2 2 3 full", "N N turn=1 lblStatusBar=Player_1_Selected!"},
+const WordStory kStates[] = {
+    {"After reset of Challenge A", "Challenge A",
+     "claim A1, reset, standby is shown, offers Start and PlayMode, options GameType(0)"},
+    {"After reset of Challenge B", "Challenge B",
+     "claim A1, reset, standby is shown, offers Start and PlayMode, options GameType(0)"},
+    {"After reset of Trivia A", "Trivia A, user advances",
+     "correct, claim A1, reset, standby is shown, offers SelectGame and PlayMode, options Animation and "
+     "IncorrectPenalty and TimedResponse and AutoContinue and List and SelectPlayer(0) and SelectPlayer(2) and "
+     "GameType(0)"},
+    {"After reset of Trivia B", "Trivia B, user advances",
+     "correct, claim A1, reset, standby is shown, offers SelectGame and PlayMode, options Animation and "
+     "IncorrectPenalty and TimedResponse and AutoContinue and List and SelectPlayer(0) and SelectPlayer(2) and "
+     "GameType(0)"},
+    {"After reset of Trivia C", "Trivia C, 2 players, user advances",
+     "player 1 rings in, correct, claim A1, reset, standby is shown, offers SelectGame and PlayMode, options Animation "
+     "and HideQuestion and IncorrectPenalty and TimedResponse and AutoContinue and List and SelectPlayer(0) and "
+     "GameType(0)"},
+    {"A change of type while idle offers the options of the new one", "Challenge A, 2 players, not started",
+     "offers Start and PlayMode, choose Trivia A, offers SelectGame and PlayMode, choose entry 0 of cboList, pause of "
+     "3 s, choose Challenge B, offers Start and PlayMode"},
+    {"A challenge begins with the next player alone", "Challenge A, 2 players", "offers StandbyMode and NextPlayer"},
+    {"The first claim of a challenge offers undo and the end", "Challenge A, 2 players",
+     "claim A1, offers StandbyMode and NextPlayer and Undo and Reset and EndGame"},
+    {"Standby offers to go on", "Challenge A, 2 players",
+     "claim A1, hide, offers PlayMode and NextPlayer and Undo and Reset and EndGame"},
+    {"No game ends in standby", "Challenge A, 2 players",
+     "claim A1, hide, end game, winner is hidden, show, end game, winner is shown"},
+    {"The winner leaves standby alone", "Challenge A, 2 players", "claim A1, end game, offers StandbyMode"},
+    {"A question offers its verdicts", "Trivia A, 2 players, user advances",
+     "offers SelectGame and StandbyMode and NextPlayer and SkipQuestion and QuestionCorrect"},
+    {"A right answer has no second verdict", "Trivia A, 2 players, user advances",
+     "correct, offers SelectGame and StandbyMode and NextPlayer and SkipQuestion"},
+    {"A claim offers to continue and to undo", "Trivia A, 2 players, user advances",
+     "correct, claim A1, offers SelectGame and StandbyMode and NextPlayer and Continue and SkipQuestion and Undo and "
+     "Reset and EndGame"},
+    {"The next question offers the end too", "Trivia A, 2 players, user advances",
+     "correct, claim A1, continue, offers SelectGame and StandbyMode and NextPlayer and SkipQuestion and Reset and "
+     "EndGame and QuestionCorrect"},
+    {"A turn that goes on by itself offers no Continue", "Trivia A, 2 players",
+     "correct, claim A1, offers SelectGame and StandbyMode and NextPlayer and SkipQuestion and Undo and Reset and "
+     "EndGame"},
+    {"No verdict is offered before a ring-in", "Trivia C, 2 players, user advances",
+     "offers SelectGame and StandbyMode and SkipQuestion"},
+    {"A ring-in offers the verdicts", "Trivia C, 2 players, user advances",
+     "player 1 rings in, offers SelectGame and StandbyMode and SkipQuestion and QuestionCorrect"},
+    {"A wrong answer waits for the next ring-in", "Trivia C, 2 players, user advances",
+     "player 1 rings in, incorrect, offers SelectGame and StandbyMode and SkipQuestion"},
+    {"The options are locked before the first claim", "Trivia C, 2 players, user advances",
+     "options List and SelectPlayer(0)"},
+    {"A right answer opens the options", "Trivia C, 2 players, user advances",
+     "player 1 rings in, incorrect, player 1 rings in, correct, options Animation and HideQuestion and "
+     "IncorrectPenalty and TimedResponse and AutoContinue and List and SelectPlayer(0) and GameType(0)"},
+    {"A third player who leaves is gone at once", "Challenge A, 5x5",
+     "claim A1, claim E5, hide, show, turn 3, 2 players, turn 1, third score panel is hidden, room score box 3 is "
+     "hidden"},
+    {"A smaller grid is seen at once", "Challenge A, 5x5",
+     "claim A1, reset, choose Challenge A, wait 2 s, 3x3 board, board 000/000/000, D1 is hidden, room imgD is hidden, "
+     "img4 is hidden, turn 1"},
+    {"A running type that is chosen again asks nothing", "Challenge B, 2 players",
+     "claim A1, choose Challenge B, board 100/000/000"},
+    {"A change of type that is cancelled changes nothing", "Challenge B, 2 players",
+     "claim A1, choose Trivia B and cancel, choice of Challenge B is 1, choice of Trivia B is 0, board 100/000/000, "
+     "scores 50/0/0"},
+    {"A change of type that is confirmed ends the game", "Challenge B, 2 players",
+     "claim A1, choose Trivia B and reset, choice of Trivia B is 1, board 000/000/000, standby is shown, Start is off"},
+    {"The grid stays locked in a running game whatever was clicked", "Challenge B, 2 players",
+     "grid choice is off, claim A1, choose Challenge B, wait 4 s, grid choice is off, choose Trivia B and cancel, wait "
+     "4 s, grid choice is off, tmrArrowsTimer is off, reset, wait 2 s, grid choice is shown"},
+    {"A game started while the winner stands is kept", "Challenge B, 2 players",
+     "claim A1, end game, room winner is shown, choose Challenge B, room winner is hidden, standby is shown, start, "
+     "claim B2, wait 8 s, scores 50/0/0, board 000/010/000, standby is hidden"},
+    {"The turn has its colour", "Challenge B",
+     "next player, next player, lblP3Score colour is 255, lblP1Score colour is 65535, entry colour is 65280"},
+    {"The status text skips the step from three to one", "Challenge B",
+     "next player, next player, says Player 3 Selected!, next player, turn 1, says Player 3 Selected!"},
+    {"The status text names the step from two to one", "Challenge B, 2 players",
+     "next player, next player, turn 1, says Player 1 Selected!"},
 };
 
-using ConsoleStates = StoryTest;
-TEST_P(ConsoleStates, AreAsWritten) { Play(); }
-INSTANTIATE_TEST_SUITE_P(Stories, ConsoleStates, testing::ValuesIn(kStates), StoryTest::Name);
+using ConsoleStates = WordStoryTest;
+TEST_P(ConsoleStates, OfferWhatCounts) { Play(); }
+INSTANTIATE_TEST_SUITE_P(Stories, ConsoleStates, testing::ValuesIn(kStates), WordStoryTest::Name);
 
 TEST(Console, ALoadThatIsCancelledOrRefusedLeavesTheGameAndItsQuestionAsTheyWere) {
-  GamePlayer player("3 2 3 full m");
+  GamePlayer player("Trivia A, 2 players, user advances");
   ScriptedDialogs& dialogs = player.fixture().sim.dialogs;
   const std::string before =
-      " scores=50/0/0 board=100/000/000 question=1 picQuestion'=up lblQuestion(0)=Question_2? btnQuestionCorrect=on "
-      "optGameType(0).Enabled=no picStandby'=-";
+      ", scores 50/0/0, board 100/000/000, question 2, room question panel is shown, question text is Question 2?, "
+      "Correct is on, choice of Challenge A is disabled, room standby is hidden";
   dialogs.ExpectFile("");
-  player.Play("+ 00 C btnSelectGame" + before);
+  player.Do("correct, claim A1, continue, press Select Game" + before);
   EXPECT_EQ(dialogs.FileRequests().back().Filter, "Game Sets(*.txt)|*.txt");
   EXPECT_EQ(dialogs.FileRequests().back().InitialFolder, "C:\\Pawnfield\\Trivia Sets");
   dialogs.ExpectFile("C:\\Pawnfield\\Trivia Sets\\Gone.txt");
-  player.Play("?Procedure:_LoadGameSet btnSelectGame" + before);
+  player.Do("expect Procedure: LoadGameSet, press Select Game" + before);
   player.fixture().sim.files.Remove("C:\\Pawnfield\\Trivia Sets\\Long.txt");
-  player.Play("?Procedure:_LoadGameSet cboList:1" + before + " + optGameType(0).Enabled=yes 11 scores=50/50/0");
+  player.Do("expect Procedure: LoadGameSet, choose the set from the list" + before +
+            ", correct, choice of Challenge A is enabled, claim B2, scores 50/50/0");
   player.fixture().WriteNumberedSet("Long", 30);
   dialogs.ExpectFile("C:\\Pawnfield\\Trivia Sets\\Long.txt");
-  player.Play("btnSelectGame btnStart=on picStandby'=-");
+  player.Do("press Select Game, Start is on, room standby is hidden");
   EXPECT_EQ(player.show().NumGameQuestions, 30);
 }
 

@@ -6,34 +6,49 @@
 namespace pawnfield {
 namespace {
 
-const Story kNames[] = {
-    {"OkTakesNamesInCapitalsAndBlanksGoBackToTheResetName", "1 3 3 full i",
-     "mnuFileAddPlayerNames@frmPlayerNames { txtPlayerName(0)=PLAYER_1 txtPlayerName(2)=PLAYER_3 txtPlayerName(0):Ann "
-     "txtPlayerName(1):_b\xE9r\xE9nice_ txtPlayerName(2):x_y btnOK txtPlayerName(0)= } names=ANN/B\xC9R\xC9NICE/X_Y "
-     "lblPlayer(1)'=B\xC9R\xC9NICE mnuFileAddPlayerNames@frmPlayerNames { txtPlayerName(0)=ANN txtPlayerName(2)=X_Y "
-     "txtPlayerName(0):____ txtPlayerName(1): txtPlayerName(2):Cy btnOK } names=PLAYER_1/PLAYER_2/CY"},
-    {"AThirdPlayerWhoIsAwayHasNoName", "1 2 3 full i",
-     "mnuFileAddPlayerNames@frmPlayerNames { txtPlayerName(2)=- lblPlayer3Prompt=- btnOK } "
-     "names=PLAYER_1/PLAYER_2/Player_3 optPlayers(1) mnuFileAddPlayerNames@frmPlayerNames { txtPlayerName(2)= btnOK } "
-     "names=PLAYER_1/PLAYER_2/PLAYER_3"},
-    {"CancelLeavesNamesAndPenalties", "1 3 3 full i",
-     "mnuFileAddPlayerNames@frmPlayerNames { Command2 txtPlayerName(0):Ann btnCancel } penalties=---/0 "
-     "names=PLAYER_1/PLAYER_2/PLAYER_3 mnuFileAddPlayerNames@frmPlayerNames { chkPlayer1Penalty=0 btnCancel }"},
-    {"ButtonsFillAndClear", "1 3 3 full i",
-     "mnuFileAddPlayerNames@frmPlayerNames { Command2 chkPlayer2Penalty btnClearAll txtPlayerName(0)= "
-     "txtPlayerName(2)= "
-     "btnOK } penalties=1-3/0 mnuFileAddPlayerNames@frmPlayerNames { chkPlayer2Penalty=0 Command1 btnOK } "
-     "penalties=---/0"},
-    {"PenaltyPointsCountAtOnceEvenIfTheDialogIsCancelled", "1 3 3 full i",
-     "mnuFileAddPlayerNames@frmPlayerNames { cboPenaltyPoints:11 penalties=---/20 btnCancel } "
-     "mnuFileAddPlayerNames@frmPlayerNames { btnOK } penalties=---/20 "
-     "mnuFileAddPlayerNames@frmPlayerNames { cboPenaltyPoints:10 btnOK } penalties=---/10 "
-     "mnuFileAddPlayerNames@frmPlayerNames { cboPenaltyPoints:0 btnOK } penalties=---/0"},
+const WordStory kNames[] = {
+    {"OK takes names in capitals and without the blanks around them", "Challenge A, not started",
+     "at the names dialog: name 1 typed Ann; name 2 typed \"  b\xE9r\xE9nice \"; name 3 typed x y; press OK, names is "
+     "ANN/B\xC9R\xC9NICE/X Y, room lblPlayer(1) is B\xC9R\xC9NICE"},
+    {"The dialog opens with the names", "Challenge A, not started",
+     "at the names dialog: name 1 is PLAYER 1; name 3 is PLAYER 3; name 1 typed Ann; press OK, at the names dialog: "
+     "name 1 is ANN; name 3 is PLAYER 3; press Cancel"},
+    {"The dialog is empty once it is closed", "Challenge A, not started",
+     "at the names dialog: name 1 typed Ann; press OK; name 1 is empty"},
+    {"A name of blanks or nothing is the reset name", "Challenge A, not started",
+     "at the names dialog: name 1 typed Ann; name 2 typed Bo; name 3 typed Cy; press OK, at the names dialog: name 1 "
+     "typed blank; name 2 typed empty; press OK, names is PLAYER 1/PLAYER 2/CY"},
+    {"A third player who is away has no box", "Challenge A, 2 players, not started",
+     "at the names dialog: name 3 is hidden; lblPlayer3Prompt is hidden; press OK, names is PLAYER 1/PLAYER 2/Player "
+     "3"},
+    {"A third player who comes has the reset name", "Challenge A, 2 players, not started",
+     "at the names dialog: press OK, 3 players, at the names dialog: name 3 is empty; press OK, names is PLAYER "
+     "1/PLAYER 2/PLAYER 3"},
+    {"Cancel leaves the names", "Challenge A, not started",
+     "at the names dialog: name 1 typed Ann; press Cancel, names is PLAYER 1/PLAYER 2/PLAYER 3"},
+    {"Cancel leaves the penalties", "Challenge A, not started",
+     "at the names dialog: press All Pay; press Cancel, penalties is ---/0, at the names dialog: chkPlayer1Penalty is "
+     "0; press Cancel"},
+    {"One button has all pay", "Challenge A, not started",
+     "at the names dialog: press All Pay; press chkPlayer2Penalty; press OK, penalties is 1-3/0, at the names dialog: "
+     "chkPlayer2Penalty is 0; press Cancel"},
+    {"One button has nobody pay", "Challenge A, not started",
+     "at the names dialog: press All Pay; press Nobody Pays; press OK, penalties is ---/0"},
+    {"One button clears the names", "Challenge A, not started",
+     "at the names dialog: press Clear All; name 1 is empty; name 3 is empty; press Cancel"},
+    {"Penalty points count at once even if the dialog is cancelled", "Challenge A, not started",
+     "at the names dialog: choose entry 11 of penalty points; penalties is ---/20; press Cancel, penalties is ---/20"},
+    {"OK leaves the penalty points", "Challenge A, not started",
+     "at the names dialog: choose entry 11 of penalty points; press Cancel, at the names dialog: press OK, penalties "
+     "is ---/20"},
+    {"Each entry of the penalty points counts", "Challenge A, not started",
+     "at the names dialog: choose entry 10 of penalty points; press OK, penalties is ---/10, at the names dialog: "
+     "choose entry 0 of penalty points; press OK, penalties is ---/0"},
 };
 
-using PlayerNames = StoryTest;
-TEST_P(PlayerNames, AreAsWritten) { Play(); }
-INSTANTIATE_TEST_SUITE_P(Stories, PlayerNames, testing::ValuesIn(kNames), StoryTest::Name);
+using PlayerNames = WordStoryTest;
+TEST_P(PlayerNames, AreWhatTheDialogTook) { Play(); }
+INSTANTIATE_TEST_SUITE_P(Stories, PlayerNames, testing::ValuesIn(kNames), WordStoryTest::Name);
 
 TEST(PlayerNamesForm, HeadingSaysForInTheBoxAndItsOtherWordingAfterADoubleClick) {
   ShowFixture fixture;

@@ -1,15 +1,14 @@
 // Who has the turn and what it is worth, where play leaves the trodden path: verdicts and claims without a player,
 // undo, the pause, the end, players who leave, keys and presses at the wrong moment.
-#include "support/operator_words.h"
+#include "support/game_player.h"
 
 namespace pawnfield {
 namespace {
 
 const WordStory kNobody[] = {
     {"A verdict without a player is refused", "Trivia B, Finish Row",
-     "skip, wait 3, phase open, correct, phase open, picQuestion=up, btnQuestionCorrect=on, incorrect, phase open, "
-     "says "
-     "\"Nobody has the turn: press Next Player, or let a player ring in.\", next player, correct, claim A1, board "
+     "skip, wait 3, phase open, correct, phase open, question panel is shown, Correct is on, incorrect, phase open, "
+     "says \"Nobody has the turn: press Next Player, or let a player ring in.\", next player, correct, claim A1, board "
      "200/000/000, scores 0/50/0"},
     {"A claim without a player is refused", "Trivia C, user advances",
      "player 1 rings in, correct, skip, click A1, board 000/000/000, says \"Nobody has the turn: let a player ring "
@@ -19,10 +18,10 @@ const WordStory kNobody[] = {
     {"Nobody is lit before the first ring-in", "Trivia C, not started",
      "choose the set, nobody lit, start, nobody lit, hide, show, nobody lit, player 3 rings in, player 3 lit"},
     {"Who rang in stays lit until his square is taken", "Trivia C, remotes",
-     "remote 2, correct, player 2 lit, imgDJEntry=O-100a.bmp, click A1, nobody lit, imgDJEntry=Neutral.bmp"},
+     "remote 2, correct, player 2 lit, corner piece is O-100a.bmp, click A1, nobody lit, corner piece is Neutral.bmp"},
     {"Each question begins with nobody", "Trivia C, 7 questions",
      "skip, wait 3, player 1 rings in, correct, claim A1, phase notice, key 2, turn nobody, player 3 rings in, turn "
-     "nobody, wait 3, phase open, btnBuzzer(1).Enabled=yes, key 2, turn 2"},
+     "nobody, wait 3, phase open, buzzer 2 is enabled, key 2, turn 2"},
     {"No key passes the turn where players ring in", "Trivia C, user advances",
      "key ctrl n, turn nobody, key enter, turn nobody, key 2, correct, key ctrl n, key enter, turn 2, claim A1, key "
      "ctrl n, turn nobody, continue, key 3, turn 3"},
@@ -34,89 +33,85 @@ const WordStory kNobody[] = {
 
 const WordStory kUndo[] = {
     {"The turn goes back in Trivia C", "Trivia C, remotes",
-     "remote 2, correct, claim A1, undo, phase player 2 claims, player 2 lit, imgDJEntry=O-100a.bmp, btnContinue=on, "
-     "claim "
-     "B1, board 020/000/000, scores 0/50/0"},
+     "remote 2, correct, claim A1, undo, phase player 2 claims, player 2 lit, corner piece is O-100a.bmp, Continue is "
+     "on, claim B1, board 020/000/000, scores 0/50/0"},
     {"The turn goes back in Trivia A", "Trivia A, 2 players",
-     "correct, claim A1, next player, undo, phase player 1 claims, player 1 lit, btnContinue=on"},
+     "correct, claim A1, next player, undo, phase player 1 claims, player 1 lit, Continue is on"},
     {"The turn goes back in Trivia B", "Trivia B",
-     "correct, claim A1, next player, undo, phase player 1 claims, player 1 lit, btnContinue=on"},
+     "correct, claim A1, next player, undo, phase player 1 claims, player 1 lit, Continue is on"},
     {"The turn goes back in Challenge A", "Challenge A",
      "claim A1, next player, undo, phase player 1 claims, player 1 lit, says Player 1 Selected!"},
     {"The turn goes back in Challenge B", "Challenge B",
      "claim A1, next player, undo, phase player 1 claims, player 1 lit"},
     {"The pause goes back too", "Trivia A",
      "correct, claim A1, wait 2, undo, wait 60, question 1, phase player 1 claims, click B1, wait 3.8, question 1, "
-     "wait "
-     "0.2, question 2, wait 60, question 2"},
+     "wait 0.2, question 2, wait 60, question 2"},
     {"The operator may continue instead of a new claim", "Trivia C, remotes",
      "remote 2, correct, claim A1, undo, continue, question 2, phase open, remote 3, turn 3, click A1, board "
      "000/000/000"},
     {"The flash goes back too", "Challenge B",
      "claim A1, click B1, wait 0.4, undo, phase player 1 claims, wait 2, phase player 1 claims, board 100/000/000"},
     {"The bonus goes back too", "Challenge B",
-     "claim A1, claim C3, claim A3, claim C1, click B2, wait 1, picBonus'=up, undo, picBonus'=-, phase player 1 "
-     "claims"},
-    {"Nothing is left to undo once a question is up", "Trivia A", "correct, claim A1, wait 3, question 2, btnUndo=off"},
-    {"A cleared board has nothing to undo", "Trivia A", "correct, claim A1, clear all scores, btnUndo=off"},
+     "claim A1, claim C3, claim A3, claim C1, click B2, wait 1, room bonus is shown, undo, room bonus is hidden, phase "
+     "player 1 claims"},
+    {"Nothing is left to undo once a question is up", "Trivia A", "correct, claim A1, wait 3, question 2, Undo is off"},
+    {"A cleared board has nothing to undo", "Trivia A", "correct, claim A1, clear all scores, Undo is off"},
     {"Who has left gets no turn back", "Challenge A",
-     "claim A1, claim B1, claim C1, two players, undo, turn 1, board 120/000/000"},
+     "claim A1, claim B1, claim C1, 2 players, undo, turn 1, board 120/000/000"},
 };
 
 const WordStory kPause[] = {
     {"A claim after a skip has its whole pause", "Trivia A",
      "correct, skip, wait 2.5, click A1, wait 3.8, question 1, wait 0.2, question 2, wait 2.8, question 2"},
     {"The timer and Continue exclude each other after the notice", "Trivia A, 7 questions",
-     "skip, wait 3, correct, pause of 5 s, claim A1, wait 3, phase pause, btnContinue=off, wait 2, question 3, wait "
-     "20, "
-     "question 3"},
+     "skip, wait 3, correct, pause of 5 s, claim A1, wait 3, phase pause, Continue is off, wait 2, question 3, wait "
+     "20, question 3"},
     {"A skip at the notice passes nothing over", "Trivia A, 7 questions, user advances",
-     "skip, continue, correct, claim A1, skip, phase notice, btnContinue=off, wait 3, continue, question 3"},
+     "skip, continue, correct, claim A1, skip, phase notice, Continue is off, wait 3, continue, question 3"},
     {"The end of a game stops the pause", "Trivia C, remotes",
-     "remote 1, correct, claim A1, end game, remote 2, key 2, turn nobody, wait 4, question 1, phase winner, "
-     "picQuestion'=-, btnUndo=off, btnContinue=off, btnSkipQuestion=off, key ctrl s, key y, wait 20, phase idle, "
-     "picQuestion=-"},
+     "remote 1, correct, claim A1, end game, remote 2, key 2, turn nobody, wait 4, question 1, phase winner, room "
+     "question panel is hidden, Undo is off, Continue is off, Skip is off, key ctrl s, key y, wait 20, phase idle, "
+     "question panel is hidden"},
     {"A line that ends the game brings no question", "Trivia B, Finish Row, remotes",
      "correct, claim A1, wait 3, correct, claim A2, wait 3, correct, click A3, wait 4.5, question 3, phase winner, "
-     "picQuestion'=-, btnUndo=off, btnContinue=off, btnQuestionCorrect=-"},
+     "room question panel is hidden, Undo is off, Continue is off, Correct is hidden"},
     {"No square is taken after the winner", "Trivia B, user advances",
      "correct, claim A1, continue, correct, keys b2, end game, key enter, click C3, board 100/000/000, scores 50/0/0"},
 };
 
 const WordStory kPlayers[] = {
     {"The third is shut out of a game of two", "Trivia C, remotes, not started",
-     "choose the set, two players, start, key 3, turn nobody, says Player 3 isn't in this game of 2 players., remote "
-     "3, "
-     "turn nobody, btnSelectPlayer(2)=off, key 7, turn nobody, says Player 7 isn't in this game of 2 players., key 3, "
-     "says "
-     "Player 7 isn't in this game of 2 players., key 0, key ^^, turn nobody, btnBuzzer(2).Enabled=no, key 2, turn 2"},
-    {"The pad of the third is shut out too", "Trivia C, pads, not started",
-     "choose the set, two players, start, pad 3, turn nobody, says Player 3 isn't in this game of 2 players., pad 2, "
-     "turn "
+     "choose the set, 2 players, start, key 3, turn nobody, says Player 3 isn't in this game of 2 players., remote 3, "
+     "turn nobody, btnSelectPlayer(2) is off, key 7, turn nobody, says Player 7 isn't in this game of 2 players., key "
+     "3, says Player 7 isn't in this game of 2 players., key 0, key ^^, turn nobody, buzzer 3 is disabled, key 2, turn "
      "2"},
+    {"The pad of the third is shut out too", "Trivia C, pads, not started",
+     "choose the set, 2 players, start, pad 3, turn nobody, says Player 3 isn't in this game of 2 players., pad 2, "
+     "turn 2"},
     {"The third who leaves passes the turn on", "Trivia A",
-     "incorrect, incorrect, turn 3, two players, phase player 1 answers"},
+     "incorrect, incorrect, turn 3, 2 players, phase player 1 answers"},
     {"The third who leaves opens his question again", "Trivia C, remotes",
-     "player 3 rings in, picHideQuestion'=up, two players, phase open, nobody lit, picHideQuestion'=-, "
-     "btnQuestionCorrect=-, remote 1, turn 1"},
+     "player 3 rings in, room cover is shown, 2 players, phase open, nobody lit, room cover is hidden, Correct is "
+     "hidden, remote 1, turn 1"},
     {"The third who leaves takes no square", "Trivia C",
-     "player 3 rings in, correct, two players, phase pause, wait 3, question 2, phase open"},
+     "player 3 rings in, correct, 2 players, phase pause, wait 3, question 2, phase open"},
 };
 
 const WordStory kKeys[] = {
     {"A square typed at the first question takes nothing", "Trivia C",
-     "keys b2, key enter, txtDJCommand=, turn 2, board 000/000/000, picQuestion=up, picQuestion'=up"},
+     "keys b2, key enter, entry is empty, turn 2, board 000/000/000, question panel is shown, room question panel is "
+     "shown"},
     {"A click at the first question takes nothing", "Trivia A",
-     "click A1, board 000/000/000, picQuestion=up, picQuestion'=up"},
+     "click A1, board 000/000/000, question panel is shown, room question panel is shown"},
     {"A skipped first question opens no square", "Trivia A, user advances", "skip, click A1, board 000/000/000"},
     {"The letter of an open square does not continue", "Trivia A, user advances",
-     "correct, claim A1, undo, key c, txtDJCommand=C, question 1"},
+     "correct, claim A1, undo, key c, entry is C, question 1"},
     {"A sound question is open to remotes", "Trivia C, picture second, remotes, user advances",
-     "skip, continue, skip, continue, picSound=up, remote 2, turn 2"},
+     "skip, continue, skip, continue, sound panel is shown, remote 2, turn 2"},
     {"A sound question is open to digit keys", "Trivia C, picture second, user advances",
-     "skip, continue, skip, continue, picSound=up, key 2, turn 2"},
+     "skip, continue, skip, continue, sound panel is shown, key 2, turn 2"},
     {"A sound question is open to pads", "Trivia C, picture second, pads, user advances",
-     "skip, continue, skip, continue, picSound=up, pad 2, turn 2"},
+     "skip, continue, skip, continue, sound panel is shown, pad 2, turn 2"},
     {"A question that nobody holds is open to every way in Trivia B", "Trivia B, user advances",
      "skip, continue, phase open, player 3 rings in, phase player 3 answers, incorrect, turn 1"},
 };

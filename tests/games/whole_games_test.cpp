@@ -9,70 +9,104 @@
 namespace pawnfield {
 namespace {
 
-const Story kGames[] = {
-    {"ChallengeA_RowEndsTheGame", "1 2 3 row",
-     "00 11 01 22 02 scores=200/100/0 board=111/020/002 winner=Game_Over!/PLAYER_1/Wins!"},
-    {"ChallengeA_LineEndsTheGameButPointsWinIt", "1 2 3 row",
-     "00 11 01 u23 u23 22 02 scores=200/300/0 board=111/020/002 winner=Game_Over!/PLAYER_2/Wins!"},
-    {"ChallengeA_TakenSquareCostsNoTurn", "1 3 3 row",
-     "00 00 01 N 11 E scores=100/50/0 board=120/010/000 winner=Game_Over!/PLAYER_1/Wins!"},
-    {"ChallengeA_ThreePlayersUndoAndTie", "1 3 5 full",
-     "22 33 U 44 00 E scores=50/50/50 board=30000/00000/00100/00000/00002 "
-     "winner=Game_Over!/PLAYER_1_and_/PLAYER_2_and_/PLAYER_3/Tie!"},
-    {"ChallengeA_TwoPlayersAtZeroTie", "1 2 3 row 0",
-     "11 E scores=0/0/0 board=000/010/000 winner=Game_Over!/PLAYER_1_and_/PLAYER_2/Tie!"},
-    {"ChallengeA_TheLesserLossWins", "1 2 3 row 0",
-     "11 d13 d24 d24 d24 d24 d24 E scores=-100/-50/0 board=000/010/000 winner=Game_Over!/PLAYER_2/Wins!"},
-    {"ChallengeB_FullBoardOf4x4", "2 3 4 full",
-     "00 01 02 03 N 10 11 12 13 N 20 21 22 23 N 30 31 32 33 scores=600/300/300 board=1111/2222/3333/1111 "
-     "winner=Game_Over!/PLAYER_1/Wins!"},
-    {"ChallengeB_StandbyKeepsTheGame", "2 2 3 row",
-     "00 H V 11 H V N 01 N 22 scores=200/50/0 board=120/010/001 winner=Game_Over!/PLAYER_1/Wins!"},
-    {"TriviaA_WrongAnswersPassTheTurnAndCost100", "3 2 5 row p",
-     "+ 00 > - + 11 > + 04 > - + 13 > + 22 scores=100/0/0 board=10002/01020/00100/00000/00000 "
-     "winner=Game_Over!/PLAYER_1/Wins!"},
-    {"TriviaA_UndoGivesTheTurnBack", "3 2 4 row",
-     "+ 00 U 33 > + 32 E scores=50/50/0 board=0000/0000/0000/0021 winner=Game_Over!/PLAYER_1_and_/PLAYER_2/Tie!"},
-    {"TriviaB_FullBoardWithASkip", "4 3 3 full",
-     "+ 11 > + 00 > - + 02 > S > N + 20 > - + 22 > + 10 > + 12 > - + 01 > + 21 scores=350/150/50 board=122/111/321 "
-     "winner=Game_Over!/PLAYER_1/Wins!"},
-    {"TriviaB_UserAdvances", "4 2 4 row m",
-     "+ 00 C + 01 > C - > + 12 C - + 02 scores=200/50/0 board=1110/0020/0000/0000 winner=Game_Over!/PLAYER_1/Wins!"},
-    {"TriviaC_BonusOf300AndTheWrongRingInOpensAgain", "5 3 4 row",
-     "r3 + 03 > r1 - r3 + 21 > r2 + 00 > r3 + 10 > r3 + 11 > r3 + 12 scores=0/50/500 board=2003/3330/0300/0000 "
-     "picBonus=up > "
-     "winner=Game_Over!/PLAYER_3/Wins!"},
-    {"TriviaC_UndoFreesTheSquareForTheNext", "5 2 5 full p",
-     "r2 + 00 U C r2 - r1 + 00 E scores=50/-100/0 board=10000/00000/00000/00000/00000 "
-     "winner=Game_Over!/PLAYER_1/Wins!"},
-    {"TriviaC_BonusPausesAndTheGameGoesOn", "5 2 3 full a",
-     "r1 + 02 > r1 + 20 > r1 + 00 > r1 + 22 > r1 + 11 > > r2 + 01 E scores=500/50/0 board=121/010/101 "
-     "winner=Game_Over!/PLAYER_1/Wins!"},
+const WordStory kGames[] = {
+    {"Challenge A: row ends the game", "Challenge A, 2 players, Finish Row",
+     "claim A1, claim B2, claim B1, claim C3, claim C1, scores 200/100/0, board 111/020/002, winner text is Game "
+     "Over!/PLAYER 1/Wins!"},
+    {"Challenge A: line ends the game but points win it", "Challenge A, 2 players, Finish Row",
+     "claim A1, claim B2, claim B1, player 2 gains 100, player 2 gains 100, claim C3, claim C1, scores 200/300/0, "
+     "board 111/020/002, winner text is Game Over!/PLAYER 2/Wins!"},
+    {"Challenge A: taken square costs no turn", "Challenge A, Finish Row",
+     "claim A1, claim A1, claim B1, next player, claim B2, end game, scores 100/50/0, board 120/010/000, winner text "
+     "is Game Over!/PLAYER 1/Wins!"},
+    {"Challenge A: three players undo and tie", "Challenge A, 5x5",
+     "claim C3, claim D4, undo, claim E5, claim A1, end game, scores 50/50/50, board 30000/00000/00100/00000/00002, "
+     "winner text is Game Over!/PLAYER 1 and /PLAYER 2 and /PLAYER 3/Tie!"},
+    {"Challenge A: two players at zero tie", "Challenge A, 2 players, Finish Row, worthless squares",
+     "claim B2, end game, scores 0/0/0, board 000/010/000, winner text is Game Over!/PLAYER 1 and /PLAYER 2/Tie!"},
+    {"Challenge A: the lesser loss wins", "Challenge A, 2 players, Finish Row, worthless squares",
+     "claim B2, player 1 loses 100, player 2 loses 10, player 2 loses 10, player 2 loses 10, player 2 loses 10, player "
+     "2 loses 10, end game, scores -100/-50/0, board 000/010/000, winner text is Game Over!/PLAYER 2/Wins!"},
+    {"Challenge B: full board of 4x4", "Challenge B, 4x4",
+     "claim A1, claim B1, claim C1, claim D1, next player, claim A2, claim B2, claim C2, claim D2, next player, claim "
+     "A3, claim B3, claim C3, claim D3, next player, claim A4, claim B4, claim C4, claim D4, scores 600/300/300, board "
+     "1111/2222/3333/1111, winner text is Game Over!/PLAYER 1/Wins!"},
+    {"Challenge B: standby keeps the game", "Challenge B, 2 players, Finish Row",
+     "claim A1, hide, show, claim B2, hide, show, next player, claim B1, next player, claim C3, scores 200/50/0, board "
+     "120/010/001, winner text is Game Over!/PLAYER 1/Wins!"},
+    {"Trivia A: wrong answers pass the turn and cost 100", "Trivia A, 2 players, 5x5, Finish Row, penalty",
+     "correct, claim A1, wait 3 s, incorrect, correct, claim B2, wait 3 s, correct, claim E1, wait 3 s, incorrect, "
+     "correct, claim D2, wait 3 s, correct, claim C3, scores 100/0/0, board 10002/01020/00100/00000/00000, winner text "
+     "is Game Over!/PLAYER 1/Wins!"},
+    {"Trivia A: undo gives the turn back", "Trivia A, 2 players, 4x4, Finish Row",
+     "correct, claim A1, undo, claim D4, wait 3 s, correct, claim C4, end game, scores 50/50/0, board "
+     "0000/0000/0000/0021, winner text is Game Over!/PLAYER 1 and /PLAYER 2/Tie!"},
+    {"Trivia B: full board with a skip", "Trivia B",
+     "correct, claim B2, wait 3 s, correct, claim A1, wait 3 s, incorrect, correct, claim C1, wait 3 s, skip, wait 3 "
+     "s, next player, correct, claim A3, wait 3 s, incorrect, correct, claim C3, wait 3 s, correct, claim A2, wait 3 "
+     "s, correct, claim C2, wait 3 s, incorrect, correct, claim B1, wait 3 s, correct, claim B3, scores 350/150/50, "
+     "board 122/111/321, winner text is Game Over!/PLAYER 1/Wins!"},
+    {"Trivia B: user advances", "Trivia B, 2 players, 4x4, Finish Row, user advances",
+     "correct, claim A1, continue, correct, claim B1, wait 3 s, continue, incorrect, wait 3 s, correct, claim C2, "
+     "continue, incorrect, correct, claim C1, scores 200/50/0, board 1110/0020/0000/0000, winner text is Game "
+     "Over!/PLAYER 1/Wins!"},
+    {"Trivia C: bonus of 300 and the wrong ring in opens again", "Trivia C, 4x4, Finish Row",
+     "player 3 rings in, correct, claim D1, wait 3 s, player 1 rings in, incorrect, player 3 rings in, correct, claim "
+     "B3, wait 3 s, player 2 rings in, correct, claim A1, wait 3 s, player 3 rings in, correct, claim A2, wait 3 s, "
+     "player 3 rings in, correct, claim B2, wait 3 s, player 3 rings in, correct, claim C2, scores 0/50/500, board "
+     "2003/3330/0300/0000, bonus is shown, wait 3 s, winner text is Game Over!/PLAYER 3/Wins!"},
+    {"Trivia C: undo frees the square for the next", "Trivia C, 2 players, 5x5, penalty",
+     "player 2 rings in, correct, claim A1, undo, continue, player 2 rings in, incorrect, player 1 rings in, correct, "
+     "claim A1, end game, scores 50/-100/0, board 10000/00000/00000/00000/00000, winner text is Game Over!/PLAYER "
+     "1/Wins!"},
+    {"Trivia C: bonus pauses and the game goes on", "Trivia C, 2 players, animated",
+     "player 1 rings in, correct, claim C1, wait 3 s, player 1 rings in, correct, claim A3, wait 3 s, player 1 rings "
+     "in, correct, claim A1, wait 3 s, player 1 rings in, correct, claim C3, wait 3 s, player 1 rings in, correct, "
+     "claim B2, wait 3 s, wait 3 s, player 2 rings in, correct, claim B1, end game, scores 500/50/0, board "
+     "121/010/101, winner text is Game Over!/PLAYER 1/Wins!"},
 };
 
 // Presses that are reports of the wireless remotes or bytes of the wired pads; turn=0 while nobody holds the question.
-const Story kPresses[] = {
-    {"RemotesWinByTheirFirstReport", "5 3 3 row w",
-     "2 1 3 >30 turn=2 >60 turn=2 + 00 >8000 1 1 1 2 >30 turn=1 >150 turn=1 - turn=0 1 >30 turn=0 3 >30 "
-     "turn=3 + 11 >8000 [ 1 >60 ] turn=0 1 >30 turn=0 >240 1 >30 turn=1 - H 2 >30 turn=0 V >240 2 >30 turn=2 "
-     "+ 01 >8000 3 >60 turn=3 - >270 2 3 1 >90 turn=2 + 02 >8000 winner=Game_Over!/PLAYER_2/Wins!"},
-    {"PadsWinByTheirFirstFrame", "5 3 3 row l",
-     "2 1 3 turn=2 + 00 >8000 1 1 1 2 turn=1 - turn=0 3 turn=3 + 11 >8000 [ 2 1 >30 ] turn=0 >30 turn=2 + 01 "
-     ">8000 3 turn=3 - 2 3 1 turn=2 + 02 >8000 winner=Game_Over!/PLAYER_2/Wins!"},
-    {"BetweenQuestionsAndInStandbyNobodyRingsIn", "5 3 3 row w",
-     "1 >30 turn=1 + 2 3 >120 turn=1 00 >8000 >270 H 2 3 >120 turn=0 V >270 3 >30 turn=3 - turn=0 "
-     "btnQuestionCorrect=-"},
+const WordStory kPresses[] = {
+    {"The remote whose report comes first holds the question", "Trivia C, remotes",
+     "queue remote 2, queue remote 1, remote 3, turn 2, wait 60 ms, turn 2"},
+    {"Who presses a remote again keeps the question", "Trivia C, remotes",
+     "queue remote 1, queue remote 1, queue remote 1, remote 2, turn 1, wait 150 ms, turn 1"},
+    {"After a wrong answer another remote rings in", "Trivia C, remotes",
+     "remote 1, incorrect, turn nobody, remote 3, turn 3"},
+    {"Remotes held down together ring in once the question opens again", "Trivia C, remotes",
+     "remote 3, incorrect, wait 270 ms, queue remote 2, queue remote 3, queue remote 1, wait 90 ms, turn 2"},
+    {"A game goes by remotes to its winner", "Trivia C, Finish Row, remotes",
+     "remote 2, correct, claim A1, wait 8 s, remote 3, correct, claim B2, wait 8 s, remote 2, correct, claim B1, wait "
+     "8 s, remote 2, correct, claim C1, wait 8 s, winner text is Game Over!/PLAYER 2/Wins!"},
+    {"The pad whose frame comes first holds the question", "Trivia C, pads", "pad 2, pad 1, pad 3, turn 2"},
+    {"Who presses a pad again keeps the question", "Trivia C, pads", "pad 1, pad 1, pad 1, pad 2, turn 1"},
+    {"After a wrong answer another pad rings in", "Trivia C, pads",
+     "pad 1, incorrect, turn nobody, pad 3, turn 3, incorrect, pad 2, pad 3, pad 1, turn 2"},
+    {"Pads pressed at a message box count behind it in their order", "Trivia C, pads",
+     "at a message box: pad 2; pad 1; wait 30 ms, turn nobody, wait 30 ms, turn 2"},
+    {"A game goes by pads to its winner", "Trivia C, Finish Row, pads",
+     "pad 2, correct, claim A1, wait 8 s, pad 3, correct, claim B2, wait 8 s, pad 2, correct, claim B1, wait 8 s, pad "
+     "2, correct, claim C1, wait 8 s, winner text is Game Over!/PLAYER 2/Wins!"},
+    {"Nobody rings in while a square is chosen", "Trivia C, remotes",
+     "remote 1, correct, queue remote 2, queue remote 3, wait 120 ms, turn 1, claim A1, wait 8 s, turn nobody"},
+    {"Nobody rings in while standby covers the question", "Trivia C, remotes",
+     "hide, queue remote 2, queue remote 3, wait 120 ms, turn nobody, show, wait 270 ms, remote 3, turn 3"},
+    {"Remotes ring in again once standby is over", "Trivia C, remotes",
+     "remote 1, incorrect, hide, remote 2, turn nobody, show, wait 240 ms, remote 2, turn 2"},
+    {"A wrong answer leaves no verdict to give", "Trivia C, remotes",
+     "remote 3, incorrect, turn nobody, Correct is hidden"},
 };
 
-using WholeGame = StoryTest;
-using PressGame = StoryTest;
+using WholeGame = WordStoryTest;
+using PressGame = WordStoryTest;
 
 TEST_P(WholeGame, EndsAsWorkedOutByHand) {
   GamePlayer player(GetParam().setup);
-  player.Play(GetParam().script);
+  player.Do(GetParam().steps);
   // Five seconds after the end the show is back in standby, for a new set.
-  player.Play("picWinner=up > > picStandby=up picWinner=- scores=0/0/0");
-  player.Play(GetParam().setup[0] <= '2' ? "btnStart=on" : "btnStart=off");
+  player.Do("winner is shown, wait 3 s, wait 3 s, standby is shown, winner is hidden, scores 0/0/0");
+  player.Do(std::string(GetParam().setup).starts_with("Challenge") ? "Start is on" : "Start is off");
   EXPECT_EQ(player.show().state.Board, GameState().Board);
 }
 
@@ -91,8 +125,8 @@ class NoWrites : public Observer {
 TEST_P(WholeGame, LeavesTheAudienceFormAloneWithOneMonitor) {
   GamePlayer player(GetParam().setup, Screens::One);
   NoWrites watch(player.fixture().audience());
-  player.Play(GetParam().script);
-  player.Play("> >");
+  player.Do(GetParam().steps);
+  player.Do("wait 3 s, wait 3 s");
 }
 
 TEST(OneMonitor, LoadAndExitLeaveTheAudienceFormAlone) {
@@ -105,8 +139,8 @@ TEST(OneMonitor, LoadAndExitLeaveTheAudienceFormAlone) {
 
 // The set has gone with its game; an editor that still held its name would save nothing over it.
 TEST(AfterTheEnd, AnEditorOfTheCurrentSetAsksForANameAndLeavesTheFile) {
-  GamePlayer player("3 2 3 row");
-  player.Play("+ 00 E > >");
+  GamePlayer player("Trivia A, 2 players, Finish Row");
+  player.Do("correct, claim A1, end game, wait 3 s, wait 3 s");
   ScriptedDialogs& dialogs = player.fixture().sim.dialogs;
   SimFiles& files = player.fixture().sim.files;
   const std::string set = "C:\\Pawnfield\\Trivia Sets\\Long.txt", before = files.Read(set);
@@ -119,14 +153,14 @@ TEST(AfterTheEnd, AnEditorOfTheCurrentSetAsksForANameAndLeavesTheFile) {
     player.show().frmEditor.mnuFileSave.Click();
     player.show().frmEditor.mnuFileExit.Click();
   });
-  player.Play("btnStartGame");
+  player.Do("press Edit");
   EXPECT_EQ(files.Read(set), before);
 }
 
 TEST_P(PressGame, GoesByTheFirstPress) { Play(); }
 
-INSTANTIATE_TEST_SUITE_P(Games, WholeGame, testing::ValuesIn(kGames), StoryTest::Name);
-INSTANTIATE_TEST_SUITE_P(Games, PressGame, testing::ValuesIn(kPresses), StoryTest::Name);
+INSTANTIATE_TEST_SUITE_P(Games, WholeGame, testing::ValuesIn(kGames), WordStoryTest::Name);
+INSTANTIATE_TEST_SUITE_P(Games, PressGame, testing::ValuesIn(kPresses), WordStoryTest::Name);
 
 }  // namespace
 }  // namespace pawnfield

@@ -23,7 +23,7 @@ const std::string kFile =
 
 class Headers : public GamePlayer, public testing::Test {
  protected:
-  Headers() : GamePlayer("5 3 3 full mi") {}
+  Headers() : GamePlayer("Trivia C, user advances, not started") {}
   void Begin(const std::string& file) {
     sim.clock.Calendar = {2026, 3, 1, 20, 0, 0};
     sim.files.Put(kPath, file);
@@ -41,7 +41,7 @@ class Headers : public GamePlayer, public testing::Test {
     }
     return seen;
   }
-  void InDialog(const std::string& script) { Play("mnuFileOptionalHeaders@frmOptionalHeaders { " + script + " }"); }
+  void InDialog(const std::string& words) { Do("at the headers: " + words); }
 
   SimPlatform& sim = fixture().sim;
   OptionalHeadersForm& dialog = show().frmOptionalHeaders;
@@ -139,7 +139,7 @@ TEST_F(Headers, WhatIsCancelledOrClosedIsGoneAndTheHeadersAreInTheBoxesAgain) {
     form().mnuFileOptionalHeaders.Click();
     EXPECT_EQ(sim.files.Read(kPath) + show().state.OptionalHeaders[0].HeaderText, kFile + "Welcome to the show");
     // OK after it writes what rotates, and no empty boxes over it.
-    InDialog("txtOptionalHeader(0)=Welcome_to_the_show txtOptionalHeader(2)= btnOk");
+    InDialog("header 1 is Welcome to the show; header 3 is empty; press btnOk");
     EXPECT_EQ(Rotate(3), "WS-") << closes;
     EXPECT_THAT(sim.files.Read(kPath), HasSubstr("\"Sponsor, and friends\""));
     sim.files.Put(kPath, kFile);
@@ -151,7 +151,7 @@ TEST_F(Headers, WhatIsCancelledOrClosedIsGoneAndTheHeadersAreInTheBoxesAgain) {
     dialog.Unload();
   });
   form().mnuFileOptionalHeaders.Click();
-  InDialog("txtOptionalHeader(3)= btnCancel");
+  InDialog("header 4 is empty; press Cancel");
 }
 
 TEST_F(Headers, TheFontOfAnOpenedFileIsTheOneToChangeFrom) {
@@ -170,16 +170,16 @@ TEST_F(Headers, TheFontOfAnOpenedFileIsTheOneToChangeFrom) {
 TEST_F(Headers, FilesOfTheOperatorsOwnAreOpenedAndSaved) {
   sim.files.Put("D:\\old.txt", "no stamp at all\r\n\"Old\",\"Arial\",30,#TRUE#,#TRUE#,255,0\r\n");
   InDialog(
-      "file:D:\\gone.txt ?Procedure:_Editor_Save btnOpen file:D:\\old.txt btnOpen txtOptionalHeader(0)=Old "
-      "txtOptionalHeader(0):Newer btnSave txtOptionalHeader(0):Newest file:D:\\old.txt "
-      "?No:File_already_exists._Select_Yes_to_overwrite mnuFileSaveAs btnCancel");
+      "file D:\\gone.txt; expect Procedure: Editor Save; press Open; file D:\\old.txt; press Open; header 1 is Old; "
+      "header 1 typed Newer; press Save; header 1 typed Newest; file D:\\old.txt; "
+      "answer No to File already exists. Select Yes to overwrite; press Save As; press Cancel");
   EXPECT_THAT(sim.files.Read("D:\\old.txt"), HasSubstr("\"Newer\",\"Arial\",30"));
   const FileDialogRequest& saveAs = sim.dialogs.FileRequests().back();
   EXPECT_EQ(saveAs.Title + saveAs.FileName + saveAs.DefaultExtension, "Save HeaderHeaders.txttxt");
   sim.files.FailNextWrite(kErrorDiskFull);
-  InDialog("?Procedure:_mnuFileSave btnSave btnCancel");
+  InDialog("expect Procedure: mnuFileSave; press Save; press Cancel");
   sim.files.FailNextWrite(kErrorDiskFull);
-  InDialog("?Procedure:_SaveToOSKD mnuFileExit");
+  InDialog("expect Procedure: SaveToOSKD; press Exit");
 }
 
 }  // namespace

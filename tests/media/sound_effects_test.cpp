@@ -12,7 +12,7 @@ constexpr const char* kHorn = "D:\\clips\\horn.wav";
 
 class SoundEffects : public GamePlayer, public testing::Test {
  protected:
-  SoundEffects() : GamePlayer("5 3 3 full mi") { sim.files.Put(kHorn, "sound"); }
+  SoundEffects() : GamePlayer("Trivia C, user advances, not started") { sim.files.Put(kHorn, "sound"); }
   // Opens the dialog by its button, does that, and closes it.
   void InDialog(const std::function<void()>& act) {
     sim.dialogs.ExpectForm("frmSoundEffects", [&] {
@@ -21,7 +21,7 @@ class SoundEffects : public GamePlayer, public testing::Test {
     });
     form().btnSounds.Click();
   }
-  void InDialog(const std::string& script) { Play("btnSounds@frmSoundEffects { " + script + " btnSaveExit }"); }
+  void InDialog(const std::string& words) { Do("at the sound table: " + words + "; press btnSaveExit"); }
   std::string& Entry(std::size_t bank, std::size_t row) { return show().soundBanks[bank][row]; }
 
   SimPlatform& sim = fixture().sim;
@@ -99,18 +99,19 @@ TEST_F(SoundEffects, PreviewPlaysTheEntryEvenOfAClearedCell) {
 TEST_F(SoundEffects, ExportAndImportCarryTheTableAndFaultsOfFilesAreTold) {
   Entry(3, 20) = "C:\\a\\twenty.wav";
   sim.files.Put("D:\\short.dat", "D:\\one\r\nD:\\two\r\n");
-  InDialog("file:D:\\clips\\mine.dat btnExport");
+  InDialog("file D:\\clips\\mine.dat; press Export");
   const SoundBanks exported = std::exchange(show().soundBanks, {});
-  InDialog("file:D:\\clips\\mine.dat btnImport");
+  InDialog("file D:\\clips\\mine.dat; press Import");
   EXPECT_EQ(show().soundBanks, exported);
   EXPECT_EQ(grid.Cell(19, 3), "twenty.wav");
   EXPECT_EQ(grid.Cell(8, 1), "") << "an import shows empty cells empty";
   sim.files.FailNextWrite(kErrorDiskFull);
   InDialog(
-      "file:D:\\gone.dat ?File_not_found:_D:\\gone.dat btnImport file:D:\\full.dat "
-      "?Procedure:_btnExportSoundFiles btnExport file:D:\\short.dat ?Procedure:_btnImportSoundFiles btnImport");
+      "file D:\\gone.dat; expect File not found: D:\\gone.dat; press Import; file D:\\full.dat; "
+      "expect Procedure: btnExportSoundFiles; press Export; file D:\\short.dat; expect Procedure: btnImportSoundFiles; "
+      "press Import");
   sim.files.FailNextWrite(kErrorDiskFull);
-  InDialog("?Error_Number:_61");
+  InDialog("expect Error Number: 61");
   EXPECT_EQ(sim.dialogs.FileRequests()[0].DefaultExtension, "dat");
   EXPECT_EQ(Entry(1, 2), "D:\\two");
   EXPECT_EQ(Entry(1, 4), "C:\\Pawnfield\\Sound Effects\\Correct.mp3") << "lines that are missing change nothing";

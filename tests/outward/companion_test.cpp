@@ -34,7 +34,7 @@ constexpr const char* kAll = "1:139FF 2:140FF 3:141FF";
 class Companion : public GamePlayer {
  public:
   explicit Companion(const std::string& setup, Screens screens = Screens::Two)
-      : GamePlayer(setup + " TSSupport=True", screens) {
+      : GamePlayer(setup + ", TSSupport=True", screens) {
     TakeReports();
   }
   // The texts that the transceiver was given, put together from their six pieces behind a header.
@@ -63,41 +63,42 @@ class Companion : public GamePlayer {
 
 TEST(Companion, HearsOfEveryStepOfAGame) {
   using Steps = std::vector<std::pair<const char*, const char*>>;
-  const std::pair<const char*, Steps> games[] = {{"5 3 3 full mWi",
-                                                  {{"cboList:1", kAll},
-                                                   {"btnStart r2", ""},
-                                                   {"-", "2:140FT"},
-                                                   {"r3", ""},
-                                                   {"+", "3:141TF"},
-                                                   {"00!", "3:141FF"},
-                                                   {">2000", ""},
-                                                   {"U", "3:141FF"},
-                                                   {"S", kAll},
-                                                   {"fileClearAllScores", kAll}}},
-                                                 // The new player comes first.
-                                                 {"1 3 3 full Wi",
-                                                  {{"btnStart", kAll},
-                                                   {"11", "1:139FF 2:140FF 1:139FF"},
-                                                   {"N N", "3:141FF 2:140FF 1:139FF 3:141FF"},
-                                                   {"optPlayers(0) N N", "2:140FF 1:139FF 1:139FF 2:140FF"}}}};
+  const std::pair<const char*, Steps> games[] = {
+      {"Trivia C, user advances, long remotes, not started",
+       {{"choose the set from the list", kAll},
+        {"start, player 2 rings in", ""},
+        {"incorrect", "2:140FT"},
+        {"player 3 rings in", ""},
+        {"correct", "3:141TF"},
+        {"click A1", "3:141FF"},
+        {"wait 2 s", ""},
+        {"undo", "3:141FF"},
+        {"skip", kAll},
+        {"clear all scores", kAll}}},
+      // The new player comes first.
+      {"Challenge A, long remotes, not started",
+       {{"start", kAll},
+        {"claim B2", "1:139FF 2:140FF 1:139FF"},
+        {"next player, next player", "3:141FF 2:140FF 1:139FF 3:141FF"},
+        {"2 players, next player, next player", "2:140FF 1:139FF 1:139FF 2:140FF"}}}};
   for (const auto& [setup, steps] : games) {
     Companion companion(setup);
     for (const auto& [step, reports] : steps) {
-      companion.Play(step);
+      companion.Do(step);
       EXPECT_EQ(companion.TakeReports(), reports) << step;
     }
   }
 }
 
 TEST(Companion, FlagsLastForOneReportOfAPlayer) {
-  Companion companion("5 3 3 full mWi");
+  Companion companion("Trivia C, user advances, long remotes, not started");
   GameState& state = companion.show().state;
   state.C2CObject = " ";
   state.C2CCorrectFlag = true;
   for (const int player : {0, 4, 1}) SendC2CInfo(companion.show(), player);
   EXPECT_EQ(companion.TakeReports(), "1:999TF");
   // A report of the wrong length is not sent, and its flags are gone all the same.
-  companion.Play("?Message_Length_Incorrect:_115");
+  companion.Do("expect Message Length Incorrect: 115");
   state.C2CObject = "1390";
   state.C2CIncorrectFlag = true;
   SendC2CInfo(companion.show(), 1);
@@ -109,9 +110,9 @@ TEST(Companion, FlagsLastForOneReportOfAPlayer) {
 }
 
 TEST(Companion, WaitsUntilThePressIsDoneAndTakes1260Ms) {
-  Companion companion("5 3 3 full mWi");
+  Companion companion("Trivia C, user advances, long remotes, not started");
   SimPlatform& sim = companion.sim;
-  companion.Play("cboList:1 btnStart picQuestion'=up");
+  companion.Do("choose the set from the list, start, room question panel is shown");
   EXPECT_TRUE(sim.hid.Writes.empty());
   const std::int64_t before = sim.clock.NowMs();
   const std::string text = "02^PLAYER 2~~^+000000" + kLook + "^F^F^F^F";
@@ -125,13 +126,13 @@ TEST(Companion, WaitsUntilThePressIsDoneAndTakes1260Ms) {
   sim.hid.Devices.clear();
   sim.hid.PlugTransceiver(kTransceiverShort);
   CreateTransceiver(companion.show());
-  companion.Play("?Procedure:_SendC2CInfo S");
-  EXPECT_EQ(companion.TakeReports(), "") << "a device that takes no text, which is told once";
+  companion.Do("expect Procedure: SendC2CInfo, skip");
+  EXPECT_EQ(companion.TakeReports(), "") << "a device that takes no text, which is reported once";
 }
 
 TEST(Companion, IsLeftBlankAtExit) {
-  Companion companion("5 3 3 full mWi", Screens::One);
-  companion.Play("u12");
+  Companion companion("Trivia C, user advances, long remotes, not started", Screens::One);
+  companion.Do("player 1 gains 1000");
   companion.fixture().Exit();
   ASSERT_EQ(companion.sim.hid.Writes.size(), 21U) << "sent before the program ends";
   const std::string text = companion.TakeTexts()[0];

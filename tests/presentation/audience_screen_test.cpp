@@ -42,12 +42,12 @@ TEST(Monitors, AreCountedFromOneAndTheAudienceStandsOnTheSecond) {
 }
 
 TEST(AudienceScreen, GoesWithItsMonitorAndComesBackInStep) {
-  GamePlayer player("3 3 4 full m");
+  GamePlayer player("Trivia A, 4x4, user advances");
   ShowFixture& fixture = player.fixture();
-  player.Play("+ 11 C");
+  player.Do("correct, claim B2, continue");
   fixture.sim.displays.Change(kOne);
   EXPECT_FALSE(fixture.show().frmSS.Visible);
-  player.Play("lblStatusBar=Audience_screen_lost picQuestion=up + 12 C");
+  player.Do("says Audience screen lost, question panel is shown, correct, claim C2, continue");
   fixture.sim.displays.Change(kLeft);
   EXPECT_TRUE(fixture.show().frmSS.Visible);
   EXPECT_EQ(fixture.show().frmSS.Left, -28800);
@@ -76,33 +76,39 @@ TEST(AudienceScreen, MinimisesAsOneAndCanNotBeDraggedAway) {
 }
 
 // Moments at which a projector is plugged in, one for each panel and state that the audience can see.
-const Story kMoments[] = {
-    {"Board", "1 2 3 full", "00 11 u14"},   {"Question", "3 3 5 full", "+ 00 >"},
-    {"Cover", "5 3 4 full", "r3"},          {"CoverLifted", "5 2 4 full", "r2 -"},
-    {"Verdict", "4 2 4 full a", "+"},       {"Bonus", "2 2 5 full", "04 40 13 31 22"},
-    {"Winner", "2 2 3 row", "00 01 02"},    {"Standby", "1 3 3 row", "00 H"},
-    {"Picture", "3 2 3 full mk", "+ 00 C"},
+const WordStory kMoments[] = {
+    {"Board", "Challenge A, 2 players", "claim A1, claim B2, player 1 gains 10"},
+    {"Question", "Trivia A, 5x5", "correct, claim A1, wait 3 s"},
+    {"Cover", "Trivia C, 4x4", "player 3 rings in"},
+    {"Cover lifted", "Trivia C, 2 players, 4x4", "player 2 rings in, incorrect"},
+    {"Verdict", "Trivia B, 2 players, 4x4, animated", "correct"},
+    {"Bonus", "Challenge B, 2 players, 5x5", "claim E1, claim A5, claim D2, claim B4, claim C3"},
+    {"Winner", "Challenge B, 2 players, Finish Row", "claim A1, claim B1, claim C1"},
+    {"Standby", "Challenge A, Finish Row", "claim A1, hide"},
+    {"Picture", "Trivia A, 2 players, user advances, picture second", "correct, claim A1, continue"},
 };
 
-using PluggedIn = StoryTest;
+using PluggedIn = WordStoryTest;
 
 TEST_P(PluggedIn, ShowsWhatItWouldHaveShownFromTheStart) {
   GamePlayer fromStart(GetParam().setup), later(GetParam().setup, Screens::One);
-  fromStart.Play(GetParam().script);
-  later.Play(GetParam().script);
+  fromStart.Do(GetParam().steps);
+  later.Do(GetParam().steps);
   later.fixture().sim.displays.Change(kTwo);
   EXPECT_TRUE(later.show().frmSS.Visible);
   EXPECT_EQ(Appearance(later.fixture().audience()), Appearance(fromStart.fixture().audience()));
   // From here on both are written alike.
-  later.Play("> >");
+  later.Do("wait 3 s, wait 3 s");
   EXPECT_EQ(UnlikePairs(later.show()), Names());
 }
 
-INSTANTIATE_TEST_SUITE_P(Moments, PluggedIn, testing::ValuesIn(kMoments), StoryTest::Name);
+INSTANTIATE_TEST_SUITE_P(Moments, PluggedIn, testing::ValuesIn(kMoments), WordStoryTest::Name);
 
 TEST(AudienceScreen, FollowsAVerdictAClaimAndAnUndoAtOnce) {
-  GamePlayer player("3 3 4 full");
-  player.Play("picQuestion'=up + picQuestion=- picQuestion'=- 11 scores=50/0/0 U scores=0/0/0");
+  GamePlayer player("Trivia A, 4x4");
+  player.Do(
+      "room question panel is shown, correct, question panel is hidden, room question panel is hidden, claim B2, "
+      "scores 50/0/0, undo, scores 0/0/0");
   EXPECT_EQ(player.fixture().audience().Label11[0].Caption.Get(), "0");
 }
 
@@ -118,24 +124,25 @@ TEST(AudienceScreen, OfAProjectorThatComesWhileTheConsoleLoadsHasEverything) {
 
 TEST(AudienceScreen, HasTheNoticeInItsOwnFitWheneverItComes) {
   for (const Screens screens : {Screens::One, Screens::Two}) {
-    GamePlayer player("4 2 4 full m7", screens);
-    player.Play("+ 00 C + 01");
+    GamePlayer player("Trivia B, 2 players, 4x4, user advances, 7 questions", screens);
+    player.Do("correct, claim A1, continue, correct, claim B1");
     player.fixture().sim.displays.Change(kTwo);
-    player.Play("lblQuestion(0)'=5_Questions_Left! lblQuestion(0).Font=69 lblQuestion(0).Font'=120");
+    player.Do(
+        "room question text is 5 Questions Left!, question text font size is 69, room question text font size is 120");
   }
 }
 
 TEST(AudienceScreen, HelpToConnectAProjectorIsRoundedAndClosesByItsCross) {
-  GamePlayer player("1 2 3 full i");
-  player.Play("mnuHelpProjector@frmConnectToProjector { imgExit }");
+  GamePlayer player("Challenge A, 2 players, not started");
+  player.Do("at the projector help: press the cross");
   EXPECT_EQ(player.fixture().sim.displays.Rounded["frmConnectToProjector"], 10);
 }
 
 TEST(AudienceScreen, SleepIsHeldOffFromStartToStandbyAndExit) {
-  GamePlayer player("1 2 3 full i");
+  GamePlayer player("Challenge A, 2 players, not started");
   std::string awake;
-  for (const char* script : {">", "btnStart 00", "H >", "V >"}) {
-    player.Play(script);
+  for (const char* words : {"wait 3 s", "start, claim A1", "hide, wait 3 s", "show, wait 3 s"}) {
+    player.Do(words);
     awake += player.fixture().sim.displays.Awake ? '1' : '0';
   }
   EXPECT_EQ(awake, "0101");

@@ -80,27 +80,27 @@ TEST(InterfaceFile, IsReadFieldByFieldAndWrittenAtTheExit) {
 }
 
 TEST(InterfaceWizard, WhatIsChosenInAGameWorksAtOnceAndIsKept) {
-  GamePlayer player("5 3 3 full");
+  GamePlayer player("Trivia C");
   Show& show = player.show();
   const auto stored = [&](const char* application, const char* key) {
     return player.fixture().sim.settings.GetSetting(application, "Settings", key, "");
   };
-  player.Play("mnuFileInterface@frmSetInterface { btnCancel }");
+  player.Do("at the interface wizard: press Cancel");
   EXPECT_FALSE(player.fixture().sim.processes.Ended);
   EXPECT_EQ(show.state.SerialComm, InterfaceCode::Manual) << "as it was";
   show.state.Routing[4] = 2;
-  player.Play("mnuFileInterface@frmSetInterface { btnOK } >100");
+  player.Do("at the interface wizard: press OK, wait 100 ms");
   EXPECT_EQ(stored("Pawnfield", "SerialComm") + stored("PadBridge", "sendkeypress"), "91") << "a question waits";
-  player.Play("keys:4 turn=2 >100");
+  player.Do("key 4, turn 2, wait 100 ms");
   EXPECT_EQ(stored("PadBridge", "11"), "PLAYER 2");
   // The option that is chosen, and the interface that it gives.
   const std::pair<const char*, int> choices[] = {{"0", 0}, {"2", 2}, {"6", 6}, {"7", 8}, {"8", 9}, {"6", 6}};
   for (const auto& [option, serialComm] : choices) {
-    player.Play(std::string("mnuFileInterface@frmSetInterface { optInterfaceType(") + option + ") btnOK } >100");
+    player.Do(std::string("at the interface wizard: press optInterfaceType(") + option + "); press OK, wait 100 ms");
     EXPECT_EQ(static_cast<int>(show.state.SerialComm), serialComm) << option;
     EXPECT_EQ(stored("Pawnfield", "SerialComm"), std::to_string(serialComm));
   }
-  player.Play("- keys:3 turn=3");
+  player.Do("incorrect, key 3, turn 3");
   for (const std::size_t nothing : {1U, 3U, 4U, 5U}) {
     EXPECT_FALSE(show.frmSetInterface.optInterfaceType[nothing].Enabled) << nothing << " stands for no interface";
   }

@@ -264,10 +264,10 @@ TEST(Exit, WhatWasChosenComesBackAtTheNextStart) {
   const char* const chosen =
       "optGameType(3)=1 optPlayers(0)=1 optGridControl(1)=1 optGameEnds(0)=1 cboAutoContinue=User_Advances "
       "chkIncorrectPenalty=1";
-  GamePlayer first("4 2 4 row mpi");
-  first.Play(chosen);
+  GamePlayer first("Trivia B, 2 players, 4x4, Finish Row, user advances, penalty, not started");
+  ExpectSeen(first.show(), chosen, " the choice");
   first.fixture().sim.dialogs.ExpectMessage("Are you sure", BoxAnswer::Yes);
-  first.Play("mnuFileExit");
+  first.Do("press Exit");
   ShowFixture second;
   for (const auto& [key, value] : first.fixture().sim.settings.Writes) {
     if (key == "NoHardwareTold") continue;

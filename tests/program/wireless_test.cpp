@@ -26,36 +26,36 @@ class WirelessEvening {
 };
 
 TEST(WirelessEvening, PulledAmidAQuestionItIsMissedOnceAndBackByItself) {
-  WirelessEvening evening("5 3 3 full wm");
-  evening.player.Play("2 >30 turn=2 -");
+  WirelessEvening evening("Trivia C, remotes, user advances");
+  evening.player.Do("remote 2, turn 2, incorrect");
   evening.sim.hid.Reports.push_back({'\0', '\0', '\3'});
   evening.Pull();
   EXPECT_EQ(evening.Status(), "Wireless transceiver lost");
   evening.player.fixture().StatusBar().Caption = "";
   // The system reports other devices too, and the show goes on by hand.
   evening.sim.devices.Notify();
-  evening.player.Play(">3000 turn=0 keys:3 turn=3 -");
+  evening.player.Do("wait 3 s, turn nobody, key 3, turn 3, incorrect");
   EXPECT_EQ(evening.Status(), "") << "told once";
   evening.Plug();
   EXPECT_EQ(evening.Status(), "Wireless transceiver back");
-  evening.player.Play(">300 turn=0 1 >30 turn=1 -");
+  evening.player.Do("wait 300 ms, turn nobody, remote 1, turn 1, incorrect");
   // One that no poll has missed yet is put back at once.
   evening.sim.hid.Pull();
   evening.Plug();
   evening.sim.clock.Advance(30);
   EXPECT_EQ(evening.Status(), "Wireless transceiver back");
-  evening.player.Play(">300 3 >30 turn=3");
+  evening.player.Do("wait 300 ms, remote 3, turn 3");
 }
 
 TEST(WirelessEvening, PluggedInFirstWhenTheConsoleIsUpItServesTheGame) {
-  WirelessEvening evening("5 3 3 full m");
+  WirelessEvening evening("Trivia C, user advances");
   EXPECT_EQ(evening.player.show().state.SerialComm, InterfaceCode::Manual);
   evening.sim.devices.Notify();
   EXPECT_EQ(evening.Status(), "") << "some other device";
   evening.Plug();
   EXPECT_EQ(evening.Status(), "Wireless transceiver found");
   EXPECT_EQ(evening.player.show().state.SerialComm, InterfaceCode::Wireless);
-  evening.player.Play("2 >30 turn=2 -");
+  evening.player.Do("remote 2, turn 2, incorrect");
   evening.Pull();
   EXPECT_EQ(evening.Status(), "Wireless transceiver lost");
   // Keypads that were chosen meanwhile stay chosen.

@@ -174,27 +174,28 @@ TEST(SettingsAtStart, AStoreThatCannotBeReadIsReportedOnce) {
 
 TEST(SettingsInTheShow, AnOptionIsKeptWhenItChanges) {
   const std::pair<const char*, const char*> changes[] = {
-      {"optGameType(0)", "GameType=1"},
-      {"optPlayers(0)", "Players=2"},
-      {"optGridControl(0)", "GridControl=3"},
-      {"optGameEnds(0)", "GameEnds=True"},
-      {"chkAnimation", "Animation=True"},
-      {"chkHideQuestion", "HideQuestion=False"},
-      {"chkIncorrectPenalty", "IncorrectPenalty=True"},
-      {"chkExtKeyboardCtrl", "KeyControl=False"},
-      {"cboAutoContinue:3", "AutoContinue=6"},
-      {"cboTimedResponse:1", "TimedResponse=3"},
-      {"optSoundBank(2)", "SoundSet=3"},
-      {"cbxScore(0):7", "Scoring=7"},
-      {"cbxScore(1):2", "Bonus=2"},
-      {"mnuFileOptions@frmOptions { chkTSSupport btnCancel }", "TSSupport=True"},
-      {"mnuFileOptions@frmOptions { cboRouting(0):2 cboMODPictureTmr:15 btnOK }", "Routing1=3 MODPictureTimer=20"},
-      {"mnuFileAddPlayerNames@frmPlayerNames { chkPlayer2Penalty btnOK }", "Player2Penalty=True"},
-      {"optGameType(4)", ""}};
+      {"choose Challenge A", "GameType=1"},
+      {"2 players", "Players=2"},
+      {"3x3 board", "GridControl=3"},
+      {"press Finish Row", "GameEnds=True"},
+      {"press Animation", "Animation=True"},
+      {"press Hide Question", "HideQuestion=False"},
+      {"press Incorrect Penalty", "IncorrectPenalty=True"},
+      {"press Keyboard Control", "KeyControl=False"},
+      {"user advances", "AutoContinue=6"},
+      {"choose entry 1 of cboTimedResponse", "TimedResponse=3"},
+      {"press Sound Bank 3", "SoundSet=3"},
+      {"squares worth 70", "Scoring=7"},
+      {"lines worth 20", "Bonus=2"},
+      {"at the options: press Companion; press Cancel", "TSSupport=True"},
+      {"at the options: choose entry 2 of routing 1; choose entry 15 of picture time; press OK",
+       "Routing1=3 MODPictureTimer=20"},
+      {"at the names dialog: press chkPlayer2Penalty; press OK", "Player2Penalty=True"},
+      {"choose Trivia C", ""}};
   for (const auto& [change, kept] : changes) {
-    GamePlayer player("5 3 5 full i");
+    GamePlayer player("Trivia C, 5x5, not started");
     player.fixture().sim.settings.Writes.clear();
-    player.Play(change);
+    player.Do(change);
     std::string saved;
     for (const auto& [key, value] : player.fixture().sim.settings.Writes) {
       saved += (saved.empty() ? "" : " ") + key + "=" + value;
@@ -204,20 +205,20 @@ TEST(SettingsInTheShow, AnOptionIsKeptWhenItChanges) {
 }
 
 TEST(SettingsInTheShow, AFullDiskIsReportedOnceAndTheExitSavesAnew) {
-  GamePlayer player("5 3 5 full i");
+  GamePlayer player("Trivia C, 5x5, not started");
   SimPlatform& sim = player.fixture().sim;
   sim.settings.FailSaves = 2;
-  player.Play("?Procedure:_SaveSettings optPlayers(0) cboAutoContinue:3 chkAnimation");
+  player.Do("expect Procedure: SaveSettings, 2 players, user advances, press Animation");
   player.fixture().Exit();
   EXPECT_EQ(sim.settings.GetSetting("Pawnfield", "Settings", "Players", ""), "2");
   EXPECT_EQ(sim.settings.Flushes, 1) << "the end waits for the disk";
 }
 
 TEST(SettingsInTheShow, AClaimAsksTheStoreNothing) {
-  GamePlayer player("1 3 5 full i");
-  player.Play("cbxScore(0):7 btnStart");
+  GamePlayer player("Challenge A, 5x5, not started");
+  player.Do("squares worth 70, start");
   const int reads = player.fixture().sim.settings.Reads;
-  player.Play("00 scores=70/0/0");
+  player.Do("claim A1, scores 70/0/0");
   EXPECT_EQ(player.fixture().sim.settings.Reads, reads);
 }
 

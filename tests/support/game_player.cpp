@@ -49,7 +49,7 @@ std::string FileName(const std::string& path) { return path.substr(path.rfind('\
 GamePlayer::GamePlayer(const std::string& setup, Screens monitors) : fixture_(monitors), shown_(&fixture_.form()) {
   int type = 0, players = 0, grid = 0;
   std::string ending, options;
-  std::istringstream in(setup);
+  std::istringstream in(IsDigit(setup[0]) ? setup : SetupOfWords(setup));
   in >> type >> players >> grid >> ending >> options;
   for (std::string setting; in >> setting;) {
     fixture_.Preset(setting.substr(0, setting.find('=')), setting.substr(setting.find('=') + 1));
@@ -203,6 +203,17 @@ void GamePlayer::ExpectBothScreensAlike(const std::string& event) {
   const bool cursorPaired = event == "btnQuestionCorrect_Click" || event == "tmrWinner_Timer";
   if (!cursorPaired) return;
   EXPECT_EQ(form().MouseIcon.Get(), fixture_.audience().MouseIcon.Get()) << "after " << event;
+}
+
+std::string WordStoryTest::Name(const testing::TestParamInfo<WordStory>& story) {
+  std::string name;
+  bool first = true;
+  for (const char c : std::string(story.param.claim)) {
+    const bool letter = std::isalnum(static_cast<unsigned char>(c)) != 0;
+    if (letter) name += first ? static_cast<char>(std::toupper(static_cast<unsigned char>(c))) : c;
+    first = !letter;
+  }
+  return name;
 }
 
 }  // namespace pawnfield

@@ -8,6 +8,10 @@
 
 namespace pawnfield {
 
+// The setup and the steps that an operator's words stand for; operator_words.h lists them.
+std::string SetupOfWords(const std::string& words);
+std::string StepsOfWords(const std::string& words);
+
 class GamePlayer {
  public:
   // Brings the show up, sets the options by the console's controls and presses Start. The setup is the game's
@@ -36,6 +40,8 @@ class GamePlayer {
   //   turn=2 picBonus'=up
   //               is checked as ExpectSeen tells, and "event", "clip" and "verdict" for the last sound of each
   void Play(const std::string& script);
+  // The same in the words of operator_words.h.
+  void Do(const std::string& words) { Play(StepsOfWords(words)); }
 
   ShowFixture& fixture() { return fixture_; }
   MainForm& form() { return fixture_.form(); }
@@ -71,6 +77,24 @@ class StoryTest : public testing::TestWithParam<Story> {
  public:
   static void Play() { GamePlayer(GetParam().setup).Play(GetParam().script); }
   static std::string Name(const testing::TestParamInfo<Story>& story) { return story.param.name; }
+};
+
+// A part of a game in the words of operator_words.h, with one claim.
+struct WordStory {
+  const char* claim;
+  const char* setup;
+  const char* steps;
+  friend void PrintTo(const WordStory& story, std::ostream* out) { *out << story.claim; }
+};
+
+class WordStoryTest : public testing::TestWithParam<WordStory> {
+ public:
+  static void Play() {
+    SCOPED_TRACE(GetParam().claim);
+    GamePlayer(GetParam().setup).Do(GetParam().steps);
+  }
+  // The claim without blanks, as the test's name.
+  static std::string Name(const testing::TestParamInfo<WordStory>& story);
 };
 
 }  // namespace pawnfield
