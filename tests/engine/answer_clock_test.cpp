@@ -47,17 +47,17 @@ const WordStory kClocks[] = {
 };
 
 using AnswerClockStory = WordStoryTest;
-TEST_P(AnswerClockStory, IsAsTold) { Play(); }
+TEST_P(AnswerClockStory, CountsForWhoAnswers) { Play(); }
 INSTANTIATE_TEST_SUITE_P(Engine, AnswerClockStory, testing::ValuesIn(kClocks), WordStoryTest::Name);
 
 TEST(AnswerClock, IsTheAnsweringPlayersAndHasHisColour) {
-  GamePlayer player("5 3 3 full m TimedResponse is 5");
+  GamePlayer player("Trivia C, user advances, 5 s to answer");
   const Color colors[] = {0x706BFF, 0x4DD8FF, 0x8CE046};
   for (int number = 1; number <= 3; ++number) {
-    player.Play("r" + std::to_string(number) + " >1000");
+    player.Do("player " + std::to_string(number) + " rings in, wait 1 s");
     EXPECT_EQ(RunningAnswerClock(player.show()), (AnswerClock{number, 4}));
     EXPECT_EQ(player.form().lblAnswerClock.ForeColor, colors[number - 1]);
-    player.Play("-");
+    player.Do("incorrect");
     EXPECT_EQ(RunningAnswerClock(player.show()), AnswerClock{});
   }
 }
