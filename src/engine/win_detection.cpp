@@ -96,7 +96,6 @@ void tmrWinner_Timer(Show& show) {
   form.btnContinue.Enabled = false;
   ResetGameBoard(show);
   ResetGameSet(show);
-  show.state.LoadedSetPath.clear();
   form.tmrWinner.Enabled = false;
   // What a line win's last flash started must not reach into standby: no next question, no verdict, options free.
   StopShowing(show);

@@ -63,6 +63,10 @@ const WordStory kJudging[] = {
      "correct, verdict sound is Correct4swf.mp3, verdict is shown, room verdict text is Correct!, wait 200 ms, room "
      "verdict text is hidden, wait 4299 ms, verdict is shown, verdict text is Correct!, wait 1 ms, room verdict is "
      "hidden"},
+    {"A verdict shows its picture to the room", "Trivia A, 2 players, animated",
+     "correct, room verdict picture is Correct.jpg"},
+    {"A wrong verdict shows its own picture to the room", "Trivia A, 2 players, animated",
+     "incorrect, room verdict picture is Incorrect.jpg"},
     {"A second verdict picture stands its whole time too", "Trivia A, 2 players, animated",
      "incorrect, wait 3 s, incorrect, wait 4499 ms, verdict is shown, room verdict is shown, wait 1 ms, verdict is "
      "hidden, room verdict is hidden"},

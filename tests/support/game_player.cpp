@@ -76,7 +76,9 @@ void GamePlayer::PrepareMachine(const std::string& options) {
   for (const char* cursor : {"Neutral", "X", "O", "T"}) {
     fixture_.sim.files.Put("C:\\Pawnfield\\Images\\Cursor"s + cursor + ".png", "");
   }
-  fixture_.sim.files.Put("C:\\Pawnfield\\Images\\Neutral.bmp", "");
+  for (const char* picture : {"Neutral.bmp", "Correct.jpg", "Incorrect.jpg"}) {
+    fixture_.sim.files.Put("C:\\Pawnfield\\Images\\"s + picture, "");
+  }
   fixture_.sim.files.Put("C:\\Shows\\photo.jpg", SimPictures::PictureBytes(800, 600));
   fixture_.sim.files.Put("C:\\Shows\\clip.WAV", "sound");
   wired_ = options.find('l') != std::string::npos;
