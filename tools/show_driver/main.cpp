@@ -16,7 +16,6 @@
 #include "editor_driver.h"
 #include "forms/fs_main_form.h"
 #include "forms/main_form.h"
-#include "forms/press_forms.h"
 #include "gallery.h"
 #include "media/media_on_demand.h"
 #include "show_driver.h"
@@ -182,9 +181,7 @@ void ShowForms(ShowDriver& driver, Script& script) {
     picture("frmOptions", form.mnuFileOptions);
   }
   picture("frmMapMF", form.mnuMapMF);
-  Show& show = driver.TheShow();
-  script.Do("frmSetInterface",
-            driver.PictureOfForm("frmSetInterface", [&] { show.platform.dialogs.ShowModal(show.frmSetInterface); }));
+  picture("frmSetInterface", form.mnuFileInterface);
 }
 
 }  // namespace
