@@ -29,12 +29,6 @@ bool PassesDebounce(PressState& presses, std::size_t remote, std::int64_t now) {
   return true;
 }
 
-// The console is there to judge a press: nothing modal stands before it.
-bool ConsoleListens(const Show& show) {
-  const MainForm& form = show.frmMain;
-  return form.Visible && form.Enabled && show.platform.dialogs.Modal() == ModalKind::None;
-}
-
 void PlayRingIn(Show& show, int player) { PlayEvent(show, SoundEntry(show, kSoundBuzzer1 + player - 1)); }
 
 void TakePress(Show& show, std::size_t remote) {
@@ -60,6 +54,11 @@ void dgTransceiver_OnButtonPressed(Show& show, const TransceiverData& data) {
     if (!show.presses.ReportedRemotes.insert(data.Remote).second) return;
     throw RuntimeError(error.Number(), std::string(error.what()) + " (remote " + std::to_string(data.Remote) + ")");
   }
+}
+
+bool ConsoleListens(const Show& show) {
+  const MainForm& form = show.frmMain;
+  return form.Visible && form.Enabled && show.platform.dialogs.Modal() == ModalKind::None;
 }
 
 bool MayRingIn(const Show& show) { return IsPhase(show, PhaseKind::QuestionOpen) && !ScreenCovered(show); }

@@ -7,6 +7,8 @@ struct Show;
 
 class TransceiverData;
 
+// The console is there to judge a press: nothing modal stands before it.
+bool ConsoleListens(const Show& show);
 // A question of any kind is open to all, and the room sees it.
 bool MayRingIn(const Show& show);
 // True for a number that isn't among the game's players; the status line reports each once a game.

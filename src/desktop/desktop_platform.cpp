@@ -31,6 +31,7 @@ DesktopPlatform::DesktopPlatform(const DesktopPlaces& places, std::function<void
                printing,
                pages,
                serial,
+               webPages,
                places.folders} {
   for (const char* own : {"\\Images", "\\Question Backgrounds"}) pictures.HoldFolder(places.folders.App + own);
 }

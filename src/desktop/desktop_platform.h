@@ -12,6 +12,7 @@
 #include "desktop/files/qt_settings_store.h"
 #include "desktop/media/media_files.h"
 #include "desktop/media/mpv_video.h"
+#include "desktop/pages/qt_pages.h"
 #include "desktop/painting/picture_cache.h"
 #include "desktop/system/form_windows.h"
 #include "desktop/system/linux_processes.h"
@@ -57,6 +58,7 @@ class DesktopPlatform {
   QtPrinting printing;
   DesktopPages pages;
   QtSerialPort serial;
+  QtPages webPages;
   Platform platform;
 };
 

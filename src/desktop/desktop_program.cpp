@@ -18,6 +18,7 @@
 #include "desktop/windows/help_key.h"
 #include "desktop/windows/optional_headers_window.h"
 #include "desktop/windows/options_window.h"
+#include "desktop/windows/pages_window.h"
 #include "desktop/windows/player_names_window.h"
 #include "desktop/windows/press_windows.h"
 #include "desktop/windows/small_windows.h"
@@ -31,6 +32,7 @@
 #include "forms/missing_media_form.h"
 #include "forms/optional_headers_form.h"
 #include "forms/options_form.h"
+#include "forms/pages_form.h"
 #include "forms/player_names_form.h"
 #include "forms/press_forms.h"
 #include "forms/second_screen_form.h"
@@ -75,6 +77,7 @@ struct DesktopProgram::AllWindows {
   SoundEffectsWindow SoundEffects;
   OptionalHeadersWindow OptionalHeaders;
   OptionsWindow Options;
+  PagesWindow Pages;
   MapMFWindow MapMF;
   SetInterfaceWindow SetInterface;
   HelpKey Help;
@@ -98,6 +101,7 @@ DesktopProgram::AllWindows::AllWindows(DesktopPlatform& desktop, Show& show)
       SoundEffects(show.frmSoundEffects, desktop.windows),
       OptionalHeaders(show.frmOptionalHeaders, desktop.windows),
       Options(show.frmOptions, desktop.windows),
+      Pages(show.frmPages, desktop.windows),
       MapMF(show.frmMapMF, desktop.windows),
       SetInterface(show.frmSetInterface, desktop.windows),
       Help(show) {}
@@ -110,6 +114,8 @@ DesktopProgram::DesktopProgram(const DesktopPlaces& places)
 // The clock, the serial line and the watch over the devices outlive the forms, whose timers must not be looked at any
 // more.
 DesktopProgram::~DesktopProgram() {
+  desktop_.webPages.Close();
+  desktop_.webPages.OnEvent = {};
   desktop_.serial.OnComm = {};
   desktop_.devices.OnChanged({});
   desktop_.settings.OnSaveFailed = {};
@@ -126,7 +132,7 @@ std::vector<FormWindow*> DesktopProgram::Windows() {
           &all.Splash,      &all.GameLoading,  &all.GameInProgress,     &all.GameTypeHelp,
           &all.PlayerNames, &all.HelpAbout,    &all.ConfigKeys,         &all.Editor,
           &all.EditChoice,  &all.MissingMedia, &all.SoundEffects,       &all.OptionalHeaders,
-          &all.Options,     &all.MapMF,        &all.SetInterface};
+          &all.Options,     &all.MapMF,        &all.SetInterface,       &all.Pages};
 }
 
 void NameApplication() {

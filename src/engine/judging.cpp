@@ -129,6 +129,7 @@ void TakeBackClaim(Show& show) {
 
 void HandleCorrect(Show& show) {
   if (!MayJudge(show)) return;
+  show.lastVerdict = {show.lastVerdict.Count + 1, show.state.CurrentPlayer, true};
   MainForm& form = show.frmMain;
   EndQuestionClip(show);
   RestartBackground(show);
@@ -146,6 +147,7 @@ void HandleCorrect(Show& show) {
 
 void HandleIncorrect(Show& show) {
   if (!MayJudge(show)) return;
+  show.lastVerdict = {show.lastVerdict.Count + 1, show.state.CurrentPlayer, false};
   MainForm& form = show.frmMain;
   LiftCover(show);
   // The verdict is heard alone; the next player has the clip again by the console's button.

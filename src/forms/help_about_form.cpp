@@ -20,6 +20,8 @@ HelpAboutForm::HelpAboutForm() : Form("frmHelpAbout") {
       {"Qt 6", "GNU LGPL 3"},
       {"libmpv", "GNU GPL 2 or later"},
       {"hidapi", "BSD licence of three clauses"},
+      {"Boost", "Boost Software License 1.0"},
+      {"libqrencode, liblo", "GNU LGPL 2.1 or later"},
       {"Inter, Comic Neue, Liberation fonts", "SIL Open Font License 1.1"},
   };
   std::string names, licences;

@@ -59,6 +59,7 @@ void MainForm::SetCaptions() {
   mnuFileAddPlayerNames.Caption = "Add Player &Names";
   mnuFileOptionalHeaders.Caption = "Optional &Headers";
   mnuFileInterface.Caption = "&Interface Wizard...";
+  mnuFilePages.Caption = "&Phones and pages...";
   mnuFileExit.Caption = "E&xit";
   mnuZR610.Caption = "ZR-610 System";
   mnuMapMF.Caption = "Map Players";

@@ -32,6 +32,7 @@ class MainForm : public Form {
   Menu mnuFileAddPlayerNames{*this, "mnuFileAddPlayerNames"};
   Menu mnuFileOptionalHeaders{*this, "mnuFileOptionalHeaders"};
   Menu mnuFileInterface{*this, "mnuFileInterface"};
+  Menu mnuFilePages{*this, "mnuFilePages"};
   Menu mnuFileExit{*this, "mnuFileExit"};
   Menu mnuZR610{*this, "mnuZR610"};
   Menu mnuMapMF{*this, "mnuMapMF"};

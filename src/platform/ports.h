@@ -11,6 +11,7 @@
 #include <vector>
 
 #include "platform/controls.h"
+#include "platform/pages.h"
 
 namespace pawnfield {
 
@@ -418,6 +419,7 @@ struct Platform {
   Printing& printing;
   HelpPages& pages;
   SerialPort& serial;
+  Pages& webPages;
   Folders folders;
 };
 

@@ -4,6 +4,8 @@
 #include "config/options_dialog.h"
 #include "controllers/config_keys.h"
 #include "controllers/keyboard.h"
+#include "controllers/pages_handlers.h"
+#include "controllers/phones.h"
 #include "controllers/ring_in.h"
 #include "controllers/zr610.h"
 #include "engine/answer_clock.h"
@@ -163,6 +165,7 @@ void AttachHandlers(Show& show) {
   BindSoundChannels(show);
   AttachAudienceHandlers(show);
   AttachMediaHandlers(show);
+  AttachPages(show);
   for (Form* form : AllForms(show)) {
     form->Guard = [&show](const std::function<void()>& handler, const std::string& location,
                           const std::string& procedure) {
@@ -170,6 +173,7 @@ void AttachHandlers(Show& show) {
       UpdateAnswerClock(show);
       UpdateUndoTip(show);
       SaveChangedSettings(show);
+      TellPages(show);
     };
     show.platform.clock.Attach(*form);
   }

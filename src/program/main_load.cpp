@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <array>
 
+#include "controllers/pages_switch.h"
 #include "controllers/ring_in.h"
 #include "controllers/zr610.h"
 #include "engine/game_flow.h"
@@ -243,10 +244,13 @@ void ShowStandbyFirst(Show& show) {
 
 void LoadMainForm(Show& show) {
   // Each step reports its own failure, so that one bad value or file leaves the rest of the load whole.
-  for (const auto step : {SetDesignPictures,   LoadSettings,  LoadInterfaceFile,   LoadZR610,     CreateTransceiver,
-                          ShowPoints,          StartForm,     LoadScreenPictures,  FillSetList,   LoadGameOptions,
-                          LoadPlayOptions,     LoadSounds,    ShowRulesAndVolumes, DecideOnMusic, StartMusic,
-                          LoadOptionalHeaders, ShowIdleBoard, ShowAudience,        ShowConsole,   LoadPieces}) {
+  for (const auto step : {SetDesignPictures,   LoadSettings,       LoadInterfaceFile,
+                          LoadZR610,           CreateTransceiver,  ShowPoints,
+                          StartForm,           LoadScreenPictures, FillSetList,
+                          LoadGameOptions,     LoadPlayOptions,    LoadSounds,
+                          ShowRulesAndVolumes, DecideOnMusic,      StartMusic,
+                          LoadOptionalHeaders, ShowIdleBoard,      ShowAudience,
+                          ShowConsole,         LoadPieces,         LoadPages}) {
     RunStep(show, step);
   }
   BeginSavingSettings(show);

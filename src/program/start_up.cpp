@@ -2,6 +2,7 @@
 
 #include <cmath>
 
+#include "controllers/pages_switch.h"
 #include "devices/transceiver.h"
 #include "forms/main_form.h"
 #include "forms/small_forms.h"
@@ -121,6 +122,7 @@ void fileExit(Show& show) {
   RunGuarded(
       show.platform.dialogs, [&] { UnloadAudienceScreen(show); }, "frmFSMain", "Form_Unload");
   show.platform.serial.Close();
+  EndPages(show);
   for (Form* other : AllForms(show)) other->Visible = false;
   show.platform.processes.EndProgram();
 }

@@ -13,12 +13,14 @@
 #include "forms/missing_media_form.h"
 #include "forms/optional_headers_form.h"
 #include "forms/options_form.h"
+#include "forms/pages_form.h"
 #include "forms/player_names_form.h"
 #include "forms/press_forms.h"
 #include "forms/second_screen_form.h"
 #include "forms/small_forms.h"
 #include "forms/sound_effects_form.h"
 #include "platform/text.h"
+#include "show/page_state.h"
 
 namespace pawnfield {
 
@@ -44,12 +46,14 @@ struct Forms {
   SoundEffectsForm frmSoundEffects;
   OptionalHeadersForm frmOptionalHeaders;
   OptionsForm frmOptions;
+  PagesForm frmPages;
 };
 
 Show::Show(Platform& platformPorts) : Show(platformPorts, std::make_unique<Forms>()) {}
 
 Show::Show(Platform& platformPorts, std::unique_ptr<Forms> forms)
     : platform(platformPorts),
+      pages(std::make_unique<PageState>()),
       frmMain(forms->frmMain),
       frmFSMain(forms->frmFSMain),
       frmSS(forms->frmSS),
@@ -71,6 +75,7 @@ Show::Show(Platform& platformPorts, std::unique_ptr<Forms> forms)
       frmSoundEffects(forms->frmSoundEffects),
       frmOptionalHeaders(forms->frmOptionalHeaders),
       frmOptions(forms->frmOptions),
+      frmPages(forms->frmPages),
       forms_(std::move(forms)) {}
 
 Show::~Show() = default;
@@ -95,6 +100,7 @@ std::vector<Form*> AllForms(Show& show) {
           &show.frmSoundEffects,
           &show.frmOptionalHeaders,
           &show.frmOptions,
+          &show.frmPages,
           &show.frmMapMF,
           &show.frmSetInterface};
 }

@@ -37,6 +37,8 @@ struct MapMFForm;
 struct MissingMediaForm;
 struct OptionalHeadersForm;
 struct OptionsForm;
+struct PagesForm;
+struct PageState;
 struct PlayerNamesForm;
 struct SecondScreenForm;
 struct SetInterfaceForm;
@@ -77,6 +79,13 @@ struct MediaCheck {
   std::map<int, std::string> Errors;
 };
 
+// The verdict given last, counted so that two alike are told apart.
+struct LastVerdict {
+  int Count = 0;
+  int Player = 0;
+  bool Correct = false;
+};
+
 // All forms of the program, which the show's references below name.
 struct Forms;
 
@@ -109,6 +118,9 @@ struct Show {
   int FlashCount = 0;
   std::array<int, 2> AnimateCount{};
   PressState presses;
+  LastVerdict lastVerdict;
+  // Phones and pages on the local network; never null.
+  std::unique_ptr<PageState> pages;
   // Lives from the console's load to the exit, whether or not a device was found.
   std::unique_ptr<Transceiver> dgTransceiver;
   // Whether a picture of the program could be opened when it was first asked for.
@@ -157,6 +169,7 @@ struct Show {
   SoundEffectsForm& frmSoundEffects;
   OptionalHeadersForm& frmOptionalHeaders;
   OptionsForm& frmOptions;
+  PagesForm& frmPages;
 
   // The path of a file of the program's folder, as in AppPath("\\Images\\scorebox.bmp").
   std::string AppPath(const std::string& tail) const { return platform.folders.App + tail; }

@@ -8,6 +8,7 @@
 #include "sim/sim_devices.h"
 #include "sim/sim_files.h"
 #include "sim/sim_hid.h"
+#include "sim/sim_network.h"
 #include "sim/sim_serial.h"
 #include "sim/virtual_clock.h"
 
@@ -33,6 +34,7 @@ struct SimPlatform {
   SimPrinter printing;
   SimPages pages;
   SimSerial serial;
+  SimNetwork network{clock};
   Platform platform;
 };
 

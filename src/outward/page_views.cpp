@@ -1,0 +1,184 @@
+#include "outward/page_views.h"
+
+#include <algorithm>
+
+#include "devices/page_message.h"
+#include "forms/main_form.h"
+#include "platform/text.h"
+#include "show/page_state.h"
+#include "show/phase.h"
+#include "show/show.h"
+
+namespace pawnfield {
+
+namespace {
+
+constexpr std::int64_t kMsUs = 1000;
+
+std::int64_t Milliseconds(std::int64_t us) { return (us + kMsUs / 2) / kMsUs; }
+
+const PlacedPress* PlaceOf(const Show& show, int player) {
+  for (const PlacedPress& place : show.pages->Order.Places) {
+    if (place.Player == player) return &place;
+  }
+  return nullptr;
+}
+
+bool IsWeighed(const Show& show, int player) {
+  const auto& weighed = show.pages->Weighed;
+  return std::any_of(weighed.begin(), weighed.end(), [&](const PhonePress& press) { return press.Player == player; });
+}
+
+// One word for what the button is now, which the page has a look and a text for.
+const char* ButtonState(const Show& show, int player) {
+  const GamePhase phase = Phase(show);
+  if (show.pages->Seats[player].Locked) return "locked";
+  if (!Plays(show.state, player)) return "out";
+  if (IsWeighed(show, player)) return "pressed";
+  if (phase.Kind == PhaseKind::Answering) return phase.Player == player ? "floor" : "other";
+  if (phase.Kind == PhaseKind::Claiming && phase.Player == player) return "claim";
+  if (phase.Kind == PhaseKind::Winner) return "over";
+  return BuzzersAreOpen(show) ? "ready" : "wait";
+}
+
+// Counted from 1; 0 while no question has been asked.
+int QuestionNumber(const Show& show) {
+  return show.state.Nature().Trivia && show.state.GameStarted ? show.state.CurrentQuestion + 1 : 0;
+}
+
+const TriviaQuestion* QuestionAt(const Show& show, int number) {
+  const bool asked = number >= 1 && number <= show.NumGameQuestions && number <= kSetCapacity;
+  return asked ? &show.GameSet[static_cast<std::size_t>(number - 1)] : nullptr;
+}
+
+// A question that is a picture or a sound is named by its file.
+std::string QuestionText(const TriviaQuestion* question) {
+  if (question == nullptr) return {};
+  const std::string text = Trim(question->QuestionText);
+  if (question->QuestionType.starts_with("P")) return "Picture: " + ExtractFileName(text);
+  if (question->QuestionType.starts_with("S")) return "Sound: " + ExtractFileName(text);
+  return text;
+}
+
+std::string PlayersJson(const Show& show) {
+  std::string list;
+  for (int player = 1; player <= show.state.Players; ++player) {
+    const std::string one = JsonObject()
+                                .Number("n", player)
+                                .Text("name", PlayerName(show, player))
+                                .Text("score", show.frmMain.Score(player).Caption.Get())
+                                .Truth("turn", HolderOfTurn(show) == player)
+                                .Done();
+    list += (list.empty() ? "" : ",") + one;
+  }
+  return "[" + list + "]";
+}
+
+std::string OrderJson(const Show& show) {
+  std::string list;
+  for (const PlacedPress& place : show.pages->Order.Places) {
+    const std::string one = JsonObject()
+                                .Number("n", place.Player)
+                                .Text("name", PlayerName(show, place.Player))
+                                .Number("ms", Milliseconds(place.MarginUs))
+                                .Number("error", Milliseconds(place.ErrorUs))
+                                .Truth("close", place.TooClose)
+                                .Done();
+    list += (list.empty() ? "" : ",") + one;
+  }
+  return "[" + list + "]";
+}
+
+// "0:03" while seconds to answer run, and 0:00 when they are up; empty else.
+std::string ClockText(const Show& show) {
+  const AnswerClock clock = RunningAnswerClock(show);
+  if (clock.Player == 0) return {};
+  const std::string seconds = std::to_string(clock.SecondsLeft % 60);
+  return std::to_string(clock.SecondsLeft / 60) + ":" + (seconds.size() < 2 ? "0" : "") + seconds;
+}
+
+std::string WinnerText(const Show& show) {
+  return Phase(show).Kind == PhaseKind::Winner ? Trim(show.frmMain.lblWinner.Caption) : std::string();
+}
+
+}  // namespace
+
+bool BuzzersAreOpen(const Show& show) { return IsPhase(show, PhaseKind::QuestionOpen) && !ScreenCovered(show); }
+
+std::string PlayerName(const Show& show, int player) { return show.frmMain.lblPlayer1[PlayerIndex(player)].Caption; }
+
+std::string FloorText(const Show& show) {
+  const GamePhase phase = Phase(show);
+  if (phase.Kind == PhaseKind::Answering) return PlayerName(show, phase.Player) + " answers";
+  if (phase.Kind == PhaseKind::Claiming) return PlayerName(show, phase.Player) + " takes a square";
+  if (phase.Kind == PhaseKind::QuestionOpen) return ScreenCovered(show) ? "Covered" : "Open to all";
+  return {};
+}
+
+std::string OrderText(const Show& show) {
+  std::string text;
+  int rank = 0;
+  for (const PlacedPress& place : show.pages->Order.Places) {
+    text += (rank > 0 ? "   " : "") + std::to_string(rank + 1) + " " + PlayerName(show, place.Player);
+    if (rank++ > 0) text += " +" + std::to_string(Milliseconds(place.MarginUs)) + " ms";
+    if (rank > 1 && place.TooClose) text += ", too close to call";
+  }
+  return text;
+}
+
+std::string PhoneView(const Show& show, int player) {
+  const GamePhase phase = Phase(show);
+  JsonObject view;
+  view.Text("t", "phone").Number("n", player).Text("name", PlayerName(show, player));
+  view.Text("state", ButtonState(show, player)).Number("question", QuestionNumber(show));
+  view.Text("score", show.frmMain.Score(player).Caption.Get());
+  const PlacedPress* place = PlaceOf(show, player);
+  if (phase.Kind == PhaseKind::Answering && phase.Player != player) {
+    view.Number("floor", phase.Player).Text("floorName", PlayerName(show, phase.Player));
+    if (place != nullptr) {
+      view.Number("ms", Milliseconds(place->MarginUs)).Number("error", Milliseconds(place->ErrorUs));
+      view.Truth("close", place->TooClose);
+    }
+  }
+  return view.Done();
+}
+
+std::string SeatsView(const Show& show) {
+  std::string list;
+  for (int player = 1; player <= show.state.Players; ++player) {
+    const PhoneSeat& seat = show.pages->Seats[player];
+    const std::string one = JsonObject()
+                                .Number("n", player)
+                                .Text("name", PlayerName(show, player))
+                                .Truth("free", seat.Token.empty() && !seat.Locked)
+                                .Done();
+    list += (list.empty() ? "" : ",") + one;
+  }
+  return JsonObject().Text("t", "seats").Json("seats", "[" + list + "]").Done();
+}
+
+std::string HostView(const Show& show) {
+  const int number = QuestionNumber(show);
+  const TriviaQuestion* question = QuestionAt(show, number);
+  const GamePhase phase = Phase(show);
+  JsonObject view;
+  view.Text("t", "host").Text("set", StripExtension(ExtractFileName(show.state.LoadedSetPath)));
+  view.Number("question", number).Number("of", show.NumGameQuestions).Text("text", QuestionText(question));
+  view.Text("answer", question == nullptr ? "" : Trim(question->AnswerText));
+  view.Text("next", number > 0 ? QuestionText(QuestionAt(show, number + 1)) : "");
+  view.Number("holder", phase.Player).Text("floor", FloorText(show)).Truth("up", QuestionIsUp(show));
+  view.Json("order", OrderJson(show))
+      .Json("players", PlayersJson(show))
+      .Text("winner", WinnerText(show))
+      .Text("clock", ClockText(show));
+  return view.Done();
+}
+
+std::string ScoresView(const Show& show) {
+  JsonObject view;
+  view.Text("t", "scores").Json("players", PlayersJson(show)).Number("question", QuestionNumber(show));
+  view.Number("of", show.NumGameQuestions).Text("winner", WinnerText(show)).Text("clock", ClockText(show));
+  return view.Done();
+}
+
+}  // namespace pawnfield
