@@ -196,6 +196,7 @@ void MainForm::PlaceControls() {
 void MainForm::SetInitialStates() {
   tmrAnimate[0].Interval = 200;
   tmrAnimate[1].Interval = 200;
+  for (Timer* timer : {&tmrArrowsTimer, &tmrGridEnable, &tmrBGMusic}) timer->Relaxed = true;
   Hide(picQuestion, picQuestionPicture, picSound, picBonus, picMOD, picMODVideo, picMODPicture, picCorrect, picWinner);
   Hide(imgBkgnd, imgXa, imgXb, imgOa, imgOb, imgTa, imgTb, imgStandardStandby, imgStandardBonus, imgStandardHeader);
   for (std::size_t i = 0; i < 4; ++i) imgCursor[i].Visible = false;

@@ -348,6 +348,9 @@ class Timer : public Control {
   void Restart();
   Property<int> Interval{*this, PropertyId::Interval, 0};
   std::function<void()> OnTimer;
+  // Set before the clock is given the form: may fire up to half a second early or late, together with the others of its
+  // kind, so that the machine wakes once for all of them.
+  bool Relaxed = false;
 };
 
 // A control array "name(0)".."name(N-1)".

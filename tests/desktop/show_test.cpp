@@ -83,6 +83,40 @@ TEST_F(ShowTest, WindowsStandOnTheirMonitorsAndArePaintedBeforeAPause) {
   }
 }
 
+// Whether the display itself shows the pointer's amber there.
+bool IsLit(const QWidget& pointer) {
+  const QPoint place = pointer.mapTo(pointer.window(), QPoint());
+  const QImage shown =
+      pointer.screen()
+          ->grabWindow(pointer.window()->winId(), place.x(), place.y(), pointer.width(), pointer.height())
+          .toImage();
+  for (int y = 0; y < shown.height(); ++y) {
+    for (int x = 0; x < shown.width(); ++x) {
+      const QColor color = shown.pixelColor(x, y);
+      if (color.red() > 180 && color.blue() < 140) return true;
+    }
+  }
+  return false;
+}
+
+TEST_F(ShowTest, ThePointersBlinkOnTheDisplayAndStayAsTheyAreUnderAWindowThatGoes) {
+  Main().tmrArrowsTimer.Enabled = false;
+  const QWidget& pointer = *Console().findChild<QWidget*>("lblListLeftArrow");
+  for (const bool lit : {true, false, true, false, true, false}) {
+    SCOPED_TRACE(lit);
+    Main().lblListLeftArrow.Visible = lit;
+    EXPECT_TRUE(Wait([&] { return IsLit(pointer) == lit; }));
+    QWidget cover(nullptr, Qt::ToolTip);
+    cover.setGeometry(QRect(pointer.mapToGlobal(QPoint(-20, -20)), QSize(100, 60)));
+    cover.show();
+    ASSERT_TRUE(QTest::qWaitForWindowExposed(&cover, 30000));
+    cover.close();
+    QTest::qWait(100);
+    EXPECT_TRUE(Wait([&] { return IsLit(pointer) == lit; }));
+  }
+  Main().tmrArrowsTimer.Enabled = true;
+}
+
 TEST_F(ShowTest, TriviaModeAFromItsOptionsToTheWinnerByKeys) {
   ASSERT_TRUE(Wait([] { return Main().fraGridControl.Enabled.Get(); }));
   for (const char* option : {"optGameType_2", "optPlayers_0", "optGridControl_0", "optGameEnds_0", "cboAutoContinue"})

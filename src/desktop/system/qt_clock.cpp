@@ -12,7 +12,7 @@ namespace pawnfield {
 class QtClock::RunningTimer : public Observer {
  public:
   explicit RunningTimer(Timer& model) : model_(model) {
-    timer_.setTimerType(Qt::PreciseTimer);
+    timer_.setTimerType(model.Relaxed ? Qt::VeryCoarseTimer : Qt::PreciseTimer);
     QObject::connect(&timer_, &QTimer::timeout, &timer_, [this] { model_.Fire(); });
     model_.AddObserver(*this);
     Arm();

@@ -16,6 +16,7 @@
 
 #include "desktop/files/windows_1252.h"
 #include "desktop/painting/picture_cache.h"
+#include "desktop/windows/blinker.h"
 #include "desktop/windows/grid_view.h"
 #include "desktop/windows/model_widgets.h"
 #include "desktop/windows/set_text_edit.h"
@@ -39,6 +40,7 @@ class Binding : public Observer {
     // own to what stands beside it.
     policy.setRetainSizeWhenHidden(model.Kind() != ControlKind::TextBox);
     widget.setSizePolicy(policy);
+    if (widget.property("blinks").toBool()) blinker_ = std::make_unique<Blinker>(widget, model.Visible);
     ShowCommon();
     model.AddObserver(*this);
   }
@@ -60,10 +62,17 @@ class Binding : public Observer {
 
  private:
   void ShowCommon() {
-    if (widget.isHidden() == model.Visible) widget.setVisible(model.Visible);
+    if (blinker_) {
+      blinker_->Show(model.Visible);
+    } else if (widget.isHidden() == model.Visible) {
+      widget.setVisible(model.Visible);
+    }
     widget.setEnabled(model.Enabled);
     if (!model.ToolTipText->empty()) widget.setToolTip(Unescape(model.ToolTipText));
   }
+
+  // For what blinks all the time that nobody plays.
+  std::unique_ptr<Blinker> blinker_;
 };
 
 class ButtonBinding : public Binding<Button, QAbstractButton> {
