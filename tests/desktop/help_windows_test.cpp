@@ -75,8 +75,8 @@ TEST(Manual, TheLicenceWrapsAtTheEdgeOfItsPage) {
   ManualWindow window(ManualFolder());
   ASSERT_TRUE(window.ShowPage("licence.html"));
   window.resize(500, 400);
-  QTest::qWait(50);
-  EXPECT_EQ(window.findChild<QTextBrowser*>()->horizontalScrollBar()->maximum(), 0);
+  const QScrollBar& sideways = *window.findChild<QTextBrowser*>()->horizontalScrollBar();
+  EXPECT_TRUE(QTest::qWaitFor([&] { return sideways.maximum() == 0; }, 30000));
 }
 
 class HelpKeyTest : public ProgramTest {};

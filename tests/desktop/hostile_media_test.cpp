@@ -91,7 +91,7 @@ TEST_F(HostileMediaTest, AListOfSoundsIsNotFollowed) {
     EXPECT_TRUE(sound.IsIdle()) << name;
   }
   sound.SetUrl(Spelled("\\tone.wav"));
-  EXPECT_TRUE(QTest::qWaitFor([&] { return sound.IsPlaying(); }, 5000));
+  EXPECT_TRUE(QTest::qWaitFor([&] { return sound.IsPlaying(); }, 30000));
 }
 
 // What can't be heard is named when a set is loaded, and not when its question is up.
@@ -110,7 +110,7 @@ TEST_F(HostileMediaTest, WhatIsNoSoundIsFoundBeforeTheShow) {
     Make(name, bytes);
     std::optional<bool> answer;
     media.Check(Spelled(std::string("\\") + name), [&](bool plays) { answer = plays; });
-    ASSERT_TRUE(QTest::qWaitFor([&] { return answer.has_value(); }, 10000)) << name;
+    ASSERT_TRUE(QTest::qWaitFor([&] { return answer.has_value(); }, 30000)) << name;
     EXPECT_EQ(*answer, sounds) << name;
   }
 }

@@ -27,7 +27,7 @@ class KeyboardForms : public ProgramTest {
   FormWindow& Open(Form& form) {
     form.Visible = true;
     FormWindow& window = Window(form);
-    EXPECT_TRUE(QTest::qWaitForWindowActive(&window)) << form.Name();
+    EXPECT_TRUE(QTest::qWaitForWindowActive(&window, 30000)) << form.Name();
     return window;
   }
   // Those that act and can be seen, each option group counting as its chosen one.
@@ -102,7 +102,7 @@ TEST_F(KeyboardForms, GoingToANameBoxMarksItsTextAndTellsTheForm) {
   auto* box = window.findChild<QLineEdit*>("txtPlayerName_2");
   window.findChild<QWidget*>("btnOK")->setFocus();
   QTest::mouseClick(box, Qt::LeftButton);
-  QTest::qWait(20);
+  EXPECT_TRUE(QTest::qWaitFor([&] { return box->selectedText() == "CY"; }, 30000));
   EXPECT_EQ(told, 1);
   QTest::keyClicks(box, "Di");
   EXPECT_EQ(name.Text.Get(), "Di");

@@ -18,7 +18,7 @@
 namespace pawnfield {
 namespace {
 
-constexpr int kStartMs = 40000;
+constexpr int kStartMs = 120000;
 
 class RealProgramTest : public FolderTest {
  protected:
@@ -106,7 +106,7 @@ TEST_F(RealProgramTest, EachEndingSignalEndsItInOrderWithItsSettingsSaved) {
     ASSERT_TRUE(ConsoleComesUp()) << number;
     EXPECT_FALSE(SavedSettings().contains("GridControl"));
     ASSERT_NO_FATAL_FAILURE(Signal(number));
-    EXPECT_TRUE(process_.waitForFinished(20000)) << number;
+    EXPECT_TRUE(process_.waitForFinished(60000)) << number;
     EXPECT_EQ(process_.exitStatus(), QProcess::NormalExit) << number;
     EXPECT_EQ(process_.exitCode(), 0) << number;
     EXPECT_TRUE(SavedSettings().contains("GridControl=\"5\"")) << number;
@@ -148,7 +148,7 @@ TEST_F(RealProgramTest, ABusThatNeverAnswersDoesNotKeepTheConsoleAway) {
   ASSERT_NO_FATAL_FAILURE(Start());
   EXPECT_TRUE(ConsoleComesUp());
   ASSERT_NO_FATAL_FAILURE(Signal(SIGTERM));
-  EXPECT_TRUE(process_.waitForFinished(20000));
+  EXPECT_TRUE(process_.waitForFinished(60000));
   close(silent);
 }
 
@@ -162,7 +162,7 @@ TEST_F(RealProgramTest, RunsWithAHomeOfAnyAlphabetAndASetNamedSoAtTheStart) {
     ASSERT_TRUE(ConsoleComesUp()) << folder.toStdString();
     EXPECT_TRUE(QFileInfo(home_ + "/data/Ostara Show Kit Data/Pawnfield").isDir()) << folder.toStdString();
     ASSERT_NO_FATAL_FAILURE(Signal(SIGTERM));
-    ASSERT_TRUE(process_.waitForFinished(20000)) << "waits in a box: " << folder.toStdString();
+    ASSERT_TRUE(process_.waitForFinished(60000)) << "waits in a box: " << folder.toStdString();
   }
 }
 
