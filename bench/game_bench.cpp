@@ -4,7 +4,7 @@
 
 #include "forms/main_form.h"
 #include "program/program.h"
-#include "sets/set_file.h"
+#include "sets/set_parser.h"
 #include "show/show.h"
 #include "sim/sim_platform.h"
 

@@ -5,7 +5,7 @@
 #include <memory>
 
 #include "platform/text.h"
-#include "sets/set_file.h"
+#include "sets/set_parser.h"
 
 namespace {
 

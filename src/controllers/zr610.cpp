@@ -243,7 +243,7 @@ void AttachPressHandlers(Show& show) {
   };
   const auto timer = [&show, &guard](void (*handler)(Show&)) {
     auto made = std::make_unique<SelfTimer>(
-        show.platform.clock, [&show, handler](double) { handler(show); }, guard);
+        show.platform.clock, [&show, handler] { handler(show); }, guard);
     made->SetEnabled(false);
     return made;
   };

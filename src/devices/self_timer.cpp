@@ -4,9 +4,9 @@
 
 namespace pawnfield {
 
-SelfTimer::SelfTimer(Clock& clock, Handler handler, GuardFunction guard) : clock_(clock), handler_(std::move(handler)) {
+SelfTimer::SelfTimer(Clock& clock, Handler handler, GuardFunction guard) : clock_(clock) {
   holder_.Guard = std::move(guard);
-  timer_.OnTimer = [this] { Fire(); };
+  timer_.OnTimer = std::move(handler);
   clock_.Attach(holder_);
 }
 
@@ -27,13 +27,6 @@ void SelfTimer::Arm() {
   timer_.Enabled = false;
   timer_.Interval = interval_;
   timer_.Enabled = enabled_ && interval_ > 0;
-}
-
-void SelfTimer::Fire() {
-  constexpr double kMsPerSecond = 1000;
-  const std::int64_t now = clock_.NowMs();
-  if (!first_) first_ = now;
-  handler_(static_cast<double>(now - *first_) / kMsPerSecond);
 }
 
 }  // namespace pawnfield

@@ -1,9 +1,7 @@
 // A timer that belongs to no form: fires on the clock about every Interval milliseconds while Enabled.
 #pragma once
 
-#include <cstdint>
 #include <functional>
-#include <optional>
 
 #include "platform/ports.h"
 
@@ -11,8 +9,8 @@ namespace pawnfield {
 
 class SelfTimer {
  public:
-  // The handler is given the seconds since the first event after creation or Reset, and runs inside the guard.
-  using Handler = std::function<void(double seconds)>;
+  // Runs inside the guard.
+  using Handler = std::function<void()>;
   using GuardFunction = decltype(Form::Guard);
 
   SelfTimer(Clock& clock, Handler handler, GuardFunction guard);
@@ -26,19 +24,15 @@ class SelfTimer {
   int Interval() const { return interval_; }
   // Starts the period anew with that length; 0 stops, a negative value is ignored.
   void SetInterval(int milliseconds);
-  void Reset() { first_.reset(); }
 
  private:
   void Arm();
-  void Fire();
 
   Clock& clock_;
-  Handler handler_;
   Form holder_{"SelfTimer"};
   Timer timer_{holder_, "Timer"};
   bool enabled_ = true;
   int interval_ = 0;
-  std::optional<std::int64_t> first_;
 };
 
 }  // namespace pawnfield

@@ -53,7 +53,7 @@ Transceiver::Transceiver(HidPort& port, Clock& clock, std::function<void(const T
       onButtonPressed_(std::move(onButtonPressed)),
       onLost_(std::move(onLost)),
       timer_(
-          clock, [this](double) { Timer_Timer(); }, std::move(guard)) {
+          clock, [this] { Timer_Timer(); }, std::move(guard)) {
   Open();
 }
 

@@ -19,6 +19,7 @@
 #include "presentation/picture_question.h"
 #include "presentation/text_fitting.h"
 #include "sets/set_file.h"
+#include "sets/set_parser.h"
 #include "show/phase.h"
 #include "show/show.h"
 

@@ -1,6 +1,5 @@
 #include "media/sound_effects.h"
 
-#include <array>
 #include <utility>
 
 #include "forms/main_form.h"
@@ -19,10 +18,9 @@ namespace {
 constexpr int kDeleteKey = 46;
 constexpr int kEnter = 13;
 constexpr int kErrorPastEnd = 62;
-constexpr int kFirstKeyGridRow = 8;
+// The game's own sounds stand first.
+constexpr int kFirstKeyGridRow = static_cast<int>(kGameSounds.size()) + 1;
 constexpr const char* kDataFilter = "Data(*.dat)|*.dat";
-constexpr std::array kRowLabels{"Buzzer 1",  "Buzzer 2",        "Buzzer 3",       "Correct",
-                                "Incorrect", "Congratulations", "Question Reveal"};
 
 Grid& TheGrid(Show& show) { return show.frmSoundEffects.Grid1; }
 
@@ -46,7 +44,7 @@ void LabelGrid(Grid& grid) {
     const bool key = row >= kFirstKeyGridRow;
     grid.SetCell(row, 0,
                  key ? static_cast<char>('A' + row - kFirstKeyGridRow) + std::string(" Key")
-                     : kRowLabels[static_cast<std::size_t>(row - 1)]);
+                     : kGameSounds[static_cast<std::size_t>(row - 1)].Label);
   }
 }
 
@@ -100,7 +98,9 @@ void Grid1_KeyDown(Show& show, int keyCode) {
 
 }  // namespace
 
-int SoundRowOfGrid(int gridRow) { return gridRow >= kFirstKeyGridRow ? gridRow + 1 : gridRow; }
+int SoundRowOfGrid(int gridRow) {
+  return gridRow < kFirstKeyGridRow ? gridRow : gridRow - kFirstKeyGridRow + kSoundFirstKey;
+}
 
 void btnSounds_Click(Show& show) {
   SoundEffects_Load(show);

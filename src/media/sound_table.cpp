@@ -69,11 +69,9 @@ void SaveSoundTable(Show& show) { show.platform.files.Write(TablePath(show), For
 
 void FillDefaultSounds(Show& show) {
   auto& bank = show.soundBanks[1];
-  for (const std::size_t player : {1U, 2U, 3U}) bank[player] = show.AppPath("\\Sound Effects\\RingsIn.mp3");
-  bank[kSoundCorrect] = show.AppPath("\\Sound Effects\\Correct.mp3");
-  bank[kSoundIncorrect] = show.AppPath("\\Sound Effects\\Incorrect.mp3");
-  bank[kSoundCongratulations] = show.AppPath("\\Sound Effects\\DDouble.wav");
-  bank[kSoundQuestionReveal] = show.AppPath("\\Sound Effects\\Question Appears.wav");
+  for (const GameSound& sound : kGameSounds) {
+    bank[static_cast<std::size_t>(sound.Row)] = show.AppPath(std::string("\\Sound Effects\\") + sound.File);
+  }
 }
 
 }  // namespace pawnfield

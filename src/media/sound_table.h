@@ -1,6 +1,7 @@
 // The sound table: a media file for each game event and letter key, in three banks, and its file Sounds.dat.
 #pragma once
 
+#include <array>
 #include <string>
 
 #include "show/show.h"
@@ -12,6 +13,19 @@ inline constexpr int kSoundCorrect = 4;
 inline constexpr int kSoundIncorrect = 5;
 inline constexpr int kSoundCongratulations = 6;
 inline constexpr int kSoundQuestionReveal = 7;
+// What the game itself plays, row by row: its label in the grid, and bank 1's file of the program's folder.
+struct GameSound {
+  int Row;
+  const char* Label;
+  const char* File;
+};
+inline constexpr std::array kGameSounds{GameSound{kSoundBuzzer1, "Buzzer 1", "RingsIn.mp3"},
+                                        GameSound{kSoundBuzzer1 + 1, "Buzzer 2", "RingsIn.mp3"},
+                                        GameSound{kSoundBuzzer1 + 2, "Buzzer 3", "RingsIn.mp3"},
+                                        GameSound{kSoundCorrect, "Correct", "Correct.mp3"},
+                                        GameSound{kSoundIncorrect, "Incorrect", "Incorrect.mp3"},
+                                        GameSound{kSoundCongratulations, "Congratulations", "DDouble.wav"},
+                                        GameSound{kSoundQuestionReveal, "Question Reveal", "Question Appears.wav"}};
 inline constexpr int kSoundFirstKey = 9;
 inline constexpr int kSoundRows = 34;
 inline constexpr int kSoundBankCount = 3;

@@ -19,6 +19,8 @@ constexpr std::size_t kShortField = 10;
 constexpr std::size_t kFontField = 50;
 constexpr int kFirstBox = 139;
 constexpr const char* kNoObject = "999";
+// Two flags that the display knows and no show sets.
+constexpr const char* kUnusedFlags = "^F^F";
 
 std::string Filled(const std::string& text, std::size_t length) {
   return FirstLetters(text + std::string(length, '~'), length);
@@ -75,15 +77,13 @@ void SendOldest(Show& show) {
 
 std::string ReportText(const CompanionReport& report) {
   const ScreenStyle& style = report.Style;
-  std::string fore = Filled(NumberText(style.ForeColor), kShortField);
-  std::string back = Filled(NumberText(style.BackColor), kShortField);
-  if (report.Swapped) std::swap(fore, back);
   std::string text = "0" + std::to_string(report.Player);
   text += "^" + Filled(report.Name, kShortField) + "^" + ScoreField(report.Score);
-  text += "^" + fore + "^" + back;
+  text +=
+      "^" + Filled(NumberText(style.ForeColor), kShortField) + "^" + Filled(NumberText(style.BackColor), kShortField);
   text += "^" + Filled(style.FontName, kFontField) + "^" + LastCharacters(std::to_string(style.FontSize), 3);
   text += std::string(Flag(style.FontBold)) + Flag(style.FontItalic) + "^" + report.Object;
-  return text + Flag(report.Correct) + Flag(report.Incorrect) + Flag(report.Third) + Flag(report.Swapped);
+  return text + Flag(report.Correct) + Flag(report.Incorrect) + kUnusedFlags;
 }
 
 void SendC2CInfo(Show& show, int player) {

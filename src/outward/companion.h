@@ -20,9 +20,7 @@ struct CompanionReport {
   ScreenStyle Style;
   // Three characters; any other number makes the text longer or shorter than a report is.
   std::string Object;
-  bool Correct = false, Incorrect = false, Third = false;
-  // Puts the background's colour before the foreground's.
-  bool Swapped = false;
+  bool Correct = false, Incorrect = false;
 };
 
 std::string ReportText(const CompanionReport& report);

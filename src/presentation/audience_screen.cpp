@@ -82,6 +82,19 @@ void AudienceScreenLost(Show& show) {
   show.frmMain.lblStatusBar.Caption = kScreenLost;
 }
 
+// The start brings the audience screen up by itself, and a monitor that goes before the console is up was none of the
+// show's.
+void MonitorsChangedAtStart(Show& show) {
+  const bool second = HasSecondMonitor(show);
+  if (second && show.AudienceLoaded) {
+    AudienceScreenFound(show);
+    return;
+  }
+  show.state.DualScreen = second;
+  if (second) CopyPairs(show);
+  if (!second) show.frmSS.Visible = false;
+}
+
 }  // namespace
 
 void AttachAudienceHandlers(Show& show) {
@@ -131,16 +144,8 @@ void UnloadAudienceScreen(Show& show) {
 void MonitorsChanged(Show& show) {
   FindAudiencePlace(show);
   show.frmFSMain.tmrRePaint.Enabled = true;
-  // The start brings the audience screen up by itself.
-  if (!show.AudienceLoaded && !show.frmMain.Visible) {
-    show.state.DualScreen = HasSecondMonitor(show);
-    if (show.state.DualScreen) CopyPairs(show);
-    return;
-  }
-  // A monitor that goes before the console is up was none of the show's.
-  if (!show.frmMain.Visible && !HasSecondMonitor(show)) {
-    show.frmSS.Visible = false;
-    show.state.DualScreen = false;
+  if (!show.frmMain.Visible) {
+    MonitorsChangedAtStart(show);
     return;
   }
   HasSecondMonitor(show) ? AudienceScreenFound(show) : AudienceScreenLost(show);

@@ -2,7 +2,6 @@
 
 #include <algorithm>
 #include <cstdio>
-#include <utility>
 #include <vector>
 
 #include "controllers/zr610.h"
@@ -70,7 +69,7 @@ void ServeWhatIsFound(Show& show) {
 
 }  // namespace
 
-bool IsTransceiver(const std::string& instancePath, ControlSet controlSet) {
+bool IsTransceiver(const std::string& instancePath) {
   const std::string text = ToUpper(instancePath);
   const std::size_t vid = text.find("VID_");
   if (vid == std::string::npos) return false;
@@ -80,28 +79,13 @@ bool IsTransceiver(const std::string& instancePath, ControlSet controlSet) {
   if (pid == std::string::npos) return false;
   const std::string vendor = Between(text, vid + 4, vidEnd);
   const std::string product = Between(text, pid + 4, text.find_first_of("&\\", pid + 4));
-  const bool knownVendor = vendor == "04FE" || (vendor == "0003" && controlSet == ControlSet::First);
-  return knownVendor && (product == "1003" || product == "1001");
-}
-
-bool FindTransceiverInRegistry(const RegistryReader& read) {
-  constexpr int kLastValue = 10;
-  const std::pair<const char*, ControlSet> keys[] = {
-      {"System\\ControlSet001\\Services\\HidUSB\\Enum", ControlSet::First},
-      {"System\\ControlSet002\\Services\\HidUsb\\Enum", ControlSet::Later},
-      {"System\\ControlSet003\\Services\\HidUsb\\Enum", ControlSet::Later}};
-  for (const auto& [key, controlSet] : keys) {
-    for (int name = 0; name <= kLastValue; ++name) {
-      if (IsTransceiver(read(key, std::to_string(name)).value_or(""), controlSet)) return true;
-    }
-  }
-  return false;
+  return (vendor == "04FE" || vendor == "0003") && (product == "1003" || product == "1001");
 }
 
 bool DetectHIDTransceiver(Show& show) {
   const auto present = show.platform.hid.Enumerate();
   return std::any_of(present.begin(), present.end(),
-                     [](const HidDevice& device) { return IsTransceiver(InstancePath(device), ControlSet::First); });
+                     [](const HidDevice& device) { return IsTransceiver(InstancePath(device)); });
 }
 
 void tmrSplash_Timer(Show& show) {

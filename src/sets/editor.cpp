@@ -11,6 +11,7 @@
 #include "presentation/text_fitting.h"
 #include "sets/editor_picture.h"
 #include "sets/set_file.h"
+#include "sets/set_parser.h"
 #include "show/show.h"
 
 namespace pawnfield::editor {

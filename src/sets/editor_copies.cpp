@@ -5,6 +5,7 @@
 #include "platform/text.h"
 #include "sets/editor.h"
 #include "sets/set_file.h"
+#include "sets/set_parser.h"
 #include "show/show.h"
 
 namespace pawnfield::editor {

@@ -3,6 +3,7 @@
 #include "forms/main_form.h"
 #include "platform/text.h"
 #include "sets/set_file.h"
+#include "sets/set_parser.h"
 #include "show/show.h"
 
 namespace pawnfield {

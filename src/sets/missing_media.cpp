@@ -11,6 +11,7 @@
 #include "sets/file_dialogs.h"
 #include "sets/media_paths.h"
 #include "sets/set_file.h"
+#include "sets/set_parser.h"
 #include "show/show.h"
 
 namespace pawnfield {

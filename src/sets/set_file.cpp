@@ -8,6 +8,7 @@
 #include "platform/text.h"
 #include "sets/file_dialogs.h"
 #include "sets/media_paths.h"
+#include "sets/set_parser.h"
 #include "sets/table_text.h"
 #include "show/show.h"
 

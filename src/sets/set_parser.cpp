@@ -1,4 +1,5 @@
-// The set file's format: its records, its format line, and the text form of a set.
+#include "sets/set_parser.h"
+
 #include <algorithm>
 #include <cstdint>
 #include <limits>
@@ -8,7 +9,6 @@
 #include "platform/escapes.h"
 #include "platform/line_reader.h"
 #include "platform/text.h"
-#include "sets/set_file.h"
 
 namespace pawnfield {
 

@@ -125,19 +125,23 @@ TEST_F(Wireless, ADeviceThatTakesTooLittleIsReported) {
   EXPECT_EQ(TakeWrite() + std::to_string(clock.NowMs()), "0");
 }
 
-TEST(SelfTimer, TellsTheSecondsSinceItsFirstEventAndIgnoresNegativeIntervals) {
+TEST(SelfTimer, StopsAtZeroAndIgnoresNegativeIntervals) {
   VirtualClock clock;
-  std::vector<double> seconds;
-  SelfTimer timer(clock, [&](double at) { seconds.push_back(at); }, {});
+  int fired = 0;
+  SelfTimer timer(clock, [&] { ++fired; }, {});
   timer.SetInterval(250);
   timer.SetInterval(-1);
   clock.Advance(600);
-  timer.Reset();
-  timer.SetInterval(250);
-  clock.Advance(500);
+  EXPECT_EQ(fired, 2);
+  timer.SetEnabled(false);
+  clock.Advance(1000);
+  EXPECT_EQ(fired, 2);
+  timer.SetEnabled(true);
+  clock.Advance(250);
+  EXPECT_EQ(fired, 3) << "begins its whole period anew";
   timer.SetInterval(0);
   clock.Advance(1000);
-  EXPECT_THAT(seconds, ElementsAre(0, 0.25, 0, 0.25));
+  EXPECT_EQ(fired, 3);
 }
 
 }  // namespace

@@ -14,17 +14,16 @@ const std::string kLook = "^16777215~~^0~~~~~~~~~^Comic Sans MS" + std::string(3
 
 TEST(CompanionReport, FollowsTheFormat) {
   const ScreenStyle plain, odd{kLong, 7, true, false, 255, -12345678901.0};
-  // The flags are correct, incorrect, third and swapped.
+  // The flags are correct and incorrect; nothing sets the two behind them.
   const std::pair<CompanionReport, std::string> cases[] = {
       {{2, "", "", plain, "140"}, "02^~~~~~~~~~~^+000000" + kLook + "^F^F^F^F"},
       {{2, "Al", "125", plain, "140", true}, "02^Al~~~~~~~~^+000125" + kLook + "^T^F^F^F"},
       {{2, "ABCDEFGHIJ", "-25", plain, "140", false, true}, "02^ABCDEFGHIJ^-000025" + kLook + "^F^T^F^F"},
-      {{2, "ABCDEFGHIJK", "999999", plain, "140", false, false, true}, "02^ABCDEFGHIJ^+999999" + kLook + "^F^F^T^F"},
-      {{2, kLong, "-999999", plain, "140", false, false, false, true},
-       "02^xxxxxxxxxx^-999999^0~~~~~~~~~^16777215~~" + kLook.substr(22) + "^F^F^F^T"},
+      {{2, "ABCDEFGHIJK", "999999", plain, "140", true, true}, "02^ABCDEFGHIJ^+999999" + kLook + "^T^T^F^F"},
+      {{2, kLong, "-999999", plain, "140"}, "02^xxxxxxxxxx^-999999" + kLook + "^F^F^F^F"},
       {{2, "~^", "-1000100", plain, "140"}, "02^~^~~~~~~~~^-000100" + kLook + "^F^F^F^F"},
-      {{2, "A", "1", odd, "140", true, true, true},
-       "02^A~~~~~~~~~^+000001^-123456789^255~~~~~~~^" + std::string(50, 'x') + "^007^F^T^140^T^T^T^F"}};
+      {{2, "A", "1", odd, "140", true, true},
+       "02^A~~~~~~~~~^+000001^-123456789^255~~~~~~~^" + std::string(50, 'x') + "^007^F^T^140^T^T^F^F"}};
   for (const auto& [report, text] : cases) EXPECT_EQ(ReportText(report), text);
 }
 

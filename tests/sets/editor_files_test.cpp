@@ -4,6 +4,7 @@
 #include "forms/main_form.h"
 #include "platform/large_file.h"
 #include "sets/missing_media.h"
+#include "sets/set_file.h"
 #include "support/editor_fixture.h"
 #include "support/seen.h"
 

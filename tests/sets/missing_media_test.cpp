@@ -2,7 +2,7 @@
 
 #include "forms/main_form.h"
 #include "forms/missing_media_form.h"
-#include "sets/set_file.h"
+#include "sets/set_parser.h"
 #include "support/show_fixture.h"
 
 namespace pawnfield {

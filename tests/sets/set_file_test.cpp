@@ -6,6 +6,7 @@
 
 #include "forms/main_form.h"
 #include "platform/large_file.h"
+#include "sets/set_parser.h"
 #include "support/show_fixture.h"
 
 namespace pawnfield {

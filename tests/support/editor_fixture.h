@@ -7,7 +7,6 @@
 #include "forms/editor_form.h"
 #include "program/handlers.h"
 #include "sets/editor.h"
-#include "sets/set_file.h"
 #include "support/show_fixture.h"
 
 namespace pawnfield {

@@ -1,5 +1,5 @@
-// Shows and hides a widget over and over. Painting it anew each time would have the program wait for the X server to let
-// go of the last frame; what blinks is painted once for each of its two sides, and then only handed to the server.
+// Shows and hides a widget over and over. Painting it anew each time would have the program wait for the X server to
+// let go of the last frame; what blinks is painted once for each of its two sides, and then only handed to the server.
 #pragma once
 
 #include <QBackingStore>
