@@ -12,6 +12,7 @@
 #include "desktop/desktop_program.h"
 #include "desktop/files/native_path.h"
 #include "desktop/windows/audience_window.h"
+#include "desktop/windows/console_window.h"
 #include "figures.h"
 #include "forms/fs_main_form.h"
 #include "forms/main_form.h"

@@ -11,6 +11,7 @@
 #include "desktop/files/native_path.h"
 #include "desktop/windows/audience_window.h"
 #include "desktop/windows/console_window.h"
+#include "devices/transceiver.h"
 #include "figures.h"
 #include "forms/main_form.h"
 #include "program/detection.h"

@@ -11,6 +11,8 @@
 
 #include "desktop/desktop_program.h"
 #include "desktop/files/native_path.h"
+#include "desktop/windows/console_window.h"
+#include "desktop/windows/form_window.h"
 #include "figures.h"
 #include "forms/small_forms.h"
 #include "program/program.h"
