@@ -64,9 +64,18 @@ void ShowEntry(Show& show, const std::string& entry) {
   SetTypedCommand(show, entry);
 }
 
+// An Enter that was meant for something else is seen for what it did.
+void PassTurnByEnter(Show& show) {
+  const int before = show.state.CurrentPlayer;
+  AdvanceToNextPlayer(show);
+  const int now = show.state.CurrentPlayer;
+  if (now != before) show.frmMain.lblStatusBar.Caption = "Enter passed the turn to player " + std::to_string(now) + ".";
+}
+
 void LetterOfSquare(Show& show, int key) {
   if (key == kEnter) {
-    if (!show.state.Nature().RingIn) AdvanceToNextPlayer(show);
+    if (show.state.Nature().RingIn) return;
+    PassTurnByEnter(show);
     if (!show.state.Nature().Trivia) ChangeCursor(show);
     return;
   }

@@ -16,6 +16,8 @@
 #include "desktop/windows/editor_window.h"
 #include "desktop/windows/help_about_window.h"
 #include "desktop/windows/help_key.h"
+#include "desktop/windows/hold_guard.h"
+#include "desktop/windows/house_palette.h"
 #include "desktop/windows/optional_headers_window.h"
 #include "desktop/windows/options_window.h"
 #include "desktop/windows/pages_window.h"
@@ -109,7 +111,9 @@ DesktopProgram::AllWindows::AllWindows(DesktopPlatform& desktop, Show& show)
 DesktopProgram::DesktopProgram(const DesktopPlaces& places)
     : desktop_(places, [this] { windows_->Console.ComeForward(); }),
       show_(desktop_.platform),
-      windows_(std::make_unique<AllWindows>(desktop_, show_)) {}
+      windows_(std::make_unique<AllWindows>(desktop_, show_)) {
+  GuardConsole(show_, windows_->Console);
+}
 
 // The clock, the serial line and the watch over the devices outlive the forms, whose timers must not be looked at any
 // more.
@@ -146,6 +150,7 @@ void PrepareApplication() {
   setlocale(LC_NUMERIC, "C");
   SubstituteFonts();
   QApplication::setStyle(QStyleFactory::create("Fusion"));
+  QApplication::setPalette(HousePalette());
   // The windows come and go as the forms say; the last one that goes does not end the program.
   QApplication::setQuitOnLastWindowClosed(false);
   QFile look(":/look/look.qss");

@@ -16,6 +16,7 @@
 #include "desktop/files/user_copy.h"
 #include "desktop/windows/audience_window.h"
 #include "desktop/windows/console_window.h"
+#include "desktop/windows/hold_button.h"
 #include "desktop/windows/model_widgets.h"
 #include "forms/fs_main_form.h"
 #include "forms/main_form.h"
@@ -96,6 +97,12 @@ void ShowDriver::Pause(int milliseconds) { QTest::qWait(milliseconds); }
 bool ShowDriver::Press(const QString& widget) {
   auto* target = program_.Console().findChild<QWidget*>(widget);
   if (target == nullptr || !target->isVisible() || !target->isEnabled()) return false;
+  if (qobject_cast<HoldButton*>(target) != nullptr) {
+    QTest::mousePress(target, Qt::LeftButton);
+    Pause(kHoldMs + 150);
+    QTest::mouseRelease(target, Qt::LeftButton);
+    return true;
+  }
   // An option is hit on its mark, which stands at the left.
   const bool marked = target->inherits("QRadioButton") || target->inherits("QCheckBox");
   QTest::mouseClick(target, Qt::LeftButton, {}, marked ? QPoint(8, target->height() / 2) : QPoint());

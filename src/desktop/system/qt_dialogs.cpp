@@ -154,8 +154,9 @@ std::optional<Font> QtDialogs::ChooseFont(const Font& start) {
 
 std::optional<Color> QtDialogs::ChooseColor(Color start) {
   const QColor first(start & 0xFF, (start >> 8) & 0xFF, (start >> 16) & 0xFF);
-  const QColor color = QColorDialog::getColor(first, QApplication::activeWindow());
-  if (!color.isValid()) return std::nullopt;
+  QColorDialog dialog(first, QApplication::activeWindow());
+  if (dialog.exec() != QDialog::Accepted) return std::nullopt;
+  const QColor color = dialog.selectedColor();
   return color.red() | color.green() << 8 | color.blue() << 16;
 }
 

@@ -18,6 +18,7 @@
 #include "desktop/painting/picture_cache.h"
 #include "desktop/windows/blinker.h"
 #include "desktop/windows/grid_view.h"
+#include "desktop/windows/hold_button.h"
 #include "desktop/windows/model_widgets.h"
 #include "desktop/windows/set_text_edit.h"
 
@@ -79,6 +80,8 @@ class ButtonBinding : public Binding<Button, QAbstractButton> {
  public:
   ButtonBinding(Button& button, QAbstractButton& view) : Binding(button, view) {
     ShowOwn(PropertyId::Caption);
+    // A button that wants a hold is tied by what guards it.
+    if (qobject_cast<HoldButton*>(&view) != nullptr) return;
     QObject::connect(&widget, &QAbstractButton::clicked, &widget, [this] { model.Click(); });
   }
 

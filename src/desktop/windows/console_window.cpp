@@ -6,6 +6,7 @@
 
 #include "desktop/painting/board_items.h"
 #include "desktop/painting/ground.h"
+#include "desktop/windows/focus_rules.h"
 #include "desktop/windows/key_bridge.h"
 #include "desktop/windows/player_view.h"
 #include "forms/main_form.h"
@@ -48,6 +49,7 @@ ConsoleWindow::ConsoleWindow(MainForm& form, FormWindows& windows, PictureCache&
   Bindings()->AddCanvas(*answer_);
   HoldUnseen();
   new KeyBridge(form, *this);
+  focus_ = new FocusRules(*this, *findChild<QWidget*>("txtDJCommand"), *board_);
   screens_.Subscribe([this] { ReturnHome(); });
 }
 
@@ -99,6 +101,11 @@ void ConsoleWindow::ShowForm() {
   connect(windowHandle(), &QWindow::screenChanged, this, &ConsoleWindow::NoteHome, Qt::UniqueConnection);
   raise();
   activateWindow();
+  focus_->Rest();
+}
+
+bool ConsoleWindow::focusNextPrevChild(bool next) {
+  return (focus_ != nullptr && focus_->Rescue()) || FormWindow::focusNextPrevChild(next);
 }
 
 void ConsoleWindow::ReturnHome() {

@@ -7,6 +7,7 @@
 
 namespace pawnfield {
 
+class FocusRules;
 class MainForm;
 class MpvVideo;
 
@@ -20,6 +21,8 @@ class ConsoleWindow : public FormWindow {
  protected:
   void ShowForm() override;
   void moveEvent(QMoveEvent* event) override;
+  // What greys or goes hands the focus on by this.
+  bool focusNextPrevChild(bool next) override;
 
  private:
   void FillBoard(MainForm& form);
@@ -33,6 +36,7 @@ class ConsoleWindow : public FormWindow {
   Screens& screens_;
   Canvas* board_ = nullptr;
   Canvas* answer_ = nullptr;
+  FocusRules* focus_ = nullptr;
 };
 
 }  // namespace pawnfield

@@ -25,6 +25,10 @@ bool KeyBridge::eventFilter(QObject* watched, QEvent* event) {
 bool KeyBridge::Hand(QWidget* focus, const QKeyEvent& key) {
   const auto* edit = qobject_cast<QLineEdit*>(focus);
   if (edit != nullptr && !edit->isReadOnly()) return false;
+  if (key.key() == Qt::Key_F9) {
+    if (!key.isAutoRepeat()) form_.btnAnswerClock.Click();
+    return true;
+  }
   if ((key.modifiers() & Qt::AltModifier) != 0 || key.text().isEmpty()) return false;
   const auto bytes = ToWindows1252(key.text());
   if (!bytes || bytes->size() != 1) return false;
