@@ -1,11 +1,13 @@
-// Runs the random operator on the real windows: pawnfield_window_monkey SEED ACTIONS [LOG]. Needs a display with two
-// monitors. The seed decides what he tries; how the machine keeps time decides the rest, so that a run need not repeat.
-// A failing run prints its seed and the last actions; the log has them all, after a crash too.
+// Runs the random operator on the real windows: pawnfield_window_monkey SEED ACTIONS [LOG [keys]]; with "keys" he does
+// hardly anything but strike Space, Enter, Tab and letters. Needs a display with two monitors. The seed decides what he
+// tries; how the machine keeps time decides the rest, so that a run need not repeat. A failing run prints its seed and
+// the last actions; the log has them all, after a crash too.
 #include <QDesktopServices>
 #include <QFile>
 #include <QProcess>
 #include <cstdio>
 #include <cstdlib>
+#include <string_view>
 
 #include "monkey/desktop/window_monkey.h"
 
@@ -20,11 +22,12 @@ class NoBrowser : public QObject {
   void Open(const QUrl&) {}
 };
 
-int Work(WatchedApplication& application, std::uint32_t seed, int actions, QFile& log) {
+int Work(WatchedApplication& application, std::uint32_t seed, int actions, QFile& log, bool onlyKeys) {
   Chance chance(seed);
   World world(chance);
   DesktopProgram program(world.Places());
   WindowMonkey monkey(application, program, world, chance, log);
+  if (onlyKeys) monkey.StrikeKeys();
   const QString broken = monkey.Run(actions);
   const auto& came = monkey.Came();
   std::printf("seed %u, %d actions, %d checks, %d events, %d questions, %d squares, %d winners: %s\n", seed, actions,
@@ -39,7 +42,7 @@ int Work(WatchedApplication& application, std::uint32_t seed, int actions, QFile
 
 int main(int argc, char** argv) {
   if (argc < 3) {
-    std::fprintf(stderr, "usage: pawnfield_window_monkey SEED ACTIONS [LOG]\n");
+    std::fprintf(stderr, "usage: pawnfield_window_monkey SEED ACTIONS [LOG [keys]]\n");
     return 2;
   }
   QFile log(argc > 3 ? argv[3] : "");
@@ -51,8 +54,9 @@ int main(int argc, char** argv) {
   PrepareApplication();
   NoBrowser browser;
   for (const char* scheme : {"http", "https", "file"}) QDesktopServices::setUrlHandler(scheme, &browser, "Open");
-  const int status =
-      Work(application, static_cast<std::uint32_t>(std::strtoul(argv[1], nullptr, 10)), std::atoi(argv[2]), log);
+  const bool onlyKeys = argc > 4 && std::string_view(argv[4]) == "keys";
+  const auto seed = static_cast<std::uint32_t>(std::strtoul(argv[1], nullptr, 10));
+  const int status = Work(application, seed, std::atoi(argv[2]), log, onlyKeys);
   for (const char* scheme : {"http", "https", "file"}) QDesktopServices::unsetUrlHandler(scheme);
   QProcess::execute("xrandr", {"--output", "DUMMY1", "--mode", "1920x1080", "--pos", "1280x0"});
   return status;

@@ -6,6 +6,7 @@
 #include <QCheckBox>
 #include <QColorDialog>
 #include <QComboBox>
+#include <QElapsedTimer>
 #include <QFileDialog>
 #include <QFontDialog>
 #include <QLineEdit>
@@ -23,6 +24,7 @@
 
 #include "desktop/files/windows_1252.h"
 #include "desktop/painting/canvas.h"
+#include "desktop/windows/hold_button.h"
 #include "desktop/windows/model_widgets.h"
 #include "desktop/windows/player_view.h"
 #include "desktop/windows/volume_slider_view.h"
@@ -98,6 +100,19 @@ void RandomHand::Click(QWidget& widget, const QPoint& at) {
         : QTest::mouseClick(window->windowHandle(), Qt::LeftButton, {}, place);
 }
 
+// Nobody else acts meanwhile: the mouse is one.
+void RandomHand::Hold(QWidget& widget) {
+  note_("hold " + NameOf(widget));
+  const QPointer<QWidget> target = &widget;
+  QElapsedTimer held;
+  held.start();
+  holding_ = true;
+  QTest::mousePress(target, Qt::LeftButton);
+  while (target && held.elapsed() < kHoldMs + 150) QTest::qWait(20);
+  if (target) QTest::mouseRelease(target, Qt::LeftButton);
+  holding_ = false;
+}
+
 void RandomHand::Drag(QWidget& widget) {
   QWidget* window = widget.window();
   const QPointer<QWindow> handle = window->windowHandle();
@@ -123,6 +138,20 @@ void RandomHand::TypeInto(QWidget& widget) {
   if (target && chance_.OneIn(3)) QTest::keyClick(target, Qt::Key_Return);
 }
 
+// What a hand strikes by habit or by a slip.
+void RandomHand::PressHabitKey(QWidget& target) {
+  static constexpr std::array kHabits = {Qt::Key_Space, Qt::Key_Return, Qt::Key_Tab, Qt::Key_Backtab, Qt::Key_Space};
+  if (chance_.OneIn(2)) {
+    const Qt::Key key = kHabits[chance_.Below(kHabits.size())];
+    note_("key " + QKeySequence(key).toString());
+    QTest::keyClick(&target, key, key == Qt::Key_Backtab ? Qt::ShiftModifier : Qt::NoModifier);
+    return;
+  }
+  const char letter = static_cast<char>('a' + chance_.Below(26));
+  note_(QString("key ") + letter);
+  QTest::keyClick(&target, letter);
+}
+
 void RandomHand::PressKey(QWidget& window) {
   static constexpr std::array kSpecial = {Qt::Key_Return, Qt::Key_Escape,    Qt::Key_Tab,  Qt::Key_Space,  Qt::Key_Left,
                                           Qt::Key_Right,  Qt::Key_Up,        Qt::Key_Down, Qt::Key_Delete, Qt::Key_Home,
@@ -131,7 +160,9 @@ void RandomHand::PressKey(QWidget& window) {
                                               Qt::Key_A, Qt::Key_C, Qt::Key_V};
   static constexpr std::string_view kTyped = "123456789abcdefynqrstABCDEYN^0";
   const QPointer<QWidget> target = window.focusWidget() != nullptr ? window.focusWidget() : &window;
-  if (chance_.OneIn(3)) {
+  if (onlyKeys_ && !chance_.OneIn(6)) {
+    PressHabitKey(*target);
+  } else if (chance_.OneIn(3)) {
     const Qt::Key key = kSpecial[chance_.Below(kSpecial.size())];
     note_("key " + QKeySequence(key).toString());
     QTest::keyClick(target, key);
@@ -187,13 +218,15 @@ void RandomHand::ActOn(QWidget& widget) {
   } else if (widget.inherits("QRadioButton") || widget.inherits("QCheckBox")) {
     // An option is hit on its mark, which stands at the left.
     Click(widget, {8, widget.height() / 2});
+  } else if (qobject_cast<HoldButton*>(&widget) != nullptr && chance_.OneIn(2)) {
+    Hold(widget);
   } else {
     Click(widget, chance_.OneIn(4) ? AnyPoint(widget) : widget.rect().center());
   }
 }
 
 void RandomHand::ActIn(QWidget& window) {
-  if (chance_.OneIn(5)) {
+  if (onlyKeys_ ? !chance_.OneIn(6) : chance_.OneIn(5)) {
     PressKey(window);
     return;
   }

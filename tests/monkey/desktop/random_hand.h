@@ -24,8 +24,14 @@ class RandomHand {
   // A dialog of the toolkit; a file dialog is given that file, or none.
   void Answer(QWidget& dialog, const QString& file);
   void PressKey(QWidget& window);
+  // From now on hardly anything but Space, Enter, Tab and letters.
+  void StrikeKeys() { onlyKeys_ = true; }
+  // A button is being held, and time passes in its own loop.
+  bool Holds() const { return holding_; }
 
  private:
+  void PressHabitKey(QWidget& target);
+  void Hold(QWidget& widget);
   void ActOn(QWidget& widget);
   void ActOnCanvas(QWidget& canvas);
   void ActOnRows(QWidget& view);
@@ -36,6 +42,8 @@ class RandomHand {
   std::vector<QWidget*> Targets(const QWidget& window);
   QPoint AnyPoint(const QWidget& widget);
 
+  bool onlyKeys_ = false;
+  bool holding_ = false;
   Show& show_;
   Chance& chance_;
   std::function<void(const QString&)> note_;

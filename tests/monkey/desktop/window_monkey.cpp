@@ -35,7 +35,8 @@ WindowMonkey::WindowMonkey(WatchedApplication& application, DesktopProgram& prog
       world_(world),
       chance_(chance),
       log_(log),
-      hand_(show_, chance, [this](const QString& action) { Note(action); }) {
+      hand_(show_, chance, [this](const QString& action) { Note(action); }),
+      slips_(program) {
   sinceMonitors_.start();
 }
 
@@ -76,10 +77,12 @@ void WindowMonkey::Tick() {
   if (ended_) return;
   // The next one is due while a dialog that this one opens is still up.
   QTimer::singleShot(NextPause(), this, &WindowMonkey::Tick);
+  if (hand_.Holds()) return;
   const bool modalBefore = QApplication::activeModalWidget() != nullptr;
   if (!up_ && !modalBefore && depth_ == 0 && program_.Console().isVisible()) {
     up_ = true;
     world_.Join(show_);
+    slips_.Watch();
     heart_.TakeLongest();
   }
   if (up_ && left_ <= 0) {
@@ -194,6 +197,7 @@ QString WindowMonkey::WhatIsBroken() {
   const qint64 silence = heart_.TakeLongest();
   if (silence > kSilenceMs) return QString("the message loop was silent for %1 ms").arg(silence);
   if (!program_.Console().isVisible()) return "the console is gone";
+  if (const QString slip = slips_.Seen(); !slip.isEmpty()) return slip;
   return AudienceInTheWay();
 }
 

@@ -11,6 +11,7 @@
 #include "monkey/chance.h"
 #include "monkey/desktop/heartbeat.h"
 #include "monkey/desktop/random_hand.h"
+#include "monkey/desktop/slips.h"
 #include "monkey/desktop/watched_application.h"
 #include "monkey/desktop/world.h"
 #include "monkey/invariants.h"
@@ -26,6 +27,8 @@ class WindowMonkey : public QObject {
 
   // From the program's entry to so many actions later. What was broken, empty when all held.
   QString Run(int actions);
+  // Hardly anything but keys.
+  void StrikeKeys() { hand_.StrikeKeys(); }
   const std::deque<QString>& LastActions() const { return last_; }
   // How far he came: checks, events checked, questions asked, squares claimed and games won.
   struct Progress {
@@ -59,6 +62,7 @@ class WindowMonkey : public QObject {
   QFile& log_;
   RandomHand hand_;
   Heartbeat heart_;
+  Slips slips_;
   QElapsedTimer sinceMonitors_;
   std::deque<QString> last_;
   QString broken_;
