@@ -155,6 +155,16 @@ using TypedSquare = WordStoryTest;
 TEST_P(TypedSquare, IsAColumnLetterAndARowDigit) { Play(); }
 INSTANTIATE_TEST_SUITE_P(Keyboard, TypedSquare, testing::ValuesIn(kEntries), WordStoryTest::Name);
 
+const WordStory kPieces[] = {
+    {"Enter in a challenge puts the next piece at both hands", "Challenge A",
+     "cursor is CursorX.png, key enter, cursor is CursorO.png, room cursor is CursorO.png"},
+    {"Ctrl N in a challenge puts the next piece at the hand", "Challenge A", "key ctrl n, cursor is CursorO.png"},
+};
+
+using NextPiece = WordStoryTest;
+TEST_P(NextPiece, IsAtTheHand) { Play(); }
+INSTANTIATE_TEST_SUITE_P(Keyboard, NextPiece, testing::ValuesIn(kPieces), WordStoryTest::Name);
+
 TEST(Keyboard, LettersBringUpTheirMediaWhateverElseTheyDo) {
   Keyboard keyboard("Trivia A");
   SimPlatform& sim = keyboard.fixture().sim;

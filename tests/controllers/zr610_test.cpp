@@ -85,7 +85,9 @@ TEST(Pads, BrokenFramesAreReportedOnceAndAPulledAdapterUntilReconnected) {
   player.Do("expect Unable to find a ZR-610 device. Please check connections and retry., reconnect the pads");
   port.Plug("USB-SERIAL (COM4)");
   port.FailNextOpen = kErrorInvalidPort;
-  player.Do("expect Error Number: 8002, reconnect the pads, reconnect the pads, pad 2, turn 2");
+  player.Do(
+      "expect Error Number: 8002, reconnect the pads, reconnect the pads, says ZR-610 System initialized, pad 2, turn "
+      "2");
   EXPECT_EQ(port.Number, 4);
 }
 
@@ -140,6 +142,19 @@ TEST(Pads, TheDialogWalksDownAndAPadStandsInOneRow) {
   wanted[19] = 9;
   EXPECT_EQ(act(0), wanted) << "a slot is never emptied";
   player.Do("pad code 103, turn 2");
+}
+
+TEST(Pads, APadPressedWhileNoRowIsChosenGoesNowhere) {
+  GamePlayer player("Trivia C, pads");
+  MapMFForm& dialog = player.show().frmMapMF;
+  player.fixture().sim.dialogs.ExpectForm("frmMapMF", [&] {
+    const auto before = dialog.lstControllers.ListItems.Get();
+    dialog.lstControllers.SelectedItem = -1;
+    player.fixture().sim.serial.Feed(Pad(7));
+    EXPECT_EQ(dialog.lstControllers.ListItems.Get(), before);
+    dialog.cmdCancel.Click();
+  });
+  player.form().mnuMapMF.Click();
 }
 
 TEST(PadMapFile, IsEightyBytesLowByteFirstAndAShortOneLeavesTheRestEmpty) {

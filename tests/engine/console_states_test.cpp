@@ -24,6 +24,12 @@ const WordStory kStates[] = {
     {"A change of type while idle offers the options of the new one", "Challenge A, 2 players, not started",
      "offers Start and PlayMode, choose Trivia A, offers SelectGame and PlayMode, choose entry 0 of cboList, pause of "
      "3 s, choose Challenge B, offers Start and PlayMode"},
+    {"Trivia C offers the list again after a challenge", "Challenge A, not started",
+     "cboList is disabled, choose Trivia C, cboList is enabled"},
+    {"The hand has a piece after standby in a pause that ends by itself", "Trivia A",
+     "correct, claim A1, hide, show, cursor is CursorO.png"},
+    {"The hand has no piece after standby while the operator may continue", "Trivia A, user advances",
+     "correct, claim A1, hide, show, cursor is CursorNeutral.png"},
     {"A challenge begins with the next player alone", "Challenge A, 2 players", "offers StandbyMode and NextPlayer"},
     {"The first claim of a challenge offers undo and the end", "Challenge A, 2 players",
      "claim A1, offers StandbyMode and NextPlayer and Undo and Reset and EndGame"},

@@ -67,6 +67,8 @@ const WordStory kJudging[] = {
      "correct, room verdict picture is Correct.jpg"},
     {"A wrong verdict shows its own picture to the room", "Trivia A, 2 players, animated",
      "incorrect, room verdict picture is Incorrect.jpg"},
+    {"The room reads Correct in green", "Trivia A, 2 players, animated", "correct, room verdict text ink is 65280"},
+    {"The room reads Incorrect in red", "Trivia A, 2 players, animated", "incorrect, room verdict text ink is 255"},
     {"A second verdict picture stands its whole time too", "Trivia A, 2 players, animated",
      "incorrect, wait 3 s, incorrect, wait 4499 ms, verdict is shown, room verdict is shown, wait 1 ms, verdict is "
      "hidden, room verdict is hidden"},

@@ -83,12 +83,14 @@ TEST_F(Music, ASoundQuestionPausesItAndTheEndOfTheGameStopsItUntilTheNextSet) {
   Begin("1", {"a.mp3"});
   form().optGameType[2].Click();
   ChooseSet("Mixed");
+  sim.clock.Advance(3000);
   form().btnStart.Click();
   const RecordedChannel& music = sim.media.BackgroundPlayer;
   EXPECT_TRUE(music.Paused);
+  EXPECT_GT(music.CurrentPosition(), 0);
   EXPECT_EQ(Heard(30), "") << "a paused track is not at its end";
   form().btnQuestionCorrect.Click();
-  EXPECT_TRUE(music.Playing && !music.Paused) << "a correct answer brings it back";
+  EXPECT_TRUE(music.Playing && !music.Paused) << "a correct answer begins it anew";
   EXPECT_EQ(music.CurrentPosition(), 0);
   Claim(0, 0);
   sim.clock.Advance(2000);

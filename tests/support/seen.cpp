@@ -67,9 +67,12 @@ std::string LitBoxes(MainForm& form) {
   return lit.empty() ? "nobody" : lit;
 }
 
+std::string FileName(const std::string& path) { return path.substr(path.rfind('\\') + 1); }
+
 std::string PropertyOf(const Control& control, const std::string& name) {
   const auto* label = dynamic_cast<const Label*>(&control);
   if (name == "Top") return NumberText(control.Top);
+  if (name == "ForeColor") return NumberText(dynamic_cast<const Label&>(control).ForeColor);
   if (name == "Height") return NumberText(control.Height);
   if (name == "Tip") return Plain(control.ToolTipText);
   if (name == "Enabled") return control.Enabled ? "yes" : "no";
@@ -88,7 +91,7 @@ std::string Look(const Control& control) {
   const bool panel = control.Kind() == ControlKind::PictureBox || control.Kind() == ControlKind::Frame;
   if (panel) return control.Enabled ? "up" : "off";
   const std::string content = Plain(Content(control));
-  return control.Kind() == ControlKind::Image ? content.substr(content.rfind('\\') + 1) : content;
+  return control.Kind() == ControlKind::Image ? FileName(content) : content;
 }
 
 std::string Seen(Show& show, const std::string& name, const Form& form) {
@@ -104,6 +107,8 @@ std::string Seen(Show& show, const std::string& name, const Form& form) {
   if (name == "scores") return score(1) + "/" + score(2) + "/" + score(3);
   if (name == "names") return Plain(player(0) + "/" + player(1) + "/" + player(2));
   if (name == "board") return Board(state);
+  if (name == "cursor") return FileName(main.MouseIcon);
+  if (name == "cursor'") return FileName(show.frmFSMain.MouseIcon);
   if (name == "winner") return Plain(main.lblWinner.Caption);
   if (name == "offers") return Reachable(main, kButtons);
   if (name == "options") return Reachable(main, kOptions);
