@@ -17,6 +17,7 @@ TEST(FullDisk, HeadersComeUpThoughTheirSettingIsNotSavedWhichIsReportedOnce) {
   fixture.sim.settings.FailSaves = 2;
   fixture.sim.dialogs.ExpectForm("frmOptionalHeaders", [&] {
     form.txtOptionalHeader[0].Text = "Welcome";
+    form.chkBaseImage.Click();
     fixture.sim.dialogs.ExpectMessage("Procedure: btnOk_Click");
     form.btnOk.Click();
   });
