@@ -229,7 +229,7 @@ TEST_F(Server, WhoSaysTooMuchIsCutOff) {
     const char* what;
     std::string said;
   } floods[] = {{"a message of 1,025 bytes", Frame(std::string(1025, 'a'))},
-                {"a message that says it has 2^60 bytes", std::string("\x81\xFF\x10\0\0\0\0\0\0\0", 10)},
+                {"a message that says it has 2^60 bytes", std::string("\x81\xFF\x10\0\0\0\0\0\0\0\0\0\0\0", 14)},
                 {"bytes that are no text", Frame("\x01\x02", 2)},
                 {"no frame at all", std::string(300, '\xFF')}};
   for (const auto& [what, said] : floods) {

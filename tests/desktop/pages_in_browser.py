@@ -1,0 +1,99 @@
+#!/usr/bin/env python3
+"""Works pages in a headless browser for a test: one command a line, one answer a line.
+
+open NAME URL WIDTH HEIGHT    a window of that size with touch, whose storage is its own
+pin NAME DIGITS               types the PIN and sends the form
+seat NAME N                   taps the seat
+press NAME                    touches the middle of the button
+look NAME                     what the page shows, as JSON
+picture NAME FILE             saves what it shows as PNG
+"""
+import json
+import sys
+
+from selenium import webdriver
+from selenium.webdriver.chrome.options import Options
+from selenium.webdriver.chrome.service import Service
+from selenium.webdriver.common.by import By
+
+# Windows of one browser share its storage; each is to be a phone of its own.
+OWN_STORAGE = "Object.defineProperty(window, 'localStorage', { get: () => window.sessionStorage });"
+LOOK = """
+const text = id => { const e = document.getElementById(id); return e ? e.textContent : ''; };
+const shown = id => { const e = document.getElementById(id); return !!e && !e.hidden; };
+return { state: document.body.className, join: shown('join'), note: text('joinNote'), seats: shown('seats'),
+  name: text('name'), word: text('word'), line: text('line'), question: text('question'), answer: text('answer'),
+  floor: text('floor'), order: text('order'), players: text('players'), winner: text('winner'),
+  wide: document.documentElement.scrollWidth > window.innerWidth };
+"""
+
+
+class Browser:
+    def __init__(self):
+        options = Options()
+        for argument in ("--headless=new", "--no-sandbox", "--disable-gpu", "--disable-dev-shm-usage",
+                         "--disable-background-timer-throttling", "--disable-renderer-backgrounding",
+                         "--disable-backgrounding-occluded-windows", "--mute-audio"):
+            options.add_argument(argument)
+        self.driver = webdriver.Chrome(service=Service("/usr/bin/chromedriver"), options=options)
+        self.windows = {}
+
+    def to(self, name):
+        self.driver.switch_to.window(self.windows[name])
+
+    def open(self, name, url, width, height):
+        if self.windows:
+            self.driver.switch_to.new_window("window")
+        self.windows[name] = self.driver.current_window_handle
+        command = self.driver.execute_cdp_cmd
+        command("Page.addScriptToEvaluateOnNewDocument", {"source": OWN_STORAGE})
+        command("Emulation.setDeviceMetricsOverride", {"width": int(width), "height": int(height),
+                                                       "deviceScaleFactor": 2, "mobile": True})
+        command("Emulation.setTouchEmulationEnabled", {"enabled": True})
+        if url.endswith("/scores"):
+            command("Emulation.setDefaultBackgroundColorOverride", {"color": {"r": 0, "g": 90, "b": 60, "a": 1}})
+        self.driver.get(url)
+
+    def pin(self, name, digits):
+        self.to(name)
+        box = self.driver.find_element(By.ID, "pin")
+        box.clear()
+        box.send_keys(digits)
+        box.submit()
+
+    def seat(self, name, number):
+        self.to(name)
+        self.driver.find_element(By.CSS_SELECTOR, "#seatList .p" + number).click()
+
+    def press(self, name):
+        self.to(name)
+        place = self.driver.execute_script("const r = document.getElementById('buzzer').getBoundingClientRect();"
+                                           "return [r.left + r.width / 2, r.top + r.height / 2];")
+        point = {"x": place[0], "y": place[1]}
+        self.driver.execute_cdp_cmd("Input.dispatchTouchEvent", {"type": "touchStart", "touchPoints": [point]})
+        self.driver.execute_cdp_cmd("Input.dispatchTouchEvent", {"type": "touchEnd", "touchPoints": []})
+
+    def look(self, name):
+        self.to(name)
+        return json.dumps(self.driver.execute_script(LOOK))
+
+    def picture(self, name, file):
+        self.to(name)
+        self.driver.save_screenshot(file)
+
+
+def main():
+    browser = Browser()
+    print("ready", flush=True)
+    for line in sys.stdin:
+        words = line.split()
+        try:
+            answer = getattr(browser, words[0])(*words[1:])
+            print(answer or "done", flush=True)
+        except Exception as error:  # The test reads what went wrong.
+            print("failed: " + str(error).replace("\n", " "), flush=True)
+    browser.driver.quit()
+
+
+if __name__ == "__main__":
+    main()

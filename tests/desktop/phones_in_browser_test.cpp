@@ -1,0 +1,178 @@
+// Three phones, the host's page and the scores in a real browser, on the real program in its windows: a game from the
+// PIN to the winner, with a restart of the program amid it. Skips where no browser is installed. With
+// PAWNFIELD_PICTURES set to a folder, each page is saved there in each state.
+#include <QJsonDocument>
+#include <QJsonObject>
+#include <QProcess>
+#include <QStandardPaths>
+
+#include "desktop/windows/form_window.h"
+#include "forms/main_form.h"
+#include "forms/pages_form.h"
+#include "show/page_state.h"
+#include "show/phase.h"
+#include "show_suite.h"
+
+namespace pawnfield {
+namespace {
+
+class PhonesInBrowser : public ShowSuite {
+ protected:
+  void SetUp() override {
+    ShowSuite::SetUp();
+    const bool driven = !QStandardPaths::findExecutable("chromedriver").isEmpty() &&
+                        QProcess::execute(kPython, {"-c", "import selenium"}) == 0;
+    if (!driven) GTEST_SKIP() << "no browser to drive";
+    browser_.setProcessChannelMode(QProcess::ForwardedErrorChannel);
+    browser_.start(kPython, {PAWNFIELD_PAGES_IN_BROWSER});
+    ASSERT_EQ(Answer(60000), "ready");
+  }
+  void TearDown() override {
+    browser_.closeWriteChannel();
+    if (browser_.state() != QProcess::NotRunning && !browser_.waitForFinished(10000)) browser_.kill();
+  }
+
+  // The program goes on while the browser works.
+  QString Answer(int ms = 20000) {
+    Wait([this] { return browser_.canReadLine() || browser_.state() == QProcess::NotRunning; }, ms);
+    return QString::fromUtf8(browser_.readLine()).trimmed();
+  }
+  void Do(const QString& command) {
+    browser_.write((command + "\n").toUtf8());
+    EXPECT_EQ(Answer(), "done") << command.toStdString();
+  }
+  QJsonObject Look(const QString& page) {
+    browser_.write(("look " + page + "\n").toUtf8());
+    return QJsonDocument::fromJson(Answer().toUtf8()).object();
+  }
+  // The page shows that, within ten seconds.
+  bool Shows(const QString& page, const QString& what, const QString& text) {
+    QString shown;
+    for (int i = 0; i < 50; ++i) {
+      shown = Look(page)[what].toVariant().toString();
+      if (shown.contains(text)) return true;
+      driver_->Pause(200);
+    }
+    ADD_FAILURE() << page.toStdString() << " shows as its " << what.toStdString() << " \"" << shown.toStdString()
+                  << "\"";
+    return false;
+  }
+  void Picture(const QString& page, const QString& name) {
+    EXPECT_FALSE(Look(page)["wide"].toBool()) << name.toStdString() << " is wider than its screen";
+    const QString folder = qEnvironmentVariable("PAWNFIELD_PICTURES");
+    if (!folder.isEmpty()) Do("picture " + page + " " + folder + "/" + name + ".png");
+  }
+  static QString Text(const Label& label) { return QString::fromStdString(label.Caption); }
+  static PagesForm& Form() { return TheShow().frmPages; }
+  static int Turn() { return Phase(TheShow()).Player; }
+
+  void Join(const QString& phone, int seat, int width, int height) {
+    Do(QString("open %1 %2 %3 %4").arg(phone, Text(Form().lblPhonesAddress)).arg(width).arg(height));
+    if (seat == 1) Picture(phone, "phone-pin");
+    Do("pin " + phone + " " + Text(Form().lblPin));
+    EXPECT_TRUE(Shows(phone, "seats", "true"));
+    if (seat == 2) Picture(phone, "phone-seats");
+    Do("seat " + phone + " " + QString::number(seat));
+    EXPECT_TRUE(Shows(phone, "name", Text(Main().lblPlayer1[PlayerIndex(seat)])));
+  }
+  static bool Take(int row, int column) {
+    return Wait([] { return IsPhase(TheShow(), PhaseKind::Claiming); }, 5000) && driver_->PressSquare(row, column) &&
+           Wait([] { return !Main().tmrAnswer.Enabled.Get(); }, 20000);
+  }
+
+  // The system's own, for which the driver's library is installed.
+  static constexpr const char* kPython = "/usr/bin/python3";
+  QProcess browser_;
+};
+
+TEST_F(PhonesInBrowser, PlayAGameOnRealWindows) {
+  const char* const names[] = {"ANNA", "BEN", "CHLOE"};
+  ASSERT_TRUE(Press({"optGameType_4", "optGridControl_0"}));
+  ASSERT_TRUE(driver_->Choose("cboAutoContinue", "User Advances"));
+  ASSERT_TRUE(driver_->Choose("cboList", "General Knowledge 1"));
+  ASSERT_TRUE(Wait([] { return Main().btnStart.Enabled.Get(); }));
+  // The choice of a type and of a set gives the players their numbers again.
+  for (std::size_t i = 0; i < kPlayers; ++i) Main().lblPlayer1[i].Caption = names[i];
+  Main().mnuFilePages.Click();
+  Form().cboAddress.Select(
+      static_cast<int>(std::find(Form().cboAddress.List->begin(), Form().cboAddress.List->end(), "127.0.0.1") -
+                       Form().cboAddress.List->begin()));
+  Form().btnSwitch.Click();
+  ASSERT_TRUE(TheShow().pages->On) << Form().lblPagesStatus.Caption.Get();
+
+  Join("anna", 1, 360, 640);
+  Join("ben", 2, 390, 844);
+  Join("chloe", 3, 640, 360);
+  Do("open host " + Text(Form().lblHostAddress) + " 1024 768");
+  Do("pin host " + Text(Form().lblHostPin));
+  Do("open scores " + Text(Form().lblScoresAddress) + " 1920 1080");
+  EXPECT_TRUE(Shows("ben", "word", "WAIT"));
+  ASSERT_TRUE(Press({"btnStart"}));
+  for (const char* phone : {"anna", "ben", "chloe"}) EXPECT_TRUE(Shows(phone, "word", "PRESS"));
+  for (const char* phone : {"anna", "ben", "chloe"}) Picture(phone, QString("phone-ready-") + phone);
+  driver_->Pause(3000);
+
+  Do("press ben");
+  ASSERT_TRUE(Wait([] { return Turn() == 2; }, 5000));
+  Do("press anna");
+  EXPECT_TRUE(Shows("ben", "word", "YOU"));
+  EXPECT_TRUE(Shows("anna", "word", "BEN"));
+  EXPECT_TRUE(Shows("anna", "line", "has the floor; you were"));
+  EXPECT_TRUE(Shows("host", "floor", "BEN answers"));
+  EXPECT_TRUE(Shows("host", "order", "2 ANNA +"));
+  EXPECT_FALSE(Look("host")["answer"].toString().isEmpty());
+  Picture("ben", "phone-floor");
+  Picture("anna", "phone-other");
+  Picture("chloe", "phone-other-landscape");
+  Picture("host", "host");
+  Picture("scores", "scores");
+  if (const QString folder = qEnvironmentVariable("PAWNFIELD_PICTURES"); !folder.isEmpty()) {
+    driver_->Form("frmPages")->grab().save(folder + "/pages.png");
+  }
+  ASSERT_TRUE(Press({"btnQuestionIncorrect"}));
+  EXPECT_TRUE(Shows("anna", "word", "PRESS"));
+  Do("press anna");
+  ASSERT_TRUE(Wait([] { return Turn() == 1; }, 5000));
+  ASSERT_TRUE(Press({"btnQuestionCorrect"}));
+  EXPECT_TRUE(Shows("anna", "line", "take a square"));
+  ASSERT_TRUE(Take(0, 0));
+  EXPECT_TRUE(Shows("scores", "players", "ANNA50"));
+
+  // A locked seat, and its lock taken off again.
+  Form().btnLockSeat[2].Click();
+  EXPECT_TRUE(Shows("chloe", "word", "LOCKED"));
+  Picture("chloe", "phone-locked");
+  Form().btnLockSeat[2].Click();
+
+  // The network is gone for a while, and each phone finds its seat.
+  const PagesPlace place = TheShow().pages->Place;
+  TheShow().platform.webPages.Close();
+  for (const char* phone : {"anna", "ben", "chloe"}) EXPECT_TRUE(Shows(phone, "word", "LOST"));
+  Picture("ben", "phone-lost");
+  TheShow().pages->Pages.clear();
+  ASSERT_EQ(TheShow().platform.webPages.Open(place), place.Port);
+  for (const char* phone : {"anna", "ben", "chloe"}) EXPECT_TRUE(Shows(phone, "word", "WAIT"));
+
+  const int squares[] = {1, 2, 3, 4, 5, 6, 7, 8};
+  const char* const phones[] = {"anna", "ben", "chloe"};
+  for (const int square : squares) {
+    ASSERT_TRUE(Press({"btnContinue"}));
+    const int player = square % 3;
+    EXPECT_TRUE(Shows(phones[player], "word", "PRESS"));
+    Do(QString("press ") + phones[player]);
+    ASSERT_TRUE(Wait([player] { return Turn() == player + 1; }, 5000)) << "square " << square;
+    ASSERT_TRUE(Press({"btnQuestionCorrect"}));
+    ASSERT_TRUE(Take(square / 3, square % 3));
+    if (square < 8) {
+      ASSERT_TRUE(Wait([] { return Main().btnContinue.Enabled.Get(); }, 15000));
+    }
+  }
+  ASSERT_TRUE(Wait([] { return IsPhase(TheShow(), PhaseKind::Winner); }, 20000));
+  EXPECT_TRUE(Shows("scores", "winner", "Game Over!"));
+  Picture("scores", "scores-winner");
+  Form().btnSwitch.Click();
+  Form().btnClose.Click();
+}
+
+}  // namespace
+}  // namespace pawnfield
