@@ -9,6 +9,8 @@
 #include <QFontDialog>
 #include <QFontInfo>
 #include <QMessageBox>
+#include <QPainter>
+#include <QPixmap>
 #include <tuple>
 
 #include "desktop/files/native_path.h"
@@ -31,10 +33,28 @@ QMessageBox::StandardButtons ButtonsOf(BoxKind kind) {
   }
 }
 
-QMessageBox::Icon IconOf(BoxKind kind) {
-  if (kind == BoxKind::Exclamation) return QMessageBox::Warning;
-  if (kind == BoxKind::Critical) return QMessageBox::Critical;
-  return kind == BoxKind::Plain ? QMessageBox::NoIcon : QMessageBox::Question;
+// A sign in the house's colours, as large as the box's text is high; none for plain news.
+QPixmap SignOf(BoxKind kind, const QWidget& box) {
+  constexpr int kSide = 40;
+  if (kind == BoxKind::Plain) return {};
+  const bool error = kind == BoxKind::Critical;
+  const double ratio = box.devicePixelRatioF();
+  QPixmap sign(QSize(kSide, kSide) * ratio);
+  sign.setDevicePixelRatio(ratio);
+  sign.fill(Qt::transparent);
+  QPainter painter(&sign);
+  painter.setRenderHint(QPainter::Antialiasing);
+  painter.setPen(Qt::NoPen);
+  painter.setBrush(QColor(error ? "#C7363C" : "#F2B84B"));
+  painter.drawEllipse(1, 1, kSide - 2, kSide - 2);
+  QFont font = box.font();
+  font.setPixelSize(26);
+  font.setBold(true);
+  painter.setFont(font);
+  painter.setPen(QColor(error ? "#FFFFFF" : "#1B1403"));
+  const bool asks = kind == BoxKind::YesNo || kind == BoxKind::YesNoCancel;
+  painter.drawText(QRect(0, 0, kSide, kSide), Qt::AlignCenter, asks ? "?" : "!");
+  return sign;
 }
 
 // The question's own words, and the focus on what loses nothing. Of two buttons that would do the same one is enough:
@@ -111,7 +131,7 @@ BoxAnswer QtDialogs::Ask(const BoxQuestion& question, const std::string& title) 
   box.setWindowTitle(Unescape(title));
   box.setTextFormat(Qt::PlainText);
   box.setText(Unescape(question.Text).replace("\r\n", "\n"));
-  box.setIcon(IconOf(question.Kind));
+  box.setIconPixmap(SignOf(question.Kind, box));
   box.setStandardButtons(ButtonsOf(question.Kind));
   WriteButtons(box, question);
   return AnswerOf(box.exec(), question.Kind);
