@@ -12,6 +12,8 @@
 #include "outward/shared_key.h"
 #include "platform/text.h"
 #include "presentation/both_screens.h"
+#include "record/history.h"
+#include "record/ring_in_order.h"
 #include "show/phase.h"
 #include "show/show.h"
 
@@ -24,11 +26,14 @@ constexpr int kEnter = 13;
 constexpr int kCtrlN = 14;
 constexpr int kCtrlS = 19;
 constexpr int kCtrlU = 21;
+constexpr int kCtrlY = 25;
 constexpr int kCtrlZ = 26;
 constexpr int kNoColumn = 99;
 
 void RingInKey(Show& show, int key) {
   const bool digit = key >= '0' && key <= '9';
+  // While a square may be named a digit is its row, and no press.
+  if (digit && QuestionIsUp(show)) AddPress(show, PressOf(show, key - '0', PressWay::Key));
   if (!MayRingIn(show) || (!digit && key != '^')) return;
   if (!IsKeypadMode(show)) {
     AcceptRingIn(show, key - '0');
@@ -45,6 +50,7 @@ void ControlKey(Show& show, int key) {
   if (key == kCtrlN && form.btnNextPlayer.Enabled) btnNextPlayer_Click(show);
   if (key == kCtrlS && form.btnSkipQuestion.Enabled) btnSkipQuestion_Click(show);
   if (key == kCtrlU && form.btnUndo.Enabled) btnUndo_Click(show);
+  if (key == kCtrlY) Redo(show);
   if (key == kCtrlZ && !ScreenCovered(show)) form.lblPlayer1[0].DblClick();
 }
 

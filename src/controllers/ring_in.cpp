@@ -11,6 +11,8 @@
 #include "outward/shared_key.h"
 #include "platform/errors.h"
 #include "presentation/both_screens.h"
+#include "record/ring_in_order.h"
+#include "show/note.h"
 #include "show/phase.h"
 #include "show/show.h"
 
@@ -33,11 +35,13 @@ void PlayRingIn(Show& show, int player) { PlayEvent(show, SoundEntry(show, kSoun
 
 void TakePress(Show& show, std::size_t remote) {
   if (!PassesDebounce(show.presses, remote, show.platform.clock.NowMs())) return;
-  if (!ConsoleListens(show) || !MayRingIn(show)) return;
-  if (remote >= show.state.Routing.size()) throw SubscriptError();
-  const int player = show.state.Routing[remote];
+  if (!ConsoleListens(show)) return;
+  const bool open = MayRingIn(show);
+  if (remote >= show.state.Routing.size() && open) throw SubscriptError();
+  const int player = remote < show.state.Routing.size() ? show.state.Routing[remote] : 0;
   if (!IsPlayer(player)) return;
-  if (!AcceptRingIn(show, player)) return;
+  AddPress(show, PressOf(show, player, PressWay::Remote, show.platform.hid.ArrivedUs()));
+  if (!open || !AcceptRingIn(show, player)) return;
   // The clip starts a second time, as players of wireless remotes know it.
   PlayRingIn(show, player);
   if (show.dgTransceiver) show.dgTransceiver->LED_Set(static_cast<int>(remote), kLampColor);
@@ -75,6 +79,9 @@ bool RefuseWhoDoesNotPlay(Show& show, int player) {
 
 bool AcceptRingIn(Show& show, int player) {
   if (RefuseWhoDoesNotPlay(show, player)) return false;
+  // Who is given the question by hand has pressed no button of his own.
+  AddPress(show, PressOf(show, player, PressWay::Hand));
+  Note(show, EventKind::RingIn, player);
   MainForm& form = show.frmMain;
   SendKeyPressInRingIn(show, false);
   SetBuzzerStates(show, false);

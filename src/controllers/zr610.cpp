@@ -15,6 +15,7 @@
 #include "platform/errors.h"
 #include "platform/text.h"
 #include "presentation/both_screens.h"
+#include "record/ring_in_order.h"
 #include "show/phase.h"
 #include "show/show.h"
 
@@ -55,11 +56,16 @@ void PressPad(Show& show, std::int32_t id) {
   const int slot = LookupPad(show.presses.MFMap, id);
   if (slot == 0) {
     ShowMessage(show, "An unmapped controller has been detected. Please remap your controllers before proceeding.");
-  } else if (slot >= 4) {
+    return;
+  }
+  if (slot >= 4) {
     ShowMessage(show,
                 "This game only uses 3 player controls. A controller outside of this range has been used and will be "
                 "ignored.");
-  } else if (MayRingIn(show) && !RefuseWhoDoesNotPlay(show, slot)) {
+    return;
+  }
+  AddPress(show, PressOf(show, slot, PressWay::Pad, show.platform.serial.ArrivedUs()));
+  if (MayRingIn(show) && !RefuseWhoDoesNotPlay(show, slot)) {
     // The operator may give the question to another player by hand; a pad that comes second may not.
     const Button& button = show.frmMain.btnSelectPlayer[static_cast<std::size_t>(slot - 1)];
     if (button.Visible && button.Enabled) btnSelectPlayer_Click(show, slot - 1);

@@ -13,8 +13,12 @@ DesktopPlatform::DesktopPlatform(const DesktopPlaces& places, std::function<void
       displays(screens, [this](Form& form) { return windows.Find(form); }),
       processes(places.runtimeFolder, std::move(onActivate),
                 {QCoreApplication::applicationDirPath(), NativePath(places.folders.App)}),
+      hid([this](std::function<void()> task) {
+        QMetaObject::invokeMethod(&home, std::move(task), Qt::QueuedConnection);
+      }),
       pages(places.manualFolder),
       serial(places.serialAdapters),
+      records(NativePath(places.folders.DataRoot + "\\Pawnfield\\Shows")),
       platform{clock,
                dialogs,
                {eventPlayer, keyPressPlayer, soundClipPlayer, correctIncorrectPlayer, backgroundPlayer, mediaPlayer1},
@@ -32,6 +36,7 @@ DesktopPlatform::DesktopPlatform(const DesktopPlaces& places, std::function<void
                pages,
                serial,
                webPages,
+               records,
                places.folders} {
   for (const char* own : {"\\Images", "\\Question Backgrounds"}) pictures.HoldFolder(places.folders.App + own);
 }

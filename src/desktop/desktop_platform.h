@@ -10,6 +10,7 @@
 #include "desktop/files/desktop_folders.h"
 #include "desktop/files/qt_file_system.h"
 #include "desktop/files/qt_settings_store.h"
+#include "desktop/files/record_writer.h"
 #include "desktop/media/media_files.h"
 #include "desktop/media/mpv_video.h"
 #include "desktop/pages/qt_pages.h"
@@ -53,12 +54,15 @@ class DesktopPlatform {
   QtDisplays displays;
   LinuxProcesses processes;
   SeededRandom random;
+  // Where threads have something done on the main one.
+  QObject home;
   HidapiPort hid;
   QtDeviceWatch devices;
   QtPrinting printing;
   DesktopPages pages;
   QtSerialPort serial;
   QtPages webPages;
+  RecordWriter records;
   Platform platform;
 };
 

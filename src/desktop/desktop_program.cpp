@@ -123,6 +123,8 @@ DesktopProgram::~DesktopProgram() {
   desktop_.serial.OnComm = {};
   desktop_.devices.OnChanged({});
   desktop_.settings.OnSaveFailed = {};
+  desktop_.records.OnFailed = {};
+  desktop_.records.OnBack = {};
   for (Form* form : AllForms(show_)) desktop_.clock.Detach(*form);
 }
 

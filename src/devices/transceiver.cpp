@@ -53,7 +53,9 @@ Transceiver::Transceiver(HidPort& port, Clock& clock, std::function<void(const T
       onButtonPressed_(std::move(onButtonPressed)),
       onLost_(std::move(onLost)),
       timer_(
-          clock, [this] { Timer_Timer(); }, std::move(guard)) {
+          clock, [this] { Timer_Timer(); }, guard) {
+  // A report that the port tells of is taken at once; the poll finds those of a port that can't.
+  port_.OnReport = [this, guard] { guard ? guard([this] { Timer_Timer(); }, "SelfTimer", "Timer") : Timer_Timer(); };
   Open();
 }
 
@@ -70,11 +72,13 @@ bool Transceiver::Open() {
 }
 
 Transceiver::~Transceiver() {
+  port_.OnReport = {};
   timer_.SetEnabled(false);
   port_.Close();
 }
 
 void Transceiver::Timer_Timer() {
+  if (!ready_) return;
   timer_.SetEnabled(false);
   std::string report;
   const HidRead result = port_.Read(report);

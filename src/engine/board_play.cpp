@@ -13,6 +13,7 @@
 #include "platform/text.h"
 #include "presentation/board_layout.h"
 #include "presentation/both_screens.h"
+#include "show/note.h"
 #include "show/phase.h"
 #include "show/show.h"
 
@@ -172,7 +173,6 @@ void FinishPlainPiece(Show& show) {
   // The claim has ended its game: nothing of that goes on.
   if (!show.state.GameLoaded) return;
   if (show.state.Nature().Trivia) StartAutoContinue(show);
-  form.btnUndo.Enabled = true;
   form.btnReset.Enabled = true;
   form.btnEndGame.Enabled = true;
   if (!show.state.Nature().Trivia) {
@@ -212,9 +212,10 @@ void ClaimSquare(Show& show, int r, int c, const std::string& key) {
   show.entry.DJEntry.clear();
   SetTypedCommand(show, "");
   if (!TryClaimSquare(show, r, c)) return;
+  Note(show, EventKind::Claim, state.CurrentPlayer);
   state.PlacementOpen = false;
   state.GameInProgress = true;
-  // A claim after a skip or an undo gets its own whole pause.
+  // A claim after a skip gets its own whole pause.
   form.tmrAutoContinue.Enabled = false;
   form.btnContinue.Enabled = false;
   form.txtDJCommand.Visible = state.KeyControl;

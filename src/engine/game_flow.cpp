@@ -16,6 +16,7 @@
 #include "presentation/board_layout.h"
 #include "presentation/both_screens.h"
 #include "sets/set_file.h"
+#include "show/note.h"
 #include "show/phase.h"
 #include "show/settings_table.h"
 #include "show/show.h"
@@ -128,6 +129,7 @@ void optGameType_Click(Show& show, int index) {
   const GameMode chosen = kGameTypes.at(static_cast<std::size_t>(index)).Mode;
   if (!show.state.GameInProgress) {
     EndWinner(show);
+    Note(show, EventKind::Wipe);
     show.state.GameType = chosen;
     btnReset_Click(show);
     // With nothing loaded the reset does nothing; the new type's options are offered all the same.
@@ -185,6 +187,7 @@ void LeaveTurn(Show& show) {
 }  // namespace
 
 void optPlayers_Click(Show& show, int index) {
+  Note(show, EventKind::Players);
   show.state.Players = index + 2;
   ApplyPlayerLayout(show, show.state.Players);
   show.presses.ReportedPlayers.clear();
@@ -196,6 +199,7 @@ void optPlayers_Click(Show& show, int index) {
 
 void optGridControl_Click(Show& show, int index) {
   GameState& state = show.state;
+  Note(show, EventKind::Grid);
   HidePanel(show, Panel::Winner);
   fileClearAllScores_Click(show);
   state.GridSize = index + 3;
@@ -226,6 +230,7 @@ void cbxScore_Click(Show& show, int index) {
 void btnStart_Click(Show& show) {
   MainForm& form = show.frmMain;
   const bool ringIn = show.state.Nature().RingIn;
+  Note(show, EventKind::Start);
   SendKeyPressInRingIn(show, true);
   form.tmrWinner.Enabled = false;
   HidePanel(show, Panel::Winner);
@@ -292,18 +297,19 @@ void btnReset_Click(Show& show) {
 }
 
 void btnEndGame_Click(Show& show) {
-  if (!ScreenCovered(show)) GameOver(show);
+  if (ScreenCovered(show)) return;
+  Note(show, EventKind::End);
+  GameOver(show);
 }
 
 void fileClearAllScores_Click(Show& show) {
+  Note(show, EventKind::ClearScores);
   ForgetClaimedSquare(show);
   ResetScores(show);
   ClearBoardPictures(show);
   ClearBoardArray(show);
-  // A claim that has gone with the board can't be undone.
   show.state.LastPlayer = 0;
   show.state.LastPoints = 0;
-  show.frmMain.btnUndo.Enabled = false;
   // In Trivia C the turn is the ring-in's: who answers or claims keeps it, and nobody else gets it.
   if (!show.state.Nature().RingIn || HolderOfTurn(show) == 0) GiveFirstTurn(show);
   ReportFirstTurn(show);

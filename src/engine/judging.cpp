@@ -16,6 +16,7 @@
 #include "platform/text.h"
 #include "presentation/board_layout.h"
 #include "presentation/both_screens.h"
+#include "show/note.h"
 #include "show/phase.h"
 #include "show/show.h"
 
@@ -78,58 +79,12 @@ void TakePenalty(Show& show) {
   SetScore(show, player, NumberText(ScoreOf(show, player) - kPenalty));
 }
 
-// Gives the turn back to the player whose claim is taken back. One who has left the game since gets none.
-void GiveTurnBack(Show& show, int player) {
-  if (!Plays(show.state, player)) return;
-  if (show.state.Nature().RingIn) {
-    show.state.CurrentPlayer = player;
-    ShowRingIn(show, player);
-  } else if (show.state.CurrentPlayer != player) {
-    PassTurnTo(show, player);
-    show.frmMain.lblStatusBar.Caption = "Player " + std::to_string(player) + " Selected!";
-  }
-}
-
-// An undo within the flash: the piece stops where it is, and what the flash's end would have offered is offered now.
-void TakeBackFlash(Show& show) {
-  if (!show.frmMain.tmrAnswer.Enabled) return;
-  EndFlash(show);
-  ForgetClaimedSquare(show);
-  show.frmMain.btnReset.Enabled = true;
-  show.frmMain.btnEndGame.Enabled = true;
-}
-
-// What the claim has brought with it goes too: its flash, its bonus and the pause behind it, which would bring the next
-// question over the open placement. From here the operator continues.
-void StopWhatFollowsClaim(Show& show) {
-  MainForm& form = show.frmMain;
-  TakeBackFlash(show);
-  form.tmrBonus.Enabled = false;
-  HidePanel(show, Panel::Bonus);
-  form.tmrAutoContinue.Enabled = false;
-  form.btnContinue.Enabled = show.state.Nature().Trivia;
-}
-
-void TakeBackClaim(Show& show) {
-  GameState& state = show.state;
-  const int player = state.LastPlayer;
-  if (!IsPlayer(player)) return;
-  int& owner = state.Board[static_cast<std::size_t>(state.LastRow)][static_cast<std::size_t>(state.LastCol)];
-  if (owner != player) return;
-  StopWhatFollowsClaim(show);
-  SetScore(show, player, NumberText(ScoreOf(show, player) - state.LastPoints));
-  if (player == 2) PublishScore(show, "11", player);
-  ReportPlayer(show, player, state.ScreenFonts[player].ForeColor);
-  owner = 0;
-  RemovePiece(show, state.LastRow, state.LastCol);
-  GiveTurnBack(show, player);
-}
-
 }  // namespace
 
 void HandleCorrect(Show& show) {
   if (!MayJudge(show)) return;
   show.lastVerdict = {show.lastVerdict.Count + 1, show.state.CurrentPlayer, true};
+  Note(show, EventKind::Correct, show.state.CurrentPlayer);
   MainForm& form = show.frmMain;
   EndQuestionClip(show);
   RestartBackground(show);
@@ -148,6 +103,7 @@ void HandleCorrect(Show& show) {
 void HandleIncorrect(Show& show) {
   if (!MayJudge(show)) return;
   show.lastVerdict = {show.lastVerdict.Count + 1, show.state.CurrentPlayer, false};
+  Note(show, EventKind::Incorrect, show.state.CurrentPlayer);
   MainForm& form = show.frmMain;
   LiftCover(show);
   // The verdict is heard alone; the next player has the clip again by the console's button.
@@ -174,11 +130,14 @@ void ChangeScore(Show& show, int player, ScoreChange change, int index) {
   const double amount = kAmounts.at(static_cast<std::size_t>(index));
   const double score = ScoreOf(show, player) + (change == ScoreChange::Up ? amount : -amount);
   const bool accepted = change == ScoreChange::Up ? score < kLimit + 1 : score >= -kLimit;
-  if (accepted) SetScore(show, player, NumberText(score));
+  if (!accepted) return;
+  Note(show, EventKind::Score, player);
+  SetScore(show, player, NumberText(score));
 }
 
 void btnSkipQuestion_Click(Show& show) {
   if (!MaySkip(show)) return;
+  Note(show, EventKind::Skip);
   MainForm& form = show.frmMain;
   EndQuestionClip(show);
   PlayEvent(show, show.AppPath("\\Sound Effects\\Skip.Wav"));
@@ -188,17 +147,6 @@ void btnSkipQuestion_Click(Show& show) {
   ReportPlayers(show, kWhite);
   if (show.state.Nature().AfterSkip == NextTurn::Nobodys) TakeTurn(show);
   EnableOptions(show);
-}
-
-void btnUndo_Click(Show& show) {
-  GameState& state = show.state;
-  if (state.LastPoints <= 0) return;
-  state.PlacementOpen = true;
-  show.frmMain.btnUndo.Enabled = false;
-  TakeBackClaim(show);
-  state.LastPoints = 0;
-  state.LastPlayer = 0;
-  SetConsoleCursor(show, state.CurrentPlayer);
 }
 
 }  // namespace pawnfield

@@ -1,4 +1,4 @@
-// Judging: the verdicts, the manual score buttons, skip and undo.
+// Judging: the verdicts, the manual score buttons and skip.
 #pragma once
 
 namespace pawnfield {
@@ -14,6 +14,5 @@ enum class ScoreChange { Up, Down };
 void ChangeScore(Show& show, int player, ScoreChange change, int index);
 
 void btnSkipQuestion_Click(Show& show);
-void btnUndo_Click(Show& show);
 
 }  // namespace pawnfield

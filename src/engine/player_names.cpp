@@ -7,6 +7,7 @@
 #include "forms/player_names_form.h"
 #include "platform/text.h"
 #include "presentation/both_screens.h"
+#include "show/note.h"
 #include "show/show.h"
 
 namespace pawnfield {
@@ -76,6 +77,7 @@ void TakeName(Show& show, std::size_t index) {
 }
 
 void btnOK_Click(Show& show) {
+  Note(show, EventKind::Name);
   PlayerNamesForm& form = show.frmPlayerNames;
   for (int player = 1; player <= kPlayers; ++player) {
     show.state.PlayerPenalty[player] = form.PenaltyBox(player).Value == 1;

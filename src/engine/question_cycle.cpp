@@ -20,6 +20,7 @@
 #include "presentation/text_fitting.h"
 #include "sets/set_file.h"
 #include "sets/set_parser.h"
+#include "show/note.h"
 #include "show/phase.h"
 #include "show/show.h"
 
@@ -29,13 +30,16 @@ namespace {
 
 bool IsBlank(const std::string& field) { return field.empty() || field == " "; }
 
-// The console's label takes the question's colour. One that is no number is reported, and the fit's white stays.
-void ColorQuestion(Show& show, const TriviaQuestion& question) {
-  if (IsBlank(question.FontColor)) return;
-  if (const auto number = ParseNumber(question.FontColor)) {
-    show.frmMain.lblQuestion[0].ForeColor = static_cast<Color>(std::fmod(*number, 16777216.0));
-    return;
-  }
+// The console's label takes the question's colour. False for one that is no number; the fit's white stays.
+bool ColorQuestion(Show& show, const TriviaQuestion& question) {
+  if (IsBlank(question.FontColor)) return true;
+  const auto number = ParseNumber(question.FontColor);
+  if (number) show.frmMain.lblQuestion[0].ForeColor = static_cast<Color>(std::fmod(*number, 16777216.0));
+  return number.has_value();
+}
+
+void ColorQuestionOrReport(Show& show, const TriviaQuestion& question) {
+  if (ColorQuestion(show, question)) return;
   ReportError(show.platform.dialogs, RuntimeError(kErrorTypeMismatch, "Type mismatch"), "frmMain", "ShowQuestion");
 }
 
@@ -68,6 +72,18 @@ void ShowTextQuestion(Show& show) {
   if (show.state.DualScreen) SetQuestion(show, text, show.frmFSMain.lblQuestion);
   OpenQuestion(show);
   if (show.state.Nature().RingIn) show.frmMain.btnCorrect.Enabled = false;
+  ColorQuestionOrReport(show, question);
+}
+
+// The text as it stood, without another draw of its background.
+void WriteTextQuestion(Show& show, const TriviaQuestion& question, const std::string& text) {
+  show.frmMain.lblQuestion[0].Font = QuestionFont(question);
+  SetQuestion(show, text, show.frmMain.lblQuestion);
+  ShowPanel(show, Panel::Question);
+  if (show.state.DualScreen) {
+    show.frmFSMain.lblQuestion[0].Font = QuestionFont(question);
+    SetQuestion(show, text, show.frmFSMain.lblQuestion);
+  }
   ColorQuestion(show, question);
 }
 
@@ -87,6 +103,7 @@ bool Advance(Show& show) {
     show.frmMain.lblStatusBar.Caption = "No questions left";
     return false;
   }
+  Note(show, EventKind::Question);
   ++show.state.CurrentQuestion;
   const std::string text = Trim(RecordAt(show.GameSet, show.state.CurrentQuestion + 1).QuestionText);
   show.frmMain.lblQuestion[0].Caption = text;
@@ -94,7 +111,6 @@ bool Advance(Show& show) {
   show.state.PlacementOpen = false;
   if (show.state.Nature().RingIn) TakeTurn(show);
   ShowQuestion(show, show.state.CurrentQuestion);
-  show.frmMain.btnUndo.Enabled = false;
   if (show.state.Nature().RingIn) ShowVerdictButtons(show, false, false);
   return true;
 }
@@ -142,6 +158,24 @@ void ShowQuestion(Show& show, int index) {
   HoldPicture(show, index + 2);
 }
 
+void ShowQuestionAgain(Show& show) {
+  const TriviaQuestion& question = RecordAt(show.GameSet, show.state.CurrentQuestion + 1);
+  const std::string text = Trim(question.QuestionText);
+  show.state.QuestionUp = true;
+  SetQuestion(show, text, show.frmMain.lblQuestion);
+  switch (KindOfQuestion(text)) {
+    case QuestionKind::Picture:
+      ShowPic(show);
+      break;
+    case QuestionKind::Sound:
+      ShowPanel(show, Panel::Sound);
+      break;
+    case QuestionKind::Text:
+      WriteTextQuestion(show, question, text);
+      break;
+  }
+}
+
 void HoldPicture(Show& show, int number) {
   if (number < 1 || number > kSetCapacity) return;
   const std::string text = Trim(RecordAt(show.GameSet, number).QuestionText);
@@ -155,7 +189,6 @@ void CheckQuestionsLeft(Show& show) {
   WriteNotice(show, show.frmMain.lblQuestion);
   if (show.state.DualScreen) WriteNotice(show, show.frmFSMain.lblQuestion);
   ShowPanel(show, Panel::Question);
-  show.frmMain.btnUndo.Enabled = false;
   show.frmMain.btnContinue.Enabled = false;
   show.frmMain.btnNextPlayer.Enabled = false;
   show.frmMain.tmr5QuestionTimer.Restart();
@@ -192,7 +225,6 @@ void tmrAutoContinue_Timer(Show& show) {
 void tmr5QuestionTimer_Timer(Show& show) {
   MainForm& form = show.frmMain;
   HidePanel(show, Panel::Question);
-  form.btnUndo.Enabled = true;
   // While the pause runs the timer continues, and not the operator too.
   form.btnContinue.Enabled = !form.tmrAutoContinue.Enabled;
   form.btnNextPlayer.Enabled = true;
@@ -208,10 +240,10 @@ void tmrBonus_Timer(Show& show) {
     ShowWinner(show);
     return;
   }
-  form.btnUndo.Enabled = true;
   if (trivia) form.btnContinue.Enabled = true;
   form.btnNextPlayer.Enabled = true;
   if (show.state.GameEnds) {
+    Note(show, EventKind::End);
     GameOver(show);
     return;
   }

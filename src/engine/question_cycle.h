@@ -8,6 +8,8 @@ struct Show;
 // Shows the question at the index 0..100 of GameSet: text, picture or sound, with its answer on the console.
 // RuntimeError 9 for any other index.
 void ShowQuestion(Show& show, int index);
+// Puts the present question up as it stood: no sound plays, and no button changes.
+void ShowQuestionAgain(Show& show);
 // Reads the picture of the question of that number ahead, where it has one.
 void HoldPicture(Show& show, int number);
 // Hides the question that is up: its panels, the cover over it and the verdict buttons.

@@ -48,7 +48,6 @@ void ReadySet(Show& show) {
   SetConsoleCursor(show, 0);
   state.CurrentQuestion = 0;
   if (state.DualScreen) PlaceAudienceScreen(show);
-  form.btnUndo.Enabled = false;
   ScanSetForMissingMedia(show);
   EnableOptions(show);
   StartMusic(show);

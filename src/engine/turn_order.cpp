@@ -5,6 +5,7 @@
 #include "forms/main_form.h"
 #include "outward/companion.h"
 #include "presentation/both_screens.h"
+#include "show/note.h"
 #include "show/show.h"
 
 namespace pawnfield {
@@ -84,6 +85,7 @@ void PassTurnTo(Show& show, int player) {
 void AdvanceToNextPlayer(Show& show) {
   const int next = NextByLamps(show.state);
   if (next == 0) return;
+  Note(show, EventKind::Turn, next);
   // The step from player 3 to player 1 leaves the status text as it was.
   const bool announced = next != 1 || show.state.Lamp[2] == kLampOn;
   PassTurnTo(show, next);

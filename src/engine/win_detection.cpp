@@ -53,7 +53,6 @@ void EndGame(Show& show) {
   form.btnReset.Enabled = false;
   CloseQuestion(show);
   SetCursorOnBoth(show, 0);
-  form.btnUndo.Enabled = false;
   form.btnContinue.Enabled = false;
   form.btnNextPlayer.Enabled = false;
   form.btnSkipQuestion.Enabled = false;
@@ -92,7 +91,6 @@ void tmrWinner_Timer(Show& show) {
   form.btnStandbyMode.Enabled = false;
   form.btnPlayMode.Enabled = true;
   HidePanel(show, Panel::Winner);
-  form.btnUndo.Enabled = false;
   form.btnContinue.Enabled = false;
   ResetGameBoard(show);
   ResetGameSet(show);

@@ -60,6 +60,7 @@ void MainForm::SetCaptions() {
   mnuFileOptionalHeaders.Caption = "Optional &Headers";
   mnuFileInterface.Caption = "&Interface Wizard...";
   mnuFilePages.Caption = "&Phones and pages...";
+  mnuFileBringBack.Caption = "&Bring back the last game";
   mnuFileExit.Caption = "E&xit";
   mnuZR610.Caption = "ZR-610 System";
   mnuMapMF.Caption = "Map Players";
@@ -204,6 +205,7 @@ void MainForm::SetInitialStates() {
   Hide(lblQuestionAutoResize, lblAnswerAutoResize, lblWinnerResize, txtOptionalHeading);
   Hide(shpStart, lblListLeftArrow, lblListRightArrow, btnQuestionCorrect, btnQuestionIncorrect, lblAnswerClock);
   mnuZR610.Visible = false;
+  mnuFileBringBack.Enabled = false;
   Disable(btnSkipQuestion, btnNextPlayer, btnContinue, btnStart, btnUndo, btnReset, btnEndGame, btnCorrect,
           btnAnswerClock);
 }

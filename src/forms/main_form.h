@@ -33,6 +33,7 @@ class MainForm : public Form {
   Menu mnuFileOptionalHeaders{*this, "mnuFileOptionalHeaders"};
   Menu mnuFileInterface{*this, "mnuFileInterface"};
   Menu mnuFilePages{*this, "mnuFilePages"};
+  Menu mnuFileBringBack{*this, "mnuFileBringBack"};
   Menu mnuFileExit{*this, "mnuFileExit"};
   Menu mnuZR610{*this, "mnuZR610"};
   Menu mnuMapMF{*this, "mnuMapMF"};

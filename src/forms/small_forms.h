@@ -17,6 +17,8 @@ struct AlwaysLoadedForm : Form {
   Timer tmrCompanion{*this, "tmrCompanion", 1};
   // Runs while values of the external keyboard program's key wait; long enough for a press to be seen and heard first.
   Timer tmrSharedKey{*this, "tmrSharedKey", 50};
+  // Runs while an event of the game waits to be taken down, for the same reason.
+  Timer tmrRecord{*this, "tmrRecord", 50};
 };
 
 struct SplashForm : Form {

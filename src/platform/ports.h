@@ -53,6 +53,8 @@ class Clock {
  public:
   virtual ~Clock() = default;
   virtual std::int64_t NowMs() const = 0;
+  // The same clock's microseconds, counted from a moment of its own.
+  virtual std::int64_t NowUs() const { return NowMs() * 1000; }
   virtual LocalTime Now() const = 0;
   virtual void Attach(Form& form) = 0;
   virtual void Detach(Form& form) = 0;
@@ -184,6 +186,31 @@ class FileSystem {
   virtual std::vector<std::string> List(const std::string& folder, const std::string& extension) const = 0;
 };
 
+inline constexpr const char* kRecordEnding = ".jsonl";
+
+// The records of the shows: files of the user's data folder that only grow. Names are without a folder and end in
+// kRecordEnding.
+class RecordFiles {
+ public:
+  virtual ~RecordFiles() = default;
+  // Told on the main thread when lines can't be brought to the disk, and when they are there after all. What waits is
+  // tried again and again.
+  std::function<void(const RuntimeError& error)> OnFailed;
+  std::function<void()> OnBack;
+  // Sorted, so that the oldest is the first; empty when there are none or they can't be read.
+  virtual std::vector<std::string> List() const = 0;
+  // Empty when it can't be read.
+  virtual std::string Read(const std::string& name) const = 0;
+  // Adds the lines at the end of the record, which is made where it isn't there. The caller waits for no disk; they are
+  // on it within a second.
+  virtual void Append(const std::string& name, const std::string& lines) = 0;
+  // Cuts what stands behind that many bytes, before anything is added.
+  virtual void CutTo(const std::string& name, std::size_t bytes) = 0;
+  virtual void Remove(const std::string& name) = 0;
+  // Returns when all is on the disk, or has failed once more.
+  virtual void Flush() = 0;
+};
+
 struct TextSize {
   double Width = 0;
   double Height = 0;
@@ -302,6 +329,10 @@ class HidPort {
   virtual HidLengths Lengths() const = 0;
   // Takes the oldest report that has arrived, without waiting for one. Failed when the device is gone.
   virtual HidRead Read(std::string& report) = 0;
+  // When the report that Read gave last arrived, in the clock's microseconds; 0 where nobody has looked.
+  virtual std::int64_t ArrivedUs() const { return 0; }
+  // Called between events as soon as a report waits, or the device has gone. A port that can't is polled alone.
+  std::function<void()> OnReport;
   // The bytes written; 0 when nothing could be.
   virtual std::size_t Write(const std::string& report) = 0;
   virtual void Close() = 0;
@@ -361,6 +392,8 @@ class SerialPort {
   virtual void Close() = 0;
   // Takes all that has arrived.
   virtual std::string Input() = 0;
+  // When the last of what Input gave last arrived, in the clock's microseconds; 0 where nobody has looked.
+  virtual std::int64_t ArrivedUs() const { return 0; }
   virtual std::size_t InBufferCount() const = 0;
   // Bytes have arrived, or the device is gone; the latter may be announced many times until the port is closed.
   std::function<void(SerialEvent)> OnComm;
@@ -420,6 +453,7 @@ struct Platform {
   HelpPages& pages;
   SerialPort& serial;
   Pages& webPages;
+  RecordFiles& records;
   Folders folders;
 };
 

@@ -27,6 +27,8 @@ void FitWinner(Show& show) {
   if (!text.empty()) SetWinner(show, text, show.frmFSMain.lblWinner);
 }
 
+}  // namespace
+
 // The cover is the audience's alone: it is up from a ring-in to its verdict.
 void CoverAnsweredQuestion(Show& show) {
   const auto [kind, player] = Phase(show);
@@ -37,8 +39,6 @@ void CoverAnsweredQuestion(Show& show) {
   show.frmFSMain.picHideQuestion.Picture = PicturePath(show, "\\Images\\Cover.jpg");
   show.frmFSMain.picHideQuestion.Visible = cover;
 }
-
-}  // namespace
 
 void BringAudienceInStep(Show& show) {
   BuildFSGrid(show, show.state.GridSize);

@@ -8,5 +8,7 @@ struct Show;
 
 // Every pair of the screens, what each fits for itself, the cursor and the cover.
 void BringAudienceInStep(Show& show);
+// The cover over the audience's question is up while a player answers it and the option says so, and else down.
+void CoverAnsweredQuestion(Show& show);
 
 }  // namespace pawnfield

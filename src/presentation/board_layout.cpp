@@ -6,6 +6,7 @@
 #include "forms/fs_main_form.h"
 #include "forms/main_form.h"
 #include "presentation/both_screens.h"
+#include "show/note.h"
 #include "show/show.h"
 
 namespace pawnfield {
@@ -153,6 +154,7 @@ void HideFSBoardControls(Show& show) { HideBoard(show.frmFSMain); }
 void ResetGameBoard(Show& show) {
   MainForm& form = show.frmMain;
   GameState& state = show.state;
+  Note(show, EventKind::Wipe);
   state.CurrentQuestion = 0;
   // A flash that ran on would draw on the cleared board and open the next turn of a game that is gone.
   ForgetClaimedSquare(show);
@@ -164,8 +166,8 @@ void ResetGameBoard(Show& show) {
   ResetPlayerNames(show);
   LightScoreBox(show, 0);
   ClearBoardPictures(show);
-  for (Button* button : {&form.btnSkipQuestion, &form.btnNextPlayer, &form.btnContinue, &form.btnEndGame,
-                         &form.btnReset, &form.btnUndo}) {
+  for (Button* button :
+       {&form.btnSkipQuestion, &form.btnNextPlayer, &form.btnContinue, &form.btnEndGame, &form.btnReset}) {
     button->Enabled = false;
   }
   state.GameLoaded = false;

@@ -12,6 +12,7 @@
 #include "platform/text.h"
 #include "presentation/audience_screen.h"
 #include "program/main_load.h"
+#include "record/come_back.h"
 #include "show/settings.h"
 #include "show/show.h"
 
@@ -93,7 +94,7 @@ void tmrSplash_Timer(Show& show) {
   ServeWhatIsFound(show);
   show.frmLoading.Visible = false;
   show.frmSplash.Visible = false;
-  OpenSetAtStart(show);
+  show.record->Interrupted ? AskForInterruptedShow(show) : OpenSetAtStart(show);
 }
 
 }  // namespace pawnfield

@@ -16,7 +16,6 @@
 #include "engine/question_cycle.h"
 #include "engine/set_choice.h"
 #include "engine/turn_order.h"
-#include "engine/undo_text.h"
 #include "engine/win_detection.h"
 #include "forms/fs_main_form.h"
 #include "forms/main_form.h"
@@ -33,6 +32,8 @@
 #include "program/interface_wizard.h"
 #include "program/start_up.h"
 #include "program/wireless.h"
+#include "record/history.h"
+#include "record/record_file.h"
 #include "sets/editor_handlers.h"
 #include "show/settings.h"
 #include "show/show.h"
@@ -87,6 +88,7 @@ void AttachButtons(Show& show) {
   OnClick(show, form.btnNextPlayer, btnNextPlayer_Click);
   OnClick(show, form.btnSkipQuestion, btnSkipQuestion_Click);
   OnClick(show, form.btnUndo, btnUndo_Click);
+  OnClick(show, form.mnuFileBringBack, BringBackLastGame);
   OnClick(show, form.btnReset, btnReset_Click);
   OnClick(show, form.btnEndGame, btnEndGame_Click);
   OnClick(show, form.btnQuestionCorrect, HandleCorrect);
@@ -127,6 +129,7 @@ void AttachTimers(Show& show) {
   OnTimer(show, show.frmFSMain.tmrFSFlipPlayerPiece, tmrFSFlipPlayerPiece_Timer);
   OnTimer(show, show.frmAlwaysLoaded.tmrAlwaysLoaded, tmrAlwaysLoaded_Timer);
   OnTimer(show, show.frmAlwaysLoaded.tmrCompanion, tmrCompanion_Timer);
+  OnTimer(show, show.frmAlwaysLoaded.tmrRecord, TakeSnapshot);
   OnTimer(show, show.frmAlwaysLoaded.tmrSharedKey, FlushSharedKey);
   OnTimer(show, show.frmSplash.tmrProgress, tmrProgress_Timer);
   OnTimer(show, show.frmSplash.tmrSplash, tmrSplash_Timer);
@@ -134,6 +137,17 @@ void AttachTimers(Show& show) {
   for (std::size_t i = 0; i < 2; ++i) {
     form.tmrAnimate[i].OnTimer = [&show, i] { tmrAnimate_Timer(show, static_cast<int>(i)); };
   }
+}
+
+// The record takes down what an event changes; a fault of the event's must not keep it from that.
+void RunEvent(Show& show, const std::function<void()>& handler, const std::string& location,
+              const std::string& procedure) {
+  const auto guarded = [&](const std::function<void()>& step) {
+    RunGuarded(show.platform.dialogs, step, location, procedure);
+  };
+  guarded([&show] { BeforeEvent(show); });
+  guarded(handler);
+  guarded([&show] { AfterEvent(show); });
 }
 
 void AttachExit(Show& show) {
@@ -166,12 +180,12 @@ void AttachHandlers(Show& show) {
   AttachAudienceHandlers(show);
   AttachMediaHandlers(show);
   AttachPages(show);
+  AttachRecord(show);
   for (Form* form : AllForms(show)) {
     form->Guard = [&show](const std::function<void()>& handler, const std::string& location,
                           const std::string& procedure) {
-      RunGuarded(show.platform.dialogs, handler, location, procedure);
+      RunEvent(show, handler, location, procedure);
       UpdateAnswerClock(show);
-      UpdateUndoTip(show);
       SaveChangedSettings(show);
       TellPages(show);
     };

@@ -24,6 +24,7 @@
 #include "presentation/both_screens.h"
 #include "program/interface_file.h"
 #include "program/wireless.h"
+#include "record/history.h"
 #include "sets/set_file.h"
 #include "show/settings.h"
 #include "show/settings_table.h"
@@ -173,7 +174,6 @@ void ShowIdleBoard(Show& show) {
   if (type.OffersHideAtLoad) form.txtDJCommand.BackColor = kRed;
   HidePanel(show, Panel::Sound);
   HidePanel(show, Panel::QuestionPicture);
-  form.btnUndo.Enabled = false;
   state.CurrentQuestion = 0;
   form.btnQuestionCorrect.Visible = false;
   form.btnQuestionIncorrect.Visible = false;
@@ -256,6 +256,7 @@ void LoadMainForm(Show& show) {
   BeginSavingSettings(show);
   LightScoreBox(show, 0);
   if (show.frmMain.OnResize) show.frmMain.OnResize();
+  BeginHistory(show);
 }
 
 }  // namespace pawnfield

@@ -14,6 +14,8 @@
 #include "program/detection.h"
 #include "program/interface_file.h"
 #include "program/main_load.h"
+#include "record/history.h"
+#include "record/record_file.h"
 #include "show/settings.h"
 #include "show/show.h"
 
@@ -51,6 +53,14 @@ void PrepareDataFolders(Show& show) {
 void tmrAlwaysLoaded_Timer(Show& show) {
   show.frmAlwaysLoaded.tmrAlwaysLoaded.Enabled = false;
   show.frmLoading.Visible = false;
+  // A show that was interrupted has no time for a splash.
+  RunGuarded(
+      show.platform.dialogs, [&] { show.record->Interrupted = FindInterruptedShow(show); }, "modMain",
+      "FindInterruptedShow");
+  if (show.record->Interrupted) {
+    tmrSplash_Timer(show);
+    return;
+  }
   show.frmSplash.imgBG.Picture = show.AppPath("\\Images\\Standby.jpg");
   show.platform.displays.RoundWindow(show.frmSplash, kCornerRadius);
   show.frmSplash.Visible = true;
@@ -76,11 +86,27 @@ void frmSplash_Click(Show& show) {
   tmrSplash_Timer(show);
 }
 
+namespace {
+
+// A game that is open is kept for the next start unless the operator says that the show is over.
+void EndOrKeepShow(Show& show) {
+  const bool open = show.state.GameLoaded && show.state.GameStarted;
+  const BoxAnswer over =
+      open ? show.platform.dialogs.Ask({"Is the show over? A game that is kept comes back with the next start.",
+                                        BoxKind::YesNo, BoxAnswer::No, "End the Show", "Keep the Game"},
+                                       kAppTitle)
+           : BoxAnswer::Yes;
+  if (over == BoxAnswer::Yes) EndShow(show);
+}
+
+}  // namespace
+
 bool Form_QueryUnload(Show& show) {
   Displays& displays = show.platform.displays;
   displays.SetTopMost(show.frmMain, true);
   const BoxAnswer answer = show.platform.dialogs.Ask(
       {"Are you sure you want to exit?", BoxKind::YesNoCancel, BoxAnswer::No, "Exit", "Stay"}, kAppTitle);
+  if (answer == BoxAnswer::Yes) EndOrKeepShow(show);
   displays.SetTopMost(show.frmMain, false);
   return answer == BoxAnswer::Yes;
 }
@@ -104,6 +130,7 @@ void SaveSettingsAtDeath(Show& show) {
 
 void fileExit(Show& show) {
   MainForm& form = show.frmMain;
+  TakeSnapshot(show);
   SendKeyPress(show, false);
   FlushSharedKey(show);
   for (Timer* timer :
@@ -118,6 +145,7 @@ void fileExit(Show& show) {
   ReportExit(show);
   RunGuarded(
       show.platform.dialogs, [&] { SaveInterfaceFile(show); }, "frmMain", "fileExit");
+  show.platform.records.Flush();
   show.dgTransceiver.reset();
   RunGuarded(
       show.platform.dialogs, [&] { UnloadAudienceScreen(show); }, "frmFSMain", "Form_Unload");

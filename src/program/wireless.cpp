@@ -33,7 +33,7 @@ void TransceiverIsLost(Show& show) {
 
 void CreateTransceiver(Show& show) {
   const auto guard = [&show](const std::function<void()>& poll, const std::string&, const std::string&) {
-    RunGuarded(show.platform.dialogs, poll, show.frmMain.Name(), "dgTransceiver_OnButtonPressed");
+    show.frmMain.Dispatch(poll, "dgTransceiver_OnButtonPressed");
   };
   // One device can be open at a time, so the old object goes before the new one comes.
   show.dgTransceiver.reset();

@@ -21,6 +21,7 @@
 #include "forms/sound_effects_form.h"
 #include "platform/text.h"
 #include "show/page_state.h"
+#include "show/show_record.h"
 
 namespace pawnfield {
 
@@ -54,6 +55,7 @@ Show::Show(Platform& platformPorts) : Show(platformPorts, std::make_unique<Forms
 Show::Show(Platform& platformPorts, std::unique_ptr<Forms> forms)
     : platform(platformPorts),
       pages(std::make_unique<PageState>()),
+      record(std::make_unique<ShowRecord>()),
       frmMain(forms->frmMain),
       frmFSMain(forms->frmFSMain),
       frmSS(forms->frmSS),

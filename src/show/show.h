@@ -45,6 +45,7 @@ struct SetInterfaceForm;
 struct SoundEffectsForm;
 struct SplashForm;
 class Transceiver;
+struct ShowRecord;
 
 // How one of the two flipping squares moves between ticks.
 struct Flip {
@@ -121,6 +122,8 @@ struct Show {
   LastVerdict lastVerdict;
   // Phones and pages on the local network; never null.
   std::unique_ptr<PageState> pages;
+  // The events of the show; show/show_record.h has what it is.
+  std::unique_ptr<ShowRecord> record;
   // Lives from the console's load to the exit, whether or not a device was found.
   std::unique_ptr<Transceiver> dgTransceiver;
   // Whether a picture of the program could be opened when it was first asked for.

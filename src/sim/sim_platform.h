@@ -2,6 +2,7 @@
 #pragma once
 
 #include "platform/ports.h"
+#include "sim/memory_records.h"
 #include "sim/memory_settings.h"
 #include "sim/recorded_media.h"
 #include "sim/scripted_dialogs.h"
@@ -35,6 +36,7 @@ struct SimPlatform {
   SimPages pages;
   SimSerial serial;
   SimNetwork network{clock};
+  MemoryRecords records;
   Platform platform;
 };
 

@@ -63,9 +63,9 @@ const WordStory kBoardPlay[] = {
      "correct, claim A1, tmr5QuestionTimer is off, continue, correct, claim B1, question text is 5 Questions Left!, "
      "wait 3 s, question panel is hidden, continue, correct, claim C1, tmr5QuestionTimer is off, question panel is "
      "hidden"},
-    {"The notice of five questions locks Continue and Undo while it stands",
+    {"The notice of five questions locks Continue while it stands",
      "Trivia B, 2 players, 4x4, user advances, 7 questions",
-     "correct, claim A1, continue, correct, claim B1, Continue is off, Undo is off, wait 3 s, Continue is on, Undo is "
+     "correct, claim A1, continue, correct, claim B1, Continue is off, wait 3 s, Continue is on, Undo is "
      "on"},
     {"The squares of a line flash together on both screens", "Challenge B, 2 players, Finish Row",
      "claim A1, claim B1, click C1, wait 150 ms, A1 shows X-100b, room B1 shows X-100b, C1 shows X-100b, wait 150 ms, "
@@ -81,13 +81,13 @@ const WordStory kBoardPlay[] = {
     {"A bonus comes between the flash and the winner", "Challenge B, 2 players, Finish Row",
      "squares worth 100, claim C1, claim B2, click A3, wait 900 ms, bonus is shown, room bonus is shown, winner is "
      "hidden, wait 2999 ms, winner is hidden, wait 1 ms, room bonus is hidden, room winner is shown, winner text is "
-     "Game Over!/PLAYER 1/Wins!, Undo is off"},
+     "Game Over!/PLAYER 1/Wins!, Undo is on"},
     {"The winner waits also on a full board", "Challenge B, 2 players, worthless squares",
      "claim A1, claim B1, claim C1, claim A2, claim B2, claim C2, claim A3, claim B3, lines worth 0, click C3, wait "
      "899 ms, winner is hidden, wait 3 s, bonus is hidden, winner is shown"},
     {"End game amid a flash leaves nothing to come", "Trivia B, 2 players",
      "correct, claim A1, wait 3 s, correct, click B1, wait 100 ms, end game, winner is shown, tmrAutoContinue is off, "
-     "wait 3 s, question 2, question panel is hidden, Undo is off, winner is shown"},
+     "wait 3 s, question 2, question panel is hidden, winner is shown"},
     {"Undo within the flash leaves the square empty on both screens", "Challenge B, 2 players",
      "claim A1, click B1, wait 160 ms, undo, B1 is empty, room B1 is empty, wait 2 s, B1 is empty, room B1 is empty, "
      "board 100/000/000"},

@@ -45,7 +45,7 @@ const WordStory kJudging[] = {
      "player 2 rings in, turn 2, room cover is shown, skip, turn nobody, room cover is hidden, wait 3 s, question 2, "
      "question panel is shown"},
     {"Undo takes back the bonus of a line", "Challenge A, 2 players",
-     "claim A1, claim A2, claim B1, claim B2, claim C1, undo, scores 100/100/0, turn 1, Undo is off"},
+     "claim A1, claim A2, claim B1, claim B2, claim C1, undo, scores 100/100/0, turn 1"},
     {"Undo gives the turn back to player 1", "Challenge A", "claim A1, undo, scores 0/0/0, turn 1"},
     {"Undo gives the turn back to player 3", "Challenge A",
      "claim A1, claim B1, claim C1, undo, scores 50/50/0, turn 3"},
@@ -56,8 +56,8 @@ const WordStory kJudging[] = {
     {"Undo leaves the turn in Trivia B", "Trivia B, 2 players", "correct, claim A1, undo, scores 0/0/0, turn 1"},
     {"Undo takes the score back in Trivia C", "Trivia C, 2 players",
      "player 2 rings in, correct, claim A1, undo, scores 0/0/0, turn 2"},
-    {"A claim of no points cant be undone", "Challenge A, 2 players, worthless squares",
-     "claim B2, undo, scores 0/0/0, turn 2, board 000/010/000"},
+    {"A claim of no points is undone too", "Challenge A, 2 players, worthless squares",
+     "claim B2, undo, scores 0/0/0, turn 1, board 000/000/000"},
     {"A verdict sounds", "Trivia A, 2 players", "incorrect, event sound is Incorrect.mp3, verdict is hidden"},
     {"An animated verdict stands four and a half seconds", "Trivia A, 2 players, animated",
      "correct, verdict sound is Correct4swf.mp3, verdict is shown, room verdict text is Correct!, wait 200 ms, room "

@@ -1,7 +1,6 @@
 // What comes to the buttons that wipe a game by another way than a hand, and what Undo says it will take back.
 #include "engine/safe_click.h"
 
-#include "engine/undo_text.h"
 #include "forms/main_form.h"
 #include "support/game_player.h"
 
@@ -46,10 +45,11 @@ TEST(SafeClick, AsksNothingWhereNothingIsLost) {
 
 const Story kUndoTips[] = {
     {"SaysWhoTookWhatForHowMuch", "1 2 3 full",
-     "btnUndo.Tip=Ctrl+U 00 btnUndo.Tip=Ctrl+U:_PLAYER_1_takes_A1,_+50 12 btnUndo.Tip=Ctrl+U:_PLAYER_2_takes_C2,_+50 "
-     "U btnUndo.Tip=Ctrl+U"},
+     "> btnUndo.Tip=Ctrl+U:_Start 00 btnUndo.Tip=Ctrl+U:_PLAYER_1_takes_A1,_+50 12 "
+     "btnUndo.Tip=Ctrl+U:_PLAYER_2_takes_C2,_+50 "
+     "U btnUndo.Tip=Ctrl+U:_PLAYER_1_takes_A1,_+50"},
     {"CountsTheLineThatTheSquareCompleted", "2 2 3 full", "00 01 02 btnUndo.Tip=Ctrl+U:_PLAYER_1_takes_C1,_+100"},
-    {"SaysNothingOfAClaimThatIsGone", "1 2 3 full", "00 fileClearAllScores btnUndo.Tip=Ctrl+U"},
+    {"SaysWhatClearedTheBoard", "1 2 3 full", "00 fileClearAllScores > btnUndo.Tip=Ctrl+U:_Clear_All_Scores"},
 };
 
 using UndoTip = StoryTest;

@@ -40,13 +40,13 @@ const WordStory kUndo[] = {
      "remote 2, correct, claim A1, undo, phase player 2 claims, player 2 lit, corner piece is O-100a.bmp, Continue is "
      "on, claim B1, board 020/000/000, scores 0/50/0"},
     {"The turn goes back in Trivia A", "Trivia A, 2 players",
-     "correct, claim A1, next player, undo, phase player 1 claims, player 1 lit, Continue is on"},
+     "correct, claim A1, next player, undo, undo, phase player 1 claims, player 1 lit, Continue is on"},
     {"The turn goes back in Trivia B", "Trivia B",
-     "correct, claim A1, next player, undo, phase player 1 claims, player 1 lit, Continue is on"},
+     "correct, claim A1, next player, undo, undo, phase player 1 claims, player 1 lit, Continue is on"},
     {"The turn goes back in Challenge A", "Challenge A",
-     "claim A1, next player, undo, phase player 1 claims, player 1 lit, says Player 1 Selected!"},
+     "claim A1, next player, undo, undo, phase player 1 claims, player 1 lit"},
     {"The turn goes back in Challenge B", "Challenge B",
-     "claim A1, next player, undo, phase player 1 claims, player 1 lit"},
+     "claim A1, next player, undo, undo, phase player 1 claims, player 1 lit"},
     {"The pause goes back too", "Trivia A",
      "correct, claim A1, wait 2, undo, wait 60, question 1, phase player 1 claims, click B1, wait 3.8, question 1, "
      "wait 0.2, question 2, wait 60, question 2"},
@@ -58,10 +58,12 @@ const WordStory kUndo[] = {
     {"The bonus goes back too", "Challenge B",
      "claim A1, claim C3, claim A3, claim C1, click B2, wait 1, room bonus is shown, undo, room bonus is hidden, phase "
      "player 1 claims"},
-    {"Nothing is left to undo once a question is up", "Trivia A", "correct, claim A1, wait 3, question 2, Undo is off"},
-    {"A cleared board has nothing to undo", "Trivia A", "correct, claim A1, clear all scores, Undo is off"},
-    {"Who has left gets no turn back", "Challenge A",
-     "claim A1, claim B1, claim C1, 2 players, undo, turn 1, board 120/000/000"},
+    {"The next question goes back and leaves the pause", "Trivia A",
+     "correct, claim A1, wait 3, question 2, undo, question 1, phase pause, wait 60, question 1, Continue is on"},
+    {"A cleared board comes back", "Trivia A",
+     "correct, claim A1, clear all scores, board 000/000/000, undo, board 100/000/000, scores 50/0/0"},
+    {"Who has left is back first", "Challenge A",
+     "claim A1, claim B1, claim C1, 2 players, undo, board 123/000/000, undo, turn 3, board 120/000/000"},
 };
 
 const WordStory kPause[] = {
@@ -74,11 +76,11 @@ const WordStory kPause[] = {
      "skip, continue, correct, claim A1, skip, phase notice, Continue is off, wait 3, continue, question 3"},
     {"The end of a game stops the pause", "Trivia C, remotes",
      "remote 1, correct, claim A1, end game, remote 2, key 2, turn nobody, wait 4, question 1, phase winner, room "
-     "question panel is hidden, Undo is off, Continue is off, Skip is off, key ctrl s, key y, wait 20, phase idle, "
+     "question panel is hidden, Continue is off, Skip is off, key ctrl s, key y, wait 20, phase idle, "
      "question panel is hidden"},
     {"A line that ends the game brings no question", "Trivia B, Finish Row, remotes",
      "correct, claim A1, wait 3, correct, claim A2, wait 3, correct, click A3, wait 4.5, question 3, phase winner, "
-     "room question panel is hidden, Undo is off, Continue is off, Correct is hidden"},
+     "room question panel is hidden, Continue is off, Correct is hidden"},
     {"No square is taken after the winner", "Trivia B, user advances",
      "correct, claim A1, continue, correct, keys b2, end game, key enter, click C3, board 100/000/000, scores 50/0/0"},
 };

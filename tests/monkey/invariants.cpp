@@ -110,13 +110,24 @@ std::string BrokenInvariant(Show& show) {
   return {};
 }
 
+namespace {
+
+// How many steps of Undo and Redo the record holds: they alone move through events that are there.
+std::size_t StepsIn(const Show& show) { return show.record->Steps; }
+
+}  // namespace
+
+bool LastAction::Stepped(const Show& show) const { return StepsIn(show) != historyBefore_; }
+
 void LastAction::Before(Show& show) {
   before_ = show.state;
+  historyBefore_ = StepsIn(show);
   phaseBefore_ = Phase(show);
   for (int player = 1; player <= kPlayers; ++player) scoresBefore_[player] = ScoreOf(show, player);
 }
 
 std::string LastAction::Broken(Show& show) const {
+  if (Stepped(show)) return {};
   for (const std::string& fault : {Owners(show), AfterTheEnd(show), Questions(show), Payments(show)}) {
     if (!fault.empty()) return fault;
   }
@@ -154,7 +165,7 @@ std::string LastAction::Questions(const Show& show) const {
   return before_.QuestionUp ? "a question was passed over that waited for its answer" : "";
 }
 
-// What one action may pay: one claim, its undo, one penalty, or one press of a score button. Scores and squares that
+// What one action may pay: one claim, one penalty, or one press of a score button. Scores and squares that
 // are cleared together pay nothing.
 std::string LastAction::Payments(Show& show) const {
   const GameState& state = show.state;
@@ -164,11 +175,10 @@ std::string LastAction::Payments(Show& show) const {
     const int gained = SquaresOf(state, player) - SquaresOf(before_, player);
     const double amount = std::abs(change);
     const bool claimed = gained == 1 && state.LastPlayer == player && change == state.LastPoints;
-    const bool undone = gained == -1 && before_.LastPlayer == player && change == -before_.LastPoints;
     const bool penalty = state.IncorrectPenalty && before_.CurrentPlayer == player && change == -100;
     const bool button = std::set<double>{1, 10, 100, 1000, 10000, 100000}.contains(amount);
     const bool cleared = score == 0 && SquaresOf(state, player) == 0;
-    if (claimed || undone || cleared || (gained == 0 && change == 0)) continue;
+    if (claimed || cleared || (gained == 0 && change == 0)) continue;
     if (player > before_.Players) return "a player who has left was paid";
     if (gained != 0 || (!penalty && !button)) return "a score changed by " + std::to_string(change);
   }

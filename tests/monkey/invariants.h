@@ -5,6 +5,7 @@
 
 #include "show/phase.h"
 #include "show/show.h"
+#include "show/show_record.h"
 
 namespace pawnfield {
 
@@ -22,7 +23,8 @@ std::string BrokenInvariant(Show& show);
 // 8. Nobody beyond the players gains a square or points. What a player had when he left stays.
 // 9. After the winner nothing is judged, rung in or claimed.
 // 10. The next question comes when the last one has had its skip, its verdict or its Continue, and one at a time.
-// 11. A score changes by what was paid: a claimed square, its undo, the penalty or a button of the score.
+// 11. A score changes by what was paid: a claimed square, the penalty or a button of the score. A step of Undo or Redo
+//     changes it by what the event of that step did; second_show.h looks after these.
 class LastAction {
  public:
   // Remembers the show as it is before the action.
@@ -36,6 +38,9 @@ class LastAction {
   std::string Questions(const Show& show) const;
   std::string Payments(Show& show) const;
 
+  bool Stepped(const Show& show) const;
+
+  std::size_t historyBefore_ = 0;
   GameState before_;
   GamePhase phaseBefore_;
   PerPlayer<double> scoresBefore_;

@@ -11,6 +11,7 @@
 #include "monkey/random_world.h"
 #include "program/handlers.h"
 #include "program/program.h"
+#include "record/history.h"
 
 namespace pawnfield {
 
@@ -45,7 +46,7 @@ std::vector<Control*> ReachableOfKind(Form& form, ControlKind kind) {
 }  // namespace
 
 std::string Describe(const Action& action) {
-  static constexpr std::array kNames = {"click", "select", "type", "key", "wait", "sleep", "world", "device"};
+  static constexpr std::array kNames = {"click", "select", "type", "key", "wait", "sleep", "world", "device", "walk"};
   return std::string(kNames[static_cast<std::size_t>(action.Kind)]) + " " + action.Form + " " + action.Target + " " +
          std::to_string(action.Value) + " seed " + std::to_string(action.Seed);
 }
@@ -111,7 +112,7 @@ std::vector<std::string> MonkeyDialogs::TakeErrors() {
   return errors;
 }
 
-MonkeyShow::MonkeyShow(std::uint32_t seed) : show_(sim_.platform) {
+MonkeyShow::MonkeyShow(std::uint32_t seed) : show_(sim_.platform), second_({{0, 0, 1280, 800}, {1280, 0, 3200, 1080}}) {
   sim_.dialogs.Instead = &dialogs_;
   Chance chance(seed);
   dialogs_.Reseed(chance.Next());
@@ -199,7 +200,7 @@ Action MonkeyShow::ChooseChange(Chance& chance) {
       return {ActionKind::Type, form.Name(), boxes[chance.Below(boxes.size())]->Name() + "=" + text, 0, 0};
     }
     default: {
-      static constexpr std::string_view kKeys = "123456789\r\r\x1b\x0e\x13\x15\x1a ABCDEabcdeynYN";
+      static constexpr std::string_view kKeys = "123456789\r\r\x1b\x0e\x13\x15\x15\x19\x1a ABCDEabcdeynYN";
       const auto key =
           chance.OneIn(4) ? chance.Below(256) : static_cast<unsigned char>(kKeys[chance.Below(kKeys.size())]);
       return {ActionKind::Key, form.Name(), "", static_cast<std::int64_t>(key), 0};
@@ -210,6 +211,7 @@ Action MonkeyShow::ChooseChange(Chance& chance) {
 Action MonkeyShow::Choose(Chance& chance) {
   static constexpr std::array<std::int64_t, 8> kWaits = {1, 10, 40, 150, 600, 1500, 3200, 6000};
   Action action;
+  if (chance.OneIn(200)) return {ActionKind::Walk, "", "", 0, chance.Next()};
   const std::size_t kind = chance.Below(100);
   if (kind < 50) {
     action = ChooseClick(chance);
@@ -282,16 +284,24 @@ void MonkeyShow::Perform(const Action& action) {
       break;
     case ActionKind::Device:
       UseDevice(action);
+      break;
+    case ActionKind::Walk:
+      break;
   }
 }
 
 std::string MonkeyShow::Do(const Action& action) {
   dialogs_.Reseed(action.Seed);
+  if (action.Kind == ActionKind::Walk) {
+    TakeSnapshot(show_);
+    if (std::string fault = WalkHistory(show_); !fault.empty()) return fault;
+  }
   lastAction_.Before(show_);
   Perform(action);
   const auto errors = dialogs_.TakeErrors();
   if (!errors.empty()) return "unexpected error box: " + errors.front();
-  const std::string broken = BrokenInvariant(show_);
+  std::string broken = BrokenInvariant(show_);
+  if (broken.empty()) broken = second_.Compare(show_, sim_);
   return broken.empty() ? lastAction_.Broken(show_) : broken;
 }
 

@@ -8,12 +8,13 @@
 
 #include "monkey/chance.h"
 #include "monkey/invariants.h"
+#include "monkey/second_show.h"
 #include "show/show.h"
 #include "sim/sim_platform.h"
 
 namespace pawnfield {
 
-enum class ActionKind { Click, Select, Type, Key, Wait, Sleep, World, Device };
+enum class ActionKind { Click, Select, Type, Key, Wait, Sleep, World, Device, Walk };
 
 // Stands on its own, so that a list of actions means the same when some are left out. What can't be done is skipped.
 struct Action {
@@ -73,6 +74,7 @@ class MonkeyShow {
   MonkeyDialogs dialogs_;
   SimPlatform sim_;
   Show show_;
+  SecondShow second_;
   LastAction lastAction_;
 };
 

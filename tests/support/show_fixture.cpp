@@ -21,6 +21,7 @@ void ShowFixture::Start() {
 
 void ShowFixture::Exit() {
   sim.dialogs.ExpectMessage("Are you sure you want to exit?", BoxAnswer::Yes);
+  if (show_.state.GameLoaded && show_.state.GameStarted) sim.dialogs.ExpectMessage("Is the show over?", BoxAnswer::Yes);
   form().mnuFileExit.Click();
 }
 

@@ -5,6 +5,7 @@
 #include <fstream>
 #include <iterator>
 #include <memory>
+#include <utility>
 
 #include "platform/hid_descriptor.h"
 
@@ -26,7 +27,7 @@ std::string ReportDescriptor(const std::filesystem::path& device) {
 
 }  // namespace
 
-HidapiPort::HidapiPort() { hid_init(); }
+HidapiPort::HidapiPort(Post post) : post_(std::move(post)) { hid_init(); }
 
 HidapiPort::~HidapiPort() {
   Close();
@@ -60,17 +61,24 @@ bool HidapiPort::OpenPath(const char* path) {
   const HidReports reports = ReadReportDescriptor(ReportDescriptor(path));
   lengths_ = reports.Lengths;
   numbered_ = reports.Numbered;
-  received_.resize(lengths_.Input + 1);
+  const std::size_t longest = std::max<std::size_t>(lengths_.Input, 64) + 1;
+  reader_ = std::make_unique<HidReader>(path, longest, [this] {
+    if (!post_) return;
+    post_([this] {
+      if (OnReport) OnReport();
+    });
+  });
   return true;
 }
 
 // A device that numbers its reports sends the number itself; for any other the 0 that stands for it is put in front.
 HidRead HidapiPort::Read(std::string& report) {
-  if (device_ == nullptr) return HidRead::Failed;
-  const int count = hid_read(device_, reinterpret_cast<unsigned char*>(received_.data()), received_.size());
-  if (count < 0) return HidRead::Failed;
-  if (count == 0) return HidRead::Nothing;
-  report = (numbered_ ? "" : std::string(1, '\0')) + received_.substr(0, static_cast<std::size_t>(count));
+  if (reader_ == nullptr) return HidRead::Failed;
+  const bool failed = reader_->Failed();
+  const auto next = reader_->Take();
+  if (!next) return failed ? HidRead::Failed : HidRead::Nothing;
+  arrivedUs_ = next->AtUs;
+  report = (numbered_ ? "" : std::string(1, '\0')) + next->Bytes;
   return HidRead::Report;
 }
 
@@ -81,6 +89,7 @@ std::size_t HidapiPort::Write(const std::string& report) {
 }
 
 void HidapiPort::Close() {
+  reader_.reset();
   if (device_ != nullptr) hid_close(device_);
   device_ = nullptr;
   lengths_ = {};

@@ -2,6 +2,7 @@
 #pragma once
 
 #include <QElapsedTimer>
+#include <chrono>
 #include <map>
 #include <memory>
 
@@ -16,6 +17,10 @@ class QtClock : public Clock {
   QtClock();
   ~QtClock() override;
   std::int64_t NowMs() const override { return elapsed_.elapsed(); }
+  std::int64_t NowUs() const override {
+    const auto now = std::chrono::steady_clock::now().time_since_epoch();
+    return std::chrono::duration_cast<std::chrono::microseconds>(now).count();
+  }
   LocalTime Now() const override;
   void Attach(Form& form) override;
   void Detach(Form& form) override;

@@ -1,0 +1,45 @@
+// One press of a player's button, as plain values: who, by which way, when, and how exactly that is known.
+#pragma once
+
+#include <cstdint>
+
+namespace pawnfield {
+
+enum class PressWay { Hand, Key, Remote, Pad, Phone };
+
+enum class PressPlace {
+  First,  // Rang in.
+  Later,  // Came within two seconds of the first.
+  Early,  // Came while no question was open.
+};
+
+struct Press {
+  int Player = 0;
+  PressWay Way = PressWay::Hand;
+  // Microseconds of the clock that never goes back, and by how much they may be wrong either way.
+  std::int64_t TimeUs = 0;
+  std::int64_t ErrorUs = 0;
+  PressPlace Place = PressPlace::First;
+  bool operator==(const Press&) const = default;
+};
+
+// How exactly a way tells the time of a press when nothing better is known of it, in microseconds.
+constexpr std::int64_t ErrorOfWay(PressWay way) {
+  switch (way) {
+    case PressWay::Remote:
+      // An interval of USB, in which the device is asked once, and its own radio's.
+      return 2000;
+    case PressWay::Pad:
+      // The nine bytes of a frame at 9600 baud, and the adapter's latency timer.
+      return 10500;
+    case PressWay::Phone:
+      return 30000;
+    case PressWay::Hand:
+    case PressWay::Key:
+      break;
+  }
+  // A keyboard's interval and the way through the display server.
+  return 8000;
+}
+
+}  // namespace pawnfield

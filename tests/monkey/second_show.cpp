@@ -1,0 +1,83 @@
+#include "monkey/second_show.h"
+
+#include <algorithm>
+
+#include "forms/main_form.h"
+#include "presentation/both_screens.h"
+#include "program/program.h"
+#include "record/capture.h"
+#include "record/history.h"
+#include "record/record_lines.h"
+#include "record/restore.h"
+#include "record/snapshot_json.h"
+#include "support/same_show.h"
+
+namespace pawnfield {
+
+namespace {
+
+bool SameMonitors(const std::vector<MonitorInfo>& a, const std::vector<MonitorInfo>& b) {
+  return a.size() == b.size() &&
+         std::equal(a.begin(), a.end(), b.begin(), [](const MonitorInfo& x, const MonitorInfo& y) {
+           return x.Left == y.Left && x.Top == y.Top && x.Right == y.Right && x.Bottom == y.Bottom;
+         });
+}
+
+// Whether the room's screen is covered and what was written of the console alone isn't the record's.
+void CoverLike(const Show& played, Show& restored) {
+  restored.frmMain.picStandby.Visible = played.frmMain.picStandby.Visible;
+}
+
+std::string AtStep(Show& show, const char* way) {
+  const GameHistory& game = show.record->Game;
+  Snapshot wanted = game.Events[game.Now].After;
+  const Snapshot found = Capture(show);
+  wanted.Options = found.Options;
+  // The winner himself moves, and isn't begun again.
+  wanted.Over = found.Over;
+  // The cover stays as it is through a step, and hides or shows whose turn it is.
+  if (wanted.Covered != found.Covered) wanted.Lit = found.Lit, wanted.Cursor = found.Cursor;
+  wanted.Covered = found.Covered;
+  if (wanted == found) return {};
+  return std::string(way) + " to '" + game.Events[game.Now].What + "': " + UnlikeSnapshots(wanted, found);
+}
+
+}  // namespace
+
+SecondShow::SecondShow(const std::vector<MonitorInfo>& monitors) : show_(sim_.platform) {
+  sim_.displays.Monitors = monitors;
+  sim_.dialogs.ExpectMessage("No hardware was detected");
+  Main(show_);
+  sim_.clock.Advance(12000);
+}
+
+std::string SecondShow::Compare(Show& played, const SimPlatform& machine) {
+  sim_.files = machine.files;
+  if (!SameMonitors(sim_.displays.Monitors, machine.displays.Monitors)) sim_.displays.Change(machine.displays.Monitors);
+  RecordedEvent event;
+  event.After = Capture(played);
+  const auto record = ParseRecord(FormatHead({}) + FormatSetLine(CaptureSet(played)) + FormatEvent(event));
+  if (!record || record->Game.Events.size() != 1) return "the record doesn't read back: " + FormatEvent(event);
+  CoverLike(played, show_);
+  RestoreSet(*record->Game.Set, show_);
+  RestoreOptions(record->Game.Events[0].After.Options, show_);
+  Restore(record->Game.Events[0].After, show_);
+  const std::string unlike = UnlikeShows(played, show_);
+  return unlike.empty() ? unlike : "after a restore: " + unlike;
+}
+
+std::string WalkHistory(Show& show) {
+  const GameHistory& game = show.record->Game;
+  const std::size_t from = game.Now;
+  while (game.Now > 0) {
+    btnUndo_Click(show);
+    if (std::string fault = AtStep(show, "undone"); !fault.empty()) return fault;
+  }
+  while (game.Now < from) {
+    Redo(show);
+    if (std::string fault = AtStep(show, "done again"); !fault.empty()) return fault;
+  }
+  return {};
+}
+
+}  // namespace pawnfield

@@ -1,0 +1,168 @@
+#include <gtest/gtest.h>
+
+#include "forms/main_form.h"
+#include "forms/small_forms.h"
+#include "platform/ports.h"
+#include "program/program.h"
+#include "program/start_up.h"
+#include "record/capture.h"
+#include "record/history.h"
+#include "record/record_lines.h"
+#include "show/show_record.h"
+#include "support/game_player.h"
+#include "support/same_show.h"
+#include "support/show_fixture.h"
+
+namespace pawnfield {
+namespace {
+
+constexpr const char* kFound = "A show was interrupted at 20:00: ";
+
+// A program that was killed amid a game, and the next one on the same disk.
+class Interrupted : public testing::Test {
+ protected:
+  void Play(const std::string& setup, const std::string& script) {
+    played_ = std::make_unique<GamePlayer>(setup);
+    played_->Play(script);
+    // What is left to be taken down is, within a second.
+    played_->fixture().sim.clock.Advance(60);
+  }
+
+  std::map<std::string, std::string>& Disk() { return played_->fixture().sim.records.Files; }
+
+  void StartAgain(BoxAnswer answer, const std::string& told = kFound) {
+    again_ = std::make_unique<ShowFixture>();
+    again_->sim.files = played_->fixture().sim.files;
+    again_->sim.records.Files = Disk();
+    again_->sim.dialogs.ExpectMessage("No hardware was detected");
+    if (!told.empty()) again_->sim.dialogs.ExpectMessage(told, answer);
+    Main(again_->show());
+    again_->sim.clock.Advance(told.empty() ? 10000 : 100);
+  }
+
+  std::unique_ptr<GamePlayer> played_;
+  std::unique_ptr<ShowFixture> again_;
+};
+
+TEST_F(Interrupted, ComesBackUnderTheCoverAsItWas) {
+  for (const char* script : {"r2 + 00 > r1 -", "r2 + 00 > r3 + 11! >100", "r1", "r2 + 00 > S", "r2 + 00 U", "r2 H"}) {
+    Play("5 3 5 full pr", script);
+    StartAgain(BoxAnswer::Yes);
+    Show& show = again_->show();
+    EXPECT_TRUE(show.frmMain.picStandby.Visible) << script;
+    EXPECT_FALSE(show.frmSplash.Visible);
+    if (!played_->form().picStandby.Visible) show.frmMain.btnPlayMode.Click();
+    Snapshot found = Capture(show);
+    const Snapshot wanted = Capture(played_->show());
+    // Show lights who has the turn, in its own way.
+    found.Lit = wanted.Lit;
+    found.Cursor = wanted.Cursor;
+    EXPECT_EQ(UnlikeSnapshots(wanted, found), "") << script;
+  }
+}
+
+TEST_F(Interrupted, SaysWhatWasPlayed) {
+  Play("5 2 5 full", "r2 + 00 >");
+  StartAgain(BoxAnswer::Yes, "A show was interrupted at 20:00: Long, question 2 of 30, PLAYER 1 0, PLAYER 2 50.");
+}
+
+TEST_F(Interrupted, GoesOnInItsRecordAndCanBeTakenBackFurther) {
+  Play("5 3 5 full", "r2 + 00 > r1 -");
+  const std::size_t kept = Disk().size();
+  StartAgain(BoxAnswer::Yes);
+  Show& show = again_->show();
+  EXPECT_EQ(UndoText(show), "Incorrect for PLAYER 1");
+  while (!UndoText(show).empty()) show.frmMain.btnUndo.Click();
+  EXPECT_FALSE(show.state.GameStarted);
+  while (!RedoText(show).empty()) Redo(show);
+  EXPECT_EQ(again_->Scores(), "0 50 0");
+  EXPECT_EQ(again_->sim.records.Files.size(), kept);
+}
+
+TEST_F(Interrupted, IsNotOfferedAgainWhenItWasLeftBehindEndedOrFinished) {
+  Play("5 3 5 full", "r2 + 00");
+  StartAgain(BoxAnswer::No);
+  EXPECT_FALSE(again_->show().state.GameLoaded);
+  Disk() = again_->sim.records.Files;
+  StartAgain(BoxAnswer::No, "");
+  for (const char* end : {"E", "R", "exit"}) {
+    Play("5 3 5 full", "r2 + 00");
+    if (std::string(end) == "exit") {
+      played_->fixture().Exit();
+    } else {
+      played_->Play(std::string(end) + " >6000");
+    }
+    StartAgain(BoxAnswer::No, "");
+  }
+}
+
+TEST_F(Interrupted, IsOfferedAfterASignalAndAfterAnExitThatKeptIt) {
+  Play("5 3 5 full", "r2");
+  EndWithoutAsking(played_->show());
+  StartAgain(BoxAnswer::Yes);
+  Play("5 3 5 full", "r2 +");
+  played_->fixture().sim.dialogs.ExpectMessage("Are you sure", BoxAnswer::Yes);
+  played_->fixture().sim.dialogs.ExpectMessage("Is the show over?", BoxAnswer::No);
+  played_->form().mnuFileExit.Click();
+  StartAgain(BoxAnswer::Yes);
+}
+
+TEST_F(Interrupted, LosesATornLineAndNothingElse) {
+  Play("5 3 5 full", "r2 + 00 > r1 -");
+  std::string& file = Disk().begin()->second;
+  const std::string whole = file;
+  const auto record = ParseRecord(whole);
+  ASSERT_TRUE(record);
+  const std::size_t last = whole.rfind('\n', whole.size() - 2) + 1;
+  for (std::size_t cut = last + 1; cut < whole.size(); cut += 37) {
+    const auto torn = ParseRecord(whole.substr(0, cut));
+    ASSERT_TRUE(torn);
+    EXPECT_EQ(torn->Events.size() + 1, record->Events.size());
+    EXPECT_EQ(torn->WholeBytes, last);
+  }
+  file[last + 20] ^= 1;
+  EXPECT_EQ(ParseRecord(file)->Events.size() + 1, record->Events.size()) << "its sum is wrong";
+  StartAgain(BoxAnswer::Yes);
+  EXPECT_EQ(UndoText(again_->show()), "PLAYER 1 rings in");
+}
+
+TEST_F(Interrupted, ASetThatWasEditedLaterChangesNothing) {
+  Play("5 3 5 full", "r2 + 00");
+  played_->fixture().WriteSet("Long", {"Other 1?", "Other 2?"});
+  StartAgain(BoxAnswer::Yes);
+  EXPECT_EQ(again_->show().GameSet, played_->show().GameSet);
+}
+
+TEST_F(Interrupted, AFullDiskIsToldOnceAndLosesNothing) {
+  played_ = std::make_unique<GamePlayer>("5 3 5 full");
+  MemoryRecords& records = played_->fixture().sim.records;
+  records.Fail(kErrorDiskFull);
+  played_->Play("r2");
+  played_->fixture().sim.clock.Advance(60);
+  const std::string told = played_->form().lblStatusBar.Caption;
+  EXPECT_EQ(told, "The show's record can't be written: Disk full. The show goes on.");
+  played_->form().lblStatusBar.Caption = "";
+  played_->Play("+ 00");
+  EXPECT_EQ(played_->form().lblStatusBar.Caption.Get(), "");
+  records.GiveBack();
+  EXPECT_EQ(played_->form().lblStatusBar.Caption.Get(), "The show's record is written again.");
+  StartAgain(BoxAnswer::Yes);
+  EXPECT_EQ(again_->Scores(), "0 50 0");
+}
+
+TEST(ShowRecord, KeepsTwentyShows) {
+  GamePlayer player("5 3 5 full mi");
+  ShowFixture again;
+  for (int i = 10; i < 40; ++i) again.sim.records.Files["Show 2020-01-" + std::to_string(i) + " 20-00-00.jsonl"] = "x";
+  again.Start();
+  again.WriteNumberedSet("One", 30);
+  again.ChooseSet("One");
+  again.form().btnStart.Click();
+  again.sim.clock.Advance(60);
+  EXPECT_EQ(again.sim.records.Files.size(), 20U);
+  EXPECT_TRUE(again.sim.records.Files.contains("Show 2020-01-39 20-00-00.jsonl"));
+  EXPECT_FALSE(again.sim.records.Files.contains("Show 2020-01-20 20-00-00.jsonl"));
+}
+
+}  // namespace
+}  // namespace pawnfield
