@@ -40,24 +40,25 @@ const WordStory kStates[] = {
      "claim A1, hide, end game, winner is hidden, show, end game, winner is shown"},
     {"The winner leaves standby alone", "Challenge A, 2 players", "claim A1, end game, offers StandbyMode and Undo"},
     {"A question offers its verdicts", "Trivia A, 2 players, user advances",
-     "offers SelectGame and StandbyMode and NextPlayer and SkipQuestion and QuestionCorrect"},
+     "offers SelectGame and StandbyMode and NextPlayer and SkipQuestion and Undo and QuestionCorrect"},
     {"A right answer has no second verdict", "Trivia A, 2 players, user advances",
-     "correct, offers SelectGame and StandbyMode and NextPlayer and SkipQuestion"},
+     "correct, offers SelectGame and StandbyMode and NextPlayer and SkipQuestion and Undo"},
     {"A claim offers to continue and to undo", "Trivia A, 2 players, user advances",
      "correct, claim A1, offers SelectGame and StandbyMode and NextPlayer and Continue and SkipQuestion and Undo and "
      "Reset and EndGame"},
     {"The next question offers the end too", "Trivia A, 2 players, user advances",
-     "correct, claim A1, continue, offers SelectGame and StandbyMode and NextPlayer and SkipQuestion and Reset and "
-     "EndGame and QuestionCorrect"},
+     "correct, claim A1, continue, offers SelectGame and StandbyMode and NextPlayer and SkipQuestion and Undo and "
+     "Reset "
+     "and EndGame and QuestionCorrect"},
     {"A turn that goes on by itself offers no Continue", "Trivia A, 2 players",
      "correct, claim A1, offers SelectGame and StandbyMode and NextPlayer and SkipQuestion and Undo and Reset and "
      "EndGame"},
     {"No verdict is offered before a ring-in", "Trivia C, 2 players, user advances",
-     "offers SelectGame and StandbyMode and SkipQuestion"},
+     "offers SelectGame and StandbyMode and SkipQuestion and Undo"},
     {"A ring-in offers the verdicts", "Trivia C, 2 players, user advances",
-     "player 1 rings in, offers SelectGame and StandbyMode and SkipQuestion and QuestionCorrect"},
+     "player 1 rings in, offers SelectGame and StandbyMode and SkipQuestion and Undo and QuestionCorrect"},
     {"A wrong answer waits for the next ring-in", "Trivia C, 2 players, user advances",
-     "player 1 rings in, incorrect, offers SelectGame and StandbyMode and SkipQuestion"},
+     "player 1 rings in, incorrect, offers SelectGame and StandbyMode and SkipQuestion and Undo"},
     {"The options are locked before the first claim", "Trivia C, 2 players, user advances",
      "options List and SelectPlayer(0)"},
     {"A right answer opens the options", "Trivia C, 2 players, user advances",
