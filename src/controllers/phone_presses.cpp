@@ -4,6 +4,7 @@
 
 #include "controllers/ring_in.h"
 #include "forms/pages_form.h"
+#include "record/ring_in_order.h"
 #include "show/page_state.h"
 #include "show/phase.h"
 #include "show/show.h"
@@ -128,6 +129,9 @@ void TakePhonePress(Show& show, std::uint64_t number, std::int64_t pressedUs, st
   seat.LastPressUs = arrivedUs;
   NoteTheFloor(show);
   const PhonePress press = Timed(pages, page, pressedUs, arrivedUs);
+  // The phones' clock and the show's count from moments of their own.
+  const std::int64_t ago = show.platform.webPages.NowUs() - press.CountsUs;
+  AddPress(show, {press.Player, PressWay::Phone, show.platform.clock.NowUs() - ago, press.ErrorUs, PressPlace::First});
   if (!MayRingIn(show)) {
     PlaceLate(show, press);
     return;

@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <optional>
+#include <utility>
 
 #include "forms/main_form.h"
 #include "show/phase.h"
@@ -69,31 +70,38 @@ void BeginRingInOrder(Show& show, Opening opening) {
   ShowRingInOrder(show);
 }
 
-std::vector<RingInRow> RingInOrder(const Show& show) {
+std::vector<RingInRow> RingInRows(const Show& show) {
   std::vector<RingInRow> rows;
   const std::vector<Press>& presses = show.record->Presses;
   const Press* first = FirstOf(presses);
   const Press* before = first;
   int number = 1;
   for (const Press& press : presses) {
+    const std::string& name = NameOf(show, press.Player);
     if (press.Place == PressPlace::Early) {
-      rows.push_back({NameOf(show, press.Player) + " early", false});
-      continue;
+      rows.push_back({"", name, "early", false});
+    } else if (&press == first) {
+      rows.push_back({std::to_string(number++), name, "first", false});
+    } else if (first != nullptr) {
+      const bool tooClose = std::abs(press.TimeUs - before->TimeUs) < press.ErrorUs + before->ErrorUs;
+      const std::string margin = Margin(press.TimeUs - first->TimeUs);
+      rows.push_back({std::to_string(number++), name, tooClose ? margin + ", too close to call" : margin, tooClose});
+      before = &press;
     }
-    std::string text = std::to_string(number++) + " " + NameOf(show, press.Player);
-    if (&press == first) {
-      rows.push_back({text + " first", false});
-      continue;
-    }
-    if (first == nullptr || before == nullptr) continue;
-    const bool tooClose = std::abs(press.TimeUs - before->TimeUs) < press.ErrorUs + before->ErrorUs;
-    text += " " + Margin(press.TimeUs - first->TimeUs);
-    rows.push_back({tooClose ? text + ", too close to call" : text, tooClose});
-    before = &press;
   }
   return rows;
 }
 
-void ShowRingInOrder(Show&) {}
+void ShowRingInOrder(Show& show) {
+  auto* list = dynamic_cast<ListView*>(show.frmMain.Find("lstRingInOrder"));
+  if (list == nullptr) return;
+  std::vector<ListView::Row> rows;
+  for (const RingInRow& row : RingInRows(show))
+    rows.push_back({row.Number, row.Name, row.When, row.TooClose ? "amber" : ""});
+  Control* title = show.frmMain.Find("lblRingInOrder");
+  list->Visible = !rows.empty();
+  if (title != nullptr) title->Visible = !rows.empty();
+  list->ListItems = std::move(rows);
+}
 
 }  // namespace pawnfield

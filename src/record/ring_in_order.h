@@ -23,14 +23,14 @@ enum class Opening { Anew, Again };
 // early for this question.
 void BeginRingInOrder(Show& show, Opening opening);
 
+// "1 BEN first", "2 ANNA +12 ms, too close to call", "CHLOE early".
 struct RingInRow {
-  // "1 BEN first", "2 ANNA +12 ms", "CHLOE early".
-  std::string Text;
+  std::string Number, Name, When;
   // Less lies between it and the press before than can be told.
   bool TooClose = false;
 };
 
-std::vector<RingInRow> RingInOrder(const Show& show);
+std::vector<RingInRow> RingInRows(const Show& show);
 // Writes the order to the console's list.
 void ShowRingInOrder(Show& show);
 

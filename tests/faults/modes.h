@@ -7,6 +7,8 @@ namespace pawnfield::faults {
 
 // Ends a writing process at that many random moments. Returns the count of faults found.
 int RunKills(const QString& root, int kills);
+// The record of a show that is killed amid a game.
+int RunRecordKills(const QString& root, int kills);
 
 // The root lies on a small disk, which is filled more and more.
 int RunFullDisk(const QString& root);

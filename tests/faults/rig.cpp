@@ -43,9 +43,11 @@ void Places::MakeFolders() const {
 Rig::Rig(const QString& root)
     : places(root),
       settings(places.Config()),
-      platform{sim.clock,  dialogs,      sim.media.Channels(), settings,   files,   sim.text,    pictures,
-               mediaFiles, sim.displays, sim.processes,        sim.random, sim.hid, sim.devices, printing,
-               sim.pages,  sim.serial,   FoldersOf(places)},
+      records(places.Data() + "/Pawnfield/Shows"),
+      platform{
+          sim.clock,    dialogs,       sim.media.Channels(), settings, files,       sim.text, pictures,  mediaFiles,
+          sim.displays, sim.processes, sim.random,           sim.hid,  sim.devices, printing, sim.pages, sim.serial,
+          sim.network,  records,       FoldersOf(places)},
       show(platform) {
   AttachHandlers(show);
 }

@@ -6,6 +6,7 @@
 
 #include "desktop/files/qt_file_system.h"
 #include "desktop/files/qt_settings_store.h"
+#include "desktop/files/record_writer.h"
 #include "desktop/media/media_files.h"
 #include "desktop/painting/picture_cache.h"
 #include "show/show.h"
@@ -62,6 +63,7 @@ struct Rig {
   PictureCache pictures;
   MediaFiles mediaFiles;
   FilePrinting printing;
+  RecordWriter records;
   Platform platform;
   Show show;
 };

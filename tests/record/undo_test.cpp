@@ -115,7 +115,8 @@ TEST(RingInOrder, ListsWhoCameLaterAndWhoWasEarly) {
   Show& show = player.show();
   const auto texts = [&show] {
     std::string all;
-    for (const RingInRow& row : RingInOrder(show)) all += row.Text + (row.TooClose ? " !" : "") + "; ";
+    for (const RingInRow& row : RingInRows(show))
+      all += row.Number + " " + row.Name + " " + row.When + (row.TooClose ? " !" : "") + "; ";
     return all;
   };
   const auto press = [&show](int who, std::int64_t us, std::int64_t error) {
@@ -131,7 +132,7 @@ TEST(RingInOrder, ListsWhoCameLaterAndWhoWasEarly) {
   player.Play("+ 00! >100");
   press(1, show.platform.clock.NowUs() + 3000000, 500);
   player.Play(">5000");
-  EXPECT_EQ(texts(), "PLAYER 1 early; ");
+  EXPECT_EQ(texts(), " PLAYER 1 early; ");
 }
 
 }  // namespace

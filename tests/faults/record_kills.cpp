@@ -1,0 +1,178 @@
+// Kills at random moments of random games: what the next start brings back is a moment of the game that was played, not
+// more than a second before the kill.
+#include <sys/mman.h>
+#include <sys/wait.h>
+#include <unistd.h>
+
+#include <QCoreApplication>
+#include <QTemporaryDir>
+#include <array>
+#include <atomic>
+#include <chrono>
+#include <csignal>
+#include <cstdio>
+#include <cstring>
+#include <new>
+#include <random>
+
+#include "forms/main_form.h"
+#include "modes.h"
+#include "record/capture.h"
+#include "record/record_lines.h"
+#include "record/snapshot_json.h"
+#include "rig.h"
+#include "show/show_record.h"
+
+namespace pawnfield::faults {
+
+namespace {
+
+constexpr std::size_t kMoments = 4000;
+constexpr std::int64_t kMostLostMs = 1000;
+
+std::int64_t NowMs() {
+  const auto now = std::chrono::steady_clock::now().time_since_epoch();
+  return std::chrono::duration_cast<std::chrono::milliseconds>(now).count();
+}
+
+// What the game stood at, and since when; shared with the process that plays.
+struct Moment {
+  std::int64_t AtMs = 0;
+  std::array<char, 4096> Text{};
+};
+struct Played {
+  std::atomic<std::size_t> Count = 0;
+  std::array<Moment, kMoments> Moments;
+};
+
+// What the record holds of the show's standing, but for the cover and what it hides.
+std::string TextOf(Snapshot snapshot) {
+  snapshot.Covered = false;
+  snapshot.Lit = snapshot.Cursor = 0;
+  snapshot.Options = {};
+  return JsonOf(snapshot).Text();
+}
+
+void Publish(Played& played, const Show& show) {
+  const GameHistory& game = show.record->Game;
+  const std::string text = TextOf(game.Events[game.Now].After);
+  const std::size_t count = played.Count;
+  if (count == kMoments || text.size() >= played.Moments[0].Text.size()) return;
+  if (count > 0 && text == played.Moments[count - 1].Text.data()) return;
+  played.Moments[count].AtMs = NowMs();
+  std::memcpy(played.Moments[count].Text.data(), text.c_str(), text.size() + 1);
+  played.Count = count + 1;
+}
+
+// One thing that an operator does in a game, by chance.
+void Act(MainForm& form, std::mt19937& chance) {
+  const auto below = [&chance](int count) { return std::uniform_int_distribution(0, count - 1)(chance); };
+  switch (below(9)) {
+    case 0:
+    case 1:
+      form.btnSelectPlayer[static_cast<std::size_t>(below(3))].Click();
+      break;
+    case 2:
+      (below(3) == 0 ? form.btnQuestionIncorrect : form.btnQuestionCorrect).Click();
+      break;
+    case 3:
+    case 4:
+      form.img.At(below(5), below(5))->Click();
+      break;
+    case 5:
+      form.btnContinue.Click();
+      break;
+    case 6:
+      form.ScoreUp(1 + below(3))[static_cast<std::size_t>(below(6))].Click();
+      break;
+    case 7:
+      (below(2) == 0 ? form.btnUndo : form.btnSkipQuestion).Click();
+      break;
+    default:
+      form.KeyPress(below(2) == 0 ? 25 : 14);
+  }
+}
+
+[[noreturn]] void Play(const QString& root, unsigned seed, Played& played) {
+  std::mt19937 chance(seed);
+  Rig rig(root);
+  rig.places.MakeFolders();
+  std::string set;
+  for (int i = 1; i <= 100; ++i) set += "Question " + std::to_string(i) + "?\r\nAnswer\r\nT#Courier New#28#True#True#16777215#\r\n";
+  rig.files.Write(rig.show.platform.folders.App + "\\Trivia Sets\\Show.txt", set);
+  Start(rig);
+  MainForm& form = rig.show.frmMain;
+  form.optGameType[2 + seed % 3].Click();
+  form.cboList.DropDown();
+  form.cboList.Select(1);
+  form.btnStart.Click();
+  while (true) {
+    rig.sim.clock.Advance(100);
+    QCoreApplication::processEvents();
+    Publish(played, rig.show);
+    usleep(std::uniform_int_distribution<useconds_t>(500, 12000)(chance));
+    Act(form, chance);
+    rig.sim.clock.Advance(60);
+    Publish(played, rig.show);
+  }
+}
+
+// The number of the moment that the record ends with; -1 for none of them.
+int MomentOf(const Played& played, const std::string& text) {
+  for (int i = static_cast<int>(played.Count) - 1; i >= 0; --i) {
+    if (text == played.Moments[static_cast<std::size_t>(i)].Text.data()) return i;
+  }
+  return -1;
+}
+
+std::string BroughtBack(const QString& root) {
+  Rig rig(root);
+  Start(rig);
+  return TextOf(Capture(rig.show));
+}
+
+// What is wrong with what a kill has left, empty when all is well.
+std::string Judge(const QString& root, const Played& played, std::int64_t killedMs) {
+  const RecordWriter records(root + "/data/Pawnfield/Shows");
+  const auto names = records.List();
+  if (names.empty()) return played.Count > 1 && killedMs - played.Moments[1].AtMs > kMostLostMs ? "no record" : "";
+  const auto record = ParseRecord(records.Read(names.back()));
+  if (!record || record->Game.Events.empty()) return "a record without a game";
+  const Snapshot& last = record->Game.Events[record->Game.Now].After;
+  const int moment = MomentOf(played, TextOf(last));
+  if (moment < 0) return "what the record ends with was never played";
+  const auto next = static_cast<std::size_t>(moment) + 1;
+  if (next < played.Count && killedMs - played.Moments[next].AtMs > kMostLostMs) return "more than a second is lost";
+  if (last.Loaded && last.Started && BroughtBack(root) != TextOf(last)) return "another game came back";
+  return {};
+}
+
+}  // namespace
+
+int RunRecordKills(const QString& root, int kills) {
+  void* memory = mmap(nullptr, sizeof(Played), PROT_READ | PROT_WRITE, MAP_SHARED | MAP_ANONYMOUS, -1, 0);
+  if (memory == MAP_FAILED) return 1;
+  std::mt19937 chance(7);
+  int wrong = 0;
+  std::size_t moments = 0;
+  for (int i = 0; i < kills; ++i) {
+    const QTemporaryDir folder(root + "/record-XXXXXX");
+    auto* played = new (memory) Played;
+    const pid_t child = fork();
+    if (child == 0) Play(folder.path(), static_cast<unsigned>(i), *played);
+    usleep(std::uniform_int_distribution<useconds_t>(150000, 900000)(chance));
+    kill(child, SIGKILL);
+    const std::int64_t killedMs = NowMs();
+    waitpid(child, nullptr, 0);
+    moments += played->Count;
+    if (const std::string fault = Judge(folder.path(), *played, killedMs); !fault.empty()) {
+      std::printf("kill %d after %zu moments: %s\n", i, played->Count.load(), fault.c_str());
+      ++wrong;
+    }
+  }
+  std::printf("record: %d kills after %zu moments of games, %d wrong\n", kills, moments, wrong);
+  munmap(memory, sizeof(Played));
+  return wrong;
+}
+
+}  // namespace pawnfield::faults
