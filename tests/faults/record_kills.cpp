@@ -98,7 +98,8 @@ void Act(MainForm& form, std::mt19937& chance) {
   Rig rig(root);
   rig.places.MakeFolders();
   std::string set;
-  for (int i = 1; i <= 100; ++i) set += "Question " + std::to_string(i) + "?\r\nAnswer\r\nT#Courier New#28#True#True#16777215#\r\n";
+  for (int i = 1; i <= 100; ++i)
+    set += "Question " + std::to_string(i) + "?\r\nAnswer\r\nT#Courier New#28#True#True#16777215#\r\n";
   rig.files.Write(rig.show.platform.folders.App + "\\Trivia Sets\\Show.txt", set);
   Start(rig);
   MainForm& form = rig.show.frmMain;
