@@ -445,7 +445,6 @@ TEST(Control, RunsTheConsolesOwnControlsAndSaysWhyNot) {
   const std::string token = room.pages().ControlToken;
   const Asked cases[] = {{"", "correct", "409 Nobody has to be judged now."},
                          {"", "continue", "409 Continue is not offered now."},
-                         {"", "undo", "409 Undo is not offered now."},
                          {"", "claim?square=A1", "409 No square may be taken now."},
                          {"", "ringin?player=4", "400 There is no such player in this game."},
                          {"", "ringin", "400 ringin needs player=..."},

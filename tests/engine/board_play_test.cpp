@@ -73,8 +73,8 @@ const WordStory kBoardPlay[] = {
     {"The winner waits for the flash", "Challenge B, 2 players, Finish Row",
      "claim A1, claim B1, click C1, wait 899 ms, C1 shows X-100b, winner is hidden, tmrWinner is off, wait 1 ms, C1 "
      "shows X-100a, winner is shown, room winner is shown"},
-    {"While a line flashes its points are paid and only standby is offered", "Challenge B, 2 players, Finish Row",
-     "claim A1, claim B1, click C1, scores 200/0/0, offers StandbyMode"},
+    {"While a line flashes its points are paid, and standby and undo offered", "Challenge B, 2 players, Finish Row",
+     "claim A1, claim B1, click C1, scores 200/0/0, offers StandbyMode and Undo"},
     {"The winner stands five seconds before standby", "Challenge B, 2 players, Finish Row",
      "claim A1, claim B1, click C1, wait 900 ms, winner is shown, wait 4999 ms, winner is shown, wait 1 ms, winner is "
      "hidden, standby is shown"},
