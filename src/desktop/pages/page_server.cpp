@@ -130,7 +130,8 @@ class Link : public std::enable_shared_from_this<Link> {
   }
 
   void Send(const std::string& text) {
-    if (closing_) return;
+    // Before the link stands its handshake is being written, and nothing may be beside it.
+    if (closing_ || !opened_) return;
     // Who doesn't take what he is sent isn't waited for.
     if (waiting_.size() >= kMostWaiting) return Cut();
     waiting_.push_back(text);
@@ -138,6 +139,7 @@ class Link : public std::enable_shared_from_this<Link> {
   }
 
   void CloseAfterwards() {
+    if (!opened_) return Cut();
     closing_ = true;
     if (waiting_.empty()) SayGoodbye();
   }
