@@ -127,11 +127,8 @@ const Words kNumbered = {{"name ", "txtPlayerName"},     {"buzzer ", "btnBuzzer"
                          {"score ", "Label11"},          {"routing ", "cboRouting"}, {"header ", "txtOptionalHeader"},
                          {"Sound Bank ", "optSoundBank"}};
 
-const Words kProperties = {{" height", ".Height"},
-                           {" top", ".Top"},
-                           {" font size", ".Font"},
-                           {" colour", ".BackColor"},
-                           {" ink", ".ForeColor"}};
+const Words kProperties = {{" height", ".Height"},    {" top", ".Top"},       {" font size", ".Font"},
+                           {" colour", ".BackColor"}, {" ink", ".ForeColor"}, {" tip", ".Tip"}};
 
 const Words kValues = {{"shown", "up"}, {"hidden", "-"}, {"empty", ""}, {"none", ""}, {"blank", "_"}};
 
