@@ -1,7 +1,7 @@
 #include "engine/answer_clock.h"
 
+#include "data/house_colors.h"
 #include "forms/main_form.h"
-#include "forms/player_colors.h"
 #include "media/sound_channels.h"
 #include "show/phase.h"
 #include "show/show.h"

@@ -15,6 +15,7 @@
 #include "platform/text.h"
 #include "presentation/board_layout.h"
 #include "presentation/both_screens.h"
+#include "presentation/final_result.h"
 #include "sets/set_file.h"
 #include "show/note.h"
 #include "show/phase.h"
@@ -149,6 +150,7 @@ void optGameType_Click(Show& show, int index) {
 void ApplyPlayerLayout(Show& show, int players) {
   MainForm& form = show.frmMain;
   const bool three = players == 3;
+  show.frmFSMain.PlacePlayers(players);
   show.frmPlayerNames.txtPlayerName[2].Visible = three;
   show.frmPlayerNames.PenaltyBox(3).Visible = three;
   form.PlayerBox(3).Visible = three;
@@ -234,6 +236,7 @@ void btnStart_Click(Show& show) {
   SendKeyPressInRingIn(show, true);
   form.tmrWinner.Enabled = false;
   HidePanel(show, Panel::Winner);
+  DropLastResult(show);
   BringMusicBack(show);
   show.presses.ReportedPlayers.clear();
   show.state.LastPlayer = 0;

@@ -30,11 +30,11 @@ namespace {
 
 bool IsBlank(const std::string& field) { return field.empty() || field == " "; }
 
-// The console's label takes the question's colour. False for one that is no number; the fit's white stays.
+// Both screens take the question's colour. False for one that is no number; the fit's white stays.
 bool ColorQuestion(Show& show, const TriviaQuestion& question) {
   if (IsBlank(question.FontColor)) return true;
   const auto number = ParseNumber(question.FontColor);
-  if (number) show.frmMain.lblQuestion[0].ForeColor = static_cast<Color>(std::fmod(*number, 16777216.0));
+  if (number) SetQuestionColor(show.frmMain.lblQuestion, static_cast<Color>(std::fmod(*number, 16777216.0)));
   return number.has_value();
 }
 

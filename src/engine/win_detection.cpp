@@ -13,6 +13,7 @@
 #include "media/sound_channels.h"
 #include "presentation/board_layout.h"
 #include "presentation/both_screens.h"
+#include "presentation/final_result.h"
 #include "presentation/text_fitting.h"
 #include "sets/set_file.h"
 #include "show/show.h"
@@ -65,6 +66,7 @@ void ShowWinner(Show& show) {
   const std::string text = FinalText(show);
   SetWinner(show, text, form.lblWinner);
   if (show.state.DualScreen) SetWinner(show, text, show.frmFSMain.lblWinner);
+  ShowResult(show);
   ShowPanel(show, Panel::Winner);
   if (show.state.Animation) BlinkAnew(show, 1);
   form.tmrWinner.Restart();
@@ -87,6 +89,8 @@ void EndWinner(Show& show) {
 
 void tmrWinner_Timer(Show& show) {
   MainForm& form = show.frmMain;
+  // Before the scores and names go. The operator may still have to say it.
+  KeepLastResult(show);
   ShowPanel(show, Panel::Standby);
   form.btnStandbyMode.Enabled = false;
   form.btnPlayMode.Enabled = true;

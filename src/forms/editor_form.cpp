@@ -36,6 +36,11 @@ EditorForm::EditorForm() : Form("frmEditor") {
   Reset();
 }
 
+void EditorForm::SetFile(const std::string& path) {
+  EditFileName = path;
+  Notify(PropertyId::Text);
+}
+
 void EditorForm::SetCaptions() {
   Form::Caption = "Pawnfield Editor";
   mnuFile.Caption = "&File";

@@ -22,9 +22,12 @@ class EditorForm : public Form {
   // Every control as the form's design has it, and an empty set's state.
   void Reset();
 
+  // The set is that file's from here on; empty for a new one. The window says so.
+  void SetFile(const std::string& path);
+
   // Counted from 1.
   int EditQuestionNumber = 1;
-  bool EditDirty = false;
+  Property<bool> EditDirty{*this, PropertyId::Value, false};
   // Empty for a new set.
   std::string EditFileName;
   std::string EditQuestionKind = "T";

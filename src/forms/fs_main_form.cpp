@@ -1,24 +1,32 @@
 #include "forms/fs_main_form.h"
 
-#include <array>
-
+#include "data/house_colors.h"
 #include "forms/form_layout.h"
-#include "forms/player_colors.h"
 
 namespace pawnfield {
 
 namespace {
 constexpr double kWidth = 15360;
 constexpr double kHeight = 11520;
-// Names and scores stand in one band below the board.
-constexpr double kBandTop = 9960;
-constexpr double kBandHeight = 1460;
-constexpr double kBandGap = 120;
-constexpr double kPlayerWidth = (kWidth - 4 * kBandGap) / 3;
-constexpr double kNameMargin = 150;
-constexpr double kNameShare = 0.56;
-constexpr double kClockWidth = 1500;
-constexpr double kClockHeight = 1036;
+// Names and scores stand in one row of cards below the board.
+constexpr double kCardsTop = 9960;
+constexpr double kCardHeight = 1460;
+constexpr double kCardGap = 120;
+constexpr double kPlayerWidth = (kWidth - 4 * kCardGap) / 3;
+// The band under a question is no higher than 9 hundredths of the screen. The clock stands at its right, and as much
+// room is left at its left, so that the cards stand in the middle.
+constexpr double kBandHeight = 1030;
+constexpr double kBandSide = 1560;
+constexpr double kBandGap = 60;
+constexpr double kBandCardWidth = (kWidth - 2 * kBandSide - 2 * kBandGap) / 3;
+constexpr double kBandNameLeft = 620;
+constexpr double kBandScoreWidth = 1460;
+
+// Where the first card of a row of so many stands.
+double FirstLeft(int players, double width, double gap) { return (kWidth - players * width - (players - 1) * gap) / 2; }
+// The sign of the player's pieces stands before the name.
+constexpr double kNameMargin = 830;
+constexpr double kNameShare = 0.6;
 }  // namespace
 
 FSMainForm::FSMainForm() : Form("frmFSMain") {
@@ -33,18 +41,21 @@ FSMainForm::FSMainForm() : Form("frmFSMain") {
   lblDJCommand.MoveTo(240, 1440, 1680, 900);
   lblDJCommand.Font = {"Segoe UI", 36, true, false};
   for (std::size_t i = 0; i < 3; ++i) {
-    const double left = kBandGap + static_cast<double>(i) * (kPlayerWidth + kBandGap);
-    PictureBox& scoreBox = ScoreBox(static_cast<int>(i) + 1);
-    picPlayer[i].MoveTo(left, kBandTop, kPlayerWidth, kBandHeight);
-    scoreBox.MoveTo(left + kPlayerWidth * kNameShare, kBandTop, kPlayerWidth * (0.98 - kNameShare), kBandHeight);
-    lblPlayer[i].MoveTo(left + kNameMargin, kBandTop, kPlayerWidth * kNameShare - kNameMargin, kBandHeight);
     lblPlayer[i].ForeColor = kPlayerColors[static_cast<int>(i) + 1];
     lblPlayer[i].Font = {"Segoe UI", 23, true, false};
-    Label11[i].MoveTo(left + kPlayerWidth * kNameShare, kBandTop, kPlayerWidth * (0.98 - kNameShare), kBandHeight);
     Label11[i].Font = {"Segoe UI", 40, true, false};
     lblPlayer[i].Caption = "PLAYER " + std::to_string(i + 1);
     Label11[i].Caption = "0";
+    lblBandName[i].ForeColor = lblPlayer[i].ForeColor;
+    lblBandName[i].Font = {"Segoe UI", 22, true, false};
+    lblBandScore[i].Font = {"Segoe UI", 26, true, false};
+    for (Control* part : {static_cast<Control*>(&picBandPlayer[i]), static_cast<Control*>(&lblBandName[i]),
+                          static_cast<Control*>(&lblBandScore[i])}) {
+      part->Container = &picBand;
+    }
   }
+  picBand.BackColor = kDeepGround;
+  PlacePlayers(kPlayers);
   for (std::size_t i = 0; i < 5; ++i) {
     lblQuestion[i].Container = &picQuestion;
     lblQuestion[i].Font = {"Courier New", 28, true, true};
@@ -70,8 +81,9 @@ FSMainForm::FSMainForm() : Form("frmFSMain") {
   lblWhatIsAnswer.Height = 1500;
   lblRightWrong.Font = {"Segoe UI", 120, true, false};
   lblRightWrong.Height = 3600;
-  lblAnswerClock.MoveTo(kWidth - kClockWidth, kHeight - kClockHeight, kClockWidth, kClockHeight);
-  lblAnswerClock.Font = {"Segoe UI", 48, true, false};
+  lblAnswerClock.Container = &picBand;
+  lblAnswerClock.MoveTo(kWidth - kBandSide, 0, kBandSide, kBandHeight);
+  lblAnswerClock.Font = {"Segoe UI", 36, true, false};
   lblAnswerClock.Visible = false;
   lblWinner.Font = {"Segoe UI", 72, true, false};
   // The sound comes once, from the console's player.
@@ -80,7 +92,7 @@ FSMainForm::FSMainForm() : Form("frmFSMain") {
   MediaPlayer1.Volume = 0;
   tmrAnimate[0].Interval = 200;
   for (PictureBox* panel : {&picQuestion, &picQuestionPicture, &picHideQuestion, &picCorrect, &picWinner, &picBonus,
-                            &picMOD, &picMODVideo, &picSound}) {
+                            &picMOD, &picMODVideo, &picSound, &picBand}) {
     panel->Visible = false;
   }
   OnResize = [this] { Form_Resize(); };
@@ -91,23 +103,49 @@ PictureBox& FSMainForm::ScoreBox(int player) {
   return *PerPlayer<PictureBox*>(&picPlayer1Score, &picPlayer2Score, &picPlayer3Score)[player];
 }
 
+void FSMainForm::PlacePlayers(int players) {
+  for (std::size_t i = 0; i < 3; ++i) {
+    const auto place = static_cast<double>(i);
+    const double left = FirstLeft(players, kPlayerWidth, kCardGap) + place * (kPlayerWidth + kCardGap);
+    const double scoreLeft = left + kPlayerWidth * kNameShare;
+    picPlayer[i].MoveTo(left, kCardsTop, kPlayerWidth, kCardHeight);
+    lblPlayer[i].MoveTo(left + kNameMargin, kCardsTop, kPlayerWidth * kNameShare - kNameMargin, kCardHeight);
+    for (Control* part :
+         {static_cast<Control*>(&ScoreBox(static_cast<int>(i) + 1)), static_cast<Control*>(&Label11[i])}) {
+      part->MoveTo(scoreLeft, kCardsTop, kPlayerWidth * (0.98 - kNameShare), kCardHeight);
+    }
+    const double bandLeft = FirstLeft(players, kBandCardWidth, kBandGap) + place * (kBandCardWidth + kBandGap);
+    picBandPlayer[i].MoveTo(bandLeft, 0, kBandCardWidth, kBandHeight);
+    lblBandName[i].MoveTo(bandLeft + kBandNameLeft, 0, kBandCardWidth - kBandNameLeft - kBandScoreWidth, kBandHeight);
+    lblBandScore[i].MoveTo(bandLeft + kBandCardWidth - kBandScoreWidth, 0, kBandScoreWidth - 60, kBandHeight);
+  }
+}
+
+void FSMainForm::SetBand(bool up) {
+  picBand.Visible = up;
+  const double height = Height - (up ? kBandHeight : 0);
+  if (picMOD.Height == height) return;
+  picMOD.Height = height;
+  picMODVideo.Height = height;
+  MediaPlayer1.Height = height;
+}
+
 void FSMainForm::Form_Resize() {
+  const double overBand = Height - kBandHeight;
   picStandby.MoveTo(0, 0, Width, Height);
-  picStandby.BringToFront();
-  picQuestionPicture.MoveTo(0, 0, Width, Height);
-  picQuestionPicture.BringToFront();
-  for (PictureBox* panel : {&picQuestion, &picHideQuestion, &picCorrect, &picWinner, &picBonus, &picSound}) {
-    MoveLike(*panel, picStandby, Extent::Copy);
+  for (PictureBox* panel : {&picQuestionPicture, &picQuestion, &picHideQuestion, &picCorrect, &picSound}) {
+    panel->MoveTo(0, 0, Width, overBand);
+  }
+  for (PictureBox* panel : {&picWinner, &picBonus, &picMOD, &picMODVideo}) MoveLike(*panel, picStandby, Extent::Copy);
+  for (PictureBox* panel : {&picQuestionPicture, &picQuestion, &picHideQuestion, &picCorrect, &picWinner, &picBonus,
+                            &picSound, &picStandby, &picMOD, &picBand}) {
     panel->BringToFront();
   }
-  lblAnswerClock.BringToFront();
-  picStandby.BringToFront();
-  MoveLike(picMOD, picStandby, Extent::Copy);
-  picMOD.BringToFront();
-  picMODVideo.MoveTo(0, 0, picMOD.Width, picMOD.Height);
+  picBand.MoveTo(0, overBand, Width, kBandHeight);
+  SetBand(picBand.Visible);
   MediaPlayer1.MoveTo(0, 0, picMODVideo.Width, picMODVideo.Height);
   for (Image* fill : {&imgQuestionBackground, &imgCorrect, &imgBonus, &imgSound, &imgStandby}) {
-    fill->MoveTo(0, 0, Width, Height);
+    fill->MoveTo(0, 0, Width, fill->Container->Height);
   }
   lblRightWrong.MoveTo(0, (picCorrect.Height - lblRightWrong.Height) / 2, Width, lblRightWrong.Height);
   const double block = lblPlayerName.Height + lblWhatIsAnswer.Height;

@@ -2,6 +2,7 @@
 #pragma once
 
 #include "data/players.h"
+#include "forms/winner_panel.h"
 #include "platform/controls.h"
 
 namespace pawnfield {
@@ -13,6 +14,10 @@ class FSMainForm : public Form {
   // Gives the full-size panels the form's size and stacks them: question, cover, verdict, winner, bonus, sound,
   // standby, and media on demand in front of all.
   void Form_Resize();
+  // Centres the cards of two players, or fills the row with three.
+  void PlacePlayers(int players);
+  // The band at the foot comes up over what a question shows, which then ends above it, or goes.
+  void SetBand(bool up);
   // By player 1..3; another number is error 9.
   PictureBox& ScoreBox(int player);
 
@@ -50,6 +55,7 @@ class FSMainForm : public Form {
   Label lblRightWrong{*this, "lblRightWrong"};
   PictureBox picWinner{*this, "picWinner"};
   Label lblWinner{*this, "lblWinner"};
+  WinnerPanel Winner{*this};
   PictureBox picBonus{*this, "picBonus"};
   Image imgBonus{*this, "imgBonus"};
   PictureBox picMOD{*this, "picMOD"};
@@ -59,6 +65,12 @@ class FSMainForm : public Form {
   Image imgSound{*this, "imgSound"};
   PictureBox picStandby{*this, "picStandby"};
   Image imgStandby{*this, "imgStandby"};
+
+  // Who plays, with which score, and whose turn it is, as long as a question hides the board.
+  PictureBox picBand{*this, "picBand"};
+  ControlArray<PictureBox, kPlayers> picBandPlayer{*this, "picBandPlayer"};
+  ControlArray<Label, kPlayers> lblBandName{*this, "lblBandName"};
+  ControlArray<Label, kPlayers> lblBandScore{*this, "lblBandScore"};
 
   Timer tmrFSFlipPlayerPiece{*this, "tmrFSFlipPlayerPiece", 10};
   Timer tmrRePaint{*this, "tmrRePaint", 100, true};

@@ -2,6 +2,8 @@
 
 #include <array>
 
+#include "data/house_colors.h"
+
 namespace pawnfield {
 
 namespace {
@@ -150,6 +152,15 @@ void MainForm::PlaceControls() {
     panel->MoveTo(0, 0, kPanelWidth, kPanelHeight);
     panel->BringToFront();
   }
+  constexpr double kResultHeight = 900;
+  picLastResult.MoveTo(0, kPanelHeight - kResultHeight, kPanelWidth, kResultHeight);
+  picLastResult.BackColor = kDeepGround;
+  lblLastResult.MoveTo(150, 60, kPanelWidth - 300, kResultHeight - 120);
+  lblLastResult.Font = {"Segoe UI", 15, true, false};
+  lblLastResult.ForeColor = kGold;
+  Contain(picLastResult, {&lblLastResult});
+  picLastResult.BringToFront();
+  picMOD.BringToFront();
   for (Image* image : {&imgQuestionBackground, &imgSound, &imgBonus, &imgCorrect, &imgStandby}) {
     image->MoveTo(0, 0, kPanelWidth, kPanelHeight);
   }
@@ -198,7 +209,8 @@ void MainForm::SetInitialStates() {
   tmrAnimate[0].Interval = 200;
   tmrAnimate[1].Interval = 200;
   for (Timer* timer : {&tmrArrowsTimer, &tmrGridEnable, &tmrBGMusic}) timer->Relaxed = true;
-  Hide(picQuestion, picQuestionPicture, picSound, picBonus, picMOD, picMODVideo, picMODPicture, picCorrect, picWinner);
+  Hide(picQuestion, picQuestionPicture, picSound, picBonus, picMOD, picMODVideo, picMODPicture, picCorrect, picWinner,
+       picLastResult);
   Hide(imgBkgnd, imgXa, imgXb, imgOa, imgOb, imgTa, imgTb, imgStandardStandby, imgStandardBonus, imgStandardHeader);
   for (std::size_t i = 0; i < 4; ++i) imgCursor[i].Visible = false;
   for (std::size_t i = 1; i < 5; ++i) lblQuestion[i].Visible = false;

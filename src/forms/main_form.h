@@ -3,6 +3,7 @@
 
 #include "data/game_types.h"
 #include "data/players.h"
+#include "forms/winner_panel.h"
 #include "platform/controls.h"
 
 namespace pawnfield {
@@ -162,8 +163,12 @@ class MainForm : public Form {
   Label lblRightWrong{*this, "lblRightWrong"};
   PictureBox picWinner{*this, "picWinner"};
   Label lblWinner{*this, "lblWinner"};
+  WinnerPanel Winner{*this};
   PictureBox picStandby{*this, "picStandby"};
   Image imgStandby{*this, "imgStandby"};
+  // How the last game ended, over standby until the next start.
+  PictureBox picLastResult{*this, "picLastResult"};
+  Label lblLastResult{*this, "lblLastResult"};
   Frame fraAnswer{*this, "fraAnswer"};
   Label lblAnswer{*this, "lblAnswer"};
   Button btnCorrect{*this, "btnCorrect"};

@@ -10,6 +10,7 @@ SoundEffectsForm::SoundEffectsForm() : Form("frmSoundEffects") {
   btnImport.Caption = "Import Database";
   btnExport.Caption = "Export Database";
   Grid1.Placeholder = "Double click here to insert custom effect";
+  btnCancel.Caption = "Cancel";
   btnSaveExit.Caption = "Save and Exit";
 }
 

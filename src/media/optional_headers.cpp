@@ -20,9 +20,9 @@ constexpr long long kOldestMinutes = 360;
 constexpr int kUnsetSize = 20;
 // The largest size that a text box takes.
 constexpr int kLargestSize = 2160;
-constexpr const char* kUnsetFont = "MS Sans Serif";
+constexpr const char* kUnsetFont = "Segoe UI";
 constexpr const char* kTextFilter = "Text(*.txt)|*.txt";
-const OptionalHeader kDefaultLook{"", "Comic Sans MS", 18, true, false, "65535", "5242880"};
+const OptionalHeader kDefaultLook{"", "Segoe UI", 18, true, false, "65535", "5242880"};
 
 std::string HeaderPath(const Show& show) { return show.platform.folders.DataRoot + "\\Headers.txt"; }
 

@@ -56,6 +56,7 @@ void FillGrid(Show& show) {
 
 void SoundEffects_Load(Show& show) {
   show.frmSoundEffects.Loaded = true;
+  show.SoundBanksBefore = show.soundBanks;
   LabelGrid(TheGrid(show));
   FillGrid(show);
   ForEachCell([&](int row, int column) {
@@ -174,6 +175,14 @@ void SoundEffects_Unload(Show& show) {
   StopEvent(show);
 }
 
+// Nothing of what was changed since the table was opened stays.
+void btnCancel_Click(Show& show) {
+  show.soundBanks = show.SoundBanksBefore;
+  show.frmSoundEffects.Loaded = false;
+  StopEvent(show);
+  show.frmSoundEffects.Unload();
+}
+
 void AttachSoundEffectsHandlers(Show& show) {
   SoundEffectsForm& form = show.frmSoundEffects;
   show.frmMain.btnSounds.OnClick = [&show] { btnSounds_Click(show); };
@@ -186,6 +195,9 @@ void AttachSoundEffectsHandlers(Show& show) {
   };
   form.btnExport.OnClick = [&show] { btnExport_Click(show); };
   form.btnImport.OnClick = [&show] { btnImport_Click(show); };
+  form.FileOf = [&show](int row, int column) { return EntryOf(show, row, column); };
+  form.OnPlayCell = [&show](int row, int column) { PlayEvent(show, EntryOf(show, row, column)); };
+  form.btnCancel.OnClick = [&show] { btnCancel_Click(show); };
   form.btnSaveExit.OnClick = [&show] { show.frmSoundEffects.Unload(); };
   form.mnuSave.OnClick = form.btnSaveExit.OnClick;
   form.OnUnload = [&show] { SoundEffects_Unload(show); };

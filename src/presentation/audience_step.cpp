@@ -6,6 +6,7 @@
 #include "media/optional_headers.h"
 #include "presentation/board_layout.h"
 #include "presentation/both_screens.h"
+#include "presentation/final_result.h"
 #include "presentation/picture_question.h"
 #include "presentation/screen_pairs.h"
 #include "presentation/text_fitting.h"
@@ -24,7 +25,9 @@ void FitQuestion(Show& show) {
 
 void FitWinner(Show& show) {
   const std::string text = show.frmMain.lblWinner.Caption;
-  if (!text.empty()) SetWinner(show, text, show.frmFSMain.lblWinner);
+  if (text.empty()) return;
+  SetWinner(show, text, show.frmFSMain.lblWinner);
+  if (PanelVisible(show, Panel::Winner)) WriteResult(show, show.frmFSMain.Winner, show.frmFSMain.picWinner);
 }
 
 }  // namespace

@@ -1,5 +1,7 @@
 #include "presentation/screen_pairs.h"
 
+#include <algorithm>
+#include <array>
 #include <memory>
 #include <utility>
 
@@ -7,6 +9,7 @@
 #include "forms/board_labels.h"
 #include "forms/fs_main_form.h"
 #include "forms/main_form.h"
+#include "media/media_on_demand.h"
 #include "show/show.h"
 
 namespace pawnfield {
@@ -74,13 +77,22 @@ void AddPlayer(PairTable& table, MainForm& console, FSMainForm& audience, int pl
       .Pair(box.Visible, audience.Label11[index].Visible)
       .Pair(box.Picture, audience.picPlayer[index].Picture)
       .Pair(console.lblPlayer1[index].Caption, audience.lblPlayer[index].Caption)
-      .Pair(console.Score(player).Caption, audience.Label11[index].Caption);
+      .Pair(console.Score(player).Caption, audience.Label11[index].Caption)
+      .Pair(box.Visible, audience.picBandPlayer[index].Visible)
+      .Pair(box.Visible, audience.lblBandName[index].Visible)
+      .Pair(box.Visible, audience.lblBandScore[index].Visible)
+      .Pair(box.Picture, audience.picBandPlayer[index].Picture)
+      .Pair(console.lblPlayer1[index].Caption, audience.lblBandName[index].Caption)
+      .Pair(console.Score(player).Caption, audience.lblBandScore[index].Caption);
 }
 
 void AddPanels(PairTable& table, MainForm& console, FSMainForm& audience) {
   table.Pair(console.picQuestion.Visible, audience.picQuestion.Visible);
   table.Picture(console.imgQuestionBackground, audience.imgQuestionBackground);
-  for (std::size_t i = 0; i < 5; ++i) table.Text(console.lblQuestion[i], audience.lblQuestion[i]);
+  for (std::size_t i = 0; i < 5; ++i) {
+    table.Text(console.lblQuestion[i], audience.lblQuestion[i]);
+    table.Pair(console.lblQuestion[i].ForeColor, audience.lblQuestion[i].ForeColor);
+  }
   table.Text(console.lblAnswerClock, audience.lblAnswerClock);
   table.Pair(console.lblAnswerClock.ForeColor, audience.lblAnswerClock.ForeColor);
   table.Pair(console.picQuestionPicture.Visible, audience.picQuestionPicture.Visible);
@@ -123,6 +135,33 @@ class PairFollower : public Observer {
   ScreenPair pair_;
 };
 
+// The band is up while a panel of a question is seen, and standby covers it like all else.
+class BandFollower : public Observer {
+ public:
+  explicit BandFollower(Show& show) : show_(show) {
+    for (PictureBox* panel : QuestionPanels()) panel->AddObserver(*this);
+    show.frmFSMain.picStandby.AddObserver(*this);
+  }
+  void Changed(Control&, PropertyId id) override {
+    if (id != PropertyId::Visible) return;
+    FSMainForm& form = show_.frmFSMain;
+    const auto panels = QuestionPanels();
+    const bool question =
+        std::any_of(panels.begin(), panels.end(), [](PictureBox* panel) { return panel->Visible.Get(); });
+    const bool up = question && !form.picStandby.Visible;
+    if (form.picBand.Visible == up) return;
+    form.SetBand(up);
+    if (show_.state.DualScreen) FitMedia(show_);
+  }
+
+ private:
+  std::array<PictureBox*, 5> QuestionPanels() const {
+    FSMainForm& form = show_.frmFSMain;
+    return {&form.picQuestion, &form.picQuestionPicture, &form.picSound, &form.picHideQuestion, &form.picCorrect};
+  }
+  Show& show_;
+};
+
 }  // namespace
 
 std::vector<ScreenPair> ScreenPairs(Show& show) {
@@ -140,6 +179,7 @@ void FollowConsole(Show& show) {
   for (ScreenPair& pair : ScreenPairs(show)) {
     show.Observers.push_back(std::make_unique<PairFollower>(show, std::move(pair)));
   }
+  show.Observers.push_back(std::make_unique<BandFollower>(show));
 }
 
 void CopyPairs(Show& show) {

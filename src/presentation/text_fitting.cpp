@@ -1,5 +1,6 @@
 #include "presentation/text_fitting.h"
 
+#include "data/color_sight.h"
 #include "forms/fs_main_form.h"
 #include "forms/main_form.h"
 #include "platform/text.h"
@@ -58,6 +59,12 @@ int ThicknessForSize(int thickness, double fontSize) {
   if (fontSize < 40) return static_cast<int>(RoundHalfEven(thickness + fontSize));
   if (fontSize < 50) return static_cast<int>(RoundHalfEven(thickness + fontSize / 0.8));
   return static_cast<int>(RoundHalfEven(thickness + fontSize / 2));
+}
+
+// Black, or white where black wouldn't set the letters off.
+Color EdgeFor(Color letters) {
+  constexpr double kReadable = 4.5;
+  return ContrastRatio(letters, kBlack) < kReadable ? kWhite : kBlack;
 }
 
 void PlaceCopies(ControlArray<Label, 5>& labels, int distance, Color edge) {
@@ -123,8 +130,13 @@ void OutlineLabel(ControlArray<Label, 5>& labels, OutlineMode mode, int thicknes
   if (container != nullptr) text.Left = (container->Width - text.Width) / 2;
   text.Visible = true;
   if (mode == OutlineMode::Plain) return;
-  PlaceCopies(labels, ThicknessForSize(thickness, text.Font->Size), text.ForeColor == kBlack ? kWhite : kBlack);
+  PlaceCopies(labels, ThicknessForSize(thickness, text.Font->Size), EdgeFor(text.ForeColor));
   text.BringToFront();
+}
+
+void SetQuestionColor(ControlArray<Label, 5>& labels, Color color) {
+  labels[0].ForeColor = color;
+  for (std::size_t i = 1; i < labels.Size(); ++i) labels[i].ForeColor = EdgeFor(color);
 }
 
 }  // namespace pawnfield

@@ -30,6 +30,8 @@ void SetWinner(Show& show, const std::string& text, Label& label);
 void SetAnswer(Show& show, const std::string& text);
 
 enum class OutlineMode { Outline = 0, Plain = 1, Clear = 2 };
+// Writes a question in that colour, with an edge that sets it off from any ground.
+void SetQuestionColor(ControlArray<Label, 5>& labels, Color color);
 // Outlines labels(0) with four copies, thickness in twips before the size is added.
 void OutlineLabel(ControlArray<Label, 5>& labels, OutlineMode mode, int thickness, const std::string& caption,
                   const Control* container);

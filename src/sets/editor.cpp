@@ -118,7 +118,7 @@ void PrepareForm(Show& show) {
   form.btnSound.Enabled = true;
   form.txtDisplayQuestion.Visible = true;
   form.EditDirty = false;
-  form.EditFileName.clear();
+  form.SetFile("");
   form.EditQuestionNumber = 1;
   form.EditQuestionKind = "T";
   ClearEditorDisplay(show);
@@ -126,7 +126,7 @@ void PrepareForm(Show& show) {
   show.NumEditQuestions = 0;
   if (show.EditCurrentSet) {
     CopyGameSetToEdit(show);
-    form.EditFileName = show.state.LoadedSetPath;
+    form.SetFile(show.state.LoadedSetPath);
   }
   SetNumEditQuestions(show, show.NumEditQuestions);
   DisplayEditQuestion(show);

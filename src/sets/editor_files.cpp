@@ -47,7 +47,7 @@ bool SaveFile(Show& show, std::string path) {
 
 void SaveUnder(Show& show, const std::string& path, const std::string& question) {
   if (path.empty() || !MayOverwrite(show, path, question)) return;
-  if (SaveFile(show, path)) show.frmEditor.EditFileName = path;
+  if (SaveFile(show, path)) show.frmEditor.SetFile(path);
 }
 
 bool SaveChanges(Show& show) {
@@ -129,7 +129,7 @@ void mnuFileNew_Click(Show& show) {
   SetNumEditQuestions(show, 0);
   form.EditQuestionKind = "T";
   // The new set is nobody's file: a save asks for a name.
-  form.EditFileName.clear();
+  form.SetFile("");
   form.EditDirty = false;
   ShowFirstQuestion(show);
   FocusWording(show);
@@ -143,7 +143,7 @@ void mnuFileOpen_Click(Show& show) {
   const std::string path = form.cd1EditorDialog.FileName;
   if (path.empty()) return;
   if (!OpenFile(show, path)) return;
-  form.EditFileName = path;
+  form.SetFile(path);
   form.EditDirty = false;
   show.state.SetFolder = ExtractFolder(path);
   form.btnPicture.Enabled = true;
@@ -152,13 +152,13 @@ void mnuFileOpen_Click(Show& show) {
 }
 
 void mnuFileSave_Click(Show& show) {
-  std::string& name = show.frmEditor.EditFileName;
-  if (Trim(name).empty()) {
+  if (Trim(show.frmEditor.EditFileName).empty()) {
     SaveUnder(show, AskSavePath(show, FileDialogMode::Save, "Save Trivia Set", ""),
               "Filename already exists. Overwrite existing file?");
     return;
   }
-  name = NormalSetPath(name);
+  const std::string name = NormalSetPath(show.frmEditor.EditFileName);
+  show.frmEditor.SetFile(name);
   if (SaveFile(show, name) && IsSamePath(name, show.state.LoadedSetPath)) CopyEditSetToGame(show);
 }
 
@@ -168,7 +168,7 @@ void mnuSaveAs_Click(Show& show) {
 
 bool Editor_QueryUnload(Show& show) {
   if (!SavedFirst(show)) return false;
-  show.frmEditor.EditFileName.clear();
+  show.frmEditor.SetFile("");
   show.frmEditor.EditDirty = false;
   ResetEditSet(show);
   ClearEditorDisplay(show);
@@ -205,7 +205,7 @@ void btnImport_Click(Show& show) {
   const auto bytes = ReadSetBytes(show, path, form.Name(), "OpenFile");
   if (!bytes || !TakeImport(show, *bytes)) return;
   // It has no file in the program's own form yet.
-  form.EditFileName.clear();
+  form.SetFile("");
   form.EditDirty = true;
   SetNumEditQuestions(show, kImportedQuestions);
   ShowFirstQuestion(show);

@@ -109,6 +109,8 @@ struct Show {
   // The file dialog of the console; FileName is the set that was loaded by it.
   CommonDialog consoleDialog;
   SoundBanks soundBanks;
+  // As they were when the table was opened.
+  SoundBanks SoundBanksBefore;
   Flip flip, fsFlip;
   SquareEntry entry;
   bool FlashToggle = false;

@@ -4,23 +4,31 @@
 #include <QAbstractButton>
 #include <QLineEdit>
 #include <QMimeData>
+#include <QTabWidget>
 #include <QTableWidget>
 #include <QTest>
 #include <QTimer>
 #include <QToolTip>
 #include <QWindow>
 
+#include "data/color_sight.h"
+#include "data/house_colors.h"
+#include "desktop/painting/player_card.h"
 #include "desktop/windows/audience_window.h"
 #include "desktop/windows/bindings.h"
 #include "desktop/windows/fitting_scale.h"
 #include "desktop/windows/model_widgets.h"
+#include "forms/editor_form.h"
 #include "forms/fs_main_form.h"
 #include "forms/main_form.h"
+#include "forms/options_form.h"
 #include "forms/small_forms.h"
 #include "forms/sound_effects_form.h"
 #include "places.h"
 #include "platform/escapes.h"
 #include "presentation/board_layout.h"
+#include "presentation/both_screens.h"
+#include "presentation/final_result.h"
 
 namespace pawnfield {
 namespace {
@@ -198,11 +206,87 @@ TEST_F(WindowsTest, NamesAndScoresAreLegibleFromTheBackRow) {
   FSMainForm& audience = show_.frmFSMain;
   for (const char* text :
        {"PLAYER 1", "THE MAGNIFICENT SEVENTH GRADERS", "CHRISTOPHER-ALEXANDER", "-999999", "-1000050"}) {
-    for (Label* label : {&audience.lblPlayer[0], &audience.Label11[2]}) {
+    for (Label* label :
+         {&audience.lblPlayer[0], &audience.Label11[2], &audience.lblBandName[1], &audience.lblBandScore[1],
+          &audience.Winner.lblFinalName[2], &audience.Winner.lblFinalScore[0]}) {
       label->Caption = text;
-      EXPECT_GE(program_.Audience().Screen().LetterHeight(*label), audience.Height / 40) << text;
+      EXPECT_GE(program_.Audience().Screen().LetterHeight(*label), audience.Height / 40) << label->Name() << text;
     }
   }
+  audience.txtOptionalHeading.Text = "Tonight's prizes are given by the Corner Bakery and by Smith & Daughters, Ltd.";
+  EXPECT_GE(program_.Audience().Screen().LetterHeight(audience.txtOptionalHeading), audience.Height / 40);
+}
+
+TEST_F(WindowsTest, TheResultIsLegibleFromTheBackRow) {
+  WinnerPanel& result = show_.frmFSMain.Winner;
+  show_.state.DualScreen = true;
+  for (const char* name : {"BEN", "THE MAGNIFICENT SEVENTH GRADERS"}) {
+    for (int player = 1; player <= kPlayers; ++player) SetPlayerName(show_, player, name);
+    ShowResult(show_);
+    for (const Label* label : {&result.lblWinnerHead, &result.lblWinnerName[0], &result.lblWinnerName[2],
+                               &result.lblWinnerWord, &result.lblFinalName[1], &result.lblFinalScore[1]}) {
+      EXPECT_GE(program_.Audience().Screen().LetterHeight(*label), show_.frmFSMain.Height / 40)
+          << label->Name() << name;
+    }
+  }
+}
+
+TEST(RoomsColors, EveryTextStandsOutFromItsGround) {
+  constexpr double kReadable = 4.5;
+  for (int player = 1; player <= kPlayers; ++player) {
+    for (const bool lit : {true, false}) {
+      for (const Color text : {kPlayerColors[player], kWhite}) {
+        EXPECT_GE(ContrastRatio(OnCard(text, lit), CardGround(player, lit)), kReadable) << player << lit;
+      }
+    }
+    EXPECT_GE(ContrastRatio(kPlayerColors[player], kResultLight), kReadable) << player;
+  }
+  for (const Color text : {kQuietText, kGold}) EXPECT_GE(ContrastRatio(text, kResultLight), kReadable);
+  // The letters and digits of the board's edge, and what is typed.
+  for (const Color text : {FromRgb(0x9FB4EC), kWhite, kGold}) EXPECT_GE(ContrastRatio(text, kBoardLight), kReadable);
+  for (const Color words : {kRightWords, kWrongWords}) EXPECT_GE(ContrastRatio(words, kBlack), kReadable);
+}
+
+TEST_F(WindowsTest, TheTurnIsLightInThePlayersOwnColourAndTheOthersAreDim) {
+  LightScoreBox(show_, 3);
+  show_.frmFSMain.picStandby.Visible = form_.picStandby.Visible = false;
+  Canvas& room = program_.Audience().Screen();
+  room.resize(1920, 1080);
+  const QImage picture = room.grab().toImage();
+  const auto edgeOf = [&](std::size_t i) {
+    // The middle of the card's upper edge.
+    const QRectF card = room.PixelRect(show_.frmFSMain.picPlayer[i]);
+    return picture.pixelColor(qRound(card.center().x()), qRound(card.top() + card.height() * 0.06));
+  };
+  EXPECT_GT(edgeOf(2).green(), 180);
+  EXPECT_LT(edgeOf(2).red(), 120);
+  for (const std::size_t other : {0U, 1U}) EXPECT_LT(edgeOf(other).lightness(), 100) << other;
+  auto& box = Widget<QLineEdit>("txtDJCommand");
+  EXPECT_EQ(box.placeholderText(), "PLAYER 3");
+  LightScoreBox(show_, 0);
+  EXPECT_EQ(box.placeholderText(), "") << "nobody has the turn";
+}
+
+TEST_F(WindowsTest, TheOptionsTabsTurnByKeyFromAnywhere) {
+  FormWindow& window = Window(show_.frmOptions);
+  window.show();
+  auto* tabs = window.findChild<QTabWidget*>("SSTab1");
+  const int first = tabs->currentIndex();
+  window.findChild<QWidget*>("btnOK")->setFocus();
+  QTest::keyClick(&window, Qt::Key_Tab, Qt::ControlModifier);
+  EXPECT_NE(tabs->currentIndex(), first);
+  QTest::keyClick(&window, Qt::Key_Backtab, Qt::ControlModifier | Qt::ShiftModifier);
+  EXPECT_EQ(tabs->currentIndex(), first);
+}
+
+TEST_F(WindowsTest, TheEditorsTitleSaysTheFileAndWhetherItIsUnsaved) {
+  FormWindow& window = Window(show_.frmEditor);
+  EXPECT_TRUE(window.windowTitle().contains("New set"));
+  show_.frmEditor.SetFile("C:\\Sets\\Friday.txt");
+  EXPECT_TRUE(window.windowTitle().contains("Friday.txt"));
+  EXPECT_FALSE(window.isWindowModified());
+  show_.frmEditor.EditDirty = true;
+  EXPECT_TRUE(window.isWindowModified());
 }
 
 TEST_F(WindowsTest, CloseBoxAsksTheForm) {

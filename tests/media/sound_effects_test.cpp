@@ -48,6 +48,27 @@ TEST_F(SoundEffects, TheGridShowsTheTable) {
   EXPECT_EQ(Entry(2, 8), "C:\\reserved.wav");
 }
 
+TEST_F(SoundEffects, CancelTakesBackAllThatWasChanged) {
+  const SoundBanks before = show().soundBanks;
+  sim.dialogs.ExpectForm("frmSoundEffects", [&] {
+    grid.DropFile(8, 2, kHorn);
+    grid.SelectCell(1, 1);
+    grid.PressKey(46, 0);
+    dialog.btnCancel.Click();
+  });
+  form().btnSounds.Click();
+  EXPECT_EQ(show().soundBanks, before);
+}
+
+TEST_F(SoundEffects, ACellsTrianglePlaysItWithoutThePreview) {
+  Entry(2, 9) = kHorn;
+  InDialog([&] {
+    EXPECT_EQ(dialog.FileOf(8, 2), kHorn);
+    dialog.OnPlayCell(8, 2);
+  });
+  Play("event=horn.wav");
+}
+
 TEST_F(SoundEffects, FilesAreChosenAndDroppedIntoTheirRows) {
   const std::string before = Entry(2, 11);
   InDialog([&] {

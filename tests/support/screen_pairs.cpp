@@ -14,11 +14,14 @@ namespace {
 
 // Controls of the audience's that have another name on the console; the others have the same.
 const std::map<std::string, std::string> kOtherNames = {
-    {"lblPlayer(0)", "lblPlayer1(0)"}, {"lblPlayer(1)", "lblPlayer1(1)"}, {"lblPlayer(2)", "lblPlayer1(2)"},
-    {"Label11(0)", "lblP1Score"},      {"Label11(1)", "lblP2Score"},      {"Label11(2)", "lblP3Score"},
-    {"picPlayer(0)", "picPlayer1"},    {"picPlayer(1)", "picPlayer2"},    {"picPlayer(2)", "picPlayer3"},
-    {"picPlayer1Score", "picP1Score"}, {"picPlayer2Score", "picP2Score"}, {"picPlayer3Score", "picP3Score"},
-    {"lblDJCommand", "txtDJCommand"},
+    {"lblPlayer(0)", "lblPlayer1(0)"},   {"lblPlayer(1)", "lblPlayer1(1)"},   {"lblPlayer(2)", "lblPlayer1(2)"},
+    {"Label11(0)", "lblP1Score"},        {"Label11(1)", "lblP2Score"},        {"Label11(2)", "lblP3Score"},
+    {"picPlayer(0)", "picPlayer1"},      {"picPlayer(1)", "picPlayer2"},      {"picPlayer(2)", "picPlayer3"},
+    {"picPlayer1Score", "picP1Score"},   {"picPlayer2Score", "picP2Score"},   {"picPlayer3Score", "picP3Score"},
+    {"lblDJCommand", "txtDJCommand"},    {"lblBandName(0)", "lblPlayer1(0)"}, {"lblBandName(1)", "lblPlayer1(1)"},
+    {"lblBandName(2)", "lblPlayer1(2)"}, {"lblBandScore(0)", "lblP1Score"},   {"lblBandScore(1)", "lblP2Score"},
+    {"lblBandScore(2)", "lblP3Score"},   {"picBandPlayer(0)", "picPlayer1"},  {"picBandPlayer(1)", "picPlayer2"},
+    {"picBandPlayer(2)", "picPlayer3"},
 };
 
 // What of the audience's form has nothing on the console that it must be like, and why.
@@ -32,6 +35,7 @@ const std::map<std::string, const char*> kUnpaired = {
     {"picPlayer1Score", "a ground without a picture, which the score stands on"},
     {"picPlayer2Score", "a ground without a picture, which the score stands on"},
     {"picPlayer3Score", "a ground without a picture, which the score stands on"},
+    {"picBand", "up over a question, which hides nothing of the console's players"},
     {"picImageResize(1).Visible", "on the console it stands in a panel of its own, picMODPicture"},
 };
 
@@ -68,7 +72,9 @@ std::vector<std::string> UnlikePairs(Show& show) {
       unlike.push_back(name + " without a pair");
       continue;
     }
-    if (console->IsShown() != control->IsShown() && !IsUnpaired(name + ".Visible")) unlike.push_back(name + ".Visible");
+    const bool inBand = control->Container != nullptr && control->Container->Name() == "picBand";
+    const bool shown = inBand ? control->Visible.Get() : control->IsShown();
+    if (console->IsShown() != shown && !IsUnpaired(name + ".Visible")) unlike.push_back(name + ".Visible");
     if (turning && IsSquare(name)) continue;
     // Of a missing picture the room learns nothing.
     if (IsPictureMissing(show) && name.starts_with("lblQuestion(")) continue;

@@ -59,6 +59,7 @@ class Gallery {
       }
       LightScoreBox(show_, 1 + grid % 3);
       driver_.TakePictures(QString("board-%1-full").arg(grid));
+      if (grid == 5) driver_.TakePicturesAsSeen("eyes-board");
       Do(driver_.Press("btnStandbyMode"));
     }
   }
@@ -70,9 +71,12 @@ class Gallery {
     show_.state.Animation = true;
     Do(driver_.Press("btnStart"));
     driver_.TakePictures("question-text");
+    driver_.TakePicturesAsSeen("eyes-question");
     ReportLetters("a question of 60 characters", show_.frmFSMain.lblQuestion[0]);
     Do(driver_.Press("btnSelectPlayer_1"));
     driver_.TakePictures("cover");
+    ReportLetters("a name in the band", show_.frmFSMain.lblBandName[0]);
+    ReportLetters("a score in the band", show_.frmFSMain.lblBandScore[0]);
     Do(driver_.Press("btnQuestionIncorrect"));
     Verdict("verdict-incorrect");
     Next();
@@ -111,6 +115,23 @@ class Gallery {
     ReportLetters("the longest score", show_.frmFSMain.Label11[0]);
     for (int player = 1; player <= 3; ++player) SetScore(show_, player, "450");
     Winner("winner-3-long-names");
+    tmrWinner_Timer(show_);
+    driver_.TakePictures("last-result");
+    driver_.TakePicturesAsSeen("eyes-last-result");
+  }
+
+  void TwoPlayers() {
+    Do(driver_.Press("optGameType_0"));
+    Do(driver_.Press("optPlayers_0"));
+    Do(driver_.Press("btnPlayMode"));
+    LightScoreBox(show_, 1);
+    show_.state.OptionalHeaders[0] = {
+        "Tonight's prizes are given by the Corner Bakery", "", 18, true, false, "16777215", "4210688"};
+    show_.state.OptionalHeaderCount = 1;
+    show_.state.OptionalHeadersOn = true;
+    form_.tmrOptionalHeaders.Fire();
+    driver_.TakePictures("two-players-and-a-header");
+    ReportLetters("a long header", show_.frmFSMain.txtOptionalHeading);
   }
 
  private:
@@ -127,6 +148,7 @@ class Gallery {
     form_.lblRightWrong.Visible = true;
     show_.frmFSMain.lblRightWrong.Visible = true;
     driver_.TakePictures(name);
+    driver_.TakePicturesAsSeen("eyes-" + name);
   }
 
   void Next() {
@@ -143,7 +165,9 @@ class Gallery {
     form_.tmrWinner.Enabled = false;
     form_.tmrAnimate[1].Enabled = false;
     form_.lblWinner.Visible = true;
+    driver_.Pause(600);
     driver_.TakePictures(name);
+    ReportLetters("the final name", show_.frmFSMain.Winner.lblFinalName[0]);
     HidePanel(show_, Panel::Winner);
   }
 
@@ -161,6 +185,7 @@ bool ShowGallery(ShowDriver& driver) {
   gallery.Boards();
   gallery.Questions();
   gallery.Winners();
+  gallery.TwoPlayers();
   return gallery.Worked();
 }
 

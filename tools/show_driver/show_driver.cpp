@@ -11,9 +11,13 @@
 #include <QTest>
 #include <QTextStream>
 #include <QTimer>
+#include <map>
 
+#include "data/color_sight.h"
+#include "data/house_colors.h"
 #include "desktop/files/native_path.h"
 #include "desktop/files/user_copy.h"
+#include "desktop/painting/player_card.h"
 #include "desktop/windows/audience_window.h"
 #include "desktop/windows/console_window.h"
 #include "desktop/windows/hold_button.h"
@@ -25,6 +29,22 @@
 namespace pawnfield {
 
 namespace {
+
+// A picture's colours are few enough to be worked out once each, in steps that no eye tells apart.
+QImage AsSeen(QImage picture, Sight sight) {
+  std::map<QRgb, QRgb> seen;
+  picture.convertTo(QImage::Format_RGB32);
+  for (int y = 0; y < picture.height(); ++y) {
+    auto* line = reinterpret_cast<QRgb*>(picture.scanLine(y));
+    for (int x = 0; x < picture.width(); ++x) {
+      const QRgb rounded = line[x] & 0xFFFCFCFC;
+      const auto [entry, isNew] = seen.try_emplace(rounded, 0);
+      if (isNew) entry->second = ToQColor(SeenBy(sight, FromRgb(static_cast<int>(rounded & 0xFFFFFF)))).rgb();
+      line[x] = entry->second;
+    }
+  }
+  return picture;
+}
 
 constexpr int kStepMs = 20;
 constexpr int kStartMs = 120000;
@@ -200,6 +220,19 @@ void ShowDriver::TakePictures(const QString& name) {
   if (!program_.Audience().isVisible()) return;
   const QString audience = start + "-audience.png";
   if (program_.Audience().grab().save(audience)) out << audience << '\n';
+}
+
+void ShowDriver::TakePicturesAsSeen(const QString& name) {
+  const std::pair<Sight, const char*> sights[] = {
+      {Sight::NoRed, "no-red"}, {Sight::NoGreen, "no-green"}, {Sight::NoBlue, "no-blue"}};
+  const QString start = QString("%1/%2-%3").arg(folder_).arg(++pictureCount_, 2, 10, QChar('0')).arg(name);
+  QTextStream out(stdout);
+  for (const auto& [sight, seen] : sights) {
+    for (QWidget* window : {static_cast<QWidget*>(&program_.Console()), static_cast<QWidget*>(&program_.Audience())}) {
+      const QString file = start + '-' + seen + (window == &program_.Console() ? "-console.png" : "-audience.png");
+      if (AsSeen(window->grab().toImage(), sight).save(file)) out << file << '\n';
+    }
+  }
 }
 
 void ShowDriver::TakePicture(QWidget& window, const QString& name) {

@@ -39,6 +39,9 @@ class ShowDriver {
   // Saves NN-name-console.png and NN-name-audience.png, and prints where they are.
   void TakePictures(const QString& name);
 
+  // Saves the same pair once for each kind of colour-blind eye, as it sees them.
+  void TakePicturesAsSeen(const QString& name);
+
   // The window of that form, null when there is none.
   FormWindow* Form(const QString& name);
   // Opens a form, saves NN-form.png of its window with the mouse away from it, and closes it. False when it did not

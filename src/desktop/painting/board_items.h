@@ -5,6 +5,7 @@
 
 #include "desktop/painting/canvas.h"
 #include "forms/board_labels.h"
+#include "forms/winner_panel.h"
 
 namespace pawnfield {
 
@@ -28,7 +29,29 @@ ItemStyles FittedTextStyles(BoardForm& form) {
   fitted.Align = Qt::AlignHCenter;
   ItemStyles styles;
   for (std::size_t i = 0; i < 5; ++i) styles[&form.lblQuestion[i]] = fitted;
-  styles[&form.lblWinner] = fitted;
+  return styles;
+}
+
+// The result is drawn in the players' colours; lblWinner holds the told text of it and isn't seen.
+template <typename BoardForm>
+ItemStyles ResultStyles(BoardForm& form) {
+  ItemStyles styles;
+  WinnerPanel& winner = form.Winner;
+  styles[&form.picWinner].PaintsGround = styles[&form.picWinner].IsResult = true;
+  ItemStyle rising;
+  rising.Rises = true;
+  rising.IsOutlined = true;
+  styles[&winner.lblWinnerHead] = {};
+  styles[&winner.lblWinnerWord] = rising;
+  for (std::size_t i = 0; i < kPlayers; ++i) {
+    styles[&winner.lblWinnerName[i]] = rising;
+    styles[&winner.picFinal[i]].Card = static_cast<int>(i) + 1;
+    ItemStyle& name = styles[&winner.lblFinalName[i]];
+    name.Align = Qt::AlignVCenter | Qt::AlignLeft;
+    ItemStyle& score = styles[&winner.lblFinalScore[i]];
+    score.Align = Qt::AlignVCenter | Qt::AlignRight;
+    for (ItemStyle* text : {&name, &score}) text->OnCardOf = &winner.picFinal[i];
+  }
   return styles;
 }
 

@@ -4,15 +4,26 @@
 #include <QPaintEvent>
 #include <QPainter>
 #include <QVBoxLayout>
+#include <QVariantAnimation>
 #include <algorithm>
 #include <cmath>
 #include <ranges>
 
+#include "data/house_colors.h"
 #include "desktop/media/film.h"
 #include "desktop/media/mpv_video.h"
+#include "desktop/painting/ground.h"
+#include "desktop/painting/player_card.h"
 #include "desktop/painting/text_layout.h"
 
 namespace pawnfield {
+
+// What a control writes, how and in which colour.
+struct TextSource {
+  std::string Caption;
+  Font Typeface;
+  Color Fore = kWhite;
+};
 
 namespace {
 
@@ -20,8 +31,8 @@ namespace {
 constexpr double kNarrowest = 0.6;
 // A picture under this many pixels is scaled as it is painted, so that the flip leaves no copies behind.
 constexpr int kCachedArea = 40000;
-
-QColor ToQColor(Color color) { return QColor(color & 0xFF, (color >> 8) & 0xFF, (color >> 16) & 0xFF); }
+// The share of its size at which a text begins to grow.
+constexpr double kRiseFrom = 0.4;
 
 void PaintSign(QPainter& painter, const QPixmap& sign, const QRectF& rect) {
   if (sign.isNull()) return;
@@ -45,12 +56,6 @@ void PaintRounded(QPainter& painter, const QPixmap& picture, const QRectF& rect,
   painter.setBrush(Qt::NoBrush);
 }
 
-struct TextSource {
-  std::string Caption;
-  Font Typeface;
-  Color Fore = kWhite;
-};
-
 // A picture as large as the panel it stands in.
 bool FillsItsPanel(const Control& control) {
   const Control* container = control.Container;
@@ -64,6 +69,12 @@ bool ReadText(const Control& control, TextSource& source) {
     source = {box->Text, box->Font, box->ForeColor};
   }
   return !source.Caption.empty();
+}
+
+// The colour in which a text of that told colour is drawn.
+QColor Ink(const ItemStyle& style, Color told) {
+  if (style.IsVerdict) return ToQColor(told == kGreen ? kRightWords : kWrongWords);
+  return ToQColor(style.OnCardOf == nullptr ? told : OnCard(told, IsLitBox(style.OnCardOf->Picture)));
 }
 
 }  // namespace
@@ -82,6 +93,7 @@ struct Canvas::Item : Observer {
   // Laid out text, cached until caption, font or width changes.
   std::unique_ptr<TextBlock> text;
   double textWidth = 0;
+  QVariantAnimation rise;
   // The share of their width that the letters have.
   double squeeze = 1;
   // What the item covered when it was last looked at, empty when hidden.
@@ -137,8 +149,24 @@ void Canvas::ItemChanged(Item& item, PropertyId id) {
   }
   if (id == PropertyId::Caption || id == PropertyId::Text || id == PropertyId::Font) item.text.reset();
   if (id == PropertyId::ZOrder) Order();
+  if (id == PropertyId::Visible && item.control.IsShown()) StartRising(item.control);
   if (item.control.Kind() == ControlKind::PictureBox || item.control.Kind() == ControlKind::Frame) PlaceEmbedded();
   Refresh(item);
+}
+
+void Canvas::StartRising(const Control& panel) {
+  constexpr int kRiseMs = 450;
+  for (const auto& [control, item] : items_) {
+    if (!item->style.Rises || control->Container != &panel) continue;
+    Item& rising = *item;
+    rising.rise.disconnect();
+    rising.rise.setDuration(kRiseMs);
+    rising.rise.setStartValue(kRiseFrom);
+    rising.rise.setEndValue(1.0);
+    rising.rise.setEasingCurve(QEasingCurve::OutBack);
+    connect(&rising.rise, &QVariantAnimation::valueChanged, this, [this, &rising] { Refresh(rising); });
+    rising.rise.start();
+  }
 }
 
 void Canvas::PictureDecoded(const std::string& path) {
@@ -185,21 +213,34 @@ QRectF Canvas::PixelRect(const Control& control) const {
   return {origin_.x() + left * scale_, origin_.y() + top * scale_, control.Width * scale_, control.Height * scale_};
 }
 
-// What overruns the layout stays as it is.
-QRectF Canvas::Grown(const QRectF& rect) const {
+// What overruns its room stays as it is.
+QRectF Canvas::Grown(const QRectF& rect, const QRectF& room) {
   if (rect.isEmpty()) return rect;
-  const QSizeF grown = rect.size().scaled(QSizeF(size()), Qt::KeepAspectRatio);
+  const QSizeF grown = rect.size().scaled(room.size(), Qt::KeepAspectRatio);
   if (grown.width() < rect.width()) return rect;
   QRectF place(QPointF(), grown);
-  place.moveCenter(QRectF(this->rect()).center());
+  place.moveCenter(room.center());
   return place;
+}
+
+// A panel as wide as the layout takes the display's whole width, and its height at each edge that it reaches.
+QRectF Canvas::Filled(const QRectF& rect) const {
+  constexpr double kRounding = 0.5;
+  const double layoutBottom = origin_.y() + logicalHeight_ * scale_;
+  const double top = rect.top() <= origin_.y() + kRounding ? 0 : rect.top();
+  const double bottom = rect.bottom() >= layoutBottom - kRounding ? height() : rect.bottom();
+  return {0, top, static_cast<double>(width()), bottom - top};
 }
 
 QRectF Canvas::FillRect(const Item& item) const {
   const Control& control = item.control;
   QRectF rect = PixelRect(control);
-  if (item.style.Grows) return Grown(rect);
-  if (fillsDisplay_ && control.Width >= logicalWidth_ && control.Height >= logicalHeight_) return QRectF(this->rect());
+  if (item.style.Grows) {
+    const auto panel = items_.find(control.Container);
+    return Grown(rect, panel == items_.end() ? QRectF(this->rect()) : FillRect(*panel->second));
+  }
+  const bool isPanel = item.style.PaintsGround || FillsItsPanel(control) || control.Height >= logicalHeight_;
+  if (fillsDisplay_ && control.Width >= logicalWidth_ && isPanel) return Filled(rect);
   // Slanted outline copies and negative margins may reach past a label's box.
   if (control.Kind() == ControlKind::Label) rect.adjust(-rect.height() * 0.1, 0, rect.height() * 0.1, 0);
   return rect;
@@ -264,8 +305,23 @@ void Canvas::PaintItem(QPainter& painter, Item& item) {
     const bool hasFile = !static_cast<MediaPlayer&>(item.control).URL->empty();
     PaintFilm(painter, rect, hasFile ? video_->Frame() : QImage());
   }
-  if (!item.picture.empty()) PaintPicture(painter, item, rect);
+  if (item.style.IsResult) {
+    PaintResultGround(painter, rect.toAlignedRect());
+  } else if (item.style.Card != 0) {
+    PaintCard(painter, item, rect);
+  } else if (!item.picture.empty()) {
+    PaintPicture(painter, item, rect);
+  }
   PaintText(painter, item, PixelRect(item.control));
+}
+
+void Canvas::PaintCard(QPainter& painter, const Item& item, const QRectF& rect) const {
+  const bool lit = IsLitBox(item.picture);
+  PaintPlayerCard(painter, rect, item.style.Card, lit);
+  const double height = rect.height();
+  const double side = height * kCardSign;
+  PaintPlayerSign(painter, item.style.Card,
+                  QRectF(rect.left() + height * kCardSignLeft, rect.center().y() - side / 2, side, side), lit);
 }
 
 void Canvas::PaintPicture(QPainter& painter, Item& item, const QRectF& rect) {
@@ -302,6 +358,10 @@ void Canvas::LayOutText(Item& item) {
   }
   if (item.text && item.textWidth == item.control.Width) return;
   item.textWidth = item.control.Width;
+  if (item.style.IsOneLine) {
+    LayOutLine(item, source);
+    return;
+  }
   const double least = item.style.SmallestSize;
   // A name keeps a little room to its box.
   const double room = item.control.Height * (least > kLeastSize ? 0.9 : 1);
@@ -323,6 +383,18 @@ void Canvas::LayOutText(Item& item) {
   if (!fits) layOut(least, kNarrowest, Breaks::AnywhereIfNeeded);
 }
 
+void Canvas::LayOutLine(Item& item, const TextSource& source) {
+  constexpr double kRoom = 0.94;
+  Font font = source.Typeface;
+  const TextBlock asked(font, source.Caption, item.textWidth, item.style.Align, Breaks::Never);
+  const double wide = asked.WidthOfLetters() / (item.textWidth * kRoom);
+  const double high = asked.Height() / item.control.Height;
+  font.Size = std::max(item.style.SmallestSize, font.Size / std::max({1.0, wide, high}));
+  item.squeeze = wide > 0 ? std::min(1.0, source.Typeface.Size / (font.Size * wide)) : 1;
+  item.text =
+      std::make_unique<TextBlock>(font, source.Caption, item.textWidth / item.squeeze, item.style.Align, Breaks::Never);
+}
+
 double Canvas::LetterHeight(const Control& control) {
   const auto found = items_.find(&control);
   if (found == items_.end()) return 0;
@@ -336,15 +408,23 @@ void Canvas::PaintText(QPainter& painter, Item& item, const QRectF& rect) {
   if (!item.text || !ReadText(item.control, source)) return;
   painter.save();
   painter.translate(rect.topLeft());
+  if (item.rise.state() == QAbstractAnimation::Running) {
+    const double share = item.rise.currentValue().toDouble();
+    const QPointF middle(rect.width() / 2, rect.height() / 2);
+    painter.translate(middle * (1 - share));
+    painter.scale(share, share);
+  }
   painter.scale(scale_ * item.squeeze, scale_);
-  painter.setPen(ToQColor(source.Fore));
+  painter.setPen(Ink(item.style, source.Fore));
   const double width = item.control.Width / item.squeeze;
   const double height =
       item.style.SmallestSize > kLeastSize ? item.text->WholeLines(item.control.Height) : item.text->Height();
   const double spareHeight = item.style.Align.testFlag(Qt::AlignVCenter) ? item.control.Height - height : 0;
   const double spareWidth = std::min(0.0, width - item.text->Width());
   if (height < item.text->Height()) painter.setClipRect(QRectF(0, spareHeight / 2, width, height), Qt::IntersectClip);
-  item.text->Draw(painter, QPointF(spareWidth / 2, spareHeight / 2));
+  const QPointF at(spareWidth / 2, spareHeight / 2);
+  if (item.style.IsOutlined) item.text->Outline(painter, at, Qt::black);
+  item.text->Draw(painter, at);
   painter.restore();
 }
 

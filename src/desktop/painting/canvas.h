@@ -15,6 +15,7 @@ namespace pawnfield {
 
 class MpvVideo;
 class TextBlock;
+struct TextSource;
 
 inline constexpr double kLeastSize = 6;
 
@@ -28,6 +29,8 @@ struct ItemStyle {
   double SmallestSize = kLeastSize;
   // A panel paints its ground, and its picture covers it in the picture's own shape.
   bool PaintsGround = false;
+  // A panel that stands on the ground of results, whatever its picture.
+  bool IsResult = false;
   // A fitted picture takes the room that the display has beyond the layout, in its own shape.
   bool Grows = false;
   // A sign on a dark ground: keeps its shape, and only what is lighter than the board is seen of it.
@@ -35,6 +38,18 @@ struct ItemStyle {
   // Cuts the picture's dark corners: the edge and the corner's radius as shares of its height.
   double Edge = 0;
   double Corner = 0;
+  // The card of that player 1..3, drawn in the place of its picture, which only tells whether the player has the turn.
+  int Card = 0;
+  // A text on that card, which is as light or dim as the card is.
+  const PictureBox* OnCardOf = nullptr;
+  // The words of a verdict: the told green and red are drawn as the house's.
+  bool IsVerdict = false;
+  // Never broken: a text that is too wide is drawn smaller, and then narrower.
+  bool IsOneLine = false;
+  // Letters with a dark edge.
+  bool IsOutlined = false;
+  // Grows from small to its size when its panel comes up.
+  bool Rises = false;
 };
 
 class Canvas : public QWidget {
@@ -70,16 +85,20 @@ class Canvas : public QWidget {
  private:
   struct Item;
   void ItemChanged(Item& item, PropertyId id);
+  void StartRising(const Control& panel);
   void PictureDecoded(const std::string& path);
   void Refresh(Item& item);
   void Order();
   QRectF FillRect(const Item& item) const;
-  QRectF Grown(const QRectF& rect) const;
+  static QRectF Grown(const QRectF& rect, const QRectF& room);
+  QRectF Filled(const QRectF& rect) const;
   const QPixmap& Backdrop();
   void PaintItem(QPainter& painter, Item& item);
   void PaintPicture(QPainter& painter, Item& item, const QRectF& rect);
   void LayOutText(Item& item);
+  static void LayOutLine(Item& item, const TextSource& source);
   void PaintText(QPainter& painter, Item& item, const QRectF& rect);
+  void PaintCard(QPainter& painter, const Item& item, const QRectF& rect) const;
   void PlaceEmbedded();
   bool IsCovered(const Control& control) const;
   std::size_t LowestSeen(const QRectF& area) const;

@@ -6,5 +6,7 @@
 namespace pawnfield {
 
 void PaintGround(QPainter& painter, const QRect& area);
+// The darker one beneath a game's result.
+void PaintResultGround(QPainter& painter, const QRect& area);
 
 }  // namespace pawnfield

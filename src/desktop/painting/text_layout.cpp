@@ -3,6 +3,7 @@
 #include <QFontMetricsF>
 #include <QPainter>
 #include <algorithm>
+#include <cmath>
 
 #include "desktop/files/windows_1252.h"
 
@@ -63,7 +64,9 @@ TextBlock::TextBlock(const Font& font, const std::string& text, double wrapWidth
   layout_.setText(WithLineSeparators(text));
   QTextOption option(alignment);
   const bool atWords = breaks == Breaks::AtWords;
-  option.setWrapMode(atWords ? QTextOption::WordWrap : QTextOption::WrapAtWordBoundaryOrAnywhere);
+  option.setWrapMode(breaks == Breaks::Never ? QTextOption::NoWrap
+                     : atWords               ? QTextOption::WordWrap
+                                             : QTextOption::WrapAtWordBoundaryOrAnywhere);
   option.setUseDesignMetrics(true);
   layout_.setTextOption(option);
   layout_.setCacheEnabled(true);
@@ -77,6 +80,12 @@ TextBlock::TextBlock(const Font& font, const std::string& text, double wrapWidth
     height_ += line.height();
   }
   layout_.endLayout();
+}
+
+double TextBlock::WidthOfLetters() const {
+  double widest = 0;
+  for (int i = 0; i < layout_.lineCount(); ++i) widest = std::max(widest, layout_.lineAt(i).naturalTextWidth());
+  return widest * scale_;
 }
 
 double TextBlock::WholeLines(double height) const {
@@ -96,6 +105,19 @@ void TextBlock::Draw(QPainter& painter, const QPointF& at) const {
   painter.translate(at);
   painter.scale(scale_, scale_);
   layout_.draw(&painter, QPointF(0, 0));
+  painter.restore();
+}
+
+void TextBlock::Outline(QPainter& painter, const QPointF& at, const QColor& color) const {
+  constexpr double kEdge = 0.03 * kReferencePixels;
+  painter.save();
+  painter.translate(at);
+  painter.scale(scale_, scale_);
+  painter.setPen(color);
+  for (int step = 0; step < 8; ++step) {
+    const double turn = step * std::acos(-1.0) / 4;
+    layout_.draw(&painter, QPointF(std::cos(turn), std::sin(turn)) * kEdge);
+  }
   painter.restore();
 }
 

@@ -14,7 +14,7 @@ inline constexpr double kTwipsPerPoint = 20;
 
 // Makes the substitutes of fonts that this machine need not have known to the font system. Called once, at start.
 void SubstituteFonts();
-enum class Breaks { AtWords, AnywhereIfNeeded };
+enum class Breaks { AtWords, AnywhereIfNeeded, Never };
 
 // One text broken at words into lines of the wrap width. A word wider than that keeps its line to itself.
 class TextBlock {
@@ -24,12 +24,16 @@ class TextBlock {
   // In twips.
   double Width() const { return width_ * scale_; }
   double Height() const { return height_ * scale_; }
+  // Of the letters of its widest line alone.
+  double WidthOfLetters() const;
   // Of the lines that fit into the given height whole.
   double WholeLines(double height) const;
   // Of a capital.
   double LetterHeight() const;
   // With the block's top left corner at the point; the painter's unit is the twip.
   void Draw(QPainter& painter, const QPointF& at) const;
+  // An edge around the letters, to be drawn before them.
+  void Outline(QPainter& painter, const QPointF& at, const QColor& color) const;
 
  private:
   // From the reference size to twips.

@@ -16,6 +16,7 @@ namespace pawnfield {
 namespace {
 // Names and scores are read from the back row: their capitals are a fortieth of the picture high, or more.
 constexpr double kSmallestLegible = 20;
+constexpr double kRound = 0.18;
 }  // namespace
 
 AudienceWindow::AudienceWindow(FSMainForm& form, SecondScreenForm& copy, FormWindows& windows, PictureCache& pictures,
@@ -33,6 +34,7 @@ AudienceWindow::AudienceWindow(FSMainForm& form, SecondScreenForm& copy, FormWin
   screen_->SetBackdrop(PaintGround);
   BindForm();
   Fill(form);
+  Bindings()->Hold({"lblWinner"});
   screen_->AddVideo(form.MediaPlayer1, video);
   Bindings()->AddCanvas(*screen_);
   copy_.AddObserver(*this);
@@ -48,17 +50,32 @@ AudienceWindow::~AudienceWindow() { windows_.Remove(copy_); }
 ItemStyles AudienceWindow::Styles(FSMainForm& form) {
   ItemStyles styles = BoardStyles(form);
   for (std::size_t i = 0; i < 3; ++i) {
-    for (PictureBox* box : {&form.picPlayer[i], &form.ScoreBox(static_cast<int>(i) + 1)}) {
-      styles[box].Edge = 0.03;
-      styles[box].Corner = 0.18;
+    const int player = static_cast<int>(i) + 1;
+    styles[&form.picPlayer[i]].Card = player;
+    // Lies on the card, which shows its light.
+    styles[&form.ScoreBox(player)].Corner = kRound;
+    styles[&form.picBandPlayer[i]].Card = player;
+    for (Label* label : {&form.lblPlayer[i], &form.Label11[i], &form.lblBandName[i], &form.lblBandScore[i]}) {
+      styles[label].SmallestSize = kSmallestLegible;
+      styles[label].OnCardOf = &form.picPlayer[i];
     }
-    for (Label* label : {&form.lblPlayer[i], &form.Label11[i]}) styles[label].SmallestSize = kSmallestLegible;
+    styles[&form.lblBandName[i]].Align = Qt::AlignVCenter | Qt::AlignLeft;
+    styles[&form.lblBandScore[i]].Align = Qt::AlignVCenter | Qt::AlignRight;
   }
+  styles.merge(ResultStyles(form));
+  for (std::size_t i = 0; i < 3; ++i) {
+    for (Label* label : {&form.Winner.lblFinalName[i], &form.Winner.lblFinalScore[i]}) {
+      styles[label].SmallestSize = kSmallestLegible;
+    }
+  }
+  styles[&form.txtOptionalHeading].IsOneLine = true;
+  styles[&form.txtOptionalHeading].SmallestSize = kSmallestLegible;
   for (Control* control : form.Controls()) {
     if (control->Kind() == ControlKind::PictureBox && !styles.contains(control)) styles[control].PaintsGround = true;
   }
   for (Image* image : {&form.picImageResize[0], &form.picImageResize[1]}) styles[image].Grows = true;
   styles.merge(FittedTextStyles(form));
+  styles[&form.lblRightWrong].IsVerdict = styles[&form.lblRightWrong].IsOutlined = true;
   return styles;
 }
 
@@ -66,6 +83,7 @@ void AudienceWindow::Fill(FSMainForm& form) {
   const auto styles = Styles(form);
   for (Control* control : form.Controls()) {
     if (control->Kind() == ControlKind::Timer || control->Kind() == ControlKind::MediaPlayer) continue;
+    if (control == &form.lblWinner) continue;
     const auto style = styles.find(control);
     screen_->Add(*control, style == styles.end() ? ItemStyle() : style->second);
   }

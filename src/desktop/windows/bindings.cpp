@@ -16,6 +16,7 @@
 
 #include "desktop/files/windows_1252.h"
 #include "desktop/painting/picture_cache.h"
+#include "desktop/painting/player_card.h"
 #include "desktop/windows/blinker.h"
 #include "desktop/windows/grid_view.h"
 #include "desktop/windows/hold_button.h"
@@ -28,8 +29,6 @@ namespace {
 
 constexpr double kSmallestSample = 8;
 constexpr double kLargestSample = 24;
-
-QColor ToQColor(Color color) { return QColor(color & 0xFF, (color >> 8) & 0xFF, (color >> 16) & 0xFF); }
 
 // The common half: what every widget takes from its model.
 template <typename Model, typename Widget>
@@ -212,6 +211,7 @@ class TextBoxBinding : public Binding<TextBox, QLineEdit> {
       ShowLook();
       return;
     }
+    if (widget.property("showsTurn").toBool()) return;
     // Black is the design's own ground; any other colour is a sign to the operator.
     const QString sign = model.BackColor == kBlack ? QString() : ToQColor(model.BackColor).name();
     if (sign == sign_) return;
@@ -265,7 +265,9 @@ class PictureBinding : public Binding<Model, PictureFrame> {
 
  private:
   void ShowOwn(PropertyId id) override {
-    if (id == PropertyId::Picture) this->widget.SetPicture(pictures_.Original(this->model.Picture));
+    if (id != PropertyId::Picture) return;
+    this->widget.SetPicture(pictures_.Original(this->model.Picture));
+    this->widget.SetLit(IsLitBox(this->model.Picture));
   }
   PictureCache& pictures_;
 };

@@ -8,6 +8,7 @@
 #include "desktop/painting/ground.h"
 #include "desktop/windows/focus_rules.h"
 #include "desktop/windows/key_bridge.h"
+#include "desktop/windows/player_dress.h"
 #include "desktop/windows/player_view.h"
 #include "forms/main_form.h"
 #include "ui_frm_main.h"
@@ -40,6 +41,7 @@ ConsoleWindow::ConsoleWindow(MainForm& form, FormWindows& windows, PictureCache&
   answer_ = new Canvas(pictures, design.fraAnswer);
   answer_->setObjectName("pnlAnswerCanvas");
   design.fraAnswer->layout()->addWidget(answer_);
+  dress_ = DressPlayers(form, *this);
   BindForm();
   FillBoard(form);
   FillAnswer(form, pictures);
@@ -58,14 +60,17 @@ void ConsoleWindow::FillBoard(MainForm& form) {
   board_->SetFillsDisplay(true);
   board_->SetBackdrop(PaintGround);
   board_->Add(form.imgHeader);
-  board_->Add(form.imgDJEntry);
+  ItemStyle piece;
+  piece.Corner = 0.09;
+  board_->Add(form.imgDJEntry, piece);
   for (const auto& [control, style] : BoardStyles(form)) board_->Add(*control, style);
-  board_->Add(form.txtOptionalHeading);
+  ItemStyle header;
+  header.IsOneLine = true;
+  board_->Add(form.txtOptionalHeading, header);
   ItemStyle panel;
   panel.PaintsGround = true;
-  for (PictureBox* box :
-       {&form.picQuestion, &form.picQuestionPicture, &form.picSound, &form.picBonus, &form.picMOD, &form.picMODVideo,
-        &form.picMODPicture, &form.picCorrect, &form.picWinner, &form.picStandby}) {
+  for (PictureBox* box : {&form.picQuestion, &form.picQuestionPicture, &form.picSound, &form.picBonus, &form.picMOD,
+                          &form.picMODVideo, &form.picMODPicture, &form.picCorrect, &form.picStandby}) {
     board_->Add(*box, panel);
   }
   for (Image* image : {&form.imgQuestionBackground, &form.picImageResize[0], &form.picImageResize[1], &form.imgSound,
@@ -73,7 +78,12 @@ void ConsoleWindow::FillBoard(MainForm& form) {
     board_->Add(*image);
   }
   for (const auto& [control, style] : FittedTextStyles(form)) board_->Add(*control, style);
-  board_->Add(form.lblRightWrong);
+  for (const auto& [control, style] : ResultStyles(form)) board_->Add(*control, style);
+  board_->Add(form.picLastResult, panel);
+  board_->Add(form.lblLastResult);
+  ItemStyle verdict;
+  verdict.IsVerdict = verdict.IsOutlined = true;
+  board_->Add(form.lblRightWrong, verdict);
   board_->Add(form.lblAnswerClock);
 }
 
@@ -88,7 +98,7 @@ void ConsoleWindow::HoldUnseen() {
                     "imgBkgnd", "imgXa", "imgXb", "imgOa", "imgOb", "imgTa", "imgTb", "imgCursor(0)", "imgCursor(1)",
                     "imgCursor(2)", "imgCursor(3)", "imgStandardStandby", "imgStandardBonus", "imgStandardHeader",
                     // What only measures.
-                    "lblQuestionAutoResize", "lblAnswerAutoResize", "lblWinnerResize", "picEntScreen",
+                    "lblQuestionAutoResize", "lblAnswerAutoResize", "lblWinnerResize", "lblWinner", "picEntScreen",
                     // They report the game's state to what asks for it; a button that does nothing would only mislead.
                     "btnCorrect", "btnAnswerClock", "btnEnableAllBuzzers", "btnPlayVideo", "btnStopVideo",
                     // The player's own widget shows it.

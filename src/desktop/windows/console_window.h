@@ -34,6 +34,8 @@ class ConsoleWindow : public FormWindow {
   void ReturnHome();
 
   Screens& screens_;
+  // Show the turn and the number of players where no model tells a widget of them.
+  std::vector<std::unique_ptr<Observer>> dress_;
   Canvas* board_ = nullptr;
   Canvas* answer_ = nullptr;
   FocusRules* focus_ = nullptr;

@@ -8,11 +8,13 @@
 #include <QMenuBar>
 #include <QPushButton>
 
+#include "desktop/files/windows_1252.h"
 #include "desktop/painting/ground.h"
 #include "desktop/windows/model_widgets.h"
 #include "desktop/windows/set_text_edit.h"
 #include "forms/editor_form.h"
 #include "forms/missing_media_form.h"
+#include "platform/text.h"
 
 namespace pawnfield {
 
@@ -87,7 +89,8 @@ class PreviewArea : public QWidget {
 
 }  // namespace
 
-EditorWindow::EditorWindow(EditorForm& form, FormWindows& windows, PictureCache& pictures) : FormWindow(form, windows) {
+EditorWindow::EditorWindow(EditorForm& form, FormWindows& windows, PictureCache& pictures)
+    : FormWindow(form, windows), editor_(form) {
   AddMenu();
   QVBoxLayout& column = *MakeContent(*this, kEdge);
   AddTools(column);
@@ -97,6 +100,19 @@ EditorWindow::EditorWindow(EditorForm& form, FormWindows& windows, PictureCache&
   FillPreview(form);
   Bindings()->AddCanvas(*preview_);
   Bindings()->Hold({"lblQuestionAutoResize"});
+  ShowTitle();
+}
+
+void EditorWindow::Changed(Control& control, PropertyId id) {
+  FormWindow::Changed(control, id);
+  if (id == PropertyId::Caption || id == PropertyId::Value || id == PropertyId::Text) ShowTitle();
+}
+
+void EditorWindow::ShowTitle() {
+  const std::string file = ExtractFileName(editor_.EditFileName);
+  const QString name = file.empty() ? QString("New set") : Unescape(file);
+  setWindowTitle(Unescape(editor_.Caption) + " - " + name + "[*]");
+  setWindowModified(editor_.EditDirty);
 }
 
 void EditorWindow::AddMenu() {

@@ -17,6 +17,7 @@ class EditorWindow : public FormWindow {
  public:
   EditorWindow(EditorForm& form, FormWindows& windows, PictureCache& pictures);
   Canvas& Preview() { return *preview_; }
+  void Changed(Control& control, PropertyId id) override;
 
  private:
   void AddMenu();
@@ -24,7 +25,10 @@ class EditorWindow : public FormWindow {
   void AddQuestion(QVBoxLayout& column, PictureCache& pictures);
   void AddNavigation(QVBoxLayout& column);
   void FillPreview(EditorForm& form);
+  // The form's caption, the file, and a mark while something is unsaved.
+  void ShowTitle();
 
+  EditorForm& editor_;
   Canvas* preview_ = nullptr;
 };
 

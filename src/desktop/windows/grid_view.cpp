@@ -16,8 +16,6 @@ namespace {
 
 constexpr int kDeleteCode = 46;
 constexpr int kEnterCode = 13;
-const QColor kTextColor("#E6EAF2");
-const QColor kPlaceholderColor("#7A87A3");
 
 // Those dragged that are files of this machine.
 QStringList DraggedFiles(const QMimeData& data) {
@@ -80,7 +78,6 @@ class GridBinding : public Observer {
     if (item->text() == text && !text.isEmpty()) return;
     item->setText(text);
     item->setToolTip(text);
-    item->setForeground(model_.Cell(row, column) == model_.Placeholder ? kPlaceholderColor : kTextColor);
   }
 
   void ShowSelection() {

@@ -4,6 +4,8 @@
 #include <QPainter>
 #include <QStyle>
 
+#include "desktop/painting/player_card.h"
+
 namespace pawnfield {
 
 namespace {
@@ -46,7 +48,33 @@ void PictureFrame::SetPicture(const QPixmap& picture) {
   update();
 }
 
+void PictureFrame::SetCard(int player, bool sign) {
+  player_ = player;
+  sign_ = sign;
+  setProperty("lit", lit_);
+  update();
+}
+
+void PictureFrame::SetLit(bool lit) {
+  if (lit == lit_) return;
+  lit_ = lit;
+  setProperty("lit", lit);
+  for (QLabel* text : findChildren<QLabel*>()) {
+    style()->unpolish(text);
+    style()->polish(text);
+  }
+  update();
+}
+
 void PictureFrame::paintEvent(QPaintEvent* event) {
+  if (player_ != 0) {
+    QPainter painter(this);
+    PaintPlayerCard(painter, rect(), player_, lit_);
+    const double side = height() * kCardSign;
+    const QRectF place(height() * kCardSignLeft + 2, (height() - side) / 2, side, side);
+    if (sign_) PaintPlayerSign(painter, player_, place, lit_);
+    return;
+  }
   if (picture_.isNull()) {
     QFrame::paintEvent(event);
     return;

@@ -34,12 +34,16 @@ class ModelLabel : public QLabel {
   void paintEvent(QPaintEvent* event) override;
 };
 
-// Paints one picture over its whole area behind what stands in it.
+// Paints one picture over its whole area behind what stands in it, or a player's card in the picture's place.
 class PictureFrame : public QFrame {
   Q_OBJECT
  public:
   using QFrame::QFrame;
   void SetPicture(const QPixmap& picture);
+  // Paints the card of that player 1..3 from now on, with the sign of his pieces where that is wanted.
+  void SetCard(int player, bool sign);
+  // The texts on the card wear their lit colours too: the style sheet asks for the property "lit".
+  void SetLit(bool lit);
  signals:
   void Clicked();
 
@@ -49,6 +53,9 @@ class PictureFrame : public QFrame {
 
  private:
   QPixmap picture_;
+  int player_ = 0;
+  bool sign_ = false;
+  bool lit_ = false;
 };
 
 }  // namespace pawnfield

@@ -1,5 +1,7 @@
 #include "desktop/windows/options_window.h"
 
+#include <QShortcut>
+#include <QTabWidget>
 #include <array>
 
 #include "desktop/windows/volume_slider_view.h"
@@ -11,6 +13,7 @@ namespace pawnfield {
 OptionsWindow::OptionsWindow(OptionsForm& form, FormWindows& windows) : FormWindow(form, windows, kDialog) {
   SetUp<Ui::frmOptions>(*this);
   BindForm();
+  TurnTabsByKey();
   constexpr std::array kViews{"pnlEvent", "pnlKeyPress", "pnlAudioClips", "pnlBackground", "pnlAnimation"};
   const auto sliders = form.Sliders();
   for (std::size_t i = 0; i < sliders.size(); ++i) {
@@ -19,6 +22,17 @@ OptionsWindow::OptionsWindow(OptionsForm& form, FormWindows& windows) : FormWind
     // One view paints the four pictures.
     Bindings()->Hold(
         {slider.RealBackground.Name(), slider.RealSlider.Name(), slider.Background.Name(), slider.FakeSlider.Name()});
+  }
+}
+
+// The tabs turn by the usual keys wherever the focus is; the toolkit's own do while it is within the tabs.
+void OptionsWindow::TurnTabsByKey() {
+  auto* tabs = findChild<QTabWidget*>("SSTab1");
+  for (const auto& [keys, step] : {std::pair{"Ctrl+Tab", 1}, {"Ctrl+Shift+Tab", -1}}) {
+    auto* shortcut = new QShortcut(QKeySequence(keys), this);
+    connect(shortcut, &QShortcut::activated, tabs, [tabs, step = step] {
+      tabs->setCurrentIndex((tabs->currentIndex() + step + tabs->count()) % tabs->count());
+    });
   }
 }
 

@@ -10,6 +10,9 @@ struct OptionsForm;
 class OptionsWindow : public FormWindow {
  public:
   OptionsWindow(OptionsForm& form, FormWindows& windows);
+
+ private:
+  void TurnTabsByKey();
 };
 
 }  // namespace pawnfield

@@ -8,6 +8,7 @@
 #include <QVBoxLayout>
 
 #include "desktop/windows/grid_view.h"
+#include "desktop/windows/sound_cells.h"
 #include "forms/sound_effects_form.h"
 
 namespace pawnfield {
@@ -22,13 +23,14 @@ constexpr QSize kButtonSize(140, 34);
 SoundEffectsWindow::SoundEffectsWindow(SoundEffectsForm& form, FormWindows& windows)
     : FormWindow(form, windows, kDialog) {
   QVBoxLayout* column = MakeContent(*this, 16);
-  auto* note = new QLabel("Double-click a cell, or drop a file on it. Delete empties it, Enter plays it.");
+  auto* note = new QLabel("Double-click a cell, or drop a file on it. Delete empties it, the triangle plays it.");
   note->setObjectName("pnlNote");
   note->setProperty("role", "note");
   column->addWidget(note);
   auto* grid = new GridView(this);
   grid->setObjectName("Grid1");
   grid->setMinimumSize(kGridSize);
+  grid->setItemDelegate(new SoundCells(form, *grid));
   column->addWidget(grid, 1);
   auto* row = new QHBoxLayout;
   row->setSpacing(10);
@@ -36,7 +38,7 @@ SoundEffectsWindow::SoundEffectsWindow(SoundEffectsForm& form, FormWindows& wind
   preview->setObjectName("bPreview");
   row->addWidget(preview);
   row->addStretch(1);
-  for (const char* name : {"btnImport", "btnExport", "btnSaveExit"}) {
+  for (const char* name : {"btnImport", "btnExport", "btnCancel", "btnSaveExit"}) {
     QPushButton* button = MakeButton(name, kButtonSize);
     button->setAutoDefault(false);
     row->addWidget(button);

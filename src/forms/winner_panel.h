@@ -1,0 +1,30 @@
+// What stands on the winner's panel of both screens: the winner's name in the player's colour, what the result is, and
+// a card for each player with the final score. lblWinner beneath holds the same as one text.
+#pragma once
+
+#include <vector>
+
+#include "data/players.h"
+#include "platform/controls.h"
+
+namespace pawnfield {
+
+class WinnerPanel {
+ public:
+  explicit WinnerPanel(Form& form);
+  // Puts all into the panel, in shares of its size, for so many winners.
+  void PlaceIn(PictureBox& panel, std::size_t winners);
+  // The cards from left to right, by the players' numbers; who isn't named has none.
+  void PlaceCards(const PictureBox& panel, const std::vector<int>& order);
+
+  Label lblWinnerHead;
+  // By player; shown for those who have won.
+  ControlArray<Label, kPlayers> lblWinnerName;
+  // "Wins!" or "Tie!".
+  Label lblWinnerWord;
+  ControlArray<PictureBox, kPlayers> picFinal;
+  ControlArray<Label, kPlayers> lblFinalName;
+  ControlArray<Label, kPlayers> lblFinalScore;
+};
+
+}  // namespace pawnfield
