@@ -25,8 +25,8 @@ inline constexpr Color kGold = FromRgb(0xF2B84B);
 inline const PerPlayer<Color> kPlayerColors{FromRgb(0xFF6B70), FromRgb(0xFFD84D), FromRgb(0x46E08C)};
 
 // The words of the two verdicts. Right is the lighter one by far, so that they differ where red and green don't.
-inline constexpr Color kRightWords = FromRgb(0x7CF0B0);
-inline constexpr Color kWrongWords = FromRgb(0xEE4248);
+inline constexpr Color kRightWords = FromRgb(0x9CFBC6);
+inline constexpr Color kWrongWords = FromRgb(0xE8383E);
 // The grounds of the two verdict buttons and what is written on them, by the same rule.
 inline constexpr Color kRightGround = FromRgb(0x3CC47E);
 inline constexpr Color kRightInk = FromRgb(0x04160C);

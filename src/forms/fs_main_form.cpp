@@ -25,8 +25,8 @@ constexpr double kBandScoreWidth = 1460;
 // Where the first card of a row of so many stands.
 double FirstLeft(int players, double width, double gap) { return (kWidth - players * width - (players - 1) * gap) / 2; }
 // The sign of the player's pieces stands before the name.
-constexpr double kNameMargin = 830;
-constexpr double kNameShare = 0.6;
+constexpr double kNameMargin = 780;
+constexpr double kNameShare = 0.63;
 }  // namespace
 
 FSMainForm::FSMainForm() : Form("frmFSMain") {
@@ -42,8 +42,8 @@ FSMainForm::FSMainForm() : Form("frmFSMain") {
   lblDJCommand.Font = {"Segoe UI", 36, true, false};
   for (std::size_t i = 0; i < 3; ++i) {
     lblPlayer[i].ForeColor = kPlayerColors[static_cast<int>(i) + 1];
-    lblPlayer[i].Font = {"Segoe UI", 23, true, false};
-    Label11[i].Font = {"Segoe UI", 40, true, false};
+    lblPlayer[i].Font = {"Segoe UI", 21, true, false};
+    Label11[i].Font = {"Segoe UI", 36, true, false};
     lblPlayer[i].Caption = "PLAYER " + std::to_string(i + 1);
     Label11[i].Caption = "0";
     lblBandName[i].ForeColor = lblPlayer[i].ForeColor;
@@ -117,7 +117,7 @@ void FSMainForm::PlacePlayers(int players) {
     const double bandLeft = FirstLeft(players, kBandCardWidth, kBandGap) + place * (kBandCardWidth + kBandGap);
     picBandPlayer[i].MoveTo(bandLeft, 0, kBandCardWidth, kBandHeight);
     lblBandName[i].MoveTo(bandLeft + kBandNameLeft, 0, kBandCardWidth - kBandNameLeft - kBandScoreWidth, kBandHeight);
-    lblBandScore[i].MoveTo(bandLeft + kBandCardWidth - kBandScoreWidth, 0, kBandScoreWidth - 60, kBandHeight);
+    lblBandScore[i].MoveTo(bandLeft + kBandCardWidth - kBandScoreWidth, 0, kBandScoreWidth - 180, kBandHeight);
   }
 }
 
@@ -133,10 +133,12 @@ void FSMainForm::SetBand(bool up) {
 void FSMainForm::Form_Resize() {
   const double overBand = Height - kBandHeight;
   picStandby.MoveTo(0, 0, Width, Height);
-  for (PictureBox* panel : {&picQuestionPicture, &picQuestion, &picHideQuestion, &picCorrect, &picSound}) {
+  for (PictureBox* panel : {&picQuestionPicture, &picQuestion, &picHideQuestion, &picSound}) {
     panel->MoveTo(0, 0, Width, overBand);
   }
-  for (PictureBox* panel : {&picWinner, &picBonus, &picMOD, &picMODVideo}) MoveLike(*panel, picStandby, Extent::Copy);
+  // The band lies over the lower edge of a verdict's picture, whose words stand in its middle.
+  for (PictureBox* panel : {&picCorrect, &picWinner, &picBonus, &picMOD, &picMODVideo})
+    MoveLike(*panel, picStandby, Extent::Copy);
   for (PictureBox* panel : {&picQuestionPicture, &picQuestion, &picHideQuestion, &picCorrect, &picWinner, &picBonus,
                             &picSound, &picStandby, &picMOD, &picBand}) {
     panel->BringToFront();

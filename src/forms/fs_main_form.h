@@ -55,7 +55,7 @@ class FSMainForm : public Form {
   Label lblRightWrong{*this, "lblRightWrong"};
   PictureBox picWinner{*this, "picWinner"};
   Label lblWinner{*this, "lblWinner"};
-  WinnerPanel Winner{*this};
+  WinnerPanel Winner{*this, picWinner};
   PictureBox picBonus{*this, "picBonus"};
   Image imgBonus{*this, "imgBonus"};
   PictureBox picMOD{*this, "picMOD"};

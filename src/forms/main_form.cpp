@@ -159,8 +159,6 @@ void MainForm::PlaceControls() {
   lblLastResult.Font = {"Segoe UI", 15, true, false};
   lblLastResult.ForeColor = kGold;
   Contain(picLastResult, {&lblLastResult});
-  picLastResult.BringToFront();
-  picMOD.BringToFront();
   for (Image* image : {&imgQuestionBackground, &imgSound, &imgBonus, &imgCorrect, &imgStandby}) {
     image->MoveTo(0, 0, kPanelWidth, kPanelHeight);
   }
@@ -188,7 +186,7 @@ void MainForm::PlaceControls() {
   Contain(picBonus, {&imgBonus});
   Contain(picCorrect, {&imgCorrect, &lblRightWrong});
   Contain(picWinner, {&lblWinner});
-  Contain(picStandby, {&imgStandby});
+  Contain(picStandby, {&imgStandby, &picLastResult});
   Contain(fraAnswer, {&lblAnswer});
   Contain(fraGridControl, {&optGridControl[0], &optGridControl[1], &optGridControl[2]});
   Contain(picPlayer1, {&lblPlayer1[0]});

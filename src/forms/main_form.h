@@ -163,7 +163,7 @@ class MainForm : public Form {
   Label lblRightWrong{*this, "lblRightWrong"};
   PictureBox picWinner{*this, "picWinner"};
   Label lblWinner{*this, "lblWinner"};
-  WinnerPanel Winner{*this};
+  WinnerPanel Winner{*this, picWinner};
   PictureBox picStandby{*this, "picStandby"};
   Image imgStandby{*this, "imgStandby"};
   // How the last game ended, over standby until the next start.

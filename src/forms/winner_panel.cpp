@@ -22,25 +22,32 @@ Font LetteringFor(double boxHeight, double share) {
 
 }  // namespace
 
-WinnerPanel::WinnerPanel(Form& form)
+WinnerPanel::WinnerPanel(Form& form, PictureBox& panel)
     : lblWinnerHead(form, "lblWinnerHead"),
       lblWinnerName(form, "lblWinnerName"),
       lblWinnerWord(form, "lblWinnerWord"),
       picFinal(form, "picFinal"),
       lblFinalName(form, "lblFinalName"),
-      lblFinalScore(form, "lblFinalScore") {
+      lblFinalScore(form, "lblFinalScore"),
+      panel_(panel) {
   lblWinnerHead.ForeColor = kQuietText;
   lblWinnerWord.ForeColor = kGold;
   for (int player = 1; player <= kPlayers; ++player) {
     const std::size_t i = PlayerIndex(player);
     lblWinnerName[i].ForeColor = kPlayerColors[player];
     lblFinalName[i].ForeColor = kPlayerColors[player];
+    for (Control* part : {static_cast<Control*>(&lblWinnerName[i]), static_cast<Control*>(&picFinal[i]),
+                          static_cast<Control*>(&lblFinalName[i]), static_cast<Control*>(&lblFinalScore[i])}) {
+      part->Container = &panel;
+    }
   }
+  lblWinnerHead.Container = &panel;
+  lblWinnerWord.Container = &panel;
 }
 
-void WinnerPanel::PlaceIn(PictureBox& panel, std::size_t winners) {
-  const double width = panel.Width;
-  const double height = panel.Height;
+void WinnerPanel::PlaceTexts(std::size_t winners) {
+  const double width = panel_.Width;
+  const double height = panel_.Height;
   const double lineHeight = height * kNamesHeight / static_cast<double>(winners);
   lblWinnerHead.MoveTo(width * kSide, height * kHeadTop, width * (1 - 2 * kSide), height * kHeadHeight);
   lblWinnerHead.Font = LetteringFor(height * kHeadHeight, 0.62);
@@ -52,22 +59,15 @@ void WinnerPanel::PlaceIn(PictureBox& panel, std::size_t winners) {
     lblWinnerName[i].Font = LetteringFor(lineHeight, winners == 1 ? 0.5 : 0.75);
     if (lblWinnerName[i].Visible) top += lineHeight;
   }
-  for (std::size_t i = 0; i < kPlayers; ++i) {
-    for (Control* part : {static_cast<Control*>(&lblWinnerHead), static_cast<Control*>(&lblWinnerName[i]),
-                          static_cast<Control*>(&lblWinnerWord), static_cast<Control*>(&picFinal[i]),
-                          static_cast<Control*>(&lblFinalName[i]), static_cast<Control*>(&lblFinalScore[i])}) {
-      part->Container = &panel;
-    }
-  }
 }
 
-void WinnerPanel::PlaceCards(const PictureBox& panel, const std::vector<int>& order) {
+void WinnerPanel::PlaceCards(const std::vector<int>& order) {
   const auto count = static_cast<double>(order.size());
-  const double width = panel.Width * kCardWidth;
-  const double gap = panel.Width * kCardGap;
-  const double height = panel.Height * kCardHeight;
-  const double top = panel.Height * kCardTop;
-  double left = (panel.Width - count * width - (count - 1) * gap) / 2;
+  const double width = panel_.Width * kCardWidth;
+  const double gap = panel_.Width * kCardGap;
+  const double height = panel_.Height * kCardHeight;
+  const double top = panel_.Height * kCardTop;
+  double left = (panel_.Width - count * width - (count - 1) * gap) / 2;
   for (std::size_t i = 0; i < kPlayers; ++i) {
     for (Control* part : {static_cast<Control*>(&picFinal[i]), static_cast<Control*>(&lblFinalName[i]),
                           static_cast<Control*>(&lblFinalScore[i])}) {

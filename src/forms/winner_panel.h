@@ -11,11 +11,11 @@ namespace pawnfield {
 
 class WinnerPanel {
  public:
-  explicit WinnerPanel(Form& form);
-  // Puts all into the panel, in shares of its size, for so many winners.
-  void PlaceIn(PictureBox& panel, std::size_t winners);
+  WinnerPanel(Form& form, PictureBox& panel);
+  // In shares of the panel's size, for so many winners.
+  void PlaceTexts(std::size_t winners);
   // The cards from left to right, by the players' numbers; who isn't named has none.
-  void PlaceCards(const PictureBox& panel, const std::vector<int>& order);
+  void PlaceCards(const std::vector<int>& order);
 
   Label lblWinnerHead;
   // By player; shown for those who have won.
@@ -25,6 +25,9 @@ class WinnerPanel {
   ControlArray<PictureBox, kPlayers> picFinal;
   ControlArray<Label, kPlayers> lblFinalName;
   ControlArray<Label, kPlayers> lblFinalScore;
+
+ private:
+  PictureBox& panel_;
 };
 
 }  // namespace pawnfield

@@ -27,7 +27,7 @@ void FitWinner(Show& show) {
   const std::string text = show.frmMain.lblWinner.Caption;
   if (text.empty()) return;
   SetWinner(show, text, show.frmFSMain.lblWinner);
-  if (PanelVisible(show, Panel::Winner)) WriteResult(show, show.frmFSMain.Winner, show.frmFSMain.picWinner);
+  if (PanelVisible(show, Panel::Winner)) WriteResult(show, show.frmFSMain.Winner);
 }
 
 }  // namespace

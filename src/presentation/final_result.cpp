@@ -39,7 +39,7 @@ std::string WordFor(const std::vector<int>& winners) { return winners.size() > 1
 
 }  // namespace
 
-void WriteResult(Show& show, WinnerPanel& winner, PictureBox& panel) {
+void WriteResult(Show& show, WinnerPanel& winner) {
   const std::vector<int> winners = Winners(show);
   winner.lblWinnerHead.Caption = "Game Over!";
   winner.lblWinnerWord.Caption = WordFor(winners);
@@ -52,13 +52,13 @@ void WriteResult(Show& show, WinnerPanel& winner, PictureBox& panel) {
     winner.lblFinalScore[i].Caption = show.frmMain.Score(player).Caption;
     winner.picFinal[i].Picture = PicturePath(show, won ? "\\images\\scoreboxred.bmp" : "\\Images\\scorebox.bmp");
   }
-  winner.PlaceIn(panel, winners.size());
-  winner.PlaceCards(panel, ByScore(show));
+  winner.PlaceTexts(winners.size());
+  winner.PlaceCards(ByScore(show));
 }
 
 void ShowResult(Show& show) {
-  WriteResult(show, show.frmMain.Winner, show.frmMain.picWinner);
-  if (show.state.DualScreen) WriteResult(show, show.frmFSMain.Winner, show.frmFSMain.picWinner);
+  WriteResult(show, show.frmMain.Winner);
+  if (show.state.DualScreen) WriteResult(show, show.frmFSMain.Winner);
 }
 
 void KeepLastResult(Show& show) {

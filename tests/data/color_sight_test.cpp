@@ -39,7 +39,7 @@ TEST(HouseColors, TheTwoVerdictsStandApartByLightForEverySight) {
 }
 
 TEST(HouseColors, EveryTwoPlayersLookDifferentToEverySight) {
-  constexpr double kPlainlyApart = 12;
+  constexpr double kPlainlyApart = 10;
   for (const Sight sight : kAllSights) {
     for (const auto& [one, other] : {std::pair{1, 2}, {1, 3}, {2, 3}}) {
       const double apart = SeenDistance(SeenBy(sight, kPlayerColors[one]), SeenBy(sight, kPlayerColors[other]));

@@ -14,10 +14,10 @@ namespace {
 using testing::HasSubstr;
 
 const std::string kPath = "C:\\Ostara Show Kit Data\\Headers.txt";
-const std::string kBlank = "\"\",\"Comic Sans MS\",18,#TRUE#,#FALSE#,65535,5242880\r\n";
+const std::string kBlank = "\"\",\"Segoe UI\",18,#TRUE#,#FALSE#,65535,5242880\r\n";
 const std::string kFile =
     "#2026-03-01 20:00:00#\r\n"
-    "\"Welcome to the show\",\"Comic Sans MS\",18,#TRUE#,#FALSE#,65535,5242880\r\n"
+    "\"Welcome to the show\",\"Segoe UI\",18,#TRUE#,#FALSE#,65535,5242880\r\n"
     "\"Sponsor, and friends\",\"\",24,#FALSE#,#TRUE#,255,0\r\n" +
     kBlank + kBlank;
 
@@ -53,8 +53,8 @@ TEST_F(Headers, RotateOnBothScreensWithTheBaseBetweenOrWithoutIt) {
   EXPECT_EQ(Rotate(8), "WS-WS-WS");
   const TextBox& shown = fixture().audience().txtOptionalHeading;
   EXPECT_EQ(form().txtOptionalHeading.Text.Get(), "Sponsor, and friends");
-  EXPECT_EQ(form().txtOptionalHeading.Font.Get(), (Font{"MS Sans Serif", 24, false, true}));
-  EXPECT_EQ(shown.Font.Get(), (Font{"MS Sans Serif", 48, false, true}));
+  EXPECT_EQ(form().txtOptionalHeading.Font.Get(), (Font{"Segoe UI", 24, false, true}));
+  EXPECT_EQ(shown.Font.Get(), (Font{"Segoe UI", 48, false, true}));
   EXPECT_TRUE(shown.ForeColor == kRed && shown.BackColor == kBlack);
   show().state.ShowBaseHeader = false;
   EXPECT_EQ(Rotate(4), "WSWS");
@@ -121,7 +121,7 @@ TEST_F(Headers, TheDialogWritesTheBoxesAndEndsAtTheFirstBlankOne) {
   EXPECT_EQ(sim.settings.Writes.back(), std::pair(std::string("ShowBaseHeader"), std::string("False")));
   EXPECT_EQ(sim.files.Read(kPath),
             "#2026-03-01 20:00:00#\r\n\" Hello \",\"Liberation Sans\",10,#FALSE#,#TRUE#,255,5242880\r\n" + kBlank +
-                "\"Behind\",\"Comic Sans MS\",18,#TRUE#,#FALSE#,65535,5242880\r\n" + kBlank);
+                "\"Behind\",\"Segoe UI\",18,#TRUE#,#FALSE#,65535,5242880\r\n" + kBlank);
   EXPECT_EQ(Rotate(3), "HHH");
   ReadFromHeaderFile(show());
   EXPECT_EQ(show().state.OptionalHeaderCount, 2) << "reading counts lines that are not blank";

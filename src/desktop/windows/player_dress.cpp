@@ -150,7 +150,8 @@ class TurnInBox : public Observer {
     QPalette palette = box_.palette();
     palette.setColor(QPalette::PlaceholderText, color);
     box_.setPalette(palette);
-    box_.setStyleSheet(player == 0 ? QString() : QString("QLineEdit { border: 3px solid %1; }").arg(color.name()));
+    box_.setStyleSheet(player == 0 ? QString()
+                                   : QString("QLineEdit { border: 3px solid %1; color: #FFFFFF; }").arg(color.name()));
   }
 
   MainForm& form_;
