@@ -248,6 +248,7 @@ TEST(RoomsColors, EveryTextStandsOutFromItsGround) {
 }
 
 TEST_F(WindowsTest, TheTurnIsLightInThePlayersOwnColourAndTheOthersAreDim) {
+  show_.state.DualScreen = true;
   LightScoreBox(show_, 3);
   show_.frmFSMain.picStandby.Visible = form_.picStandby.Visible = false;
   Canvas& room = program_.Audience().Screen();
@@ -270,6 +271,8 @@ TEST_F(WindowsTest, TheTurnIsLightInThePlayersOwnColourAndTheOthersAreDim) {
 TEST_F(WindowsTest, TheOptionsTabsTurnByKeyFromAnywhere) {
   FormWindow& window = Window(show_.frmOptions);
   window.show();
+  window.activateWindow();
+  ASSERT_TRUE(QTest::qWaitForWindowActive(&window));
   auto* tabs = window.findChild<QTabWidget*>("SSTab1");
   const int first = tabs->currentIndex();
   window.findChild<QWidget*>("btnOK")->setFocus();

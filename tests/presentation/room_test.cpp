@@ -86,7 +86,7 @@ TEST_F(Room, HasTheCardsInTheMiddleForTwoPlayersAndForThree) {
 
 TEST_F(Room, SeesTheWinnerInTheOwnColourAndTheFinalScoresInOrder) {
   GamePlayer player("Trivia A, 4x4, user advances");
-  player.Do("skip, player 3 gains 1000, player 3 gains 100, player 1 gains 100, end game");
+  player.Do("correct, claim A1, player 3 gains 1000, player 3 gains 100, player 1 gains 100, end game");
   for (const WinnerPanel* result : {&player.form().Winner, &ScreenOf(player).Winner}) {
     EXPECT_EQ(result->lblWinnerWord.Caption.Get(), "Wins!");
     EXPECT_TRUE(result->lblWinnerName[2].Visible);
@@ -100,7 +100,9 @@ TEST_F(Room, SeesTheWinnerInTheOwnColourAndTheFinalScoresInOrder) {
 
 TEST_F(Room, SeesAllWhoLeadInATie) {
   GamePlayer player("Trivia A, 2 players, 4x4, user advances");
-  player.Do("skip, end game");
+  player.Do("correct, claim A1");
+  for (int i = 0; i < 5; ++i) player.Do("player 2 gains 10");
+  player.Do("end game");
   const WinnerPanel& result = ScreenOf(player).Winner;
   EXPECT_EQ(result.lblWinnerWord.Caption.Get(), "Tie!");
   EXPECT_TRUE(result.lblWinnerName[0].Visible && result.lblWinnerName[1].Visible);
@@ -111,11 +113,11 @@ TEST_F(Room, SeesAllWhoLeadInATie) {
 TEST_F(Room, LeavesTheLastResultInTheOperatorsViewUntilTheNextStart) {
   GamePlayer player("Trivia A, 2 players, 4x4, user advances");
   const MainForm& console = player.form();
-  player.Do("skip, player 2 gains 100, end game");
+  player.Do("correct, claim A1, player 2 gains 100, end game");
   EXPECT_FALSE(console.picLastResult.IsShown());
   player.Do("wait 6 s, choose the set");
   EXPECT_TRUE(console.picLastResult.IsShown());
-  EXPECT_EQ(console.lblLastResult.Caption.Get(), "Last game: PLAYER 2 Wins!\r\nPLAYER 2 100, PLAYER 1 0");
+  EXPECT_EQ(console.lblLastResult.Caption.Get(), "Last game: PLAYER 2 Wins!\r\nPLAYER 2 100, PLAYER 1 50");
   player.Do("start, hide");
   EXPECT_FALSE(console.picLastResult.IsShown());
 }

@@ -14,7 +14,7 @@ namespace {
 
 // A dim card's share of the panel's colour in what is written on it, which stays readable.
 constexpr double kDimmed = 0.14;
-constexpr double kLight = 0.24;
+constexpr double kLight = 0.18;
 
 QPainterPath Stroked(const QPainterPath& lines, double width) {
   QPainterPathStroker stroker;

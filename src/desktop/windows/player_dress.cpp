@@ -124,6 +124,7 @@ class TurnInBox : public Observer {
   TurnInBox(MainForm& form, QLineEdit& box) : form_(form), box_(box) {
     box_.setProperty("showsTurn", true);
     sign_ = box_.addAction(QIcon(), QLineEdit::LeadingPosition);
+    for (auto* sign : box_.findChildren<QAbstractButton*>()) sign->setAccessibleName("Whose turn it is");
     for (int player = 1; player <= kPlayers; ++player) {
       form_.PlayerBox(player).AddObserver(*this);
       form_.lblPlayer1[PlayerIndex(player)].AddObserver(*this);
