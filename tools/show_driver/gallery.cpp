@@ -165,7 +165,7 @@ class Gallery {
     form_.tmrWinner.Enabled = false;
     form_.tmrAnimate[1].Enabled = false;
     form_.lblWinner.Visible = true;
-    driver_.Pause(600);
+    driver_.Pause(1500);
     driver_.TakePictures(name);
     ReportLetters("the final name", show_.frmFSMain.Winner.lblFinalName[0]);
     HidePanel(show_, Panel::Winner);

@@ -13,7 +13,7 @@ namespace pawnfield {
 namespace {
 
 constexpr QSize kSize(148, 84);
-constexpr QRectF kSheet(8, 10, 46, 30);
+constexpr QRectF kSheet(96, 7, 44, 25);
 constexpr double kSign = 20;
 constexpr double kSignTop = 52;
 constexpr double kSignStep = 44;
@@ -31,7 +31,7 @@ void PaintQuestion(QPainter& painter, bool fromSet) {
   }
   painter.setPen(ToQColor(kGold));
   QFont font = painter.font();
-  font.setPixelSize(18);
+  font.setPixelSize(15);
   font.setBold(true);
   painter.setFont(font);
   painter.drawText(kSheet, Qt::AlignCenter, "?");
