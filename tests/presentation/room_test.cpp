@@ -115,10 +115,10 @@ TEST_F(Room, LeavesTheLastResultInTheOperatorsViewUntilTheNextStart) {
   const MainForm& console = player.form();
   player.Do("correct, claim A1, player 2 gains 100, end game");
   EXPECT_FALSE(console.picLastResult.IsShown());
-  player.Do("wait 6 s, choose the set");
+  player.Do("wait 6 s");
   EXPECT_TRUE(console.picLastResult.IsShown());
   EXPECT_EQ(console.lblLastResult.Caption.Get(), "Last game: PLAYER 2 Wins!\r\nPLAYER 2 100, PLAYER 1 50");
-  player.Do("start, hide");
+  player.Do("choose the set, start, hide");
   EXPECT_FALSE(console.picLastResult.IsShown());
 }
 
