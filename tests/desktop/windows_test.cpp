@@ -29,6 +29,7 @@
 #include "presentation/board_layout.h"
 #include "presentation/both_screens.h"
 #include "presentation/final_result.h"
+#include "presentation/screen_pairs.h"
 
 namespace pawnfield {
 namespace {
@@ -248,8 +249,8 @@ TEST(RoomsColors, EveryTextStandsOutFromItsGround) {
 }
 
 TEST_F(WindowsTest, TheTurnIsLightInThePlayersOwnColourAndTheOthersAreDim) {
-  show_.state.DualScreen = true;
   LightScoreBox(show_, 3);
+  CopyPairs(show_);
   show_.frmFSMain.picStandby.Visible = form_.picStandby.Visible = false;
   Canvas& room = program_.Audience().Screen();
   room.resize(1920, 1080);
