@@ -127,22 +127,6 @@ def cursor(kind):
 
 # --- Boards and pawns as ornaments ----------------------------------------
 
-def pawn_mask(size, centre, height):
-    """The outline of a pawn, standing on the lower end of its height."""
-    mask = Image.new("L", size, 0)
-    draw = ImageDraw.Draw(mask)
-    cx, cy = centre
-    u = height / 100
-    y0 = cy - height / 2
-    draw.ellipse((cx - 20 * u, y0, cx + 20 * u, y0 + 40 * u), fill=255)
-    draw.rounded_rectangle((cx - 24 * u, y0 + 36 * u, cx + 24 * u, y0 + 45 * u), 4 * u, fill=255)
-    sides = [(12 + 18 * (t / 20) ** 2.2, 44 + 40 * t / 20) for t in range(21)]
-    draw.polygon([(cx + x * u, y0 + y * u) for x, y in sides]
-                 + [(cx - x * u, y0 + y * u) for x, y in reversed(sides)], fill=255)
-    draw.rounded_rectangle((cx - 36 * u, y0 + 84 * u, cx + 36 * u, y0 + 100 * u), 6 * u, fill=255)
-    return mask
-
-
 def flat_board(cells, side, placed):
     """A board seen from above, with some squares taken."""
     image = Image.new("RGBA", (side, side), (0, 0, 0, 0))
@@ -159,33 +143,6 @@ def flat_board(cells, side, placed):
                                 square.width // 8).resize(square.size, Image.LANCZOS)
             image.paste(square, (int((col + 0.03) * step), int((row + 0.03) * step)), mask)
     return image
-
-
-def icon():
-    big = 1024
-    image = Image.new("RGB", (big, big), rgb(GROUND))
-    whole = (big, big)
-    image.paste(vertical_gradient(whole, "#24345C", "#0E1320"))
-    step, gap, start = 272, 24, 92
-    kinds = {(0, 0): "X", (0, 2): "O", (2, 0): "T", (2, 2): "X"}
-    for row in range(3):
-        for col in range(3):
-            x, y = start + col * (step + gap) - 12, start + row * (step + gap) - 12
-            kind = kinds.get((row, col))
-            box = (x, y, x + step, y + step)
-            colour = PLAYER[kind] if kind else "#3A5BA6"
-            paint(image, mix("#182342", colour, 0.22 if kind else 0.45), rounded_mask(whole, box, 44))
-            paint(image, mix("#182342", colour, 0.75), rounded_mask(whole, box, 44, 8))
-            if kind:
-                mask = piece_mask(kind, whole, (x + step / 2, y + step / 2), 84, 0.36)
-                glow(image, colour, mask, 22, 0.6)
-                paint(image, colour, mask)
-    mask = pawn_mask(whole, (512, 520), 700)
-    paint(image, "#05070D", mask.filter(ImageFilter.MaxFilter(25)).filter(ImageFilter.GaussianBlur(14)), 0.85)
-    shade(image, mask, "#FFE3A3", "#C98A1E")
-    result = image.convert("RGBA")
-    result.putalpha(rounded_mask(whole, (8, 8, big - 9, big - 9), 200))
-    return finish(result, (256, 256))
 
 
 # --- Full pictures ---------------------------------------------------------
@@ -659,7 +616,6 @@ def main():
         cursor(kind).save(IMAGES / f"Cursor{name}.png", optimize=True)
     header().save(IMAGES / "Header.png", optimize=True)
     exit_cross().save(IMAGES / "Exit.png", optimize=True)
-    icon().save(ASSETS / "pawnfield.png", optimize=True)
     for name, image in (("Standby", standby()), ("Bonus", bonus()), ("Sound", sound_panel()),
                         ("Correct", verdict(True)), ("Incorrect", verdict(False)), ("FiveLeft", five_left()),
                         ("Cover", cover()), ("Winner", winner()),
