@@ -4,6 +4,7 @@
 #include <cstdio>
 #include <vector>
 
+#include "controllers/pages_switch.h"
 #include "controllers/zr610.h"
 #include "engine/set_choice.h"
 #include "forms/main_form.h"
@@ -94,7 +95,11 @@ void tmrSplash_Timer(Show& show) {
   ServeWhatIsFound(show);
   show.frmLoading.Visible = false;
   show.frmSplash.Visible = false;
-  show.record->Interrupted ? AskForInterruptedShow(show) : OpenSetAtStart(show);
+  if (!show.record->Interrupted) {
+    OpenSetAtStart(show);
+  } else if (AskForInterruptedShow(show)) {
+    BringPagesBack(show);
+  }
 }
 
 }  // namespace pawnfield

@@ -55,16 +55,17 @@ std::string Describe(const InterruptedShow& interrupted) {
   return text + ".";
 }
 
-void AskForInterruptedShow(Show& show) {
-  if (!show.record->Interrupted) return;
+bool AskForInterruptedShow(Show& show) {
+  if (!show.record->Interrupted) return false;
   InterruptedShow interrupted = *std::exchange(show.record->Interrupted, std::nullopt);
   const BoxAnswer answer = show.platform.dialogs.Ask(
       {Describe(interrupted), BoxKind::YesNo, BoxAnswer::Yes, "Bring It Back", "Start Afresh"}, kAppTitle);
-  if (answer == BoxAnswer::Yes) {
-    BringBack(show, std::move(interrupted));
-  } else {
+  if (answer != BoxAnswer::Yes) {
     LeaveBehind(show, interrupted);
+    return false;
   }
+  BringBack(show, std::move(interrupted));
+  return true;
 }
 
 }  // namespace pawnfield

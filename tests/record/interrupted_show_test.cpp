@@ -1,6 +1,7 @@
 #include <gtest/gtest.h>
 
 #include "forms/main_form.h"
+#include "forms/pages_form.h"
 #include "forms/small_forms.h"
 #include "platform/ports.h"
 #include "program/program.h"
@@ -34,6 +35,9 @@ class Interrupted : public testing::Test {
     again_ = std::make_unique<ShowFixture>();
     again_->sim.files = played_->fixture().sim.files;
     again_->sim.records.Files = Disk();
+    for (const auto& [key, value] : played_->fixture().sim.settings.Writes) {
+      again_->sim.settings.Preset("Pawnfield", "Pages", key, value);
+    }
     again_->sim.dialogs.ExpectMessage("No hardware was detected");
     if (!told.empty()) again_->sim.dialogs.ExpectMessage(told, answer);
     Main(again_->show());
@@ -58,6 +62,16 @@ TEST_F(Interrupted, ComesBackUnderTheCoverAsItWas) {
     found.Lit = wanted.Lit;
     found.Cursor = wanted.Cursor;
     EXPECT_EQ(UnlikeSnapshots(wanted, found), "") << script;
+  }
+}
+
+TEST_F(Interrupted, FindsItsPhonesAgain) {
+  for (const BoxAnswer answer : {BoxAnswer::Yes, BoxAnswer::No}) {
+    Play("5 3 5 full", "r2 + 00 >");
+    played_->show().frmPages.btnSwitch.Click();
+    ASSERT_TRUE(played_->fixture().sim.network.Listens);
+    StartAgain(answer);
+    EXPECT_EQ(again_->sim.network.Listens, answer == BoxAnswer::Yes);
   }
 }
 
