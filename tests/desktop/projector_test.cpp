@@ -24,6 +24,9 @@ class ProjectorTest : public ShowSuite {
     ready_ = ready_ && Press({"optGameType_3"}) && driver_->Choose("cboAutoContinue", "User Advances") &&
              driver_->Choose("cboList", "General Knowledge 2") && Wait([] { return Main().btnStart.Enabled.Get(); }) &&
              Press({"btnStart"});
+    // What may take the focus from it is told by what follows, and not by a window manager that is late.
+    Console().activateWindow();
+    ready_ = ready_ && Wait([] { return Console().isActiveWindow(); });
   }
 
   // Where the display server has the output, empty for one that is off.
