@@ -2,6 +2,7 @@
 #pragma once
 
 #include <array>
+#include <cstdint>
 #include <string>
 #include <vector>
 
@@ -76,6 +77,8 @@ struct GameState {
   PerPlayer<int> Lamp{kLampOn, kLampOff, kLampOff};
   PerPlayer<std::string> LampCode{"1", "3", "3"};
   int CurrentQuestion = 0;
+  // By the clock's milliseconds: when the pause that runs brings the next question.
+  std::int64_t ContinueAtMs = 0;
   int PiecePoints = 0;
   // Tens of points: what a claim pays, and what a line adds.
   int Scoring = 5, Bonus = 5;
@@ -122,6 +125,8 @@ struct GameState {
   std::string BgMusicFileName;
   // True while there is something to play. The folder's tracks; MusicIndex counts from 1, 0 is before the first.
   bool MusicEnabled = false;
+  // The operator has turned the music's sound off, or has stopped it, until he turns it on again.
+  bool MusicMuted = false, MusicStopped = false;
   // A question's clip has paused the music, which comes back with the clip's end.
   bool MusicWaits = false;
   std::vector<std::string> MusicList;

@@ -39,6 +39,10 @@ DesktopPlatform::DesktopPlatform(const DesktopPlaces& places, std::function<void
                records,
                places.folders} {
   for (const char* own : {"\\Images", "\\Question Backgrounds"}) pictures.HoldFolder(places.folders.App + own);
+  mediaFiles.OnMeasure = [this](const std::string& path, std::function<void(double)> then) {
+    if (!mediaLength) mediaLength = std::make_unique<MediaLength>();
+    mediaLength->Measure(path, std::move(then));
+  };
 }
 
 }  // namespace pawnfield

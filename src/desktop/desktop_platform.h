@@ -2,6 +2,7 @@
 #pragma once
 
 #include <functional>
+#include <memory>
 #include <optional>
 
 #include "desktop/devices/hidapi_port.h"
@@ -12,6 +13,7 @@
 #include "desktop/files/qt_settings_store.h"
 #include "desktop/files/record_writer.h"
 #include "desktop/media/media_files.h"
+#include "desktop/media/media_length.h"
 #include "desktop/media/mpv_video.h"
 #include "desktop/pages/qt_pages.h"
 #include "desktop/painting/picture_cache.h"
@@ -51,6 +53,8 @@ class DesktopPlatform {
   QtFileSystem files;
   QtTextMeasurer text;
   MediaFiles mediaFiles;
+  // Made with the first file that is measured.
+  std::unique_ptr<MediaLength> mediaLength;
   QtDisplays displays;
   LinuxProcesses processes;
   SeededRandom random;

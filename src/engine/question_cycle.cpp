@@ -209,6 +209,7 @@ void StartAutoContinue(Show& show) {
   }
   form.tmrAutoContinue.Interval = show.state.AutoContinue * 1000;
   form.tmrAutoContinue.Restart();
+  show.state.ContinueAtMs = show.platform.clock.NowMs() + form.tmrAutoContinue.Interval;
   form.btnContinue.Enabled = false;
 }
 

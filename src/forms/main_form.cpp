@@ -128,6 +128,9 @@ void MainForm::SetCaptions() {
   }
   btnSounds.Caption = "Sounds";
   btnStopSounds.Caption = "Stop Sounds";
+  btnMute.Caption = "Mute";
+  btnStopAll.Caption = "Stop All";
+  btnCues.Caption = "Cues";
 
   pawnfield::Caption(lblPlayer1, std::array{"PLAYER 1", "PLAYER 2", "PLAYER 3"});
   for (Label* label : {&lblP1Score, &lblP2Score, &lblP3Score, &lblPlayer1Score, &lblPlayer2Score, &lblPlayer3Score}) {
@@ -216,6 +219,12 @@ void MainForm::SetInitialStates() {
   Hide(shpStart, lblListLeftArrow, lblListRightArrow, btnQuestionCorrect, btnQuestionIncorrect, lblAnswerClock);
   mnuZR610.Visible = false;
   mnuFileBringBack.Enabled = false;
+  Hide(lblRingInOrder, lstRingInOrder, chpRecord, chpPhones);
+  lstRingInOrder.ColumnHeaders = {"", "", "", ""};
+  fraCues.Visible = false;
+  Contain(fraCues, {&lstCues});
+  for (std::size_t i = 0; i < fdrVolume.Size(); ++i) fdrVolume[i].Container = &fraCues;
+  lstCues.ColumnHeaders = {"Key", "File", "Kind", "Length", "Left"};
   Disable(btnSkipQuestion, btnNextPlayer, btnContinue, btnStart, btnUndo, btnReset, btnEndGame, btnCorrect,
           btnAnswerClock);
 }

@@ -47,6 +47,45 @@ class MainForm : public Form {
   Menu mnuHelpProjector{*this, "mnuHelpProjector"};
   Menu mnuHelpAbout{*this, "mnuHelpAbout"};
 
+  // Where the show is: the line over the board, and the chips in the menu bar. engine/show_line writes the line.
+  Label lblLineSet{*this, "lblLineSet"};
+  Label lblLineCount{*this, "lblLineCount"};
+  // Who is meant, in the player's colour, and what is expected.
+  Label lblLineWho{*this, "lblLineWho"};
+  Label lblLineExpected{*this, "lblLineExpected"};
+  Label lblLineClock{*this, "lblLineClock"};
+  Label lblLineContinue{*this, "lblLineContinue"};
+  Label lblLineNext{*this, "lblLineNext"};
+  // Whether what is set before the show can be set now: "IN PLAY", "LOCKED IN PLAY".
+  Label lblInPlay{*this, "lblInPlay"};
+  // What an undo takes back.
+  Label lblUndoNote{*this, "lblUndoNote"};
+  Chip chpAudience{*this, "chpAudience"};
+  Chip chpBuzzers{*this, "chpBuzzers"};
+  Chip chpSound{*this, "chpSound"};
+  Chip chpRecord{*this, "chpRecord"};
+  Chip chpPhones{*this, "chpPhones"};
+  // Who rang in, in order: a row is the player's number, the name, when it was, and "amber" where that is too close to
+  // call. Both are hidden while there is nothing to tell.
+  Label lblRingInOrder{*this, "lblRingInOrder"};
+  ListView lstRingInOrder{*this, "lstRingInOrder"};
+  // A hand on the sound: what plays, the music, and on demand all volumes and the filled letters. Volumes stand as the
+  // options have them: effects, letter keys, clips, music, verdicts.
+  Label lblNowPlaying{*this, "lblNowPlaying"};
+  Fader fdrMusic{*this, "fdrMusic"};
+  Button btnMute{*this, "btnMute"};
+  Button btnStopAll{*this, "btnStopAll"};
+  Button btnCues{*this, "btnCues"};
+  Frame fraCues{*this, "fraCues"};
+  ControlArray<Fader, 5> fdrVolume{*this, "fdrVolume"};
+  // Letter, name, kind, length, and what is left of one that plays.
+  ListView lstCues{*this, "lstCues"};
+  Timer tmrSoundPanel{*this, "tmrSoundPanel", 500};
+  // Why a control can't be pressed now, in words; empty for one that can. Set with the handlers.
+  std::function<std::string(const Control&)> WhyNot;
+  // Runs while the line counts seconds.
+  Timer tmrShowLine{*this, "tmrShowLine", 200};
+
   // What is set before the show.
   ControlArray<OptionButton, kGameTypes.size()> optGameType{*this, "optGameType"};
   Button btnGameTypeHelp{*this, "btnGameTypeHelp"};

@@ -21,6 +21,7 @@ bool MusicFileIsThere(const Show& show) {
 }
 
 void PlayTrack(Show& show, const std::string& path) {
+  show.MusicPlayed = path;
   show.platform.media.BackgroundPlayer.SetUrl(path);
   show.platform.media.BackgroundPlayer.SetPosition(0);
 }
@@ -67,11 +68,13 @@ void DecideOnMusic(Show& show) {
 }
 
 void StartMusic(Show& show) {
+  show.state.MusicStopped = false;
   if (show.state.MusicEnabled) show.frmMain.tmrBGMusic.Enabled = true;
   RestartBackground(show);
 }
 
 void BringMusicBack(Show& show) {
+  show.state.MusicStopped = false;
   if (show.state.MusicEnabled) show.frmMain.tmrBGMusic.Enabled = true;
   ResumeBackground(show);
 }

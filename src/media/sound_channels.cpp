@@ -29,7 +29,10 @@ void optSoundBank_Click(Show& show, std::size_t index) { show.state.SoundSet = s
 
 }  // namespace
 
-void PlayKeyPress(Show& show, const std::string& path) { Play(show.platform.media.KeyPressPlayer, path); }
+void PlayKeyPress(Show& show, const std::string& path) {
+  show.CuePlayed = path;
+  Play(show.platform.media.KeyPressPlayer, path);
+}
 
 void PlayEvent(Show& show, const std::string& path) { Play(show.platform.media.EventPlayer, path); }
 

@@ -32,6 +32,12 @@ void Control::Click() {
   if (IsReachable()) Raise(OnClick, "_Click");
 }
 
+void Fader::Slide(int value) {
+  if (!IsReachable()) return;
+  Value = std::clamp(value, 0, 100);
+  Raise(OnClick, "_Change");
+}
+
 void Control::DblClick() {
   if (IsReachable()) Raise(OnDblClick, "_DblClick");
 }

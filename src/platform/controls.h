@@ -52,7 +52,9 @@ enum class ControlKind {
   ProgressBar,
   Grid,
   MediaPlayer,
-  ListView
+  ListView,
+  Chip,
+  Fader
 };
 
 template <typename T>
@@ -187,6 +189,26 @@ class Button : public Control {
  public:
   Button(Form& form, std::string name) : Control(form, std::move(name), ControlKind::Button) {}
   Property<std::string> Caption{*this, PropertyId::Caption};
+};
+
+// What a chip says of what it stands for.
+enum class ChipState { None, Good, Amber, Red };
+
+// A short word on what is connected, in the menu bar; a click opens what mends it.
+class Chip : public Control {
+ public:
+  Chip(Form& form, std::string name) : Control(form, std::move(name), ControlKind::Chip) {}
+  Property<std::string> Caption{*this, PropertyId::Caption};
+  Property<ChipState> State{*this, PropertyId::Value, ChipState::None};
+};
+
+// A value 0..100 that a hand slides.
+class Fader : public Control {
+ public:
+  Fader(Form& form, std::string name) : Control(form, std::move(name), ControlKind::Fader) {}
+  // A user slides it; runs the handler when it can be reached.
+  void Slide(int value);
+  Property<int> Value{*this, PropertyId::Value, 0};
 };
 
 // An image: draws its picture stretched to its size. Picture is a file's path as the program spells it, empty for none.

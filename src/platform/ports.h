@@ -132,6 +132,10 @@ class MediaChannel {
   // at any other time.
   virtual double CurrentPosition() const = 0;
   virtual double Duration() const = 0;
+  // True while what it plays goes nowhere, because the machine has no sound device or has lost it.
+  virtual bool IsSilent() const { return false; }
+  // Called, between events, when that has changed.
+  std::function<void()> OnSilenceChange;
 
   // Called at every change of state, by the program's wish or by the player's own controls.
   std::function<void(PlayState state)> OnPlayStateChange;
@@ -258,10 +262,16 @@ class MediaReader {
   virtual void Look(const std::string& path, std::function<void(bool plays)> then) = 0;
   // The same of a sound, which is also decoded as far as its beginning. Takes some 50 ms longer.
   virtual void Check(const std::string& path, std::function<void(bool plays)> then) = 0;
+  // Reports, between events, how many seconds a sound or film lasts; 0 where that can't be told.
+  virtual void Measure(const std::string& /*path*/, std::function<void(double seconds)> /*then*/) {}
+  // Whether there is something to play sound on. Takes a few milliseconds.
+  virtual bool HasSoundDevice() const { return true; }
 };
 
 struct MonitorInfo {
   int Left = 0, Top = 0, Right = 0, Bottom = 0;
+  // As the system calls it, "HDMI-1"; may be empty.
+  std::string Name{};
 };
 
 class Displays {

@@ -15,7 +15,9 @@
 #include "engine/player_names.h"
 #include "engine/question_cycle.h"
 #include "engine/set_choice.h"
+#include "engine/show_line.h"
 #include "engine/turn_order.h"
+#include "engine/why_not.h"
 #include "engine/win_detection.h"
 #include "forms/fs_main_form.h"
 #include "forms/main_form.h"
@@ -23,11 +25,13 @@
 #include "forms/small_forms.h"
 #include "media/media_handlers.h"
 #include "media/sound_channels.h"
+#include "media/sound_panel.h"
 #include "outward/companion.h"
 #include "outward/shared_key.h"
 #include "platform/attach.h"
 #include "platform/errors.h"
 #include "presentation/audience_screen.h"
+#include "program/console_chips.h"
 #include "program/detection.h"
 #include "program/interface_wizard.h"
 #include "program/start_up.h"
@@ -126,6 +130,7 @@ void AttachTimers(Show& show) {
   OnTimer(show, form.tmrFlipPlayerPiece, tmrFlipPlayerPiece_Timer);
   OnTimer(show, form.tmrAnswerClock, tmrAnswerClock_Timer);
   OnTimer(show, form.tmrWinner, tmrWinner_Timer);
+  OnTimer(show, form.tmrShowLine, tmrShowLine_Timer);
   OnTimer(show, show.frmFSMain.tmrFSFlipPlayerPiece, tmrFSFlipPlayerPiece_Timer);
   OnTimer(show, show.frmAlwaysLoaded.tmrAlwaysLoaded, tmrAlwaysLoaded_Timer);
   OnTimer(show, show.frmAlwaysLoaded.tmrCompanion, tmrCompanion_Timer);
@@ -150,6 +155,20 @@ void RunEvent(Show& show, const std::function<void()>& handler, const std::strin
   guarded([&show] { AfterEvent(show); });
 }
 
+// What tells the operator where the show is follows each event.
+void ShowWhereWeAre(Show& show) {
+  WriteShowLine(show);
+  show.frmMain.lblUndoNote.Caption = show.frmMain.btnUndo.Enabled ? UndoText(show) : "";
+  ShowChips(show);
+  ShowSoundPanel(show);
+}
+
+void AttachWhereWeAre(Show& show) {
+  AttachChips(show);
+  AttachSoundPanel(show);
+  show.frmMain.WhyNot = [&show](const Control& control) { return WhyNot(show, control); };
+}
+
 void AttachExit(Show& show) {
   MainForm& form = show.frmMain;
   form.OnQueryUnload = [&show] { return Form_QueryUnload(show); };
@@ -168,6 +187,7 @@ void AttachHandlers(Show& show) {
   AttachSquares(show);
   AttachTimers(show);
   AttachExit(show);
+  AttachWhereWeAre(show);
   AttachPlayerNamesHandlers(show);
   AttachEditorHandlers(show);
   AttachHelpHandlers(show);
@@ -187,6 +207,7 @@ void AttachHandlers(Show& show) {
       RunEvent(show, handler, location, procedure);
       UpdateAnswerClock(show);
       SaveChangedSettings(show);
+      ShowWhereWeAre(show);
       TellPages(show);
     };
     show.platform.clock.Attach(*form);

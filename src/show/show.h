@@ -131,6 +131,12 @@ struct Show {
   // Whether a picture of the program could be opened when it was first asked for.
   std::map<std::string, bool> PictureFound;
   MediaCheck mediaCheck;
+  // The letter's sound and the track of music that were given to their players last.
+  std::string CuePlayed, MusicPlayed;
+  // How many seconds the letters' sounds and films last, as far as that has been told; 0 until then.
+  std::map<std::string, double> CueLengths;
+  // Whether the machine has something to play sound on, and had it at some time of this evening.
+  bool SoundLookedFor = false, SoundFound = false, SoundOnceFound = false;
   // Counts the films and pictures that the operator has called for on demand.
   int MediaAsked = 0;
   // The background that was drawn last, which may still be on its way.

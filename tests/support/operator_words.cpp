@@ -220,6 +220,7 @@ std::string Seen(const std::string& phrase) {
   }
   if (phrase.starts_with("player ") && phrase.ends_with(" lit")) return "lit=" + phrase.substr(7, 1);
   if (const std::string text = Behind(phrase, "says "); !text.empty()) return "lblStatusBar=" + Underscored(text);
+  if (const std::string text = Behind(phrase, "line "); !text.empty()) return "line=" + Underscored(text);
   if (const std::string number = Behind(phrase, "question "); !number.empty() && number.size() < 3) {
     return "question=" + std::to_string(std::stoi(number) - 1);
   }

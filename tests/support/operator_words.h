@@ -13,7 +13,8 @@
 //   of cboList". "at the names dialog: press OK; name 1 is empty" opens it, "at a message box: remote 1" happens before
 //   its answer, "expect Not found" and "answer No to Sure" say which message comes next, "file C:\a.txt" which file is
 //   chosen. What is seen: "turn 2", "turn nobody", "player 2 lit", "question 3" counted from 1, "phase pause", "scores
-//   50/0/0", "board 100/000/000", "says "text"" in the status line, "offers Start and Undo"; "bonus is shown", "room
+//   50/0/0", "board 100/000/000", "says "text"" in the status line, "line "text"" in the
+//   line over the board, "offers Start and Undo"; "bonus is shown", "room
 //   bonus is hidden", "Continue is off", "A1 shows X-100a", "room A1 is empty", "A1 height is 900", "buzzer 2 is
 //   disabled". A control without words of its own goes by its name, and a check with "=" is one of ExpectSeen's.
 #pragma once

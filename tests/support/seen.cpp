@@ -106,6 +106,10 @@ std::string Seen(Show& show, const std::string& name, const Form& form) {
   if (name == "question") return std::to_string(state.CurrentQuestion);
   if (name == "scores") return score(1) + "/" + score(2) + "/" + score(3);
   if (name == "names") return Plain(player(0) + "/" + player(1) + "/" + player(2));
+  if (name == "line") {
+    const std::string who = main.lblLineWho.Caption;
+    return Plain((who.empty() ? "" : who + " ") + main.lblLineExpected.Caption.Get());
+  }
   if (name == "board") return Board(state);
   if (name == "cursor") return FileName(main.MouseIcon);
   if (name == "cursor'") return FileName(show.frmFSMain.MouseIcon);

@@ -12,7 +12,8 @@ namespace pawnfield {
 //   ("picBonus'"); its property behind a dot: ".Height" and ".Top" in twips, ".Enabled" with "yes" or "no", its ".Tip",
 //   a text's size with ".Font" or its ".BackColor" as a number; "turn" and "question" by their numbers, "phase" as in
 //   "player_2_answers", "lit" for the players whose score boxes are red, "scores" ("50/0/-100"), "names", "board" as
-//   rows of owners ("100/020/000"), "cursor" by its file's name, "winner" for the winner's text, "offers" and "options"
+//   rows of owners ("100/020/000"), "cursor" by its file's name, "line" for who is
+//   meant and what is expected, "winner" for the winner's text, "offers" and "options"
 //   for what can be pressed, without "btn", "chk" and "cbo", parted by commas, "penalties" for the players who pay and
 //   the points ("1-3/20").
 // A control shows "-" when hidden, otherwise its text, its picture's file name, or "up" ("off" when disabled); a check

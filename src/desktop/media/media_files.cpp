@@ -64,4 +64,8 @@ void MediaFiles::Ask(std::function<bool()> question, std::function<void(bool)> t
   });
 }
 
+void MediaFiles::Measure(const std::string& path, std::function<void(double seconds)> then) {
+  if (OnMeasure) OnMeasure(path, std::move(then));
+}
+
 }  // namespace pawnfield

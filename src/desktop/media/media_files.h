@@ -5,6 +5,7 @@
 #include <QThreadPool>
 #include <optional>
 
+#include "desktop/media/sound_devices.h"
 #include "platform/ports.h"
 
 namespace pawnfield {
@@ -21,6 +22,11 @@ class MediaFiles : public QObject, public MediaReader {
 
   void Look(const std::string& path, std::function<void(bool plays)> then) override;
   void Check(const std::string& path, std::function<void(bool plays)> then) override;
+  void Measure(const std::string& path, std::function<void(double seconds)> then) override;
+  bool HasSoundDevice() const override { return pawnfield::HasSoundDevice(); }
+
+  // Whoever can tell how long a file lasts; files aren't measured without.
+  std::function<void(const std::string& path, std::function<void(double seconds)> then)> OnMeasure;
 
  private:
   // Runs the question beside and hands its answer on between events.

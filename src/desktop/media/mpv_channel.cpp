@@ -216,7 +216,10 @@ void MpvChannel::Drain() {
 void MpvChannel::HandleProperty(const mpv_event_property& property) {
   const QByteArray name = property.name;
   if (name == "current-ao") {
-    output_ = property.format == MPV_FORMAT_STRING ? QByteArray(*static_cast<char**>(property.data)) : QByteArray();
+    const bool silent = IsSilent();
+    // A player that is at rest has none, which says nothing about the machine's.
+    if (property.format == MPV_FORMAT_STRING) output_ = QByteArray(*static_cast<char**>(property.data));
+    if (silent != IsSilent() && OnSilenceChange) OnSilenceChange();
   } else if (name == "time-pos" || name == "duration") {
     if (property.format != MPV_FORMAT_DOUBLE) return;
     (name == "time-pos" ? position_ : duration_) = *static_cast<double*>(property.data);

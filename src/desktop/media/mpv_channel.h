@@ -31,6 +31,7 @@ class MpvChannel : public QObject, public MediaChannel {
   void SetVolume(int volume) override;
   double CurrentPosition() const override;
   double Duration() const override;
+  bool IsSilent() const override { return output_ == "null"; }
 
   // Goes to the moment and stays paused when it is paused.
   void SeekTo(double seconds);

@@ -5,13 +5,16 @@
 #include <QWidget>
 #include <QWindow>
 
+#include "desktop/files/windows_1252.h"
+
 namespace pawnfield {
 
 std::vector<MonitorInfo> QtDisplays::Enumerate() const {
   std::vector<MonitorInfo> monitors;
   for (const QScreen* screen : screens_.List()) {
     const QRect area = screens_.Place(*screen);
-    monitors.push_back({area.left(), area.top(), area.left() + area.width(), area.top() + area.height()});
+    monitors.push_back(
+        {area.left(), area.top(), area.left() + area.width(), area.top() + area.height(), Escape(screen->name())});
   }
   return monitors;
 }

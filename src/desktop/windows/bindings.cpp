@@ -10,6 +10,7 @@
 #include <QLineEdit>
 #include <QProgressBar>
 #include <QRadioButton>
+#include <QSlider>
 #include <QTimer>
 #include <QTreeWidget>
 #include <algorithm>
@@ -20,6 +21,7 @@
 #include "desktop/windows/blinker.h"
 #include "desktop/windows/grid_view.h"
 #include "desktop/windows/hold_button.h"
+#include "desktop/windows/line_views.h"
 #include "desktop/windows/model_widgets.h"
 #include "desktop/windows/set_text_edit.h"
 
@@ -217,9 +219,10 @@ class TextBoxBinding : public Binding<TextBox, QLineEdit> {
     if (sign == sign_) return;
     sign_ = sign;
     const bool bright = ToQColor(model.BackColor).lightness() > 140 || model.BackColor == kYellow;
-    widget.setStyleSheet(sign.isEmpty()
-                             ? QString()
-                             : QString("border: 3px solid %1; color: %2;").arg(sign, bright ? "#FFE9A8" : "#E6EAF2"));
+    widget.setStyleSheet(
+        sign.isEmpty()
+            ? QString()
+            : QString("QLineEdit { border: 3px solid %1; color: %2; }").arg(sign, bright ? "#FFE9A8" : "#E6EAF2"));
   }
   // The box is a sample of what its text will look like; larger letters would burst the dialog.
   void ShowLook() {
@@ -325,6 +328,51 @@ class ListViewBinding : public Binding<ListView, QTreeWidget> {
   bool showing_ = false;
 };
 
+class OrderBinding : public Binding<ListView, OrderView> {
+ public:
+  OrderBinding(ListView& list, OrderView& view) : Binding(list, view) { ShowOwn(PropertyId::List); }
+
+ private:
+  void ShowOwn(PropertyId) override {
+    QList<QStringList> rows;
+    for (const ListView::Row& texts : model.ListItems.Get()) {
+      rows.append(QStringList());
+      for (const std::string& text : texts) rows.last().append(Unescape(text));
+    }
+    widget.SetRows(rows);
+  }
+};
+
+class ChipBinding : public Binding<Chip, ChipView> {
+ public:
+  ChipBinding(Chip& chip, ChipView& view) : Binding(chip, view) {
+    // A chip that has nothing to tell leaves its room to the others.
+    QSizePolicy policy = widget.sizePolicy();
+    policy.setRetainSizeWhenHidden(false);
+    widget.setSizePolicy(policy);
+    ShowOwn(PropertyId::Caption);
+    QObject::connect(&widget, &QAbstractButton::clicked, &widget, [this] { model.Click(); });
+  }
+
+ private:
+  void ShowOwn(PropertyId) override { widget.Show(Unescape(model.Caption), model.State); }
+};
+
+class FaderBinding : public Binding<Fader, QSlider> {
+ public:
+  FaderBinding(Fader& fader, QSlider& view) : Binding(fader, view) {
+    widget.setRange(0, 100);
+    ShowOwn(PropertyId::Value);
+    QObject::connect(&widget, &QSlider::valueChanged, &widget, [this](int value) { model.Slide(value); });
+  }
+
+ private:
+  void ShowOwn(PropertyId) override {
+    const QSignalBlocker blocker(widget);
+    widget.setValue(model.Value);
+  }
+};
+
 class ActionBinding : public Observer {
  public:
   ActionBinding(Menu& menu, QAction& action) : menu_(menu), action_(action) {
@@ -380,7 +428,12 @@ std::unique_ptr<Observer> MakeBinding(Control& control, QWidget& widget, Picture
       return MakeGridBinding(static_cast<Grid&>(control), widget);
     case ControlKind::ProgressBar:
       return Make<ProgressBinding, QProgressBar, ProgressBar>(control, widget);
+    case ControlKind::Fader:
+      return Make<FaderBinding, QSlider, Fader>(control, widget);
+    case ControlKind::Chip:
+      return Make<ChipBinding, ChipView, Chip>(control, widget);
     case ControlKind::ListView:
+      if (auto order = Make<OrderBinding, OrderView, ListView>(control, widget)) return order;
       return Make<ListViewBinding, QTreeWidget, ListView>(control, widget);
     default:
       return nullptr;

@@ -8,12 +8,22 @@
 
 namespace pawnfield {
 
-Blinker::Blinker(QWidget& widget, bool lit) : widget_(widget), lit_(lit) { widget_.installEventFilter(this); }
+namespace {
+// Longer than the slowest blink.
+constexpr int kRestMs = 1600;
+}  // namespace
+
+Blinker::Blinker(QWidget& widget, bool lit) : widget_(widget), lit_(lit) {
+  widget_.installEventFilter(this);
+  rest_.setSingleShot(true);
+  rest_.setInterval(kRestMs);
+  QObject::connect(&rest_, &QTimer::timeout, this, [this] { widget_.update(); });
+}
 
 void Blinker::Show(bool lit) {
   if (lit == lit_) return;
   lit_ = lit;
-  if (!HandOver()) widget_.update();
+  HandOver() ? rest_.start() : widget_.update();
 }
 
 bool Blinker::eventFilter(QObject* watched, QEvent* event) {

@@ -5,6 +5,7 @@
 #include <QBackingStore>
 #include <QImage>
 #include <QObject>
+#include <QTimer>
 #include <array>
 #include <memory>
 
@@ -35,6 +36,8 @@ class Blinker : public QObject {
 
   QWidget& widget_;
   bool lit_;
+  // Begins anew with each blink and so ends after the last: what the toolkit itself holds of the place is older.
+  QTimer rest_;
   // Unlit, lit.
   std::array<Side, 2> sides_;
 };

@@ -1,17 +1,28 @@
 #include "desktop/windows/console_window.h"
 
+#include <QAction>
+#include <QHBoxLayout>
+#include <QHelpEvent>
+#include <QMenu>
+#include <QMenuBar>
 #include <QPainter>
 #include <QScreen>
+#include <QToolTip>
 #include <QWindow>
+#include <array>
+#include <utility>
 
+#include "desktop/files/windows_1252.h"
 #include "desktop/painting/board_items.h"
 #include "desktop/painting/ground.h"
+#include "desktop/windows/console_parts.h"
 #include "desktop/windows/focus_rules.h"
 #include "desktop/windows/key_bridge.h"
+#include "desktop/windows/line_views.h"
+#include "desktop/windows/model_widgets.h"
 #include "desktop/windows/player_dress.h"
 #include "desktop/windows/player_view.h"
 #include "forms/main_form.h"
-#include "ui_frm_main.h"
 
 namespace pawnfield {
 
@@ -19,40 +30,181 @@ namespace {
 constexpr double kPanelWidth = 7210;
 constexpr double kPanelHeight = 5640;
 constexpr double kAnswerHeight = 900;
+// Of the window, in logical pixels.
+constexpr int kLeastWidth = 1180, kLeastHeight = 640;
 }  // namespace
 
 ConsoleWindow::ConsoleWindow(MainForm& form, FormWindows& windows, PictureCache& pictures, Screens& screens,
                              MpvVideo& video)
-    : FormWindow(form, windows), screens_(screens) {
-  Ui::frmMain design;
-  design.setupUi(this);
-  if (!WindowsHavePlaces()) {
-    // Nothing tells how much room a Wayland session leaves, and it may end a program whose maximised window is larger:
-    // the board gives way.
-    setMinimumSize(0, 0);
-    layout()->setSizeConstraint(QLayout::SetNoConstraint);
-  }
-  // The frame that blinks around Start lies over nothing that must be hit.
-  design.shpStart->setAttribute(Qt::WA_TransparentForMouseEvents);
-  design.shpStart->raise();
-  board_ = new Canvas(pictures, design.pnlBoard);
-  board_->setObjectName("pnlBoardCanvas");
-  design.pnlBoard->layout()->addWidget(board_);
-  answer_ = new Canvas(pictures, design.fraAnswer);
-  answer_->setObjectName("pnlAnswerCanvas");
-  design.fraAnswer->layout()->addWidget(answer_);
+    : FormWindow(form, windows), main_(form), screens_(screens) {
+  MakeMenus();
+  MakeColumns();
+  auto* soundButtons = MakeSoundButtons(*this);
   dress_ = DressPlayers(form, *this);
+  arrangement_ = std::make_unique<ConsoleArrangement>(*this);
+  board_ = AddCanvas(pictures, "pnlBoard");
+  answer_ = AddCanvas(pictures, "fraAnswer");
   BindForm();
+  FollowModels(form);
   FillBoard(form);
   FillAnswer(form, pictures);
-  board_->Embed(form.fraSoundButtons, *design.fraSoundButtons);
+  board_->Embed(form.fraSoundButtons, *soundButtons);
   board_->Embed(form.MediaPlayer1, *new PlayerView(video, this));
   Bindings()->AddCanvas(*board_);
   Bindings()->AddCanvas(*answer_);
   HoldUnseen();
+  for (QWidget* widget : findChildren<QWidget*>()) widget->installEventFilter(this);
   new KeyBridge(form, *this);
   focus_ = new FocusRules(*this, *findChild<QWidget*>("txtDJCommand"), *board_);
   screens_.Subscribe([this] { ReturnHome(); });
+}
+
+void ConsoleWindow::MakeMenus() {
+  // The chips change their widths, which a corner of the menu bar doesn't follow: so both stand in a row of their own.
+  auto* top = new QWidget(this);
+  top->setObjectName("pnlTop");
+  auto* row = new QHBoxLayout(top);
+  row->setContentsMargins(0, 0, 8, 0);
+  row->setSpacing(8);
+  auto* bar = Add<QMenuBar>(*row, "pnlMenuBar", 1);
+  bar->setNativeMenuBar(false);
+  FillMenus(*bar);
+  constexpr std::array<std::pair<const char*, const char*>, 5> kChips{{{"chpAudience", "Audience screen"},
+                                                                       {"chpBuzzers", "Buzzers"},
+                                                                       {"chpSound", "Sound"},
+                                                                       {"chpRecord", "Record"},
+                                                                       {"chpPhones", "Phones"}}};
+  for (const auto& [name, spoken] : kChips) Add<ChipView>(*row, name)->setAccessibleName(spoken);
+  setMenuWidget(top);
+}
+
+void ConsoleWindow::FillMenus(QMenuBar& bar) {
+  // Null stands for a line between entries; an entry that an earlier menu has is the same one.
+  const auto menu = [&](const char* name, const std::vector<const char*>& entries) {
+    QMenu* made = bar.addMenu("");
+    made->setObjectName(name);
+    for (const char* entry : entries) {
+      QAction* known = entry == nullptr ? nullptr : findChild<QAction*>(entry);
+      if (entry == nullptr) {
+        made->addSeparator();
+      } else if (known != nullptr) {
+        made->addAction(known);
+      } else {
+        made->addAction("")->setObjectName(entry);
+      }
+    }
+  };
+  menu("mnuFile",
+       {"fileClearAllScores", "mnuFileOptions", "mnuFileAddPlayerNames", "mnuFileOptionalHeaders", "mnuFileInterface",
+        "mnuFilePages", "mTestK7Controllers", nullptr, "mnuFileBringBack", "mnuFileExit"});
+  menu("mnuZR610", {"mnuMapMF", "mnuReconnectMF", "mTestK7Controllers"});
+  menu("mnuHelp", {"mnuHelpManual", "mnuHelpDocumentation", "mnuHelpSupport", "mnuHelpProjector", "mnuHelpAbout"});
+  findChild<QAction*>("mnuHelpManual")->setShortcut(Qt::Key_F1);
+}
+
+void ConsoleWindow::MakeColumns() {
+  auto* central = new QWidget(this);
+  central->setObjectName("pnlCentral");
+  setCentralWidget(central);
+  auto* rows = new QVBoxLayout(central);
+  rows->setContentsMargins(0, 0, 0, 0);
+  rows->setSpacing(0);
+  auto* columns = new QHBoxLayout;
+  columns->setSpacing(0);
+  rows->addLayout(columns, 1);
+  columns->addWidget(MakeSetUpColumn());
+  columns->addWidget(MakeMiddleColumn(), 1);
+  columns->addWidget(MakeRightColumn());
+  rows->addWidget(MakeStatusRow());
+  // Nothing tells how much room a Wayland session leaves, and it may end a program whose maximised window is larger:
+  // the board gives way.
+  layout()->setSizeConstraint(QLayout::SetNoConstraint);
+  if (WindowsHavePlaces()) setMinimumSize(kLeastWidth, kLeastHeight);
+}
+
+Canvas* ConsoleWindow::AddCanvas(PictureCache& pictures, const QString& name) {
+  auto* place = findChild<QWidget*>(name);
+  auto* canvas = new Canvas(pictures, place);
+  canvas->setObjectName((name == "pnlBoard" ? name : "pnlAnswer") + "Canvas");
+  place->layout()->addWidget(canvas);
+  return canvas;
+}
+
+void ConsoleWindow::FollowModels(MainForm& form) {
+  // One stands in the other's place.
+  auto* cues = findChild<QWidget*>("fraCues");
+  QSizePolicy policy = cues->sizePolicy();
+  policy.setRetainSizeWhenHidden(false);
+  cues->setSizePolicy(policy);
+  for (int player = 1; player <= kPlayers; ++player) {
+    form.lblPlayer1[PlayerIndex(player)].AddObserver(*this);
+    Changed(form.lblPlayer1[PlayerIndex(player)], PropertyId::Caption);
+  }
+  for (std::size_t i = 0; i < kPlayers; ++i) {
+    form.btnBuzzer[i].AddObserver(*this);
+    Changed(form.btnBuzzer[i], PropertyId::Enabled);
+  }
+  for (Control* control : {static_cast<Control*>(&form.ScoreCopy(3)), static_cast<Control*>(&form.lstRingInOrder),
+                           static_cast<Control*>(&form.lblSelectPlayer), static_cast<Control*>(&form.lblLineExpected),
+                           static_cast<Control*>(&form.lblUndoNote), static_cast<Control*>(&form.btnAnswerClock),
+                           static_cast<Control*>(&form.fraCues)}) {
+    control->AddObserver(*this);
+    Changed(*control, PropertyId::Visible);
+  }
+}
+
+void ConsoleWindow::Changed(Control& control, PropertyId id) {
+  if (&control == &main_) {
+    FormWindow::Changed(control, id);
+    return;
+  }
+  for (int player = 1; player <= kPlayers; ++player) {
+    const Label& name = main_.lblPlayer1[PlayerIndex(player)];
+    if (&control != &name) continue;
+    const QString number = QString::number(player);
+    findChild<QLabel*>("pnlScoreName" + number)->setText(Unescape(name.Caption));
+    findChild<KeyButton*>(Member("btnSelectPlayer", player - 1))->SetFace(number + ' ' + Unescape(name.Caption));
+  }
+  for (int strip = 0; strip < kPlayers; ++strip) {
+    if (&control != &main_.btnBuzzer[static_cast<std::size_t>(strip)]) continue;
+    findChild<KeyButton*>(Member("btnBuzzer", strip))->SetFace(control.Enabled ? "open to ring in" : " ");
+  }
+  if (&control == &main_.ScoreCopy(3)) {
+    findChild<QWidget*>("pnlScoreRow3")->setVisible(control.Visible);
+  }
+  if (&control == &main_.lstRingInOrder) findChild<QWidget*>("pnlRingInOrder")->setVisible(control.Visible);
+  if (&control == &main_.lblLineExpected) KeepLineWhole();
+  if (&control == &main_.lblSelectPlayer) findChild<QWidget*>("pnlByHand")->setVisible(control.Visible);
+  if (&control == &main_.btnAnswerClock) findChild<QWidget*>("pnlAnswerClock")->setVisible(control.Enabled);
+  if (&control == &main_.fraCues) findChild<QWidget*>("pnlSetUp")->setVisible(!control.Visible);
+  if (&control == &main_.lblUndoNote) findChild<KeyButton*>("btnUndo")->SetNote(Unescape(main_.lblUndoNote.Caption));
+}
+
+// A long name gives way to what is expected.
+void ConsoleWindow::KeepLineWhole() {
+  auto* expected = findChild<QLabel*>("lblLineExpected");
+  QFont smallest = expected->font();
+  smallest.setPixelSize(kSmallestPixels);
+  expected->setMinimumWidth(QFontMetrics(smallest).horizontalAdvance(expected->text()) + 4);
+}
+
+// What can't be pressed says why, in the place of what it does.
+bool ConsoleWindow::eventFilter(QObject* watched, QEvent* event) {
+  auto* widget = qobject_cast<QWidget*>(watched);
+  if (event->type() != QEvent::ToolTip || widget == nullptr || widget->isEnabled() || !main_.WhyNot) return false;
+  for (const Control* control : main_.Controls()) {
+    if (WidgetName(control->Name()) != widget->objectName()) continue;
+    const std::string why = main_.WhyNot(*control);
+    if (why.empty()) return false;
+    QToolTip::showText(static_cast<QHelpEvent*>(event)->globalPos(), Unescape(why), widget);
+    return true;
+  }
+  return false;
+}
+
+void ConsoleWindow::resizeEvent(QResizeEvent* event) {
+  FormWindow::resizeEvent(event);
+  arrangement_->Fit(event->size());
 }
 
 void ConsoleWindow::FillBoard(MainForm& form) {
@@ -94,13 +246,17 @@ void ConsoleWindow::FillAnswer(MainForm& form, PictureCache&) {
 }
 
 void ConsoleWindow::HoldUnseen() {
-  Bindings()->Hold({// Pictures kept for others.
+  Bindings()->Hold({// The buttons' own notes.
+                    "lblUndoNote",
+                    // Is told by "BY HAND", whose tip it is.
+                    "lblSelectPlayer",
+                    // Pictures kept for others.
                     "imgBkgnd", "imgXa", "imgXb", "imgOa", "imgOb", "imgTa", "imgTb", "imgCursor(0)", "imgCursor(1)",
                     "imgCursor(2)", "imgCursor(3)", "imgStandardStandby", "imgStandardBonus", "imgStandardHeader",
                     // What only measures.
                     "lblQuestionAutoResize", "lblAnswerAutoResize", "lblWinnerResize", "lblWinner", "picEntScreen",
                     // They report the game's state to what asks for it; a button that does nothing would only mislead.
-                    "btnCorrect", "btnAnswerClock", "btnEnableAllBuzzers", "btnPlayVideo", "btnStopVideo",
+                    "btnCorrect", "btnEnableAllBuzzers", "btnPlayVideo", "btnStopVideo",
                     // The player's own widget shows it.
                     "MediaPlayer1"});
 }

@@ -3,7 +3,10 @@
 
 #include "desktop/painting/canvas.h"
 #include "desktop/system/screens.h"
+#include "desktop/windows/console_arrangement.h"
 #include "desktop/windows/form_window.h"
+
+class QMenuBar;
 
 namespace pawnfield {
 
@@ -19,12 +22,22 @@ class ConsoleWindow : public FormWindow {
   void ComeForward();
 
  protected:
+  void Changed(Control& control, PropertyId id) override;
+  bool eventFilter(QObject* watched, QEvent* event) override;
   void ShowForm() override;
+  void resizeEvent(QResizeEvent* event) override;
   void moveEvent(QMoveEvent* event) override;
   // What greys or goes hands the focus on by this.
   bool focusNextPrevChild(bool next) override;
 
  private:
+  void MakeMenus();
+  void FillMenus(QMenuBar& bar);
+  void MakeColumns();
+  Canvas* AddCanvas(PictureCache& pictures, const QString& name);
+  void KeepLineWhole();
+  // What the window itself draws of its models.
+  void FollowModels(MainForm& form);
   void FillBoard(MainForm& form);
   void FillAnswer(MainForm& form, PictureCache& pictures);
   void HoldUnseen();
@@ -33,9 +46,11 @@ class ConsoleWindow : public FormWindow {
   // Back to its own monitor, when a change of the monitors has left it on another one.
   void ReturnHome();
 
+  MainForm& main_;
   Screens& screens_;
   // Show the turn and the number of players where no model tells a widget of them.
   std::vector<std::unique_ptr<Observer>> dress_;
+  std::unique_ptr<ConsoleArrangement> arrangement_;
   Canvas* board_ = nullptr;
   Canvas* answer_ = nullptr;
   FocusRules* focus_ = nullptr;

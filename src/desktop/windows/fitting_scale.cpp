@@ -10,7 +10,7 @@
 namespace pawnfield {
 
 namespace {
-// The console's least size, and the frame around it.
+// Room in which the console has all its panels, and the frame around it.
 constexpr double kNeededWidth = 1190;
 constexpr double kNeededHeight = 782;
 constexpr const char* kFactor = "QT_SCALE_FACTOR";
@@ -18,7 +18,9 @@ constexpr const char* kFactor = "QT_SCALE_FACTOR";
 
 double FittingShare(double pixelRatio, int width, int height) {
   const double largest = std::min(width / kNeededWidth, height / kNeededHeight);
-  return std::clamp(largest / pixelRatio, 0.25, 1.0);
+  // The toolkit paints nothing smaller than its pixels: below 1 windows are clipped. There the layout gives way
+  // instead.
+  return std::clamp(largest / pixelRatio, std::min(1.0, 1 / pixelRatio), 1.0);
 }
 
 void FitScaleToMonitor(int argc, char** argv) {

@@ -8,10 +8,6 @@
 
 namespace pawnfield {
 
-namespace {
-constexpr int kSmallestPixels = 9;
-}
-
 void ModelComboBox::showPopup() {
   emit AboutToOpen();
   QComboBox::showPopup();

@@ -9,6 +9,9 @@
 
 namespace pawnfield {
 
+// Of any text on the windows.
+inline constexpr int kSmallestPixels = 11;
+
 // Notifies before its list opens, so that the model can fill it.
 class ModelComboBox : public QComboBox {
   Q_OBJECT

@@ -1,0 +1,128 @@
+#include "desktop/windows/console_arrangement.h"
+
+#include <QBoxLayout>
+#include <QFile>
+#include <QMainWindow>
+#include <QRegularExpression>
+#include <QWidget>
+#include <algorithm>
+#include <cmath>
+
+namespace pawnfield {
+
+namespace {
+
+constexpr double kGrowsFrom = 1600, kFullHd = 1920, kLargest = 2560;
+constexpr double kFullHdGrowth = 1.25, kMostGrowth = 1.5;
+// Logical pixels of height in which the right column stands with all its panels, and with closer rows.
+constexpr int kWholeHeight = 836, kClosedHeight = 744;
+constexpr double kLineInOneRow = 1500;
+constexpr double kCloser = 0.84;
+constexpr int kLeastHit = 24;
+
+// A length of the look in pixels, as it is at that growth. Hair lines stay.
+int Grown(int length, double growth) { return length <= 1 ? length : static_cast<int>(std::lround(length * growth)); }
+
+QString LookAt(double growth) {
+  QFile file(":/look/look.qss");
+  if (!file.open(QIODevice::ReadOnly)) return {};
+  const QString look = QString::fromUtf8(file.readAll());
+  static const QRegularExpression pixels("(\\d+)px");
+  QString grown;
+  qsizetype from = 0;
+  for (auto found = pixels.globalMatch(look); found.hasNext();) {
+    const QRegularExpressionMatch length = found.next();
+    grown += look.mid(from, length.capturedStart() - from);
+    grown += QString::number(Grown(length.captured(1).toInt(), growth)) + "px";
+    from = length.capturedEnd();
+  }
+  return grown + look.mid(from);
+}
+
+int Closer(int height) { return height < kLeastHit ? height : std::max(kLeastHit, Grown(height, kCloser)); }
+
+bool IsFree(int most) { return most >= QWIDGETSIZE_MAX; }
+
+}  // namespace
+
+ConsoleArrangement::ConsoleArrangement(QMainWindow& window) : window_(window) {
+  for (QWidget* widget : window.centralWidget()->findChildren<QWidget*>()) {
+    const bool sized =
+        !widget->minimumSize().isNull() || !IsFree(widget->maximumWidth()) || !IsFree(widget->maximumHeight());
+    if (sized) sized_.push_back({widget, widget->minimumSize(), widget->maximumSize()});
+  }
+  for (QLayout* layout : window.centralWidget()->findChildren<QLayout*>()) {
+    spaced_.push_back({layout, layout->contentsMargins(), layout->spacing()});
+  }
+}
+
+double ConsoleArrangement::GrowthIn(const QSize& room) {
+  double growth = 1;
+  if (room.width() >= kFullHd) {
+    growth = kFullHdGrowth + (room.width() - kFullHd) / (kLargest - kFullHd) * (kMostGrowth - kFullHdGrowth);
+  } else if (room.width() >= kGrowsFrom) {
+    growth = 1 + (room.width() - kGrowsFrom) / (kFullHd - kGrowsFrom) * (kFullHdGrowth - 1);
+  }
+  growth = std::min({growth, kMostGrowth, static_cast<double>(room.height()) / kWholeHeight});
+  // In steps, so that a window that is being dragged isn't dressed anew at each pixel.
+  constexpr double kSteps = 20;
+  return std::max(1.0, std::floor(growth * kSteps + 0.001) / kSteps);
+}
+
+ConsoleArrangement::Plan ConsoleArrangement::PlanFor(const QSize& room) {
+  Plan plan;
+  plan.Growth = GrowthIn(room);
+  plan.Folded = room.height() < kClosedHeight;
+  plan.Close = room.height() < kWholeHeight;
+  plan.Stacked = room.width() < kLineInOneRow * plan.Growth;
+  return plan;
+}
+
+void ConsoleArrangement::Fit(const QSize& room) {
+  const Plan plan = PlanFor(room);
+  if (plan == plan_) return;
+  if (plan.Folded != plan_.Folded) FoldScores(plan.Folded);
+  if (plan.Growth != plan_.Growth || plan.Close != plan_.Close) Restyle(plan);
+  Resize(plan);
+  plan_ = plan;
+  window_.centralWidget()->layout()->activate();
+}
+
+void ConsoleArrangement::Resize(const Plan& plan) {
+  const double growth = plan.Growth;
+  const auto height = [&](int length) { return plan.Close ? Closer(length) : Grown(length, growth); };
+  for (const Sized& item : sized_) {
+    item.Widget->setMinimumSize(Grown(item.Least.width(), growth), height(item.Least.height()));
+    item.Widget->setMaximumSize(IsFree(item.Most.width()) ? QWIDGETSIZE_MAX : Grown(item.Most.width(), growth),
+                                IsFree(item.Most.height()) ? QWIDGETSIZE_MAX : height(item.Most.height()));
+  }
+  const double gap = plan.Close ? 0.7 : growth;
+  for (const Spaced& item : spaced_) {
+    const QMargins& m = item.Margins;
+    item.Layout->setContentsMargins(Grown(m.left(), growth), Grown(m.top(), gap), Grown(m.right(), growth),
+                                    Grown(m.bottom(), gap));
+    if (item.Spacing > 0) item.Layout->setSpacing(Grown(item.Spacing, gap));
+  }
+  if (auto* line = window_.findChild<QBoxLayout*>("pnlShowLineParts")) {
+    line->setDirection(plan.Stacked ? QBoxLayout::TopToBottom : QBoxLayout::LeftToRight);
+    if (!plan.Stacked) line->setSpacing(Grown(14, growth));
+  }
+}
+
+void ConsoleArrangement::FoldScores(bool folded) {
+  for (int player = 1; player <= 3; ++player) {
+    const QString number = QString::number(player);
+    auto* keys = window_.findChild<QWidget*>("pnlScoreKeys" + number);
+    auto* home = window_.findChild<QWidget*>((folded ? "pnlPlayer" : "pnlScoreRow") + number);
+    home->layout()->addWidget(keys);
+  }
+  window_.findChild<QWidget*>("pnlScores")->setVisible(!folded);
+}
+
+void ConsoleArrangement::Restyle(const Plan& plan) {
+  QString look = plan.Growth > 1 ? LookAt(plan.Growth) : QString();
+  if (plan.Close) look += "QRadioButton { min-height: 22px; }";
+  window_.setStyleSheet(look);
+}
+
+}  // namespace pawnfield

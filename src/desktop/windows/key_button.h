@@ -1,0 +1,34 @@
+// A button of the console: it shows the key that does the same in its corner, and a note on what it will do.
+#pragma once
+
+#include <QPushButton>
+#include <QString>
+
+namespace pawnfield {
+
+class KeyButton : public QPushButton {
+  Q_OBJECT
+ public:
+  using QPushButton::QPushButton;
+  // As on the keyboard, "Ctrl U"; empty for none.
+  void SetKey(const QString& key);
+  // A line in small letters under the button's text; empty for none.
+  void SetNote(const QString& note);
+  // What is drawn in the place of the caption, cut with dots where it is too long; empty for the caption itself.
+  void SetFace(const QString& face);
+  // The least width in which neither the text nor the key is cut.
+  int NeededWidth() const;
+
+ protected:
+  void paintEvent(QPaintEvent* event) override;
+
+ private:
+  QFont SmallFont() const;
+  QSize KeySize() const;
+  void PaintKey(QPainter& painter) const;
+  void PaintNote(QPainter& painter, const QRect& place) const;
+
+  QString key_, note_, face_;
+};
+
+}  // namespace pawnfield

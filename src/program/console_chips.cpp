@@ -1,0 +1,140 @@
+#include "program/console_chips.h"
+
+#include <algorithm>
+#include <array>
+
+#include "devices/transceiver.h"
+#include "forms/main_form.h"
+#include "forms/second_screen_form.h"
+#include "presentation/monitors.h"
+#include "show/phase.h"
+#include "show/show.h"
+
+namespace pawnfield {
+
+namespace {
+
+void Write(Chip& chip, const std::string& text, ChipState state, const std::string& tip) {
+  chip.Caption = text;
+  chip.State = state;
+  chip.ToolTipText = tip;
+}
+
+std::string SizeOf(const MonitorInfo& monitor) {
+  return std::to_string(monitor.Right - monitor.Left) + "x" + std::to_string(monitor.Bottom - monitor.Top);
+}
+
+void ShowAudienceChip(Show& show) {
+  Chip& chip = show.frmMain.chpAudience;
+  if (!HasSecondMonitor(show)) {
+    const bool lost = show.state.DualScreen;
+    Write(chip, lost ? "AUDIENCE LOST" : "NO AUDIENCE SCREEN", lost ? ChipState::Red : ChipState::Amber,
+          "The room sees nothing: connect a projector or a second monitor. Click for how that is done.");
+    return;
+  }
+  constexpr int kSecond = 2;
+  const MonitorInfo monitor = MonitorRect(show, kSecond);
+  const std::string name = monitor.Name.empty() ? "The room's screen" : monitor.Name;
+  if (ScreenCovered(show)) {
+    Write(chip, "AUDIENCE COVERED", ChipState::None, name + " shows standby until Show or Start is pressed");
+  } else {
+    Write(chip, "AUDIENCE " + SizeOf(monitor), ChipState::Good, name + ", " + SizeOf(monitor) + ": the room sees it");
+  }
+}
+
+// The wired pads that have a player's place.
+std::ptrdiff_t MappedPads(const Show& show) {
+  const PadMap& map = show.presses.MFMap;
+  const auto end = map.begin() + std::min<std::ptrdiff_t>(show.state.Players, std::ssize(map));
+  return std::count_if(map.begin(), end, [](auto id) { return id != 0; });
+}
+
+void ShowBuzzersChip(Show& show) {
+  Chip& chip = show.frmMain.chpBuzzers;
+  const PressState& presses = show.presses;
+  const std::string players = std::to_string(show.state.Players);
+  if (presses.TransceiverLost) {
+    Write(chip, "BUZZERS LOST", ChipState::Red,
+          "The wireless transceiver is gone: plug it in again. Players can "
+          "ring in by keys and by hand meanwhile.");
+  } else if (show.dgTransceiver && show.dgTransceiver->Ready()) {
+    Write(chip, "BUZZERS WIRELESS", ChipState::Good, "The transceiver listens. Click to see which remote is whose.");
+  } else if (presses.ZR610Present) {
+    const std::string pads = std::to_string(MappedPads(show));
+    Write(chip, "BUZZERS " + pads + " of " + players, pads == players ? ChipState::Good : ChipState::Amber,
+          pads + " wired pads are mapped for " + players + " players. Click to map them.");
+  } else if (AreKeypads(show.state.SerialComm)) {
+    Write(chip, "BUZZERS KEYPADS", ChipState::Good, "Keypads type for the players. Click to choose something else.");
+  } else {
+    Write(chip, "NO BUZZERS", ChipState::Amber,
+          "Players ring in by the keys 1 to " + players + " or by hand. Click to choose what they press.");
+  }
+}
+
+void OpenBuzzers(Show& show) {
+  MainForm& form = show.frmMain;
+  if (show.presses.ZR610Present) {
+    form.mnuMapMF.Click();
+  } else if (show.dgTransceiver && show.dgTransceiver->Ready()) {
+    form.mnuFileOptions.Click();
+  } else {
+    form.mnuFileInterface.Click();
+  }
+}
+
+bool AnyIsSilent(const Show& show) {
+  const MediaChannels& media = show.platform.media;
+  const std::array<const MediaChannel*, 6> players{&media.EventPlayer,      &media.KeyPressPlayer,
+                                                   &media.SoundClipPlayer,  &media.CorrectIncorrectPlayer,
+                                                   &media.BackgroundPlayer, &media.MediaPlayer1};
+  return std::any_of(players.begin(), players.end(), [](const MediaChannel* player) { return player->IsSilent(); });
+}
+
+void LookForSound(Show& show) {
+  show.SoundFound = !AnyIsSilent(show) && show.platform.mediaFiles.HasSoundDevice();
+  show.SoundOnceFound = show.SoundOnceFound || show.SoundFound;
+}
+
+void ShowSoundChip(Show& show) {
+  Chip& chip = show.frmMain.chpSound;
+  if (show.SoundFound) {
+    Write(chip, show.state.MusicMuted ? "MUSIC MUTED" : "SOUND", ChipState::Good,
+          "Sounds are heard. Click for the volumes and the letters.");
+  } else if (show.SoundOnceFound) {
+    Write(chip, "SOUND LOST", ChipState::Red,
+          "The sound device is gone: plug it in again, sounds come back by themselves. Click to look again.");
+  } else {
+    Write(chip, "NO SOUND DEVICE", ChipState::Amber, "Nothing is heard on this machine. Click to look again.");
+  }
+}
+
+void OpenSound(Show& show) {
+  LookForSound(show);
+  if (show.SoundFound) show.frmMain.btnCues.Click();
+}
+
+}  // namespace
+
+void ShowChips(Show& show) {
+  // Before the console is up nothing has been looked for.
+  if (!show.frmMain.Visible) return;
+  if (!show.SoundLookedFor) LookForSound(show);
+  show.SoundLookedFor = true;
+  ShowAudienceChip(show);
+  ShowBuzzersChip(show);
+  ShowSoundChip(show);
+}
+
+void AttachChips(Show& show) {
+  MainForm& form = show.frmMain;
+  form.chpAudience.OnClick = [&form] { form.mnuHelpProjector.Click(); };
+  form.chpBuzzers.OnClick = [&show] { OpenBuzzers(show); };
+  form.chpSound.OnClick = [&show] { OpenSound(show); };
+  const MediaChannels& media = show.platform.media;
+  for (MediaChannel* player : {&media.EventPlayer, &media.KeyPressPlayer, &media.SoundClipPlayer,
+                               &media.CorrectIncorrectPlayer, &media.BackgroundPlayer, &media.MediaPlayer1}) {
+    player->OnSilenceChange = [&show] { show.frmMain.Dispatch([&show] { LookForSound(show); }, "SoundDevice"); };
+  }
+}
+
+}  // namespace pawnfield
