@@ -106,8 +106,9 @@ ControlAnswer RunControl(Show& show, const std::string& request) {
     if (word != command.Word) continue;
     const bool takesOne = command.Argument != nullptr;
     if (!takesOne && !rest.empty()) return {400, "Nothing stands behind " + word + "."};
-    const std::string name = takesOne && !bare ? std::string(command.Argument) + "=" : "";
-    if (!rest.starts_with(name)) return {400, word + " needs " + name + "..."};
+    std::string name;
+    if (takesOne && !bare) name.append(command.Argument).append("=");
+    if (!rest.starts_with(name)) return {400, std::string(word).append(" needs ").append(name).append("...")};
     if (!ConsoleListens(show)) return NotNow("The console waits for its operator.");
     return command.Run(show, rest.substr(name.size()));
   }

@@ -54,7 +54,7 @@ const TriviaQuestion* QuestionAt(const Show& show, int number) {
 // A question that is a picture or a sound is named by its file.
 std::string QuestionText(const TriviaQuestion* question) {
   if (question == nullptr) return {};
-  const std::string text = Trim(question->QuestionText);
+  std::string text = Trim(question->QuestionText);
   if (question->QuestionType.starts_with("P")) return "Picture: " + ExtractFileName(text);
   if (question->QuestionType.starts_with("S")) return "Sound: " + ExtractFileName(text);
   return text;

@@ -7,8 +7,10 @@
 #include "forms/main_form.h"
 #include "forms/second_screen_form.h"
 #include "presentation/monitors.h"
+#include "show/page_state.h"
 #include "show/phase.h"
 #include "show/show.h"
+#include "show/show_record.h"
 
 namespace pawnfield {
 
@@ -108,6 +110,30 @@ void ShowSoundChip(Show& show) {
   }
 }
 
+// The record is there from a game's first event on.
+void ShowRecordChip(Show& show) {
+  Chip& chip = show.frmMain.chpRecord;
+  const ShowRecord& record = *show.record;
+  chip.Visible = record.FileFails || !record.File.empty();
+  if (record.FileFails) {
+    Write(chip, "RECORD FAILS", ChipState::Amber,
+          "The record can't be written to the disk. The show goes on, and what waits is tried each second. Click for "
+          "what to do.");
+  } else {
+    Write(chip, "RECORD", ChipState::Good, "The show is on record: it can be brought back after a power cut.");
+  }
+}
+
+void ShowPhonesChip(Show& show) {
+  Chip& chip = show.frmMain.chpPhones;
+  const PageState& pages = *show.pages;
+  chip.Visible = pages.On;
+  const auto phones = std::count_if(pages.Pages.begin(), pages.Pages.end(),
+                                    [](const auto& page) { return page.second.Kind == PageKind::Phone; });
+  Write(chip, "PHONES " + std::to_string(phones), phones > 0 ? ChipState::Good : ChipState::None,
+        "Pages on the local network are on. Click for the address, the PIN and the seats.");
+}
+
 void OpenSound(Show& show) {
   LookForSound(show);
   if (show.SoundFound) show.frmMain.btnCues.Click();
@@ -123,6 +149,8 @@ void ShowChips(Show& show) {
   ShowAudienceChip(show);
   ShowBuzzersChip(show);
   ShowSoundChip(show);
+  ShowRecordChip(show);
+  ShowPhonesChip(show);
 }
 
 void AttachChips(Show& show) {
@@ -130,6 +158,8 @@ void AttachChips(Show& show) {
   form.chpAudience.OnClick = [&form] { form.mnuHelpProjector.Click(); };
   form.chpBuzzers.OnClick = [&show] { OpenBuzzers(show); };
   form.chpSound.OnClick = [&show] { OpenSound(show); };
+  form.chpRecord.OnClick = [&form] { form.mnuHelpManual.Click(); };
+  form.chpPhones.OnClick = [&form] { form.mnuFilePages.Click(); };
   const MediaChannels& media = show.platform.media;
   for (MediaChannel* player : {&media.EventPlayer, &media.KeyPressPlayer, &media.SoundClipPlayer,
                                &media.CorrectIncorrectPlayer, &media.BackgroundPlayer, &media.MediaPlayer1}) {

@@ -93,15 +93,13 @@ std::vector<RingInRow> RingInRows(const Show& show) {
 }
 
 void ShowRingInOrder(Show& show) {
-  auto* list = dynamic_cast<ListView*>(show.frmMain.Find("lstRingInOrder"));
-  if (list == nullptr) return;
+  ListView& list = show.frmMain.lstRingInOrder;
   std::vector<ListView::Row> rows;
   for (const RingInRow& row : RingInRows(show))
     rows.push_back({row.Number, row.Name, row.When, row.TooClose ? "amber" : ""});
-  Control* title = show.frmMain.Find("lblRingInOrder");
-  list->Visible = !rows.empty();
-  if (title != nullptr) title->Visible = !rows.empty();
-  list->ListItems = std::move(rows);
+  show.frmMain.lblRingInOrder.Visible = !rows.empty();
+  list.Visible = !rows.empty();
+  list.ListItems = rows;
 }
 
 }  // namespace pawnfield
