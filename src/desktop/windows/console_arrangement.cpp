@@ -27,13 +27,16 @@ QString LookAt(double growth) {
   QFile file(":/look/look.qss");
   if (!file.open(QIODevice::ReadOnly)) return {};
   const QString look = QString::fromUtf8(file.readAll());
-  static const QRegularExpression pixels("(\\d+)px");
+  static const QRegularExpression lengths("(\\d+)px");
   QString grown;
   qsizetype from = 0;
-  for (auto found = pixels.globalMatch(look); found.hasNext();) {
+  for (auto found = lengths.globalMatch(look); found.hasNext();) {
     const QRegularExpressionMatch length = found.next();
     grown += look.mid(from, length.capturedStart() - from);
-    grown += QString::number(Grown(length.captured(1).toInt(), growth)) + "px";
+    const int pixels = length.captured(1).toInt();
+    // A radius that is rounded up beyond half of what it rounds leaves it square.
+    const bool radius = look.mid(0, length.capturedStart()).endsWith("radius: ");
+    grown += QString::number(radius ? static_cast<int>(pixels * growth) : Grown(pixels, growth)) + "px";
     from = length.capturedEnd();
   }
   return grown + look.mid(from);

@@ -41,7 +41,7 @@ QWidget* MakeStart() {
   place->setObjectName("pnlStart");
   auto* grid = new QGridLayout(place);
   grid->setContentsMargins(0, 0, 0, 0);
-  auto* frame = new QFrame;
+  auto* frame = new EdgeFrame;
   frame->setObjectName("shpStart");
   frame->setProperty("blinks", true);
   frame->setAttribute(Qt::WA_TransparentForMouseEvents);

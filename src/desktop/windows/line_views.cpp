@@ -70,6 +70,14 @@ void ChipView::paintEvent(QPaintEvent*) {
   painter.drawText(rect().adjusted(kChipEdge + kLight + kLightGap, 0, 0, 0), Qt::AlignVCenter | Qt::AlignLeft, text());
 }
 
+void EdgeFrame::paintEvent(QPaintEvent*) {
+  constexpr double kLine = 3, kRound = 9;
+  QPainter painter(this);
+  painter.setRenderHint(QPainter::Antialiasing);
+  painter.setPen(QPen(QColor("#F2B84B"), kLine));
+  painter.drawRoundedRect(QRectF(rect()).adjusted(kLine / 2, kLine / 2, -kLine / 2, -kLine / 2), kRound, kRound);
+}
+
 QSize ElidedLabel::minimumSizeHint() const { return {0, QLabel::minimumSizeHint().height()}; }
 
 void ElidedLabel::paintEvent(QPaintEvent*) {

@@ -26,6 +26,17 @@ class ChipView : public QAbstractButton {
   ChipState state_ = ChipState::None;
 };
 
+// A golden edge around what is to be pressed next. It paints itself: what a style sheet draws of a frame is drawn ahead
+// of its paint event, so that nothing could keep it from being seen while it blinks.
+class EdgeFrame : public QWidget {
+  Q_OBJECT
+ public:
+  using QWidget::QWidget;
+
+ protected:
+  void paintEvent(QPaintEvent* event) override;
+};
+
 // A text that ends in dots where it would be cut.
 class ElidedLabel : public QLabel {
   Q_OBJECT
