@@ -170,7 +170,10 @@ TEST(Pages, WhoDoesNotBeginWithAHelloIsCutOff) {
 
 TEST(Pages, ASeatIsHeldByItsTokenUntilTheOperatorEmptiesIt) {
   Room room;
+  const Chip& chip = room.form().chpPhones;
+  EXPECT_EQ(chip.Caption.Get(), "PHONES 0");
   const std::uint64_t anna = room.Seat(1);
+  EXPECT_EQ(chip.Caption.Get(), "PHONES 1");
   const std::string token = room.TokenOf(1);
   EXPECT_EQ(token.size(), 32U);
   const std::string hello = "hello phone " + room.pages().Pin;

@@ -158,8 +158,12 @@ TEST_F(Interrupted, AFullDiskIsToldOnceAndLosesNothing) {
   played_->form().lblStatusBar.Caption = "";
   played_->Play("+ 00");
   EXPECT_EQ(played_->form().lblStatusBar.Caption.Get(), "");
+  EXPECT_TRUE(played_->form().chpRecord.Visible);
+  EXPECT_EQ(played_->form().chpRecord.State.Get(), ChipState::Amber);
   records.GiveBack();
   EXPECT_EQ(played_->form().lblStatusBar.Caption.Get(), "The show's record is written again.");
+  played_->Play(">");
+  EXPECT_EQ(played_->form().chpRecord.State.Get(), ChipState::Good);
   StartAgain(BoxAnswer::Yes);
   EXPECT_EQ(again_->Scores(), "0 50 0");
 }
