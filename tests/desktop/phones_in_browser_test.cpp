@@ -87,7 +87,9 @@ class PhonesInBrowser : public ShowSuite {
 
 TEST_F(PhonesInBrowser, PlayAGameOnRealWindows) {
   const char* const names[] = {"ANNA", "BEN", "CHLOE"};
-  ASSERT_TRUE(Press({"optGameType_4", "optGridControl_0"}));
+  ASSERT_TRUE(Press({"optGameType_4"}));
+  ASSERT_TRUE(Wait([] { return Main().optGridControl[0].IsShown(); }));
+  ASSERT_TRUE(Press({"optGridControl_0"}));
   ASSERT_TRUE(driver_->Choose("cboAutoContinue", "User Advances"));
   ASSERT_TRUE(driver_->Choose("cboList", "General Knowledge 1"));
   ASSERT_TRUE(Wait([] { return Main().btnStart.Enabled.Get(); }));
