@@ -111,7 +111,7 @@ void ShowSeats(Show& show) {
   PagesForm& form = show.frmPages;
   for (int player = 1; player <= kPlayers; ++player) {
     const std::size_t i = PlayerIndex(player);
-    form.lblSeatName[i].Caption = PlayerName(show, player);
+    form.lblSeatName[i].Caption = show.frmMain.PlayerName(player);
     form.lblSeat[i].Caption = SeatText(*show.pages, player);
     form.btnEmptySeat[i].Enabled = !show.pages->Seats[player].Token.empty();
     form.btnLockSeat[i].Caption = show.pages->Seats[player].Locked ? "Unlock" : "Lock";
@@ -127,7 +127,7 @@ std::vector<ListView::Row> ConnectedRows(const Show& show) {
   std::vector<ListView::Row> rows;
   for (const auto& [number, page] : show.pages->Pages) {
     std::string what = KindText(page.Kind);
-    if (page.Seat != 0) what += " of " + PlayerName(show, page.Seat);
+    if (page.Seat != 0) what += " of " + show.frmMain.PlayerName(page.Seat);
     const std::int64_t roundTrip = page.Clock.LastRoundTripUs();
     rows.push_back({what, page.Address, roundTrip == 0 ? "" : std::to_string((roundTrip + 999) / 1000) + " ms"});
   }

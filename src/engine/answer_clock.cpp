@@ -27,7 +27,7 @@ void OfferClock(Show& show) {
 void EndTime(Show& show, int player) {
   show.frmMain.tmrAnswerClock.Enabled = false;
   PlayEvent(show, show.AppPath("\\Sound Effects\\TimeUp.Wav"));
-  show.frmMain.lblStatusBar.Caption = "Time is up: " + show.frmMain.lblPlayer1[PlayerIndex(player)].Caption.Get();
+  show.frmMain.lblStatusBar.Caption = "Time is up: " + show.frmMain.PlayerName(player);
 }
 
 }  // namespace

@@ -16,8 +16,6 @@ namespace {
 
 constexpr std::int64_t kMsPerSecond = 1000;
 
-std::string NameOf(const Show& show, int player) { return show.frmMain.lblPlayer1[PlayerIndex(player)].Caption; }
-
 bool Typing(const Show& show) { return show.state.KeyControl; }
 
 bool QuestionsAreLeft(const Show& show) { return show.state.CurrentQuestion + 1 < show.NumGameQuestions; }
@@ -161,7 +159,7 @@ void WriteShowLine(Show& show) {
   const ShowLine line = LineOf(show);
   form.lblLineSet.Caption = line.Set;
   form.lblLineCount.Caption = line.Count;
-  form.lblLineWho.Caption = IsPlayer(line.Player) ? NameOf(show, line.Player) : "";
+  form.lblLineWho.Caption = IsPlayer(line.Player) ? form.PlayerName(line.Player) : "";
   if (IsPlayer(line.Player)) form.lblLineWho.ForeColor = kPlayerColors[line.Player];
   form.lblLineExpected.Caption = line.Expected;
   form.lblLineClock.Caption = line.Clock;

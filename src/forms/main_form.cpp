@@ -238,6 +238,8 @@ void MainForm::picMOD_Resize() {
 
 Label& MainForm::Score(int player) { return *PerPlayer<Label*>(&lblP1Score, &lblP2Score, &lblP3Score)[player]; }
 
+const std::string& MainForm::PlayerName(int player) const { return lblPlayer1[PlayerIndex(player)].Caption.Get(); }
+
 Label& MainForm::ScoreCopy(int player) {
   return *PerPlayer<Label*>(&lblPlayer1Score, &lblPlayer2Score, &lblPlayer3Score)[player];
 }

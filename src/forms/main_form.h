@@ -16,6 +16,8 @@ class MainForm : public Form {
 
   // By player 1..3; another number is error 9.
   Label& Score(int player);
+  // As the console shows it.
+  const std::string& PlayerName(int player) const;
   Label& ScoreCopy(int player);
   PictureBox& ScoreBox(int player);
   PictureBox& PlayerBox(int player);

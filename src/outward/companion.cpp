@@ -42,7 +42,7 @@ CompanionReport ReportOf(Show& show, int player) {
   const GameState& state = show.state;
   CompanionReport report;
   report.Player = player;
-  report.Name = Trim(show.frmMain.lblPlayer1[PlayerIndex(player)].Caption);
+  report.Name = Trim(show.frmMain.PlayerName(player));
   report.Score = show.frmMain.Score(player).Caption;
   report.Style = state.ScreenFonts[player];
   report.Object = state.C2CObject;

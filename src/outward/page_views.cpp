@@ -65,7 +65,7 @@ std::string PlayersJson(const Show& show) {
   for (int player = 1; player <= show.state.Players; ++player) {
     const std::string one = JsonObject()
                                 .Number("n", player)
-                                .Text("name", PlayerName(show, player))
+                                .Text("name", show.frmMain.PlayerName(player))
                                 .Text("score", show.frmMain.Score(player).Caption.Get())
                                 .Truth("turn", HolderOfTurn(show) == player)
                                 .Done();
@@ -79,7 +79,7 @@ std::string OrderJson(const Show& show) {
   for (const PlacedPress& place : show.pages->Order.Places) {
     const std::string one = JsonObject()
                                 .Number("n", place.Player)
-                                .Text("name", PlayerName(show, place.Player))
+                                .Text("name", show.frmMain.PlayerName(place.Player))
                                 .Number("ms", Milliseconds(place.MarginUs))
                                 .Number("error", Milliseconds(place.ErrorUs))
                                 .Truth("close", place.TooClose)
@@ -105,12 +105,10 @@ std::string WinnerText(const Show& show) {
 
 bool BuzzersAreOpen(const Show& show) { return IsPhase(show, PhaseKind::QuestionOpen) && !ScreenCovered(show); }
 
-std::string PlayerName(const Show& show, int player) { return show.frmMain.lblPlayer1[PlayerIndex(player)].Caption; }
-
 std::string FloorText(const Show& show) {
   const GamePhase phase = Phase(show);
-  if (phase.Kind == PhaseKind::Answering) return PlayerName(show, phase.Player) + " answers";
-  if (phase.Kind == PhaseKind::Claiming) return PlayerName(show, phase.Player) + " takes a square";
+  if (phase.Kind == PhaseKind::Answering) return show.frmMain.PlayerName(phase.Player) + " answers";
+  if (phase.Kind == PhaseKind::Claiming) return show.frmMain.PlayerName(phase.Player) + " takes a square";
   if (phase.Kind == PhaseKind::QuestionOpen) return ScreenCovered(show) ? "Covered" : "Open to all";
   return {};
 }
@@ -119,7 +117,7 @@ std::string OrderText(const Show& show) {
   std::string text;
   int rank = 0;
   for (const PlacedPress& place : show.pages->Order.Places) {
-    text += (rank > 0 ? "   " : "") + std::to_string(rank + 1) + " " + PlayerName(show, place.Player);
+    text += (rank > 0 ? "   " : "") + std::to_string(rank + 1) + " " + show.frmMain.PlayerName(place.Player);
     if (rank++ > 0) text += " +" + std::to_string(Milliseconds(place.MarginUs)) + " ms";
     if (rank > 1 && place.TooClose) text += ", too close to call";
   }
@@ -129,12 +127,12 @@ std::string OrderText(const Show& show) {
 std::string PhoneView(const Show& show, int player) {
   const GamePhase phase = Phase(show);
   JsonObject view;
-  view.Text("t", "phone").Number("n", player).Text("name", PlayerName(show, player));
+  view.Text("t", "phone").Number("n", player).Text("name", show.frmMain.PlayerName(player));
   view.Text("state", ButtonState(show, player)).Number("question", QuestionNumber(show));
   view.Text("score", show.frmMain.Score(player).Caption.Get());
   const PlacedPress* place = PlaceOf(show, player);
   if (phase.Kind == PhaseKind::Answering && phase.Player != player) {
-    view.Number("floor", phase.Player).Text("floorName", PlayerName(show, phase.Player));
+    view.Number("floor", phase.Player).Text("floorName", show.frmMain.PlayerName(phase.Player));
     if (place != nullptr) {
       view.Number("ms", Milliseconds(place->MarginUs)).Number("error", Milliseconds(place->ErrorUs));
       view.Truth("close", place->TooClose);
@@ -149,7 +147,7 @@ std::string SeatsView(const Show& show) {
     const PhoneSeat& seat = show.pages->Seats[player];
     const std::string one = JsonObject()
                                 .Number("n", player)
-                                .Text("name", PlayerName(show, player))
+                                .Text("name", show.frmMain.PlayerName(player))
                                 .Truth("free", seat.Token.empty() && !seat.Locked)
                                 .Done();
     list += (list.empty() ? "" : ",") + one;

@@ -14,7 +14,7 @@ namespace pawnfield {
 
 namespace {
 
-std::string NameOf(const Show& show, int player) { return Trim(show.frmMain.lblPlayer1[PlayerIndex(player)].Caption); }
+std::string NameOf(const Show& show, int player) { return Trim(show.frmMain.PlayerName(player)); }
 
 // The players from the highest score down; equal ones as they sit.
 std::vector<int> ByScore(Show& show) {

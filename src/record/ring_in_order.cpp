@@ -40,10 +40,6 @@ std::string Margin(std::int64_t us) {
   return sign + std::to_string((std::abs(us) + 500) / 1000) + " ms";
 }
 
-const std::string& NameOf(const Show& show, int player) {
-  return show.frmMain.lblPlayer1[PlayerIndex(player)].Caption.Get();
-}
-
 }  // namespace
 
 Press PressOf(const Show& show, int player, PressWay way, std::int64_t atUs) {
@@ -77,7 +73,7 @@ std::vector<RingInRow> RingInRows(const Show& show) {
   const Press* before = first;
   int number = 1;
   for (const Press& press : presses) {
-    const std::string& name = NameOf(show, press.Player);
+    const std::string& name = show.frmMain.PlayerName(press.Player);
     if (press.Place == PressPlace::Early) {
       rows.push_back({"", name, "early", false});
     } else if (&press == first) {
