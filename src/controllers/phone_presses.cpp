@@ -19,11 +19,6 @@ bool IsIn(const std::vector<PhonePress>& presses, int player) {
   return std::any_of(presses.begin(), presses.end(), [&](const PhonePress& press) { return press.Player == player; });
 }
 
-bool IsPlaced(const RingInOrder& order, int player) {
-  return std::any_of(order.Places.begin(), order.Places.end(),
-                     [&](const PlacedPress& place) { return place.Player == player; });
-}
-
 // Of all phones that are there, which the error of each is measured against.
 std::int64_t ShortestRoundTrip(const PageState& pages) {
   std::int64_t shortest = 0;
@@ -61,48 +56,25 @@ std::int64_t Deadline(const Show& show) {
   return deadline;
 }
 
-void BeginOrder(Show& show, std::vector<PlacedPress> places, std::int64_t takenUs, std::int64_t errorUs) {
-  RingInOrder& order = show.pages->Order;
-  order.Question = show.state.CurrentQuestion;
-  order.Holder = show.state.CurrentPlayer;
-  order.TakenUs = takenUs;
-  order.ErrorUs = errorUs;
-  order.Places = std::move(places);
-}
-
-// Behind who has the floor: it is too late for the turn, and the margin is told.
-void PlaceLate(Show& show, const PhonePress& press) {
-  RingInOrder& order = show.pages->Order;
-  if (IsPlaced(order, press.Player) || !IsPhase(show, PhaseKind::Answering)) return;
-  const bool byArrival = show.pages->Weighs == Weighing::ByArrival;
-  PlacedPress place{.Player = press.Player};
-  place.MarginUs = std::max<std::int64_t>(0, (byArrival ? press.ArrivedUs : press.CountsUs) - order.TakenUs);
-  if (!byArrival) place.ErrorUs = press.ErrorUs + order.ErrorUs;
-  place.TooClose = place.ErrorUs > place.MarginUs;
-  const auto later = [&](const PlacedPress& other) { return other.MarginUs > place.MarginUs; };
-  auto at = std::find_if(order.Places.begin(), order.Places.end(), later);
-  if (at == order.Places.begin() && at != order.Places.end()) ++at;
-  order.Places.insert(at, place);
+// Into the order of the question's presses. The phones' clock and the show's count from moments of their own.
+void List(Show& show, const PhonePress& press) {
+  const std::int64_t ago = show.platform.webPages.NowUs() - press.CountsUs;
+  AddPress(show, {press.Player, PressWay::Phone, show.platform.clock.NowUs() - ago, press.ErrorUs, PressPlace::First});
 }
 
 void Decide(Show& show) {
   PageState& pages = *show.pages;
   show.frmPages.tmrWeigh.Enabled = false;
-  const std::vector<PhonePress> presses = std::exchange(pages.Weighed, {});
+  std::vector<PhonePress> presses = std::exchange(pages.Weighed, {});
   if (presses.empty() || !ConsoleListens(show)) return;
-  if (!MayRingIn(show)) {
-    // A wired or wireless press came in between, and is final.
-    NoteTheFloor(show);
-    for (const PhonePress& press : presses) PlaceLate(show, press);
-    return;
+  Weigh(presses, pages.Weighs);
+  // A wired or wireless press that came in between is final, and these are listed behind it.
+  bool open = MayRingIn(show);
+  for (const PhonePress& press : presses) {
+    List(show, press);
+    if (open) AcceptRingIn(show, press.Player);
+    open = false;
   }
-  std::vector<PlacedPress> places = PlacePresses(presses, pages.Weighs);
-  const int winner = places.front().Player;
-  const auto first =
-      std::find_if(presses.begin(), presses.end(), [&](const auto& one) { return one.Player == winner; });
-  if (!AcceptRingIn(show, winner)) return;
-  const bool byArrival = pages.Weighs == Weighing::ByArrival;
-  BeginOrder(show, std::move(places), byArrival ? first->ArrivedUs : first->CountsUs, byArrival ? 0 : first->ErrorUs);
 }
 
 void WaitOrDecide(Show& show) {
@@ -127,29 +99,23 @@ void TakePhonePress(Show& show, std::uint64_t number, std::int64_t pressedUs, st
   const bool bounces = seat.LastPressUs >= 0 && arrivedUs - seat.LastPressUs <= kDebounceUs;
   if (bounces || seat.Locked || !Plays(show.state, page.Seat) || !ConsoleListens(show)) return;
   seat.LastPressUs = arrivedUs;
-  NoteTheFloor(show);
-  const PhonePress press = Timed(pages, page, pressedUs, arrivedUs);
-  // The phones' clock and the show's count from moments of their own.
-  const std::int64_t ago = show.platform.webPages.NowUs() - press.CountsUs;
-  AddPress(show, {press.Player, PressWay::Phone, show.platform.clock.NowUs() - ago, press.ErrorUs, PressPlace::First});
-  if (!MayRingIn(show)) {
-    PlaceLate(show, press);
-    return;
+  NoteTheQuestion(show);
+  std::vector<PhonePress> press{Timed(pages, page, pressedUs, arrivedUs)};
+  if (MayRingIn(show)) {
+    pages.Weighed.push_back(press.front());
+    WaitOrDecide(show);
+  } else {
+    Weigh(press, pages.Weighs);
+    List(show, press.front());
   }
-  pages.Weighed.push_back(press);
-  WaitOrDecide(show);
 }
 
-void NoteTheFloor(Show& show) {
+void NoteTheQuestion(Show& show) {
   PageState& pages = *show.pages;
-  const GamePhase phase = Phase(show);
-  if (phase.Kind != PhaseKind::QuestionOpen) pages.OpenedUs = -1;
-  if (phase.Kind == PhaseKind::QuestionOpen && pages.OpenedUs < 0) pages.OpenedUs = show.platform.webPages.NowUs();
-  if (phase.Kind == PhaseKind::QuestionOpen) pages.Order = {};
-  if (phase.Kind != PhaseKind::Answering) return;
-  const RingInOrder& order = pages.Order;
-  if (order.Question == show.state.CurrentQuestion && order.Holder == phase.Player) return;
-  BeginOrder(show, {{.Player = phase.Player}}, show.platform.webPages.NowUs(), 0);
+  if (!IsPhase(show, PhaseKind::QuestionOpen))
+    pages.OpenedUs = -1;
+  else if (pages.OpenedUs < 0)
+    pages.OpenedUs = show.platform.webPages.NowUs();
 }
 
 void tmrWeigh_Timer(Show& show) { Decide(show); }

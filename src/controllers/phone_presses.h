@@ -1,5 +1,4 @@
-// A phone's press on its way to AcceptRingIn: its gates, the wait for those that may have been earlier, and the
-// margins.
+// A phone's press on its way to AcceptRingIn: its gates, and the wait for those that may have been earlier.
 #pragma once
 
 #include <cstdint>
@@ -10,8 +9,8 @@ struct Show;
 
 // The page's button went down at that time of its own clock.
 void TakePhonePress(Show& show, std::uint64_t page, std::int64_t pressedUs, std::int64_t arrivedUs);
-// Notes when the question opened and who took the floor by another way than a phone. After each event.
-void NoteTheFloor(Show& show);
+// Notes when the question opened. After each event.
+void NoteTheQuestion(Show& show);
 // Everybody who may have been earlier has been heard, or has had his time.
 void tmrWeigh_Timer(Show& show);
 

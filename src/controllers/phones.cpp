@@ -228,7 +228,7 @@ void PagesChanged(Show& show, const PageEvent& event) {
 
 void TellPages(Show& show) {
   if (!show.pages->On) return;
-  NoteTheFloor(show);
+  NoteTheQuestion(show);
   Views views(show);
   for (auto& [number, page] : show.pages->Pages) {
     const std::string& view = views.Of(page);

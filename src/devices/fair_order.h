@@ -1,5 +1,5 @@
-// Who of several phones was first: when a press counts, how long the first waits for the others, and the order with its
-// margins. Times are microseconds of our clock.
+// Who of several phones was first: when a press counts, and in which order presses are. Times are microseconds of our
+// clock.
 #pragma once
 
 #include <cstdint>
@@ -16,19 +16,12 @@ struct PhonePress {
   std::int64_t CountsUs = 0, ErrorUs = 0;
 };
 
-struct PlacedPress {
-  int Player = 0;
-  // Behind the first, and how far that may be wrong; 0 of the first.
-  std::int64_t MarginUs = 0, ErrorUs = 0;
-  // The error is larger than the margin.
-  bool TooClose = false;
-};
-
 // When a press counts that was made, by its phone, at that time: never after its arrival, and never earlier than the
 // longest way seen of that phone allows.
 std::int64_t CountedTime(std::int64_t claimedUs, std::int64_t arrivedUs, std::int64_t longestWayUs);
 
-// The presses in their order, which of two equal ones keeps the first to arrive before the other.
-std::vector<PlacedPress> PlacePresses(std::vector<PhonePress> presses, Weighing weighing);
+// Sorts them; of two equal ones the first to arrive stays before the other. By arrival a press counts when it came,
+// which is known exactly.
+void Weigh(std::vector<PhonePress>& presses, Weighing weighing);
 
 }  // namespace pawnfield

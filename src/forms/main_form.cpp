@@ -220,7 +220,7 @@ void MainForm::SetInitialStates() {
   mnuZR610.Visible = false;
   mnuFileBringBack.Enabled = false;
   Hide(lblRingInOrder, lstRingInOrder, chpRecord, chpPhones);
-  lstRingInOrder.ColumnHeaders = {"", "", "", ""};
+  lstRingInOrder.ColumnHeaders = {"", "", "", "", ""};
   fraCues.Visible = false;
   Contain(fraCues, {&lstCues});
   for (std::size_t i = 0; i < fdrVolume.Size(); ++i) fdrVolume[i].Container = &fraCues;

@@ -1,27 +1,28 @@
 #include "outward/page_views.h"
 
 #include <algorithm>
+#include <optional>
 
+#include "data/press_order.h"
 #include "devices/page_message.h"
 #include "forms/main_form.h"
 #include "platform/text.h"
 #include "show/page_state.h"
 #include "show/phase.h"
 #include "show/show.h"
+#include "show/show_record.h"
 
 namespace pawnfield {
 
 namespace {
 
-constexpr std::int64_t kMsUs = 1000;
-
-std::int64_t Milliseconds(std::int64_t us) { return (us + kMsUs / 2) / kMsUs; }
-
-const PlacedPress* PlaceOf(const Show& show, int player) {
-  for (const PlacedPress& place : show.pages->Order.Places) {
-    if (place.Player == player) return &place;
-  }
-  return nullptr;
+// Of a phone that was later than who has the floor; none where the operator has given the floor to somebody else.
+std::optional<PlacedPress> PlaceBehind(const Show& show, int holder, int player) {
+  const std::vector<PlacedPress> order = PlacePresses(show.record->Presses);
+  if (order.empty() || order.front().Of.Player != holder) return std::nullopt;
+  const auto place = std::find_if(order.begin() + 1, order.end(),
+                                  [player](const PlacedPress& placed) { return placed.Of.Player == player; });
+  return place == order.end() ? std::nullopt : std::optional(*place);
 }
 
 bool IsWeighed(const Show& show, int player) {
@@ -76,13 +77,14 @@ std::string PlayersJson(const Show& show) {
 
 std::string OrderJson(const Show& show) {
   std::string list;
-  for (const PlacedPress& place : show.pages->Order.Places) {
+  for (const PlacedPress& place : PlacePresses(show.record->Presses)) {
     const std::string one = JsonObject()
-                                .Number("n", place.Player)
-                                .Text("name", show.frmMain.PlayerName(place.Player))
+                                .Number("n", place.Of.Player)
+                                .Text("name", show.frmMain.PlayerName(place.Of.Player))
                                 .Number("ms", Milliseconds(place.MarginUs))
                                 .Number("error", Milliseconds(place.ErrorUs))
                                 .Truth("close", place.TooClose)
+                                .Text("margin", MarginText(place))
                                 .Done();
     list += (list.empty() ? "" : ",") + one;
   }
@@ -113,27 +115,15 @@ std::string FloorText(const Show& show) {
   return {};
 }
 
-std::string OrderText(const Show& show) {
-  std::string text;
-  int rank = 0;
-  for (const PlacedPress& place : show.pages->Order.Places) {
-    text += (rank > 0 ? "   " : "") + std::to_string(rank + 1) + " " + show.frmMain.PlayerName(place.Player);
-    if (rank++ > 0) text += " +" + std::to_string(Milliseconds(place.MarginUs)) + " ms";
-    if (rank > 1 && place.TooClose) text += ", too close to call";
-  }
-  return text;
-}
-
 std::string PhoneView(const Show& show, int player) {
   const GamePhase phase = Phase(show);
   JsonObject view;
   view.Text("t", "phone").Number("n", player).Text("name", show.frmMain.PlayerName(player));
   view.Text("state", ButtonState(show, player)).Number("question", QuestionNumber(show));
   view.Text("score", show.frmMain.Score(player).Caption.Get());
-  const PlacedPress* place = PlaceOf(show, player);
   if (phase.Kind == PhaseKind::Answering && phase.Player != player) {
     view.Number("floor", phase.Player).Text("floorName", show.frmMain.PlayerName(phase.Player));
-    if (place != nullptr) {
+    if (const auto place = PlaceBehind(show, phase.Player, player)) {
       view.Number("ms", Milliseconds(place->MarginUs)).Number("error", Milliseconds(place->ErrorUs));
       view.Truth("close", place->TooClose);
     }

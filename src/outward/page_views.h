@@ -16,10 +16,7 @@ std::string SeatsView(const Show& show);
 std::string HostView(const Show& show);
 std::string ScoresView(const Show& show);
 
-// The name as it stands at the console.
 // "BEN answers" and its like, empty while there is nothing to say.
 std::string FloorText(const Show& show);
-// "1 BEN  2 ANNA +12 ms, too close to call".
-std::string OrderText(const Show& show);
 
 }  // namespace pawnfield

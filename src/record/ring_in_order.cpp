@@ -4,6 +4,7 @@
 #include <optional>
 #include <utility>
 
+#include "data/press_order.h"
 #include "forms/main_form.h"
 #include "show/phase.h"
 #include "show/show.h"
@@ -35,11 +36,6 @@ bool IsListed(const std::vector<Press>& presses, int player, bool early) {
   });
 }
 
-std::string Margin(std::int64_t us) {
-  const std::string sign = us < 0 ? "-" : "+";
-  return sign + std::to_string((std::abs(us) + 500) / 1000) + " ms";
-}
-
 }  // namespace
 
 Press PressOf(const Show& show, int player, PressWay way, std::int64_t atUs) {
@@ -53,7 +49,7 @@ void AddPress(Show& show, Press press) {
   if (!place || IsListed(presses, press.Player, place == PressPlace::Early)) return;
   press.Place = *place;
   presses.push_back(press);
-  std::stable_sort(presses.begin(), presses.end(), [](const Press& a, const Press& b) { return a.TimeUs < b.TimeUs; });
+  SortPresses(presses);
   ShowRingInOrder(show);
 }
 
@@ -68,22 +64,14 @@ void BeginRingInOrder(Show& show, Opening opening) {
 
 std::vector<RingInRow> RingInRows(const Show& show) {
   std::vector<RingInRow> rows;
-  const std::vector<Press>& presses = show.record->Presses;
-  const Press* first = FirstOf(presses);
-  const Press* before = first;
-  int number = 1;
-  for (const Press& press : presses) {
-    const std::string& name = show.frmMain.PlayerName(press.Player);
-    if (press.Place == PressPlace::Early) {
-      rows.push_back({"", name, "early", false});
-    } else if (&press == first) {
-      rows.push_back({std::to_string(number++), name, "first", false});
-    } else if (first != nullptr) {
-      const bool tooClose = std::abs(press.TimeUs - before->TimeUs) < press.ErrorUs + before->ErrorUs;
-      const std::string margin = Margin(press.TimeUs - first->TimeUs);
-      rows.push_back({std::to_string(number++), name, tooClose ? margin + ", too close to call" : margin, tooClose});
-      before = &press;
-    }
+  for (const Press& press : show.record->Presses) {
+    if (press.Place == PressPlace::Early)
+      rows.push_back({press.Player, "", show.frmMain.PlayerName(press.Player), "early", false});
+  }
+  int number = 0;
+  for (const PlacedPress& placed : PlacePresses(show.record->Presses)) {
+    const std::string& name = show.frmMain.PlayerName(placed.Of.Player);
+    rows.push_back({placed.Of.Player, std::to_string(++number), name, MarginText(placed), placed.TooClose});
   }
   return rows;
 }
@@ -92,7 +80,7 @@ void ShowRingInOrder(Show& show) {
   ListView& list = show.frmMain.lstRingInOrder;
   std::vector<ListView::Row> rows;
   for (const RingInRow& row : RingInRows(show))
-    rows.push_back({row.Number, row.Name, row.When, row.TooClose ? "amber" : ""});
+    rows.push_back({row.Number, row.Name, row.When, row.TooClose ? "amber" : "", std::to_string(row.Player)});
   show.frmMain.lblRingInOrder.Visible = !rows.empty();
   list.Visible = !rows.empty();
   list.ListItems = rows;

@@ -23,10 +23,11 @@ enum class Opening { Anew, Again };
 // early for this question.
 void BeginRingInOrder(Show& show, Opening opening);
 
-// "1 BEN first", "2 ANNA +12 ms, too close to call", "CHLOE early".
+// "1 BEN first", "2 ANNA +12 ms (+-15), too close to call", "CHLOE early".
 struct RingInRow {
+  int Player = 0;
   std::string Number, Name, When;
-  // Less lies between it and the press before than can be told.
+  // Less lies between it and the first than can be told.
   bool TooClose = false;
 };
 

@@ -44,16 +44,6 @@ struct WrongGuesses {
   std::int64_t RefusedUntilUs = 0;
 };
 
-// The last ring-in as far as phones know it.
-struct RingInOrder {
-  int Question = -1;
-  // Who has or had the floor, and when it was taken.
-  int Holder = 0;
-  std::int64_t TakenUs = 0, ErrorUs = 0;
-  // In their order, the holder's first.
-  std::vector<PlacedPress> Places;
-};
-
 // What control devices have been told of the game.
 struct ToldGame {
   int Question = 0, Holder = 0;
@@ -78,7 +68,6 @@ struct PageState {
   std::int64_t OpenedUs = -1;
   // Presses that wait for those which may have been earlier.
   std::vector<PhonePress> Weighed;
-  RingInOrder Order;
   ToldGame Told;
 };
 

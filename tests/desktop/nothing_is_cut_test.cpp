@@ -125,9 +125,15 @@ class NothingIsCut : public ProgramTest {
     form_.lblUndoNote.Caption = longest + " takes C5, +350";
     form_.lblNowPlaying.Caption = "NOW: The march of the gladiators.mp3 12:34";
     form_.lblRingInOrder.Caption = "QUESTION 100";
-    form_.lstRingInOrder.ListItems = {{"1", longest, "first", ""},
-                                      {"2", longest, "+12 ms, too close to call", "amber"},
-                                      {"3", longest, "+310 ms", ""}};
+    form_.lstRingInOrder.ListItems = {{"1", longest, "first", "", "2"},
+                                      {"2", longest,
+                                       "+12 ms (\xB1"
+                                       "15), too close to call",
+                                       "amber", "1"},
+                                      {"3", longest,
+                                       "+310 ms (\xB1"
+                                       "15)",
+                                       "", "3"}};
     for (Control* shown :
          {static_cast<Control*>(&form_.lblRingInOrder), static_cast<Control*>(&form_.lstRingInOrder),
           static_cast<Control*>(&form_.chpRecord), static_cast<Control*>(&form_.chpPhones),

@@ -189,18 +189,19 @@ TEST(FairOrder, APressCountsWhenItWasMadeAsFarAsItsWayAllows) {
   }
 }
 
-TEST(FairOrder, MarginsSayWhereTheyAreTooCloseToCall) {
-  const std::vector<PhonePress> presses{{1, 50000, 20000, 3000}, {2, 40000, 24000, 2000}, {3, 60000, 50000, 1000}};
-  const auto told = [&presses](Weighing weighing) {
+TEST(FairOrder, IsThatOfTheTimesPressedOrOfTheArrivals) {
+  const auto order = [](Weighing weighing) {
+    std::vector<PhonePress> presses{{1, 50000, 20000, 3000}, {2, 40000, 24000, 2000}, {3, 60000, 50000, 1000}};
+    Weigh(presses, weighing);
     std::string text;
-    for (const PlacedPress& place : PlacePresses(presses, weighing)) {
-      text += std::to_string(place.Player) + " +" + std::to_string(place.MarginUs / 1000) + "/" +
-              std::to_string(place.ErrorUs / 1000) + (place.TooClose ? "? " : " ");
+    for (const PhonePress& press : presses) {
+      text += std::to_string(press.Player) + " at " + std::to_string(press.CountsUs / 1000) + " +- " +
+              std::to_string(press.ErrorUs / 1000) + "; ";
     }
     return text;
   };
-  EXPECT_EQ(told(Weighing::ByTimePressed), "1 +0/0 2 +4/5? 3 +30/4 ");
-  EXPECT_EQ(told(Weighing::ByArrival), "2 +0/0 1 +10/0 3 +20/0 ");
+  EXPECT_EQ(order(Weighing::ByTimePressed), "1 at 20 +- 3; 2 at 24 +- 2; 3 at 50 +- 1; ");
+  EXPECT_EQ(order(Weighing::ByArrival), "2 at 40 +- 0; 1 at 50 +- 0; 3 at 60 +- 0; ");
 }
 
 // Of a thousand pairs of presses, 10 to 40 ms apart, in how many the one who pressed first wins.
@@ -228,7 +229,8 @@ int RightOf1000(std::int64_t leastUs, std::int64_t mostUs, Weighing weighing, un
     const std::int64_t begins = std::min_element(presses.begin(), presses.end(), arrived)->ArrivedUs;
     const std::int64_t wait = std::max(phones[0].offset.LongestWayUs(), phones[1].offset.LongestWayUs());
     std::erase_if(presses, [&](const PhonePress& press) { return press.ArrivedUs > begins + wait; });
-    right += PlacePresses(presses, weighing).front().Player == first + 1 ? 1 : 0;
+    Weigh(presses, weighing);
+    right += presses.front().Player == first + 1 ? 1 : 0;
   }
   return right;
 }

@@ -128,7 +128,10 @@ TEST(RingInOrder, ListsWhoCameLaterAndWhoWasEarly) {
   press(1, now + 900, 500);
   press(1, now + 40000, 500);
   press(3, now + 310000, 500);
-  EXPECT_EQ(texts(), "1 PLAYER 2 first; 2 PLAYER 1 +1 ms, too close to call !; 3 PLAYER 3 +310 ms; ");
+  EXPECT_EQ(texts(),
+            "1 PLAYER 2 first; 2 PLAYER 1 +1 ms (\xB1"
+            "1), too close to call !; 3 PLAYER 3 +310 ms (\xB1"
+            "1); ");
   player.Play("+ 00! >100");
   press(1, show.platform.clock.NowUs() + 3000000, 500);
   player.Play(">5000");

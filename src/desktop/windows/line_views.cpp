@@ -131,7 +131,7 @@ void OrderView::paintEvent(QPaintEvent*) {
     painter.drawText(line, Qt::AlignRight | Qt::AlignVCenter, when);
     const int room = width() - fontMetrics().horizontalAdvance(when) - kLineGap;
     painter.setFont(bold);
-    painter.setPen(ColorOfPlayer(row.value(0)));
+    painter.setPen(ColorOfPlayer(row.value(4)));
     const QString who = painter.fontMetrics().elidedText(row.value(0) + ' ' + row.value(1), Qt::ElideRight, room);
     painter.drawText(line, Qt::AlignLeft | Qt::AlignVCenter, who);
     line.translate(0, LineHeight());

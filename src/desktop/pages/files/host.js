@@ -36,7 +36,7 @@
     byId('clock').textContent = told.clock || '';
     byId('order').textContent = told.order.map(function (place, index) {
       let text = (index + 1) + ' ' + place.name;
-      if (index > 0) text += ' +' + place.ms + ' ms' + (place.close ? ', too close to call' : '');
+      if (index > 0) text += ' ' + place.margin;
       return text;
     }).join('   ');
     byId('next').textContent = told.next ? 'Next: ' + told.next : '';

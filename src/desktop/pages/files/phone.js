@@ -73,7 +73,8 @@
   function later() {
     let text = 'has the floor';
     if (view.ms === undefined) return text;
-    text += '; you were ' + view.ms + ' ms later';
+    // A remote's or a pad's press is final when it comes, also where a phone's was on its way.
+    text += view.ms < 0 ? '; you were ' + -view.ms + ' ms earlier, but it came too late' : '; you were ' + view.ms + ' ms later';
     return view.close ? text + ' (too close to call)' : text;
   }
 
