@@ -2,6 +2,7 @@
 
 #include <cctype>
 
+#include "controllers/press_trial.h"
 #include "controllers/ring_in.h"
 #include "engine/board_play.h"
 #include "engine/judging.h"
@@ -30,8 +31,16 @@ constexpr int kCtrlY = 25;
 constexpr int kCtrlZ = 26;
 constexpr int kNoColumn = 99;
 
+bool IsDigit(int key) { return key >= '0' && key <= '9'; }
+
+// In keypad mode a digit is a controller, and 0 the tenth.
+int PlayerOfDigit(const Show& show, int digit) {
+  return IsKeypadMode(show) ? show.state.Routing[digit == 0 ? 10 : static_cast<std::size_t>(digit)] : digit;
+}
+
 void RingInKey(Show& show, int key) {
-  const bool digit = key >= '0' && key <= '9';
+  if (TriesKey(show, key)) return;
+  const bool digit = IsDigit(key);
   // While a square may be named a digit is its row, and no press.
   if (digit && QuestionIsUp(show)) AddPress(show, PressOf(show, key - '0', PressWay::Key));
   if (!MayRingIn(show) || (!digit && key != '^')) return;
@@ -147,6 +156,12 @@ void SelectControllerPlayer(Show& show, int group, int number) {
   if (!PublishesPlayers(show)) return;
   WriteSharedKey(show, std::to_string(9 + player), "PLAYER " + std::to_string(player));
   show.state.CurrentPlayer = player;
+}
+
+bool TriesKey(Show& show, int keyAscii) {
+  if (!IsDigit(keyAscii)) return false;
+  const int digit = keyAscii - '0';
+  return TakesForTrial(show, PressOf(show, PlayerOfDigit(show, digit), PressWay::Key), digit);
 }
 
 void ProcessKeyPress(Show& show, int keyAscii) {

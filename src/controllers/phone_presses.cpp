@@ -2,6 +2,7 @@
 
 #include <algorithm>
 
+#include "controllers/press_trial.h"
 #include "controllers/ring_in.h"
 #include "forms/pages_form.h"
 #include "record/ring_in_order.h"
@@ -40,6 +41,12 @@ PhonePress Timed(const PageState& pages, const ConnectedPage& page, std::int64_t
   return press;
 }
 
+// The phones' clock and the show's count from moments of their own.
+Press OnOurClock(const Show& show, const PhonePress& press) {
+  const std::int64_t ago = show.platform.webPages.NowUs() - press.CountsUs;
+  return {press.Player, PressWay::Phone, show.platform.clock.NowUs() - ago, press.ErrorUs, PressPlace::First};
+}
+
 // Until when somebody's press may still come that was made before the first of those that wait.
 std::int64_t Deadline(const Show& show) {
   const PageState& pages = *show.pages;
@@ -56,11 +63,8 @@ std::int64_t Deadline(const Show& show) {
   return deadline;
 }
 
-// Into the order of the question's presses. The phones' clock and the show's count from moments of their own.
-void List(Show& show, const PhonePress& press) {
-  const std::int64_t ago = show.platform.webPages.NowUs() - press.CountsUs;
-  AddPress(show, {press.Player, PressWay::Phone, show.platform.clock.NowUs() - ago, press.ErrorUs, PressPlace::First});
-}
+// Into the order of the question's presses.
+void List(Show& show, const PhonePress& press) { AddPress(show, OnOurClock(show, press)); }
 
 void Decide(Show& show) {
   PageState& pages = *show.pages;
@@ -96,6 +100,8 @@ void TakePhonePress(Show& show, std::uint64_t number, std::int64_t pressedUs, st
   const ConnectedPage& page = pages.Pages[number];
   if (page.Seat == 0) return;
   PhoneSeat& seat = pages.Seats[page.Seat];
+  if (!seat.Locked && TakesForTrial(show, OnOurClock(show, Timed(pages, page, pressedUs, arrivedUs)), page.Seat))
+    return;
   const bool bounces = seat.LastPressUs >= 0 && arrivedUs - seat.LastPressUs <= kDebounceUs;
   if (bounces || seat.Locked || !Plays(show.state, page.Seat) || !ConsoleListens(show)) return;
   seat.LastPressUs = arrivedUs;

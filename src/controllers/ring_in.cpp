@@ -1,5 +1,6 @@
 #include "controllers/ring_in.h"
 
+#include "controllers/press_trial.h"
 #include "devices/transceiver.h"
 #include "engine/answer_clock.h"
 #include "engine/question_cycle.h"
@@ -33,14 +34,20 @@ bool PassesDebounce(PressState& presses, std::size_t remote, std::int64_t now) {
 
 void PlayRingIn(Show& show, int player) { PlayEvent(show, SoundEntry(show, kSoundBuzzer1 + player - 1)); }
 
+int PlayerOfRemote(const Show& show, std::size_t remote) {
+  return remote < show.state.Routing.size() ? show.state.Routing[remote] : 0;
+}
+
 void TakePress(Show& show, std::size_t remote) {
+  const int player = PlayerOfRemote(show, remote);
+  const std::int64_t arrivedUs = show.platform.hid.ArrivedUs();
+  if (TakesForTrial(show, PressOf(show, player, PressWay::Remote, arrivedUs), static_cast<int>(remote))) return;
   if (!PassesDebounce(show.presses, remote, show.platform.clock.NowMs())) return;
   if (!ConsoleListens(show)) return;
   const bool open = MayRingIn(show);
   if (remote >= show.state.Routing.size() && open) throw SubscriptError();
-  const int player = remote < show.state.Routing.size() ? show.state.Routing[remote] : 0;
   if (!IsPlayer(player)) return;
-  AddPress(show, PressOf(show, player, PressWay::Remote, show.platform.hid.ArrivedUs()));
+  AddPress(show, PressOf(show, player, PressWay::Remote, arrivedUs));
   if (!open || !AcceptRingIn(show, player)) return;
   // The clip starts a second time, as players of wireless remotes know it.
   PlayRingIn(show, player);

@@ -6,6 +6,7 @@
 #include <utility>
 
 #include "controllers/pad_map.h"
+#include "controllers/press_trial.h"
 #include "controllers/ring_in.h"
 #include "engine/judging.h"
 #include "engine/question_cycle.h"
@@ -54,6 +55,8 @@ void PressPad(Show& show, std::int32_t id) {
     return;
   }
   const int slot = LookupPad(show.presses.MFMap, id);
+  const Press press = PressOf(show, slot, PressWay::Pad, show.platform.serial.ArrivedUs());
+  if (TakesForTrial(show, press, id)) return;
   if (slot == 0) {
     ShowMessage(show, "An unmapped controller has been detected. Please remap your controllers before proceeding.");
     return;
@@ -64,7 +67,7 @@ void PressPad(Show& show, std::int32_t id) {
                 "ignored.");
     return;
   }
-  AddPress(show, PressOf(show, slot, PressWay::Pad, show.platform.serial.ArrivedUs()));
+  AddPress(show, press);
   if (MayRingIn(show) && !RefuseWhoDoesNotPlay(show, slot)) {
     // The operator may give the question to another player by hand; a pad that comes second may not.
     const Button& button = show.frmMain.btnSelectPlayer[static_cast<std::size_t>(slot - 1)];

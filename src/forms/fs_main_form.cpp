@@ -95,8 +95,29 @@ FSMainForm::FSMainForm() : Form("frmFSMain") {
                             &picMOD, &picMODVideo, &picSound, &picBand}) {
     panel->Visible = false;
   }
+  PlaceTestPicture();
   OnResize = [this] { Form_Resize(); };
   Form_Resize();
+}
+
+void FSMainForm::PlaceTestPicture() {
+  constexpr double kMargin = 580;
+  const struct {
+    Label& label;
+    double top, height, size;
+    bool bold;
+  } lines[] = {{lblTestName, 2900, 1700, 66, true},
+               {lblTestSize, 4600, 1000, 36, false},
+               {lblTestLine, 6300, 900, 24, false},
+               {lblTestHow, 7700, 900, 24, false}};
+  picTest.MoveTo(0, 0, kWidth, kHeight);
+  picTest.Visible = false;
+  for (const auto& [label, top, height, size, bold] : lines) {
+    label.Container = &picTest;
+    label.MoveTo(kMargin, top, kWidth - 2 * kMargin, height);
+    label.Font = {"Segoe UI", size, bold, false};
+  }
+  lblTestHow.Caption = "All four edges and corners are to be seen.";
 }
 
 PictureBox& FSMainForm::ScoreBox(int player) {
@@ -140,7 +161,7 @@ void FSMainForm::Form_Resize() {
   for (PictureBox* panel : {&picCorrect, &picWinner, &picBonus, &picMOD, &picMODVideo})
     MoveLike(*panel, picStandby, Extent::Copy);
   for (PictureBox* panel : {&picQuestionPicture, &picQuestion, &picHideQuestion, &picCorrect, &picWinner, &picBonus,
-                            &picSound, &picStandby, &picMOD, &picBand}) {
+                            &picSound, &picStandby, &picMOD, &picBand, &picTest}) {
     panel->BringToFront();
   }
   picBand.MoveTo(0, overBand, Width, kBandHeight);

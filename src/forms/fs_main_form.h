@@ -12,7 +12,7 @@ class FSMainForm : public Form {
   FSMainForm();
 
   // Gives the full-size panels the form's size and stacks them: question, cover, verdict, winner, bonus, sound,
-  // standby, and media on demand in front of all.
+  // standby, media on demand, and the test picture in front of all.
   void Form_Resize();
   // Centres the cards of two players, or fills the row with three.
   void PlacePlayers(int players);
@@ -72,9 +72,20 @@ class FSMainForm : public Form {
   ControlArray<Label, kPlayers> lblBandName{*this, "lblBandName"};
   ControlArray<Label, kPlayers> lblBandScore{*this, "lblBandScore"};
 
+  // The test picture of the check before the show: the display's edges, its name and its size, and a line of letters as
+  // small as the show has any.
+  PictureBox picTest{*this, "picTest"};
+  Label lblTestName{*this, "lblTestName"};
+  Label lblTestSize{*this, "lblTestSize"};
+  Label lblTestLine{*this, "lblTestLine"};
+  Label lblTestHow{*this, "lblTestHow"};
+
   Timer tmrFSFlipPlayerPiece{*this, "tmrFSFlipPlayerPiece", 10};
   Timer tmrRePaint{*this, "tmrRePaint", 100, true};
   ControlArray<Timer, 1> tmrAnimate{*this, "tmrAnimate"};
+
+ private:
+  void PlaceTestPicture();
 };
 
 }  // namespace pawnfield

@@ -62,6 +62,8 @@ void MainForm::SetCaptions() {
   mnuFileOptionalHeaders.Caption = "Optional &Headers";
   mnuFileInterface.Caption = "&Interface Wizard...";
   mnuFilePages.Caption = "&Phones and pages...";
+  mnuFileShowCheck.Caption = "Show &check...";
+  mnuFileShowCheck.Visible = false;
   mnuFileBringBack.Caption = "&Bring back the last game";
   mnuFileExit.Caption = "E&xit";
   mnuZR610.Caption = "ZR-610 System";

@@ -36,6 +36,7 @@ class MainForm : public Form {
   Menu mnuFileOptionalHeaders{*this, "mnuFileOptionalHeaders"};
   Menu mnuFileInterface{*this, "mnuFileInterface"};
   Menu mnuFilePages{*this, "mnuFilePages"};
+  Menu mnuFileShowCheck{*this, "mnuFileShowCheck"};
   Menu mnuFileBringBack{*this, "mnuFileBringBack"};
   Menu mnuFileExit{*this, "mnuFileExit"};
   Menu mnuZR610{*this, "mnuZR610"};

@@ -192,6 +192,14 @@ class FileSystem {
 
 inline constexpr const char* kRecordEnding = ".jsonl";
 
+// Where the records lie, as the system spells it, and how many bytes its disk has left; below 0 where that isn't known.
+struct RecordPlace {
+  std::string Folder;
+  std::int64_t FreeBytes = -1;
+  // Why nothing could be written there now, in words; empty when it could.
+  std::string Problem{};
+};
+
 // The records of the shows: files of the user's data folder that only grow. Names are without a folder and end in
 // kRecordEnding.
 class RecordFiles {
@@ -211,6 +219,8 @@ class RecordFiles {
   // Cuts what stands behind that many bytes, before anything is added.
   virtual void CutTo(const std::string& name, std::size_t bytes) = 0;
   virtual void Remove(const std::string& name) = 0;
+  // Reports, between events, where they lie and what room there is.
+  virtual void LookAtPlace(std::function<void(const RecordPlace& place)> then) = 0;
   // Returns when all is on the disk, or has failed once more.
   virtual void Flush() = 0;
 };
@@ -218,6 +228,14 @@ class RecordFiles {
 struct TextSize {
   double Width = 0;
   double Height = 0;
+};
+
+// Letters of a text, each once and as the text has them: those that a font lacks and that come from another one, and
+// those that no font of the machine has.
+struct LackedLetters {
+  std::string Borrowed;
+  std::string Missing;
+  bool operator==(const LackedLetters&) const = default;
 };
 
 // Measures text as a label that wraps at words and sizes itself: the width is wrapWidth, or the widest word's width
@@ -228,6 +246,8 @@ class TextMeasurer {
  public:
   virtual ~TextMeasurer() = default;
   virtual TextSize Measure(const Font& font, const std::string& text, double wrapWidth) const = 0;
+  // What the font can't show of the text by itself.
+  virtual LackedLetters Lacked(const Font& /*font*/, const std::string& /*text*/) const { return {}; }
 };
 
 struct PixelSize {
@@ -266,12 +286,20 @@ class MediaReader {
   virtual void Measure(const std::string& /*path*/, std::function<void(double seconds)> /*then*/) {}
   // Whether there is something to play sound on. Takes a few milliseconds.
   virtual bool HasSoundDevice() const { return true; }
+  // Reports, between events, what the sound comes out of, as the system calls it: the devices that there are to choose
+  // from where the system chooses; none where they can't be told.
+  virtual void NameSoundDevices(std::function<void(const std::vector<std::string>& names)> then) { then({}); }
 };
 
 struct MonitorInfo {
   int Left = 0, Top = 0, Right = 0, Bottom = 0;
   // As the system calls it, "HDMI-1"; may be empty.
   std::string Name{};
+};
+
+// Whether the desktop does what it is asked for: holds its screen saver off, and the machine's sleep.
+struct AwakeAnswer {
+  bool Saver = false, Sleep = false;
 };
 
 class Displays {
@@ -287,6 +315,8 @@ class Displays {
   virtual void RoundWindow(Form& form, int radius) = 0;
   // Holds the desktop's screen saver and sleep off while true. A machine without such a service is no error.
   virtual void KeepAwake(bool awake) = 0;
+  // Asks the desktop to hold both off, reports its answers between events, and leaves all as KeepAwake has it.
+  virtual void TryAwake(std::function<void(const AwakeAnswer& answer)> then) = 0;
 };
 
 struct ProcessInfo {

@@ -16,6 +16,7 @@ constexpr int kFirstSizeAudience = 120;
 constexpr double kWrapTolerance = 100;
 constexpr double kWidthTolerance = 50;
 constexpr int kQuestionThickness = -10;
+constexpr double kQuestionMarginX = 0.038, kQuestionMarginY = 0.05;
 
 bool Fits(const TextMeasurer& measurer, Font font, const std::string& text, const FitLimits& limits, int size) {
   font.Size = size;
@@ -42,10 +43,13 @@ Inside InsideOf(const Control& box, double acrossFactor, double downFactor) {
   return {x, y, box.Width - 2 * x, box.Height - 2 * y};
 }
 
+FitLimits LimitsOf(const Inside& inside, int firstSize) {
+  return {firstSize, inside.Width - kWrapTolerance, inside.Width - kWidthTolerance, inside.Height - kWrapTolerance};
+}
+
 void FitIntoBox(Show& show, const std::string& text, Label& target, const Inside& inside, int firstSize, Color color) {
   const TextMeasurer& measurer = show.platform.text;
-  const FitLimits limits{firstSize, inside.Width - kWrapTolerance, inside.Width - kWidthTolerance,
-                         inside.Height - kWrapTolerance};
+  const FitLimits limits = LimitsOf(inside, firstSize);
   const int size = FittingSize(measurer, target.Font, text, limits);
   target.ForeColor = color;
   SetFontSize(target, size);
@@ -96,11 +100,15 @@ int FittingSize(const TextMeasurer& measurer, const Font& font, const std::strin
   return fitting;
 }
 
+FitLimits AudienceQuestionLimits(const Show& show) {
+  return LimitsOf(InsideOf(show.frmFSMain.picQuestion, kQuestionMarginX, kQuestionMarginY), kFirstSizeAudience);
+}
+
 void SetQuestion(Show& show, const std::string& text, ControlArray<Label, 5>& labels) {
   const bool onConsole = &labels[0] == &show.frmMain.lblQuestion[0];
   const Control& box = onConsole ? show.frmMain.picQuestion : show.frmFSMain.picQuestion;
-  FitIntoBox(show, text, labels[0], InsideOf(box, 0.038, 0.05), onConsole ? kFirstSizeConsole : kFirstSizeAudience,
-             kWhite);
+  FitIntoBox(show, text, labels[0], InsideOf(box, kQuestionMarginX, kQuestionMarginY),
+             onConsole ? kFirstSizeConsole : kFirstSizeAudience, kWhite);
   OutlineLabel(labels, OutlineMode::Outline, kQuestionThickness, "", nullptr);
 }
 

@@ -22,6 +22,9 @@ struct FitLimits {
 // search for every text, but quicker.
 int FittingSize(const TextMeasurer& measurer, const Font& font, const std::string& text, const FitLimits& limits);
 
+// What the audience's question panel gives a wording, before the band of a question takes its foot.
+FitLimits AudienceQuestionLimits(const Show& show);
+
 // Fits a question into the console's or the audience's lblQuestion array, in white, and outlines it.
 void SetQuestion(Show& show, const std::string& text, ControlArray<Label, 5>& labels);
 // Fits the winner's text into the console's or the audience's lblWinner, in green.

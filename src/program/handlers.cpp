@@ -22,6 +22,7 @@
 #include "forms/fs_main_form.h"
 #include "forms/main_form.h"
 #include "forms/press_forms.h"
+#include "forms/show_check_form.h"
 #include "forms/small_forms.h"
 #include "media/media_handlers.h"
 #include "media/sound_channels.h"
@@ -164,6 +165,7 @@ void ShowWhereWeAre(Show& show) {
 }
 
 void AttachWhereWeAre(Show& show) {
+  show.frmMain.mnuFileShowCheck.OnClick = [&show] { show.frmShowCheck.Visible = true; };
   AttachChips(show);
   AttachSoundPanel(show);
   show.frmMain.WhyNot = [&show](const Control& control) { return WhyNot(show, control); };

@@ -50,6 +50,12 @@ std::string SetLine(Show& show) {
   return FormatSetLine(*record.Game.Set);
 }
 
+// What the check before the show said, once.
+std::string CheckLine(Show& show) {
+  const std::vector<CheckedRow> rows = std::exchange(show.record->Checked, {});
+  return rows.empty() ? std::string() : FormatCheck(rows);
+}
+
 // The events of the game up to the present one; the first begins the game for who reads it.
 std::string GameLines(const GameHistory& game) {
   std::string lines;
@@ -83,9 +89,9 @@ void AppendEvent(Show& show, const RecordedEvent& event) {
   std::string lines;
   if (record.File.empty()) {
     if (!event.After.Started) return;
-    lines = BeginFile(show) + SetLine(show) + GameLines(record.Game);
+    lines = BeginFile(show) + CheckLine(show) + SetLine(show) + GameLines(record.Game);
   } else {
-    lines = SetLine(show) + FormatEvent(event);
+    lines = CheckLine(show) + SetLine(show) + FormatEvent(event);
   }
   show.platform.records.Append(record.File, lines);
 }

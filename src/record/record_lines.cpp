@@ -202,6 +202,12 @@ std::string FormatEvent(const RecordedEvent& event) {
                      {"now", JsonOf(event.After)}});
 }
 
+std::string FormatCheck(const std::vector<CheckedRow>& rows) {
+  Json::List list;
+  for (const CheckedRow& row : rows) list.push_back(Json::List{row.Row, row.Light, row.Sentence});
+  return FormatLine({{"check", std::move(list)}});
+}
+
 std::string FormatEnd() { return FormatLine({{"end", true}}); }
 
 namespace {
@@ -231,9 +237,18 @@ void Replay(ReadRecord& record, const RecordedEvent& event) {
   game.Now = game.Events.size() - 1;
 }
 
+void TakeCheck(ReadRecord& record, const Json& rows) {
+  for (const Json& row : rows.AsList()) {
+    const Json::List& texts = row.AsList();
+    if (texts.size() == 3) record.Checked.push_back({texts[0].AsText(), texts[1].AsText(), texts[2].AsText()});
+  }
+}
+
 void TakeLine(ReadRecord& record, const Json& line) {
   if (const Json* set = line.Find("set")) {
     record.Game.Set = std::make_shared<const RecordedSet>(SetOf(*set));
+  } else if (const Json* check = line.Find("check")) {
+    TakeCheck(record, *check);
   } else if (line.Find("end") != nullptr) {
     record.Ended = true;
   } else if (auto event = EventOf(line)) {

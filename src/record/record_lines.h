@@ -3,6 +3,7 @@
 //   {"record":1,"at":"2026-03-01 20:00:00","sum":"1f2e3d4c"}          the record's first line: the version
 //   {"set":{"path":...,"folder":...,"questions":[[...]]},"sum":...}    the set of the games that follow
 //   {"ms":5120,"at":"20:00:05","kind":"RingIn","player":2,"what":"BEN rings in","presses":[...],"now":{...},"sum":...}
+//   {"check":[["Sound","Ready","Built-in Audio"],...],"sum":...}       what the check before the games that follow said
 //   {"end":true,"sum":...}                                            the operator has ended the show
 #pragma once
 
@@ -26,6 +27,7 @@ std::optional<Json> ParseLine(std::string_view line);
 std::string FormatHead(const LocalTime& at);
 std::string FormatSetLine(const RecordedSet& set);
 std::string FormatEvent(const RecordedEvent& event);
+std::string FormatCheck(const std::vector<CheckedRow>& rows);
 std::string FormatEnd();
 
 // Nothing when the bytes don't begin as a record of this version does. A line whose sum is wrong is passed over.

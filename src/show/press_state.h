@@ -4,16 +4,28 @@
 
 #include <array>
 #include <cstdint>
+#include <functional>
 #include <memory>
 #include <set>
 
+#include "data/press.h"
 #include "devices/frame_splitter.h"
 #include "devices/pad_map_table.h"
 #include "devices/self_timer.h"
 
 namespace pawnfield {
 
+// A press that is tried before the show. Player 0 is nobody's; the number is that of the remote, the pad, the key or
+// the seat.
+struct TriedPress {
+  Press What;
+  int Number = 0;
+};
+
 struct PressState {
+  // Set while presses are tried: takes each of them, and none of them rings in.
+  std::function<void(const TriedPress&)> OnTried;
+
   // Milliseconds of the clock at a remote's last press that passed the debounce, by remote number; 0 for none.
   std::array<std::int64_t, 51> LastPressTick{};
   // Remotes that have been reported because the show has no place for them.

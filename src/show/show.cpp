@@ -17,10 +17,12 @@
 #include "forms/player_names_form.h"
 #include "forms/press_forms.h"
 #include "forms/second_screen_form.h"
+#include "forms/show_check_form.h"
 #include "forms/small_forms.h"
 #include "forms/sound_effects_form.h"
 #include "platform/text.h"
 #include "show/page_state.h"
+#include "show/show_check_state.h"
 #include "show/show_record.h"
 
 namespace pawnfield {
@@ -48,6 +50,7 @@ struct Forms {
   OptionalHeadersForm frmOptionalHeaders;
   OptionsForm frmOptions;
   PagesForm frmPages;
+  ShowCheckForm frmShowCheck;
 };
 
 Show::Show(Platform& platformPorts) : Show(platformPorts, std::make_unique<Forms>()) {}
@@ -56,6 +59,7 @@ Show::Show(Platform& platformPorts, std::unique_ptr<Forms> forms)
     : platform(platformPorts),
       pages(std::make_unique<PageState>()),
       record(std::make_unique<ShowRecord>()),
+      check(std::make_unique<ShowCheckState>()),
       frmMain(forms->frmMain),
       frmFSMain(forms->frmFSMain),
       frmSS(forms->frmSS),
@@ -78,6 +82,7 @@ Show::Show(Platform& platformPorts, std::unique_ptr<Forms> forms)
       frmOptionalHeaders(forms->frmOptionalHeaders),
       frmOptions(forms->frmOptions),
       frmPages(forms->frmPages),
+      frmShowCheck(forms->frmShowCheck),
       forms_(std::move(forms)) {}
 
 Show::~Show() = default;

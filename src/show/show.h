@@ -42,6 +42,8 @@ struct PageState;
 struct PlayerNamesForm;
 struct SecondScreenForm;
 struct SetInterfaceForm;
+struct ShowCheckForm;
+struct ShowCheckState;
 struct SoundEffectsForm;
 struct SplashForm;
 class Transceiver;
@@ -126,6 +128,8 @@ struct Show {
   std::unique_ptr<PageState> pages;
   // The events of the show; show/show_record.h has what it is.
   std::unique_ptr<ShowRecord> record;
+  // What the check before the show has found; show/show_check_state.h has what it is. Never null.
+  std::unique_ptr<ShowCheckState> check;
   // Lives from the console's load to the exit, whether or not a device was found.
   std::unique_ptr<Transceiver> dgTransceiver;
   // Whether a picture of the program could be opened when it was first asked for.
@@ -181,6 +185,7 @@ struct Show {
   OptionalHeadersForm& frmOptionalHeaders;
   OptionsForm& frmOptions;
   PagesForm& frmPages;
+  ShowCheckForm& frmShowCheck;
 
   // The path of a file of the program's folder, as in AppPath("\\Images\\scorebox.bmp").
   std::string AppPath(const std::string& tail) const { return platform.folders.App + tail; }

@@ -73,6 +73,12 @@ struct GameHistory {
   std::shared_ptr<const RecordedSet> Set;
 };
 
+// What the check before a show said of one thing that the show needs.
+struct CheckedRow {
+  std::string Row, Light, Sentence;
+  bool operator==(const CheckedRow&) const = default;
+};
+
 // What a record tells, as far as it can be read.
 struct ReadRecord {
   LocalTime At;
@@ -80,6 +86,8 @@ struct ReadRecord {
   GameHistory Game;
   // All events of the show in their order, for its results.
   std::vector<RecordedEvent> Events;
+  // What the checks before its games said, a row of the check each.
+  std::vector<CheckedRow> Checked;
   // The operator has ended the show.
   bool Ended = false;
   // The length of what is whole: a line that was torn behind it has no part in it.
@@ -116,6 +124,8 @@ struct ShowRecord {
   // The set whose text the record holds.
   std::shared_ptr<const RecordedSet> SetOnFile;
   bool FileFails = false;
+  // What the check before the show said last; goes to the record with its next line.
+  std::vector<CheckedRow> Checked;
 };
 
 }  // namespace pawnfield

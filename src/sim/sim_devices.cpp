@@ -58,6 +58,22 @@ TextSize LinearTextMeasurer::Measure(const Font& font, const std::string& text, 
   return {std::max(wrapWidth, widest * unit), lines * kLineHeight * font.Size * kTwipsPerPoint};
 }
 
+LackedLetters LinearTextMeasurer::Lacked(const Font& font, const std::string& text) const {
+  LackedLetters lacked;
+  const auto lacks = FontLacks.find(font.Name);
+  const auto add = [](std::string& to, char letter) {
+    if (to.find(letter) == std::string::npos) to += letter;
+  };
+  for (const char c : text) {
+    if (NoFontHas.find(c) != std::string::npos) {
+      add(lacked.Missing, c);
+    } else if (lacks != FontLacks.end() && lacks->second.find(c) != std::string::npos) {
+      add(lacked.Borrowed, c);
+    }
+  }
+  return lacked;
+}
+
 PixelSize SimPictures::Size(const std::string& path) const {
   if (!files_.CanOpen(path)) throw RuntimeError(kErrorFileNotFound, "File not found");
   const std::string bytes = files_.Read(path);

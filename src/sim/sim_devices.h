@@ -19,8 +19,13 @@ namespace pawnfield {
 class LinearTextMeasurer : public TextMeasurer {
  public:
   TextSize Measure(const Font& font, const std::string& text, double wrapWidth) const override;
+  LackedLetters Lacked(const Font& font, const std::string& text) const override;
   // Width of one line of text in thousandths of the font's size.
   static int Units(const std::string& text);
+
+  // Letters that no font has, and those that only a font other than the asked one has.
+  std::string NoFontHas;
+  std::map<std::string, std::string> FontLacks;
 };
 
 // A picture is a file of the simulated tree made by PictureBytes; any other file holds no picture.
@@ -53,6 +58,11 @@ class SimMediaFiles : public MediaReader {
     then(files_.CanOpen(path) && !files_.Read(path).empty());
   }
   void Check(const std::string& path, std::function<void(bool plays)> then) override { Look(path, std::move(then)); }
+  bool HasSoundDevice() const override { return !Devices.empty(); }
+  void NameSoundDevices(std::function<void(const std::vector<std::string>& names)> then) override { then(Devices); }
+
+  // What sound comes out of.
+  std::vector<std::string> Devices{"Built-in Audio"};
 
  private:
   const SimFiles& files_;
@@ -65,6 +75,7 @@ class SimDisplays : public Displays {
   void SetTopMost(Form& form, bool onTop) override { TopMost.emplace_back(form.Name(), onTop); }
   void RoundWindow(Form& form, int radius) override { Rounded[form.Name()] = radius; }
   void KeepAwake(bool awake) override { Awake = awake; }
+  void TryAwake(std::function<void(const AwakeAnswer& answer)> then) override { then(AwakeGrants); }
   // The cable is pulled or put in, or a mode is changed.
   void Change(std::vector<MonitorInfo> monitors);
 
@@ -73,6 +84,8 @@ class SimDisplays : public Displays {
   std::vector<std::pair<std::string, bool>> TopMost;
   std::map<std::string, int> Rounded;
   bool Awake = false;
+  // What the desktop says when it is asked to hold saver and sleep off.
+  AwakeAnswer AwakeGrants{true, true};
 
  private:
   std::function<void()> changed_;

@@ -36,6 +36,11 @@ const std::map<std::string, const char*> kUnpaired = {
     {"picPlayer2Score", "a ground without a picture, which the score stands on"},
     {"picPlayer3Score", "a ground without a picture, which the score stands on"},
     {"picBand", "up over a question, which hides nothing of the console's players"},
+    {"picTest", "the test picture, which is the audience's screen's own"},
+    {"lblTestName", "on the test picture"},
+    {"lblTestSize", "on the test picture"},
+    {"lblTestLine", "on the test picture"},
+    {"lblTestHow", "on the test picture"},
     {"picImageResize(1).Visible", "on the console it stands in a panel of its own, picMODPicture"},
 };
 

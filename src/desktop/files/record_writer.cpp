@@ -2,6 +2,7 @@
 
 #include <fcntl.h>
 #include <sys/stat.h>
+#include <sys/statvfs.h>
 #include <unistd.h>
 
 #include <QDir>
@@ -11,6 +12,7 @@
 #include <utility>
 
 #include "desktop/files/whole_file.h"
+#include "desktop/files/windows_1252.h"
 
 namespace pawnfield {
 
@@ -57,10 +59,31 @@ void RecordWriter::CutTo(const std::string& name, std::size_t bytes) { Add({Work
 
 void RecordWriter::Remove(const std::string& name) { Add({Work::Remove, name}); }
 
+// On the writing thread, as a disk may take its time to answer.
+void RecordWriter::LookAtPlace(std::function<void(const RecordPlace& place)> then) {
+  Job look{Work::Look, {}};
+  look.Then = std::move(then);
+  Add(std::move(look));
+}
+
+void RecordWriter::TellPlace(const Job& job) {
+  RecordPlace place{Escape(QDir::toNativeSeparators(folder_))};
+  QDir().mkpath(folder_);
+  const QByteArray folder = QFile::encodeName(folder_);
+  struct statvfs room {};
+  if (::statvfs(folder.constData(), &room) == 0) {
+    place.FreeBytes = static_cast<std::int64_t>(room.f_bavail) * static_cast<std::int64_t>(room.f_frsize);
+  }
+  if (::access(folder.constData(), W_OK | X_OK) != 0) place.Problem = FileError(errno).what();
+  QMetaObject::invokeMethod(
+      &home_, [then = job.Then, place] { then(place); }, Qt::QueuedConnection);
+}
+
 void RecordWriter::Add(Job job) {
   {
     const std::lock_guard lock(mutex_);
-    jobs_.push_back(std::move(job));
+    // What waits for a full disk holds no look up.
+    job.What == Work::Look ? jobs_.push_front(std::move(job)) : jobs_.push_back(std::move(job));
   }
   if (!writer_.joinable()) writer_ = std::thread([this] { Run(); });
   wake_.notify_all();
@@ -89,7 +112,7 @@ void RecordWriter::Run() {
     busy_ = true;
     lock.unlock();
     const int error = Do(job);
-    Tell(error);
+    if (job.What != Work::Look) Tell(error);
     lock.lock();
     busy_ = false;
     if (error != 0) {
@@ -125,6 +148,9 @@ int RecordWriter::Do(const Job& job) {
       return 0;
     case Work::Remove:
       QFile::remove(PathOf(job.Name));
+      return 0;
+    case Work::Look:
+      TellPlace(job);
       return 0;
   }
   return 0;

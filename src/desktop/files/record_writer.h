@@ -27,15 +27,17 @@ class RecordWriter : public RecordFiles {
   void Append(const std::string& name, const std::string& lines) override;
   void CutTo(const std::string& name, std::size_t bytes) override;
   void Remove(const std::string& name) override;
+  void LookAtPlace(std::function<void(const RecordPlace& place)> then) override;
   void Flush() override;
 
  private:
-  enum class Work { Append, Cut, Remove };
+  enum class Work { Append, Cut, Remove, Look };
   struct Job {
     Work What;
     std::string Name;
     std::string Lines{};
     std::size_t Bytes = 0;
+    std::function<void(const RecordPlace&)> Then{};
   };
   // The file that lines are added to; -1 for none.
   struct OpenFile {
@@ -56,6 +58,7 @@ class RecordWriter : public RecordFiles {
   int WriteWhole(const std::string& bytes);
   QString PathOf(const std::string& name) const;
   void Tell(int error);
+  void TellPlace(const Job& job);
 
   QString folder_;
   // Home of what the thread tells the main one.

@@ -5,6 +5,7 @@
 #include <algorithm>
 
 #include "desktop/files/native_path.h"
+#include "desktop/files/windows_1252.h"
 #include "desktop/media/sound_check.h"
 
 namespace pawnfield {
@@ -61,6 +62,15 @@ void MediaFiles::Ask(std::function<bool()> question, std::function<void(bool)> t
     const bool answer = question();
     QMetaObject::invokeMethod(
         this, [then, answer] { then(answer); }, Qt::QueuedConnection);
+  });
+}
+
+void MediaFiles::NameSoundDevices(std::function<void(const std::vector<std::string>& names)> then) {
+  workers_.start([this, then = std::move(then)] {
+    std::vector<std::string> names;
+    for (const QString& name : SoundDeviceNames()) names.push_back(Escape(name));
+    QMetaObject::invokeMethod(
+        this, [then, names] { then(names); }, Qt::QueuedConnection);
   });
 }
 

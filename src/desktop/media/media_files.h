@@ -25,6 +25,8 @@ class MediaFiles : public QObject, public MediaReader {
   void Measure(const std::string& path, std::function<void(double seconds)> then) override;
   bool HasSoundDevice() const override { return pawnfield::HasSoundDevice(); }
 
+  void NameSoundDevices(std::function<void(const std::vector<std::string>& names)> then) override;
+
   // Whoever can tell how long a file lasts; files aren't measured without.
   std::function<void(const std::string& path, std::function<void(double seconds)> then)> OnMeasure;
 

@@ -2,6 +2,7 @@
 #pragma once
 
 #include <QByteArray>
+#include <QStringList>
 
 namespace pawnfield {
 
@@ -10,5 +11,7 @@ namespace pawnfield {
 QByteArray SoundOutputs();
 // True when a sound server or a card is there. Takes a few milliseconds at most.
 bool HasSoundDevice();
+// What it comes out of, in the words of the sound server, or else of the cards. Takes up to a second.
+QStringList SoundDeviceNames();
 
 }  // namespace pawnfield

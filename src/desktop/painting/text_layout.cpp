@@ -14,15 +14,6 @@ namespace {
 // Large enough that rounding to the layout's 64ths of a pixel does not show.
 constexpr int kReferencePixels = 1000;
 
-QFont ReferenceFont(const Font& font) {
-  QFont result(Unescape(font.Name));
-  result.setPixelSize(kReferencePixels);
-  result.setBold(font.Bold);
-  result.setItalic(font.Italic);
-  result.setHintingPreference(QFont::PreferNoHinting);
-  return result;
-}
-
 // A text label breaks at the ends of its lines whatever their form.
 QString WithLineSeparators(const std::string& text) {
   QString lines = Unescape(text);
@@ -55,10 +46,19 @@ void SubstituteFonts() {
   QFont::insertSubstitution("MS Sans Serif", "Liberation Sans");
 }
 
+QFont LayoutFont(const Font& font) {
+  QFont result(Unescape(font.Name));
+  result.setPixelSize(kReferencePixels);
+  result.setBold(font.Bold);
+  result.setItalic(font.Italic);
+  result.setHintingPreference(QFont::PreferNoHinting);
+  return result;
+}
+
 TextBlock::TextBlock(const Font& font, const std::string& text, double wrapWidth, Qt::Alignment alignment,
                      Breaks breaks) {
   if (font.Size <= 0) return;
-  const QFont reference = ReferenceFont(font);
+  const QFont reference = LayoutFont(font);
   scale_ = font.Size * kTwipsPerPoint / kReferencePixels;
   layout_.setFont(reference);
   layout_.setText(WithLineSeparators(text));

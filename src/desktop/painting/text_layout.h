@@ -14,6 +14,8 @@ inline constexpr double kTwipsPerPoint = 20;
 
 // Makes the substitutes of fonts that this machine need not have known to the font system. Called once, at start.
 void SubstituteFonts();
+// The machine's font for that of a model, at the size that texts are laid out with.
+QFont LayoutFont(const Font& font);
 enum class Breaks { AtWords, AnywhereIfNeeded, Never };
 
 // One text broken at words into lines of the wrap width. A word wider than that keeps its line to itself.

@@ -4,6 +4,7 @@
 #include <QRegion>
 #include <QWidget>
 #include <QWindow>
+#include <utility>
 
 #include "desktop/files/windows_1252.h"
 
@@ -41,12 +42,28 @@ void QtDisplays::KeepAwake(bool awake) {
   awake_ = awake;
   if (inhibitor_) {
     awake ? inhibitor_->Hold() : inhibitor_->Release();
-  } else if (!buses_) {
-    buses_ = std::make_unique<BusFinder>([this](const QDBusConnection& session, const QDBusConnection& system) {
-      inhibitor_.emplace(session, system);
-      if (awake_) inhibitor_->Hold();
-    });
+  } else {
+    FindBuses();
   }
+}
+
+void QtDisplays::TryAwake(std::function<void(const AwakeAnswer& answer)> then) {
+  trial_ = std::move(then);
+  inhibitor_ ? Try() : FindBuses();
+}
+
+void QtDisplays::Try() {
+  if (!trial_) return;
+  inhibitor_->Try([then = std::exchange(trial_, {})](bool saver, bool sleep) { then({saver, sleep}); });
+}
+
+void QtDisplays::FindBuses() {
+  if (buses_) return;
+  buses_ = std::make_unique<BusFinder>([this](const QDBusConnection& session, const QDBusConnection& system) {
+    inhibitor_.emplace(session, system);
+    if (awake_) inhibitor_->Hold();
+    Try();
+  });
 }
 
 }  // namespace pawnfield

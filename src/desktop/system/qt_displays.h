@@ -23,11 +23,17 @@ class QtDisplays : public Displays {
   void SetTopMost(Form& form, bool onTop) override;
   void RoundWindow(Form& form, int radius) override;
   void KeepAwake(bool awake) override;
+  void TryAwake(std::function<void(const AwakeAnswer& answer)> then) override;
 
  private:
   Screens& screens_;
   WindowLookup windowOf_;
+  // Makes the inhibitor as soon as the buses are found, and has it do what was asked for meanwhile.
+  void FindBuses();
+  void Try();
+
   bool awake_ = false;
+  std::function<void(const AwakeAnswer& answer)> trial_;
   std::optional<SleepInhibitor> inhibitor_;
   // The buses are looked for when the first hold is asked for, with the windows up.
   std::unique_ptr<BusFinder> buses_;

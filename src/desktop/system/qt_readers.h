@@ -8,6 +8,7 @@ namespace pawnfield {
 class QtTextMeasurer : public TextMeasurer {
  public:
   TextSize Measure(const Font& font, const std::string& text, double wrapWidth) const override;
+  LackedLetters Lacked(const Font& font, const std::string& text) const override;
 };
 
 class SeededRandom : public RandomSource {

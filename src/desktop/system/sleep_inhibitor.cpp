@@ -3,6 +3,7 @@
 #include <QDBusMessage>
 #include <QDBusPendingCallWatcher>
 #include <QDBusPendingReply>
+#include <utility>
 
 namespace pawnfield {
 
@@ -25,8 +26,27 @@ SleepInhibitor::SleepInhibitor(QDBusConnection session, QDBusConnection system)
 SleepInhibitor::~SleepInhibitor() { Release(); }
 
 void SleepInhibitor::Hold() {
+  onlyTries_ = false;
+  Begin();
+}
+
+void SleepInhibitor::Try(std::function<void(bool saver, bool sleep)> then) {
+  tried_ = std::move(then);
+  if (!held_) onlyTries_ = true;
+  Begin();
+  Answered();
+}
+
+void SleepInhibitor::Answered() {
+  if (!tried_ || unanswered_ > 0) return;
+  if (std::exchange(onlyTries_, false)) Release();
+  std::exchange(tried_, {})(saver_, sleep_);
+}
+
+void SleepInhibitor::Begin() {
   if (held_) return;
   held_ = true;
+  saver_ = sleep_ = false;
   for (CookieService& service : services_) HoldBy(service);
   HoldSleep();
 }
@@ -42,15 +62,22 @@ void SleepInhibitor::HoldBy(CookieService& service) {
   QDBusMessage call = QDBusMessage::createMethodCall(service.name, service.path, service.interface, "Inhibit");
   call << QString(kWho) << QString(kWhy);
   auto* watcher = new QDBusPendingCallWatcher(session_.asyncCall(call), this);
+  ++unanswered_;
   connect(watcher, &QDBusPendingCallWatcher::finished, this, [this, &service, watcher] {
     watcher->deleteLater();
     const QDBusPendingReply<unsigned> reply = *watcher;
-    if (reply.isError()) return;
-    GiveBack(service);
-    service.cookie = reply.value();
-    // The show may have gone to standby while the service was thinking.
-    if (!held_) GiveBack(service);
+    --unanswered_;
+    if (!reply.isError()) Take(service, reply.value());
+    Answered();
   });
+}
+
+void SleepInhibitor::Take(CookieService& service, unsigned cookie) {
+  saver_ = true;
+  GiveBack(service);
+  service.cookie = cookie;
+  // The show may have gone to standby while the service was thinking.
+  if (!held_) GiveBack(service);
 }
 
 void SleepInhibitor::GiveBack(CookieService& service) {
@@ -67,10 +94,14 @@ void SleepInhibitor::HoldSleep() {
                                                      "org.freedesktop.login1.Manager", "Inhibit");
   call << QString("sleep:idle") << QString(kWho) << QString(kWhy) << QString("block");
   auto* watcher = new QDBusPendingCallWatcher(system_.asyncCall(call), this);
+  ++unanswered_;
   connect(watcher, &QDBusPendingCallWatcher::finished, this, [this, watcher] {
     watcher->deleteLater();
     const QDBusPendingReply<QDBusUnixFileDescriptor> reply = *watcher;
+    --unanswered_;
+    sleep_ = sleep_ || !reply.isError();
     if (!reply.isError() && held_) sleepLock_ = reply.value();
+    Answered();
   });
 }
 

@@ -6,6 +6,7 @@
 #include <QDBusUnixFileDescriptor>
 #include <QObject>
 #include <QString>
+#include <functional>
 #include <optional>
 #include <vector>
 
@@ -20,6 +21,9 @@ class SleepInhibitor : public QObject {
 
   void Hold();
   void Release();
+  // Asks for a hold and calls when all services have answered, with who granted it; without a hold before, it is given
+  // back.
+  void Try(std::function<void(bool saver, bool sleep)> then);
 
  private:
   // A service that gives a cookie for a hold and takes it back.
@@ -28,6 +32,7 @@ class SleepInhibitor : public QObject {
     std::optional<unsigned> cookie;
   };
   void HoldBy(CookieService& service);
+  void Take(CookieService& service, unsigned cookie);
   void GiveBack(CookieService& service);
   void HoldSleep();
 
@@ -35,7 +40,16 @@ class SleepInhibitor : public QObject {
   std::vector<CookieService> services_;
   // Open while sleep is held off.
   QDBusUnixFileDescriptor sleepLock_;
+  void Begin();
+  void Answered();
+
   bool held_ = false;
+  // What is still to be answered, and what was granted since the hold began.
+  int unanswered_ = 0;
+  bool saver_ = false, sleep_ = false;
+  // The hold is there for the trial alone.
+  bool onlyTries_ = false;
+  std::function<void(bool saver, bool sleep)> tried_;
 };
 
 }  // namespace pawnfield

@@ -96,7 +96,7 @@ void ConsoleWindow::FillMenus(QMenuBar& bar) {
   };
   menu("mnuFile",
        {"fileClearAllScores", "mnuFileOptions", "mnuFileAddPlayerNames", "mnuFileOptionalHeaders", "mnuFileInterface",
-        "mnuFilePages", "mTestK7Controllers", nullptr, "mnuFileBringBack", "mnuFileExit"});
+        "mnuFilePages", "mnuFileShowCheck", "mTestK7Controllers", nullptr, "mnuFileBringBack", "mnuFileExit"});
   menu("mnuZR610", {"mnuMapMF", "mnuReconnectMF", "mTestK7Controllers"});
   menu("mnuHelp", {"mnuHelpManual", "mnuHelpDocumentation", "mnuHelpSupport", "mnuHelpProjector", "mnuHelpAbout"});
   findChild<QAction*>("mnuHelpManual")->setShortcut(Qt::Key_F1);
