@@ -9,9 +9,9 @@ enum class FindingKind {
   File,            // Its picture or sound can't be shown.
   MissingLetters,  // No font of the machine has some of its letters.
   NoAnswer,
-  Twice,           // An earlier question asks the same.
-  SmallLetters,    // The room sees it in the smallest letters of the show, or smaller.
-  BorrowedLetters, // Its font lacks some letters, which come from another one.
+  Twice,            // An earlier question asks the same.
+  SmallLetters,     // The room sees it in the smallest letters of the show, or smaller.
+  BorrowedLetters,  // Its font lacks some letters, which come from another one.
 };
 
 struct SetFinding {

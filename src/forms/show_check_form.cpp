@@ -3,8 +3,8 @@
 namespace pawnfield {
 
 ShowCheckForm::ShowCheckForm() : Form("frmShowCheck") {
-  constexpr std::array<const char*, kCheckRows> kThings{"Audience screen", "Buzzers",         "Sound",
-                                                        "Trivia set",      "Questions",       "Sleep and saver",
+  constexpr std::array<const char*, kCheckRows> kThings{"Audience screen", "Buzzers",       "Sound",
+                                                        "Trivia set",      "Questions",     "Sleep and saver",
                                                         "Disk and record", "Emergency page"};
   Form::Caption = "Show check";
   for (std::size_t i = 0; i < kCheckRows; ++i) {

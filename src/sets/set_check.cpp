@@ -44,8 +44,8 @@ class Checker {
     if (Trim(question.AnswerText).empty()) Find(FindingKind::NoAnswer, "No answer");
     const auto [first, isNew] = numbers_.emplace(Plainly(text), number);
     if (!isNew) {
-      Find(FindingKind::Twice, (isText ? "The same as question " : "The same file as question ") +
-                                   std::to_string(first->second));
+      Find(FindingKind::Twice,
+           (isText ? "The same as question " : "The same file as question ") + std::to_string(first->second));
     }
     LookAtLetters(isText ? text : "", QuestionFont(question), Trim(question.AnswerText));
     if (isText) LookAtSize(question);

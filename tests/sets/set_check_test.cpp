@@ -47,7 +47,11 @@ TEST_F(SetCheckTest, NamesEachKindOfFaultWithItsQuestion) {
   EXPECT_EQ(Check({{"C:\\m\\dog.jpg", "Dog"}, {"c:\\M\\DOG.jpg", "Hound"}}), Said{"2 The same file as question 1"});
   sim.text.NoFontHas = "\x80";
   sim.text.FontLacks["Courier New"] = "\xDF";
-  EXPECT_EQ(Check({{"5 \x80?", "5 \x80"}, {"Stra\xDF" "e?", "Stra\xDF" "e"}}),
+  EXPECT_EQ(Check({{"5 \x80?", "5 \x80"},
+                   {"Stra\xDF"
+                    "e?",
+                    "Stra\xDF"
+                    "e"}}),
             (Said{"1 No font here has \x80", "1 Its answer: no font here has \x80",
                   "2 Courier New lacks \xDF, shown in another font"}));
 }
