@@ -47,7 +47,7 @@ std::string BuildPacket(const std::string& message, int command) {
 }
 
 Transceiver::Transceiver(HidPort& port, Clock& clock, std::function<void(const TransceiverData&)> onButtonPressed,
-                         SelfTimer::GuardFunction guard, std::function<void()> onLost)
+                         const SelfTimer::GuardFunction& guard, std::function<void()> onLost)
     : port_(port),
       clock_(clock),
       onButtonPressed_(std::move(onButtonPressed)),

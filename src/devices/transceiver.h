@@ -25,7 +25,7 @@ class Transceiver {
   // onButtonPressed throws is reported; polling has been started anew by then. A device that goes is reported to
   // onLost.
   Transceiver(HidPort& port, Clock& clock, std::function<void(const TransceiverData&)> onButtonPressed,
-              SelfTimer::GuardFunction guard, std::function<void()> onLost = {});
+              const SelfTimer::GuardFunction& guard, std::function<void()> onLost = {});
   ~Transceiver();
   Transceiver(const Transceiver&) = delete;
   Transceiver& operator=(const Transceiver&) = delete;

@@ -15,9 +15,9 @@ namespace {
 constexpr const char* kSetsFolder = "Trivia Sets";
 
 QString ProgramFolder() {
-  const QString beside = QCoreApplication::applicationDirPath();
+  QString beside = QCoreApplication::applicationDirPath();
   if (QFileInfo(beside + "/Images").isDir()) return beside;
-  const QString built = QStringLiteral(PAWNFIELD_ASSETS_DIR);
+  QString built = QStringLiteral(PAWNFIELD_ASSETS_DIR);
   if (!built.isEmpty() && QFileInfo(built + "/Images").isDir()) return built;
   return QDir::cleanPath(beside + "/../share/pawnfield");
 }

@@ -15,7 +15,7 @@ namespace {
 
 // The entry of the folder that the part names, or the part itself.
 QString FindPart(const QString& folder, const QString& part) {
-  const QString direct = folder + part;
+  QString direct = folder + part;
   if (part == "." || part == ".." || QFileInfo::exists(direct)) return direct;
   const QStringList entries = QDir(folder.isEmpty() ? QString(".") : folder)
                                   .entryList(QDir::AllEntries | QDir::Hidden | QDir::NoDotAndDotDot, QDir::Name);
@@ -30,7 +30,7 @@ QString FindPart(const QString& folder, const QString& part) {
 QString NativePath(const std::string& spelled) {
   std::string slashed = spelled;
   std::replace(slashed.begin(), slashed.end(), '\\', '/');
-  const QString path = Unescape(slashed);
+  QString path = Unescape(slashed);
   if (path.isEmpty() || QFileInfo::exists(path)) return path;
   const QStringList parts = path.split('/', Qt::SkipEmptyParts);
   QString native = path.startsWith('/') ? QString("/") : QString();

@@ -18,7 +18,7 @@ constexpr std::chrono::seconds kBetweenWrites{1};
 // The stored name that differs from the wanted one in case only, or the wanted one.
 template <typename Value>
 QString StoredName(const QMap<QString, Value>& values, const std::string& name) {
-  const QString wanted = Unescape(name);
+  QString wanted = Unescape(name);
   if (values.contains(wanted)) return wanted;
   for (const QString& stored : values.keys()) {
     if (stored.compare(wanted, Qt::CaseInsensitive) == 0) return stored;
@@ -88,6 +88,7 @@ void QtSettingsStore::Put(IniValues& values, const std::vector<Entry>& entries) 
 void QtSettingsStore::Take(const std::string& application, const std::string& section,
                            const std::vector<Setting>& settings) {
   std::vector<Entry> entries;
+  entries.reserve(settings.size());
   for (const Setting& setting : settings) entries.push_back({section, setting});
   Put(ParsedOf(application).Values, entries);
   auto& waiting = waiting_[application];

@@ -7,7 +7,6 @@
 #include <QVariantAnimation>
 #include <algorithm>
 #include <cmath>
-#include <ranges>
 
 #include "data/house_colors.h"
 #include "desktop/media/film.h"
@@ -247,12 +246,12 @@ QRectF Canvas::FillRect(const Item& item) const {
 }
 
 Control* Canvas::At(const QPoint& point) const {
-  for (const Item* item : std::views::reverse(order_)) {
-    Control& control = item->control;
+  const auto touched = std::find_if(order_.rbegin(), order_.rend(), [&](const Item* item) {
+    const Control& control = item->control;
     const bool touchable = control.Kind() != ControlKind::Label || control.OnDblClick || control.OnClick;
-    if (touchable && control.IsShown() && PixelRect(control).contains(point)) return &control;
-  }
-  return nullptr;
+    return touchable && control.IsShown() && PixelRect(control).contains(point);
+  });
+  return touched == order_.rend() ? nullptr : &(*touched)->control;
 }
 
 void Canvas::paintEvent(QPaintEvent* event) {

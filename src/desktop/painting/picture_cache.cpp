@@ -126,21 +126,21 @@ void PictureCache::Request(const std::string& path, int priority, Then then) {
         [bytes = *own, side] {
           return Outcome{ReadPictureBytes(bytes, side), {}, false};
         },
-        [this, path](Outcome outcome) { Take(path, std::move(outcome)); });
+        [this, path](const Outcome& outcome) { Take(path, outcome); });
     return;
   }
   Beside(
       priority, [path, stamp, side] { return ReadOutcome(path, stamp, side); },
-      [this, path](Outcome outcome) { Take(path, std::move(outcome)); });
+      [this, path](const Outcome& outcome) { Take(path, outcome); });
 }
 
 PictureCache::Held PictureCache::Store(const std::string& path, const ReadPicture& picture) {
-  const Held held{QPixmap::fromImage(picture.Image), ++versions_};
+  Held held{QPixmap::fromImage(picture.Image), ++versions_};
   originals_.insert(KeyOf(path), new Held(held), std::min(CostOf(held.Pixels), kOriginalsLimit));
   return held;
 }
 
-void PictureCache::Take(const std::string& path, Outcome outcome) {
+void PictureCache::Take(const std::string& path, const Outcome& outcome) {
   const QString key = KeyOf(path);
   const std::vector<Then> waiting = waiting_.take(key);
   if (!outcome.Unchanged) {

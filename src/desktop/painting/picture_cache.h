@@ -64,7 +64,7 @@ class PictureCache : public QObject, public PictureReader {
 
   static Outcome ReadOutcome(const std::string& path, const QString& stamp, int side);
   void Request(const std::string& path, int priority, Then then);
-  void Take(const std::string& path, Outcome outcome);
+  void Take(const std::string& path, const Outcome& outcome);
   Held Store(const std::string& path, const ReadPicture& picture);
   // Runs the work beside and hands its result to done between events.
   template <typename Work, typename Done>

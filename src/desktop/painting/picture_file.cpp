@@ -85,7 +85,7 @@ double BytesNeeded(const QImageReader& reader, double pixels) {
 QByteArray WholeOf(QIODevice& device) {
   const qint64 place = device.pos();
   device.seek(0);
-  const QByteArray all = device.readAll();
+  QByteArray all = device.readAll();
   device.seek(place);
   return all;
 }

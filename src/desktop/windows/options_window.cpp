@@ -15,13 +15,12 @@ OptionsWindow::OptionsWindow(OptionsForm& form, FormWindows& windows) : FormWind
   BindForm();
   TurnTabsByKey();
   constexpr std::array kViews{"pnlEvent", "pnlKeyPress", "pnlAudioClips", "pnlBackground", "pnlAnimation"};
-  const auto sliders = form.Sliders();
-  for (std::size_t i = 0; i < sliders.size(); ++i) {
-    VolumeSlider& slider = *sliders[i];
-    findChild<VolumeSliderView*>(kViews[i])->Attach(slider);
+  auto view = kViews.begin();
+  for (VolumeSlider* slider : form.Sliders()) {
+    findChild<VolumeSliderView*>(*view++)->Attach(*slider);
     // One view paints the four pictures.
-    Bindings()->Hold(
-        {slider.RealBackground.Name(), slider.RealSlider.Name(), slider.Background.Name(), slider.FakeSlider.Name()});
+    Bindings()->Hold({slider->RealBackground.Name(), slider->RealSlider.Name(), slider->Background.Name(),
+                      slider->FakeSlider.Name()});
   }
 }
 

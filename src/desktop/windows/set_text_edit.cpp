@@ -25,7 +25,7 @@ QString OneLine(QString text) {
 // The first character that a set file has no byte for; empty when there is none.
 QString Unstorable(const QString& text) {
   for (const char32_t code : text.toUcs4()) {
-    const QString character = QString::fromUcs4(&code, 1);
+    QString character = QString::fromUcs4(&code, 1);
     const bool control = code < 0x20 && code != '\t';
     if (control || !ToWindows1252(character)) return character;
   }
