@@ -18,8 +18,15 @@ class SecondShow {
   std::string Compare(Show& played, const SimPlatform& machine);
 
  private:
+  // Into read_, by way of the record's text; what it was read from last is not written once more. Empty when all is
+  // well.
+  std::string ReadRecordOf(const Show& played);
+
   SimPlatform sim_;
   Show show_;
+  Snapshot written_;
+  RecordedSet writtenSet_;
+  GameHistory read_;
 };
 
 // Takes back every event to the game's beginning and brings all of them again, and holds each step against its

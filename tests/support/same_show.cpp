@@ -96,17 +96,20 @@ bool SamePlace(const Control& a, const Control& b) {
   return a.Left == b.Left && a.Top == b.Top && a.Width == b.Width && a.Height == b.Height;
 }
 
+// How the restored control differs from the played one, empty when they are alike.
+std::string Unlike(const Control& a, const Control& b) {
+  if (a.IsShown() != b.IsShown()) return a.IsShown() ? " is hidden" : " is shown";
+  if (!a.IsShown()) return {};
+  if (a.Enabled != b.Enabled) return a.Enabled ? " is disabled" : " is enabled";
+  if (!SamePlace(a, b)) return " stands elsewhere";
+  return SameContent(a, b) ? "" : " shows '" + Content(b) + "' and not '" + Content(a) + "'";
+}
+
 std::string UnlikeForms(const Form& played, const Form& restored) {
   for (std::size_t i = 0; i < played.Controls().size(); ++i) {
-    const Control& a = *played.Controls()[i];
-    const Control& b = *restored.Controls()[i];
-    if (!IsOfTheGame(a)) continue;
-    const std::string name = played.Name() + "." + a.Name();
-    if (a.IsShown() != b.IsShown()) return name + (a.IsShown() ? " is hidden" : " is shown") + " after the restore";
-    if (!a.IsShown()) continue;
-    if (a.Enabled != b.Enabled) return name + (a.Enabled ? " is disabled" : " is enabled") + " after the restore";
-    if (!SamePlace(a, b)) return name + " stands elsewhere after the restore";
-    if (!SameContent(a, b)) return name + " shows '" + Content(b) + "' and not '" + Content(a) + "'";
+    const Control& control = *played.Controls()[i];
+    const std::string unlike = Unlike(control, *restored.Controls()[i]);
+    if (!unlike.empty() && IsOfTheGame(control)) return played.Name() + "." + control.Name() + unlike;
   }
   return {};
 }

@@ -3,6 +3,8 @@
 #include <cctype>
 #include <map>
 #include <sstream>
+#include <string_view>
+#include <unordered_map>
 
 #include "forms/fs_main_form.h"
 #include "forms/main_form.h"
@@ -50,10 +52,21 @@ bool IsSquare(const std::string& name) {
 
 bool IsUnpaired(const std::string& what) { return kUnpaired.contains(what); }
 
-const Control* Counterpart(const Form& console, const std::string& name) {
-  const auto other = kOtherNames.find(name);
-  return console.Find(other == kOtherNames.end() ? name : other->second);
-}
+// The console's controls by the audience's names for them.
+class Counterparts {
+ public:
+  explicit Counterparts(const Form& console) {
+    for (const Control* control : console.Controls()) byName_.emplace(control->Name(), control);
+  }
+  const Control* Of(const std::string& name) const {
+    const auto other = kOtherNames.find(name);
+    const auto found = byName_.find(other == kOtherNames.end() ? name : other->second);
+    return found == byName_.end() ? nullptr : found->second;
+  }
+
+ private:
+  std::unordered_map<std::string_view, const Control*> byName_;
+};
 
 }  // namespace
 
@@ -68,11 +81,12 @@ std::string Content(const Control& control) {
 
 std::vector<std::string> UnlikePairs(Show& show) {
   std::vector<std::string> unlike;
+  const Counterparts counterparts(show.frmMain);
   const bool turning = show.frmMain.tmrFlipPlayerPiece.Enabled || show.frmFSMain.tmrFSFlipPlayerPiece.Enabled;
   for (const Control* control : show.frmFSMain.Controls()) {
     const std::string& name = control->Name();
     if (control->Kind() == ControlKind::Timer || IsUnpaired(name)) continue;
-    const Control* console = Counterpart(show.frmMain, name);
+    const Control* console = counterparts.Of(name);
     if (console == nullptr) {
       unlike.push_back(name + " without a pair");
       continue;
