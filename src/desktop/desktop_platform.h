@@ -17,8 +17,8 @@
 #include "desktop/media/mpv_video.h"
 #include "desktop/pages/qt_pages.h"
 #include "desktop/painting/picture_cache.h"
+#include "desktop/system/desktop_processes.h"
 #include "desktop/system/form_windows.h"
-#include "desktop/system/linux_processes.h"
 #include "desktop/system/qt_clock.h"
 #include "desktop/system/qt_dialogs.h"
 #include "desktop/system/qt_displays.h"
@@ -56,7 +56,7 @@ class DesktopPlatform {
   // Made with the first file that is measured.
   std::unique_ptr<MediaLength> mediaLength;
   QtDisplays displays;
-  LinuxProcesses processes;
+  DesktopProcesses processes;
   SeededRandom random;
   // Where threads have something done on the main one.
   QObject home;

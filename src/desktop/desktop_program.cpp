@@ -4,11 +4,9 @@
 #include <QFile>
 #include <QStyleFactory>
 #include <clocale>
-#ifdef __GLIBC__
-#include <malloc.h>
-#endif
 
 #include "desktop/painting/text_layout.h"
+#include "desktop/system/flat_memory.h"
 #include "desktop/windows/audience_window.h"
 #include "desktop/windows/config_keys_window.h"
 #include "desktop/windows/connect_to_projector_window.h"
@@ -43,21 +41,6 @@
 #include "program/handlers.h"
 
 namespace pawnfield {
-
-namespace {
-
-// Pictures of a whole screen and the players' short-lived threads would leave the C library's heap full of holes, which
-// the process kept for good. So large blocks go back to the system when they are freed, and all threads share two
-// heaps.
-void KeepMemoryFlat() {
-#ifdef __GLIBC__
-  constexpr int kLargeBlock = 1024 * 1024;
-  mallopt(M_MMAP_THRESHOLD, kLargeBlock);
-  mallopt(M_ARENA_MAX, 2);
-#endif
-}
-
-}  // namespace
 
 struct DesktopProgram::AllWindows {
   AllWindows(DesktopPlatform& desktop, Show& show);

@@ -19,7 +19,7 @@ class HelperTest : public FolderTest {
     const bool done = QTest::qWaitFor([&] { return told.exists(); }, 30000);
     return done && told.open(QIODevice::ReadOnly) ? told.readAll() : QByteArray();
   }
-  LinuxProcesses processes_{folder_.path(), [] {}, {Native("none"), folder_.path()}};
+  DesktopProcesses processes_{folder_.path(), [] {}, {Native("none"), folder_.path()}};
 };
 
 TEST_F(HelperTest, IsGivenTheReportUnharmed) {

@@ -330,7 +330,7 @@ using ProcessesTest = FolderTest;
 TEST_F(ProcessesTest, AFolderInTheMarksPlaceIsReportedAsOneAndTheProgramCanBeRaised) {
   QDir().mkpath(Native("run/pawnfield.lock"));
   int raised = 0;
-  LinuxProcesses processes(Native("run"), [&] { ++raised; });
+  DesktopProcesses processes(Native("run"), [&] { ++raised; });
   try {
     processes.AnotherInstanceRuns();
     ADD_FAILURE() << "nothing was said";
@@ -356,7 +356,7 @@ TEST_F(ProcessesTest, OnlyThisUsersProcessesCount) {
   };
   ASSERT_TRUE(
       QTest::qWaitFor([&] { return caption(own) == "ostara-own" && caption(others) == "ostara-others"; }, 30000));
-  const auto all = LinuxProcesses(Native("run"), [] {}).List();
+  const auto all = DesktopProcesses(Native("run"), [] {}).List();
   const auto listed = [&](const QProcess& process) {
     return std::any_of(all.begin(), all.end(),
                        [&](const ProcessInfo& one) { return one.Handle == process.processId(); });
@@ -372,7 +372,7 @@ TEST_F(ProcessesTest, OnlyThisUsersProcessesCount) {
 TEST_F(ProcessesTest, ASecondInstanceRaisesTheFirstAndAMarkOfNobodyRefusesNone) {
   int raised = 0;
   {
-    LinuxProcesses first(Native("run"), [&] { ++raised; }), second(Native("run"), [] {});
+    DesktopProcesses first(Native("run"), [&] { ++raised; }), second(Native("run"), [] {});
     EXPECT_FALSE(first.AnotherInstanceRuns());
     EXPECT_TRUE(second.AnotherInstanceRuns());
     second.Activate(0);
@@ -381,11 +381,11 @@ TEST_F(ProcessesTest, ASecondInstanceRaisesTheFirstAndAMarkOfNobodyRefusesNone) 
   // What a crash leaves: a lock of a process that is gone, and one that was not yet written.
   for (const QByteArray& mark : {"999999999\npawnfield\n" + QSysInfo::machineHostName().toUtf8() + "\n", {}}) {
     Make("run/pawnfield.lock", mark);
-    LinuxProcesses first(Native("run"), [] {});
+    DesktopProcesses first(Native("run"), [] {});
     EXPECT_FALSE(first.AnotherInstanceRuns());
-    EXPECT_TRUE(LinuxProcesses(Native("run"), [] {}).AnotherInstanceRuns());
+    EXPECT_TRUE(DesktopProcesses(Native("run"), [] {}).AnotherInstanceRuns());
   }
-  const auto all = LinuxProcesses(Native("run"), [] {}).List();
+  const auto all = DesktopProcesses(Native("run"), [] {}).List();
   EXPECT_TRUE(std::any_of(all.begin(), all.end(), [](const ProcessInfo& process) {
     return process.Handle == getpid() && process.Caption == "pawnfield_desktop_tests";
   }));

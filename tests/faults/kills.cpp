@@ -11,7 +11,7 @@
 #include <cstdio>
 #include <random>
 
-#include "desktop/system/linux_processes.h"
+#include "desktop/system/desktop_processes.h"
 #include "modes.h"
 #include "writers.h"
 
@@ -128,8 +128,8 @@ int KillMark(const QString& root, int kills) {
   int wrong = 0;
   std::mt19937 chance(2);
   for (int i = 0; i < kills; ++i) {
-    KillAmid([&] { LinuxProcesses(root + "/run", [] {}).AnotherInstanceRuns(); }, chance, 3000);
-    if (LinuxProcesses(root + "/run", [] {}).AnotherInstanceRuns()) ++wrong;
+    KillAmid([&] { DesktopProcesses(root + "/run", [] {}).AnotherInstanceRuns(); }, chance, 3000);
+    if (DesktopProcesses(root + "/run", [] {}).AnotherInstanceRuns()) ++wrong;
   }
   std::printf("%-24s %6d: %d starts refused\n", "mark of a running copy", kills, wrong);
   return wrong;

@@ -9,7 +9,7 @@
 #include <cstdio>
 #include <set>
 
-#include "desktop/system/linux_processes.h"
+#include "desktop/system/desktop_processes.h"
 #include "forms/main_form.h"
 #include "modes.h"
 #include "writers.h"
@@ -234,7 +234,7 @@ void Vanish(Trial& trial) {
 // told.
 int StartAndEnd(const QString& root) {
   std::vector<std::string> faults;
-  if (LinuxProcesses(Places(root).Runtime(), [] {}).AnotherInstanceRuns()) faults.push_back("taken for another copy");
+  if (DesktopProcesses(Places(root).Runtime(), [] {}).AnotherInstanceRuns()) faults.push_back("taken for another copy");
   Rig rig(root);
   Start(rig);
   const std::size_t atStart = rig.dialogs.Messages.size() - 1;

@@ -1,12 +1,10 @@
 #include "desktop/devices/hidapi_port.h"
 
 #include <algorithm>
-#include <filesystem>
-#include <fstream>
-#include <iterator>
 #include <memory>
 #include <utility>
 
+#include "desktop/devices/report_descriptor.h"
 #include "platform/hid_descriptor.h"
 
 namespace pawnfield {
@@ -17,12 +15,6 @@ using DeviceList = std::unique_ptr<hid_device_info, decltype(&hid_free_enumerati
 
 DeviceList ListDevices(int vendor) {
   return {hid_enumerate(static_cast<unsigned short>(vendor), 0), &hid_free_enumeration};
-}
-
-// The library of Debian's age gives no report lengths, so they are taken from the descriptor that the kernel shows.
-std::string ReportDescriptor(const std::filesystem::path& device) {
-  std::ifstream file("/sys/class/hidraw" / device.filename() / "device/report_descriptor", std::ios::binary);
-  return {std::istreambuf_iterator<char>(file), {}};
 }
 
 }  // namespace

@@ -1,9 +1,6 @@
 #include "desktop/files/qt_file_system.h"
 
-#include <sys/stat.h>
-
 #include <QDir>
-#include <QFile>
 #include <QFileInfo>
 #include <cerrno>
 
@@ -33,10 +30,7 @@ bool QtFileSystem::CanOpen(const std::string& path) const { return NativePlainFi
 
 bool QtFileSystem::FolderExists(const std::string& path) const { return QFileInfo(NativePath(path)).isDir(); }
 
-void QtFileSystem::CreateFolder(const std::string& path) {
-  const QString native = NativePath(path);
-  if (mkdir(QFile::encodeName(native).constData(), 0777) != 0) throw FileError(errno);
-}
+void QtFileSystem::CreateFolder(const std::string& path) { MakeFolder(NativePath(path)); }
 
 std::vector<std::string> QtFileSystem::List(const std::string& folder, const std::string& extension) const {
   std::vector<std::string> names;

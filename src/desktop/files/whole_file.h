@@ -15,6 +15,9 @@ RuntimeError FileError(int systemError);
 // the right to it is missing.
 QByteArray ReadFile(const QString& path);
 
+// A RuntimeError where there is one already or it can't be made; the folder above must be there.
+void MakeFolder(const QString& path);
+
 // Puts the bytes in the file's place, on the disk with its folder when it returns. A file that was there gives the new
 // one its rights, and its owner and group where this user may set them. A link stays one and its target is replaced; of
 // a file that has several names, this name alone gets the bytes and the others keep the old ones. After a RuntimeError

@@ -169,6 +169,10 @@ QByteArray ReadFile(const QString& path) {
   return bytes;
 }
 
+void MakeFolder(const QString& path) {
+  if (mkdir(QFile::encodeName(path).constData(), 0777) != 0) Fail();
+}
+
 void ReplaceFile(const QString& path, std::string_view bytes, const QString& like) {
   const QFileInfo target = Target(path);
   const QByteArray name = QFile::encodeName(target.absoluteFilePath());

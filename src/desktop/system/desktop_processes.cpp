@@ -1,17 +1,14 @@
-#include "desktop/system/linux_processes.h"
-
-#include <unistd.h>
+#include "desktop/system/desktop_processes.h"
 
 #include <QCoreApplication>
 #include <QDir>
-#include <QFile>
 #include <QFileInfo>
 #include <QLocalSocket>
 #include <QProcess>
-#include <algorithm>
 
 #include "desktop/files/native_path.h"
 #include "desktop/files/windows_1252.h"
+#include "desktop/system/own_processes.h"
 
 namespace pawnfield {
 
@@ -19,25 +16,14 @@ namespace {
 
 constexpr int kConnectMs = 500;
 
-// The program's file name, or what the kernel calls it when it has no command line.
-QString CaptionOf(const QString& processFolder) {
-  QFile commandLine(processFolder + "/cmdline");
-  if (commandLine.open(QIODevice::ReadOnly)) {
-    const QByteArray first = commandLine.readAll().split('\0').first();
-    if (!first.isEmpty()) return QFileInfo(QFile::decodeName(first)).fileName();
-  }
-  QFile name(processFolder + "/comm");
-  return name.open(QIODevice::ReadOnly) ? QString::fromUtf8(name.readAll()).trimmed() : QString();
-}
-
 }  // namespace
 
-LinuxProcesses::LinuxProcesses(QString runtimeFolder, std::function<void()> onActivate, QStringList programFolders)
+DesktopProcesses::DesktopProcesses(QString runtimeFolder, std::function<void()> onActivate, QStringList programFolders)
     : runtimeFolder_(std::move(runtimeFolder)),
       onActivate_(std::move(onActivate)),
       programFolders_(std::move(programFolders)) {}
 
-bool LinuxProcesses::AnotherInstanceRuns() {
+bool DesktopProcesses::AnotherInstanceRuns() {
   QDir().mkpath(runtimeFolder_);
   const QString place = runtimeFolder_ + "/pawnfield.lock";
   if (QFileInfo(place).isDir()) {
@@ -58,7 +44,7 @@ bool LinuxProcesses::AnotherInstanceRuns() {
   return false;
 }
 
-void LinuxProcesses::Listen() {
+void DesktopProcesses::Listen() {
   QLocalServer::removeServer(SocketPath());
   QObject::connect(&server_, &QLocalServer::newConnection, &server_, [this] {
     while (QLocalSocket* caller = server_.nextPendingConnection()) caller->deleteLater();
@@ -67,30 +53,18 @@ void LinuxProcesses::Listen() {
   server_.listen(SocketPath());
 }
 
-std::vector<ProcessInfo> LinuxProcesses::List() const {
-  std::vector<ProcessInfo> processes;
-  for (const QString& entry : QDir("/proc").entryList(QDir::Dirs | QDir::NoDotAndDotDot)) {
-    bool isNumber = false;
-    const qlonglong id = entry.toLongLong(&isNumber);
-    if (!isNumber || QFileInfo("/proc/" + entry).ownerId() != geteuid()) continue;
-    const std::string caption = Escape(CaptionOf("/proc/" + entry));
-    if (!caption.empty()) processes.push_back({caption, id});
-  }
-  std::sort(processes.begin(), processes.end(),
-            [](const ProcessInfo& a, const ProcessInfo& b) { return a.Handle < b.Handle; });
-  return processes;
-}
+std::vector<ProcessInfo> DesktopProcesses::List() const { return OwnProcesses(); }
 
-std::int64_t LinuxProcesses::CurrentId() const { return QCoreApplication::applicationPid(); }
+std::int64_t DesktopProcesses::CurrentId() const { return QCoreApplication::applicationPid(); }
 
-void LinuxProcesses::Activate(std::int64_t id) {
+void DesktopProcesses::Activate(std::int64_t id) {
   if (id != 0) return;
   QLocalSocket socket;
   socket.connectToServer(SocketPath());
   socket.waitForConnected(kConnectMs);
 }
 
-bool LinuxProcesses::StartHelper(const std::string& name, const std::string& argument) {
+bool DesktopProcesses::StartHelper(const std::string& name, const std::string& argument) {
   QString plain = Unescape(name);
   if (plain.endsWith(".exe", Qt::CaseInsensitive)) plain.chop(4);
   for (const QString& folder : programFolders_) {
@@ -108,13 +82,13 @@ bool LinuxProcesses::StartHelper(const std::string& name, const std::string& arg
 }
 
 // The window manager gives a new program the focus; whether its window is maximised is its own affair here.
-void LinuxProcesses::Start(const std::string& path) {
+void DesktopProcesses::Start(const std::string& path) {
   const QString program = NativePath(path);
   if (QProcess::startDetached(program, {}, QFileInfo(program).path())) return;
   throw RuntimeError(kErrorPathAccess, "The program can't be started: " + path);
 }
 
-void LinuxProcesses::EndProgram() {
+void DesktopProcesses::EndProgram() {
   // Queued, so that an end asked for before the message loop runs is not lost.
   QMetaObject::invokeMethod(QCoreApplication::instance(), &QCoreApplication::quit, Qt::QueuedConnection);
 }

@@ -12,11 +12,11 @@
 
 namespace pawnfield {
 
-class LinuxProcesses : public Processes {
+class DesktopProcesses : public Processes {
  public:
   // The folder is the user's own for running programs; onActivate runs when another instance asks for the front; helper
   // programs are looked for in the program's folders, in their order.
-  LinuxProcesses(QString runtimeFolder, std::function<void()> onActivate, QStringList programFolders = {});
+  DesktopProcesses(QString runtimeFolder, std::function<void()> onActivate, QStringList programFolders = {});
 
   // A RuntimeError where the mark can't be made.
   bool AnotherInstanceRuns() override;
