@@ -9,7 +9,6 @@
 #include "show/page_state.h"
 #include "show/phase.h"
 #include "support/game_player.h"
-#include "support/operator_words.h"
 
 namespace pawnfield {
 namespace {
@@ -20,14 +19,13 @@ using testing::Not;
 // Trivia C for three, whose phones and pages are on.
 class Room : public GamePlayer {
  public:
-  explicit Room(const std::string& setup = "Trivia C, 3 players, 3x3, Full Board, user advances")
-      : GamePlayer(SetupOfWords(setup)) {
+  explicit Room(const std::string& setup = "Trivia C, 3 players, 3x3, Full Board, user advances") : GamePlayer(setup) {
     show().frmMain.mnuFilePages.Click();
     if (!network.Listens) show().frmPages.btnSwitch.Click();
   }
   ~Room() { Exit(); }
 
-  void Steps(const std::string& words) { Play(StepsOfWords(words)); }
+  void Steps(const std::string& words) { Do(words); }
   void Wait(int ms) { fixture().sim.clock.Advance(ms); }
   // A phone with that way each way joins and takes the seat; half a minute brings its clock in step.
   std::uint64_t Seat(int player, int way = 1) {

@@ -2,7 +2,7 @@
 #include "data/game_state.h"
 #include "forms/main_form.h"
 #include "show/phase.h"
-#include "support/operator_words.h"
+#include "support/game_player.h"
 
 namespace pawnfield {
 namespace {

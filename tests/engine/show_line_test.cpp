@@ -2,7 +2,7 @@
 #include "engine/show_line.h"
 
 #include "forms/main_form.h"
-#include "support/operator_words.h"
+#include "support/game_player.h"
 
 namespace pawnfield {
 namespace {
@@ -84,28 +84,28 @@ class LineReader {
   void Do(const std::string& expected) {
     const auto asks = [&](const char* words) { return expected.find(words) != std::string::npos; };
     if (asks("Choose a set")) {
-      game_.Play("set");
+      game_.Do("choose the set");
     } else if (asks("Press Start")) {
-      game_.Play("btnStart");
+      game_.Do("start");
     } else if (asks("press Show")) {
-      game_.Play("btnPlayMode");
+      game_.Do("show");
     } else if (asks("keys 1 to")) {
-      game_.Play("keys:2");
+      game_.Do("key 2");
     } else if (asks("judge with Y or N")) {
-      game_.Play(++verdicts_ % 5 == 0 ? "keys:n" : "keys:y");
+      game_.Do(++verdicts_ % 5 == 0 ? "key n" : "key y");
     } else if (asks("press Next Player")) {
-      game_.Play("btnNextPlayer");
+      game_.Do("next player");
     } else if (asks("type letter and digit")) {
-      game_.Play(std::string("keys:") + static_cast<char>('a' + square_ % 3));
+      game_.Do(std::string("key ") + static_cast<char>('a' + square_ % 3));
     } else if (asks("now the digit")) {
-      game_.Play(std::string("keys:") + static_cast<char>('1' + square_ / 3));
+      game_.Do(std::string("key ") + static_cast<char>('1' + square_ / 3));
     } else if (asks("press Enter")) {
       ++square_;
-      game_.Play("keys:^M");
+      game_.Do("key enter");
     } else if (asks("or C")) {
-      game_.Play("keys:c");
+      game_.Do("key c");
     } else {
-      game_.Play(">1000");
+      game_.Do("wait 1 s");
     }
   }
 
@@ -118,7 +118,7 @@ TEST(LineReader, PlaysAWholeGameOfEachTypeFromTheLineAlone) {
   for (const char* setup : {"Challenge A, not started", "Challenge B, not started", "Trivia A, not started",
                             "Trivia B, not started, user advances", "Trivia C, not started"}) {
     SCOPED_TRACE(setup);
-    GamePlayer game(SetupOfWords(setup));
+    GamePlayer game(setup);
     const std::string winner = LineReader(game).PlayToTheEnd();
     EXPECT_TRUE(winner.starts_with("Game Over!"))
         << winner << ", at last: " << game.form().lblLineExpected.Caption.Get();
@@ -126,10 +126,10 @@ TEST(LineReader, PlaysAWholeGameOfEachTypeFromTheLineAlone) {
 }
 
 TEST(ShowLine, SaysWhatAnUndoTakesBack) {
-  GamePlayer game(SetupOfWords("Trivia B, user advances"));
-  game.Play(StepsOfWords("correct, claim B3"));
+  GamePlayer game("Trivia B, user advances");
+  game.Do("correct, claim B3");
   EXPECT_EQ(game.form().lblUndoNote.Caption.Get(), "PLAYER 1 takes B3, +50");
-  game.Play(StepsOfWords("undo"));
+  game.Do("undo");
   EXPECT_EQ(game.form().lblUndoNote.Caption.Get().find("takes"), std::string::npos);
 }
 

@@ -66,7 +66,7 @@ TEST_F(SoundEffects, ACellsTrianglePlaysItWithoutThePreview) {
     EXPECT_EQ(dialog.FileOf(8, 2), kHorn);
     dialog.OnPlayCell(8, 2);
   });
-  Play("event=horn.wav");
+  Do("event sound is horn.wav");
 }
 
 TEST_F(SoundEffects, FilesAreChosenAndDroppedIntoTheirRows) {

@@ -5,7 +5,7 @@
 #include "forms/fs_main_form.h"
 #include "forms/main_form.h"
 #include "presentation/text_fitting.h"
-#include "support/operator_words.h"
+#include "support/game_player.h"
 
 namespace pawnfield {
 namespace {

@@ -22,9 +22,9 @@ constexpr const char* kFound = "A show was interrupted at 20:00: ";
 // A program that was killed amid a game, and the next one on the same disk.
 class Interrupted : public testing::Test {
  protected:
-  void Play(const std::string& setup, const std::string& script) {
+  void Play(const std::string& words, const std::string& setup = "Trivia C, 5x5") {
     played_ = std::make_unique<GamePlayer>(setup);
-    played_->Play(script);
+    played_->Do(words);
     // What is left to be taken down is, within a second.
     played_->fixture().sim.clock.Advance(60);
   }
@@ -49,11 +49,24 @@ class Interrupted : public testing::Test {
 };
 
 TEST_F(Interrupted, ComesBackUnderTheCoverAsItWas) {
-  for (const char* script : {"r2 + 00 > r1 -", "r2 + 00 > r3 + 11! >100", "r1", "r2 + 00 > S", "r2 + 00 U", "r2 H"}) {
-    Play("5 3 5 full pr", script);
+  const char* const firstClaim = "player 2 rings in, correct, claim A1, ";
+  const struct {
+    const char* before;
+    const char* last;
+  } moments[] = {
+      {firstClaim, "wait 3 s, player 1 rings in, incorrect"},
+      {firstClaim, "wait 3 s, player 3 rings in, correct, click B2, wait 100 ms"},
+      {"", "player 1 rings in"},
+      {firstClaim, "wait 3 s, skip"},
+      {firstClaim, "undo"},
+      {"", "player 2 rings in, hide"},
+  };
+  for (const auto& [before, last] : moments) {
+    SCOPED_TRACE(last);
+    Play(std::string(before) + last, "Trivia C, 5x5, penalty");
     StartAgain(BoxAnswer::Yes);
     Show& show = again_->show();
-    EXPECT_TRUE(show.frmMain.picStandby.Visible) << script;
+    EXPECT_TRUE(show.frmMain.picStandby.Visible);
     EXPECT_FALSE(show.frmSplash.Visible);
     if (!played_->form().picStandby.Visible) show.frmMain.btnPlayMode.Click();
     Snapshot found = Capture(show);
@@ -61,13 +74,13 @@ TEST_F(Interrupted, ComesBackUnderTheCoverAsItWas) {
     // Show lights who has the turn, in its own way.
     found.Lit = wanted.Lit;
     found.Cursor = wanted.Cursor;
-    EXPECT_EQ(UnlikeSnapshots(wanted, found), "") << script;
+    EXPECT_EQ(UnlikeSnapshots(wanted, found), "");
   }
 }
 
 TEST_F(Interrupted, FindsItsPhonesAgain) {
   for (const BoxAnswer answer : {BoxAnswer::Yes, BoxAnswer::No}) {
-    Play("5 3 5 full", "r2 + 00 >");
+    Play("player 2 rings in, correct, claim A1, wait 3 s");
     played_->show().frmPages.btnSwitch.Click();
     ASSERT_TRUE(played_->fixture().sim.network.Listens);
     StartAgain(answer);
@@ -76,12 +89,12 @@ TEST_F(Interrupted, FindsItsPhonesAgain) {
 }
 
 TEST_F(Interrupted, SaysWhatWasPlayed) {
-  Play("5 2 5 full", "r2 + 00 >");
+  Play("player 2 rings in, correct, claim A1, wait 3 s", "Trivia C, 2 players, 5x5");
   StartAgain(BoxAnswer::Yes, "A show was interrupted at 20:00: Long, question 2 of 30, PLAYER 1 0, PLAYER 2 50.");
 }
 
 TEST_F(Interrupted, GoesOnInItsRecordAndCanBeTakenBackFurther) {
-  Play("5 3 5 full", "r2 + 00 > r1 -");
+  Play("player 2 rings in, correct, claim A1, wait 3 s, player 1 rings in, incorrect");
   const std::size_t kept = Disk().size();
   StartAgain(BoxAnswer::Yes);
   Show& show = again_->show();
@@ -94,27 +107,27 @@ TEST_F(Interrupted, GoesOnInItsRecordAndCanBeTakenBackFurther) {
 }
 
 TEST_F(Interrupted, IsNotOfferedAgainWhenItWasLeftBehindEndedOrFinished) {
-  Play("5 3 5 full", "r2 + 00");
+  Play("player 2 rings in, correct, claim A1");
   StartAgain(BoxAnswer::No);
   EXPECT_FALSE(again_->show().state.GameLoaded);
   Disk() = again_->sim.records.Files;
   StartAgain(BoxAnswer::No, "");
-  for (const char* end : {"E", "R", "exit"}) {
-    Play("5 3 5 full", "r2 + 00");
+  for (const char* end : {"end game", "reset", "exit"}) {
+    Play("player 2 rings in, correct, claim A1");
     if (std::string(end) == "exit") {
       played_->fixture().Exit();
     } else {
-      played_->Play(std::string(end) + " >6000");
+      played_->Do(std::string(end) + ", wait 6 s");
     }
     StartAgain(BoxAnswer::No, "");
   }
 }
 
 TEST_F(Interrupted, IsOfferedAfterASignalAndAfterAnExitThatKeptIt) {
-  Play("5 3 5 full", "r2");
+  Play("player 2 rings in");
   EndWithoutAsking(played_->show());
   StartAgain(BoxAnswer::Yes);
-  Play("5 3 5 full", "r2 +");
+  Play("player 2 rings in, correct");
   played_->fixture().sim.dialogs.ExpectMessage("Are you sure", BoxAnswer::Yes);
   played_->fixture().sim.dialogs.ExpectMessage("Is the show over?", BoxAnswer::No);
   played_->form().mnuFileExit.Click();
@@ -122,7 +135,7 @@ TEST_F(Interrupted, IsOfferedAfterASignalAndAfterAnExitThatKeptIt) {
 }
 
 TEST_F(Interrupted, LosesATornLineAndNothingElse) {
-  Play("5 3 5 full", "r2 + 00 > r1 -");
+  Play("player 2 rings in, correct, claim A1, wait 3 s, player 1 rings in, incorrect");
   std::string& file = Disk().begin()->second;
   const std::string whole = file;
   const auto record = ParseRecord(whole);
@@ -141,35 +154,35 @@ TEST_F(Interrupted, LosesATornLineAndNothingElse) {
 }
 
 TEST_F(Interrupted, ASetThatWasEditedLaterChangesNothing) {
-  Play("5 3 5 full", "r2 + 00");
+  Play("player 2 rings in, correct, claim A1");
   played_->fixture().WriteSet("Long", {"Other 1?", "Other 2?"});
   StartAgain(BoxAnswer::Yes);
   EXPECT_EQ(again_->show().GameSet, played_->show().GameSet);
 }
 
 TEST_F(Interrupted, AFullDiskIsToldOnceAndLosesNothing) {
-  played_ = std::make_unique<GamePlayer>("5 3 5 full");
+  played_ = std::make_unique<GamePlayer>("Trivia C, 5x5");
   MemoryRecords& records = played_->fixture().sim.records;
   records.Fail(kErrorDiskFull);
-  played_->Play("r2");
+  played_->Do("player 2 rings in");
   played_->fixture().sim.clock.Advance(60);
   const std::string told = played_->form().lblStatusBar.Caption;
   EXPECT_EQ(told, "The show's record can't be written: Disk full. The show goes on.");
   played_->form().lblStatusBar.Caption = "";
-  played_->Play("+ 00");
+  played_->Do("correct, claim A1");
   EXPECT_EQ(played_->form().lblStatusBar.Caption.Get(), "");
   EXPECT_TRUE(played_->form().chpRecord.Visible);
   EXPECT_EQ(played_->form().chpRecord.State.Get(), ChipState::Amber);
   records.GiveBack();
   EXPECT_EQ(played_->form().lblStatusBar.Caption.Get(), "The show's record is written again.");
-  played_->Play(">");
+  played_->Do("wait 3 s");
   EXPECT_EQ(played_->form().chpRecord.State.Get(), ChipState::Good);
   StartAgain(BoxAnswer::Yes);
   EXPECT_EQ(again_->Scores(), "0 50 0");
 }
 
 TEST(ShowRecord, KeepsTwentyShows) {
-  GamePlayer player("5 3 5 full mi");
+  GamePlayer player("Trivia C, 5x5, user advances, not started");
   ShowFixture again;
   for (int i = 10; i < 40; ++i) again.sim.records.Files["Show 2020-01-" + std::to_string(i) + " 20-00-00.jsonl"] = "x";
   again.Start();

@@ -24,21 +24,22 @@ struct UndoneEvent {
 };
 
 const UndoneEvent kEvents[] = {
-    {"ARingIn", "5 3 3 full", "", "r2", "PLAYER 2 rings in"},
-    {"AWrongAnswerAndItsPenalty", "5 3 3 full p", "r2", "-", "Incorrect for PLAYER 2, -100"},
-    {"ARightAnswer", "3 3 3 full", "", "+", "Correct for PLAYER 1"},
-    {"AClaim", "5 3 3 full", "r2 +", "11", "PLAYER 2 takes B2, +50"},
-    {"AClaimAmidItsFlash", "2 3 3 full", "", "11! >200", "PLAYER 1 takes B2, +50"},
-    {"ALine", "2 3 3 full", "00 01", "02", "PLAYER 1 takes C1, +100"},
-    {"AQuestion", "3 3 3 full m", "+ 00", "C", "Question 2"},
-    {"ASkip", "4 3 3 full m", "", "S", "Skip of question 1"},
-    {"ATurn", "1 3 3 full", "", "N", "Turn to PLAYER 2"},
-    {"AScoreKey", "5 3 3 full", "r2", "u23", "PLAYER 2 +100"},
-    {"AClearedBoard", "1 3 3 full", "00 11", "fileClearAllScores", "Clear All Scores"},
-    {"APlayerWhoLeft", "1 3 3 full", "00 11", "optPlayers(0)", "2 players"},
-    {"TheEndOfAGame", "1 3 3 full", "00 11", "E", "End Game"},
-    {"ALineThatEndedTheGame", "2 3 3 row", "00 01", "02", "PLAYER 1 takes C1, +100"},
-    {"APictureQuestion", "3 3 3 full km", "+ 00", "C", "Question 2"},
+    {"ARingIn", "Trivia C", "", "player 2 rings in", "PLAYER 2 rings in"},
+    {"AWrongAnswerAndItsPenalty", "Trivia C, penalty", "player 2 rings in", "incorrect",
+     "Incorrect for PLAYER 2, -100"},
+    {"ARightAnswer", "Trivia A", "", "correct", "Correct for PLAYER 1"},
+    {"AClaim", "Trivia C", "player 2 rings in, correct", "claim B2", "PLAYER 2 takes B2, +50"},
+    {"AClaimAmidItsFlash", "Challenge B", "", "click B2, wait 200 ms", "PLAYER 1 takes B2, +50"},
+    {"ALine", "Challenge B", "claim A1, claim B1", "claim C1", "PLAYER 1 takes C1, +100"},
+    {"AQuestion", "Trivia A, user advances", "correct, claim A1", "continue", "Question 2"},
+    {"ASkip", "Trivia B, user advances", "", "skip", "Skip of question 1"},
+    {"ATurn", "Challenge A", "", "next player", "Turn to PLAYER 2"},
+    {"AScoreKey", "Trivia C", "player 2 rings in", "player 2 gains 100", "PLAYER 2 +100"},
+    {"AClearedBoard", "Challenge A", "claim A1, claim B2", "clear all scores", "Clear All Scores"},
+    {"APlayerWhoLeft", "Challenge A", "claim A1, claim B2", "2 players", "2 players"},
+    {"TheEndOfAGame", "Challenge A", "claim A1, claim B2", "end game", "End Game"},
+    {"ALineThatEndedTheGame", "Challenge B, Finish Row", "claim A1, claim B1", "claim C1", "PLAYER 1 takes C1, +100"},
+    {"APictureQuestion", "Trivia A, picture second, user advances", "correct, claim A1", "continue", "Question 2"},
 };
 
 class UndoOf : public testing::TestWithParam<UndoneEvent> {};
@@ -62,11 +63,11 @@ TEST_P(UndoOf, GoesBackAndForward) {
   const UndoneEvent& undone = GetParam();
   GamePlayer player(undone.setup);
   Show& show = player.show();
-  player.Play(undone.before);
-  player.Play(">60 >5000");
+  if (*undone.before != 0) player.Do(undone.before);
+  player.Do("wait 60 ms, wait 5 s");
   const std::string before = Stand(show);
-  player.Play(undone.event);
-  player.Play(">60");
+  player.Do(undone.event);
+  player.Do("wait 60 ms");
   EXPECT_EQ(UndoText(show), undone.words);
   const auto heard = [&player] {
     const auto& log = player.fixture().sim.media.Deck.Log;
@@ -75,13 +76,13 @@ TEST_P(UndoOf, GoesBackAndForward) {
     });
   };
   const auto sounds = heard();
-  player.Play("U");
+  player.Do("undo");
   EXPECT_EQ(Stand(show), before);
   EXPECT_EQ(show.frmMain.lblStatusBar.Caption.Get(), std::string("Undone: ") + undone.words);
   EXPECT_EQ(RedoText(show), undone.words);
-  player.Play("keys:^Y");
+  player.Do("key ctrl y");
   EXPECT_EQ(UndoText(show), undone.words);
-  player.Play("U");
+  player.Do("undo");
   EXPECT_EQ(Stand(show), before) << "after it was done again";
   EXPECT_EQ(heard(), sounds) << "a step plays no sound";
 }
@@ -89,29 +90,47 @@ INSTANTIATE_TEST_SUITE_P(Record, UndoOf, testing::ValuesIn(kEvents),
                          [](const auto& undone) { return std::string(undone.param.name); });
 
 TEST(Undo, GoesToTheGamesBeginningAndWhatIsNewEndsTheWayForward) {
-  GamePlayer player("5 3 3 full m");
-  player.Play("r1 + 00 C r2 - r3 + 11 >60 U U U U U U U U U U");
+  GamePlayer player("Trivia C, user advances");
+  player.Do(
+      "player 1 rings in, correct, claim A1, continue, player 2 rings in, incorrect, player 3 rings in, "
+      "correct, claim B2, wait 60 ms");
+  while (player.form().btnUndo.Enabled) player.Do("undo");
   EXPECT_EQ(UndoText(player.show()), "") << "the set is ready and nothing was done";
-  player.Play("btnUndo=off scores=0/0/0 board=000/000/000 keys:^Y^Y r2 >60 scores=0/0/0");
+  player.Do("scores 0/0/0, board 000/000/000, key ctrl y, key ctrl y, player 2 rings in, wait 60 ms, scores 0/0/0");
   EXPECT_EQ(RedoText(player.show()), "");
 }
 
-TEST(LastGame, ComesBackAfterAResetTheEndAWinnerAndAnotherSet) {
-  for (const char* end : {"R", "E >5000", "02 >12000", "set"}) {
-    GamePlayer player(std::string(end) == "02 >12000" ? "4 3 3 row m" : "4 3 3 full m");
-    Show& show = player.show();
-    player.Play("+ 00 C + 01 C + >60");
-    const std::string stood = player.fixture().Scores();
-    player.Play(end);
-    player.Play(">60 mnuFileBringBack scores=100/0/0 board=110/000/000 question=2 phase=player_1_claims");
-    EXPECT_EQ(player.fixture().Scores(), stood) << end;
-    if (show.frmMain.picStandby.Visible) player.Play("V");
-    player.Play("10! >60 board=110/100/000");
-  }
+struct EndOfAGame {
+  const char* name;
+  const char* setup;
+  const char* end;
+  friend void PrintTo(const EndOfAGame& end, std::ostream* out) { *out << end.name; }
+};
+
+const EndOfAGame kEnds[] = {
+    {"AReset", "Trivia B, user advances", "reset"},
+    {"TheEnd", "Trivia B, user advances", "end game, wait 5 s"},
+    {"AWinner", "Trivia B, Finish Row, user advances", "claim C1, wait 12 s"},
+    {"AnotherSet", "Trivia B, user advances", "choose the set"},
+};
+
+class LastGameAfter : public testing::TestWithParam<EndOfAGame> {};
+
+TEST_P(LastGameAfter, ComesBackAndGoesOn) {
+  GamePlayer player(GetParam().setup);
+  player.Do("correct, claim A1, continue, correct, claim B1, continue, correct, wait 60 ms");
+  const std::string stood = player.fixture().Scores();
+  player.Do(GetParam().end);
+  player.Do("wait 60 ms, press mnuFileBringBack, scores 100/0/0, board 110/000/000, question 3, phase player 1 claims");
+  EXPECT_EQ(player.fixture().Scores(), stood);
+  if (player.form().picStandby.Visible) player.Do("show");
+  player.Do("click A2, wait 60 ms, board 110/100/000");
 }
+INSTANTIATE_TEST_SUITE_P(Record, LastGameAfter, testing::ValuesIn(kEnds),
+                         [](const auto& end) { return std::string(end.param.name); });
 
 TEST(RingInOrder, ListsWhoCameLaterAndWhoWasEarly) {
-  GamePlayer player("5 3 3 full w");
+  GamePlayer player("Trivia C, remotes");
   Show& show = player.show();
   const auto texts = [&show] {
     std::string all;
@@ -124,7 +143,7 @@ TEST(RingInOrder, ListsWhoCameLaterAndWhoWasEarly) {
   };
   const std::int64_t now = show.platform.clock.NowUs();
   press(2, now, 500);
-  player.Play("r2");
+  player.Do("player 2 rings in");
   press(1, now + 900, 500);
   press(1, now + 40000, 500);
   press(3, now + 310000, 500);
@@ -132,9 +151,9 @@ TEST(RingInOrder, ListsWhoCameLaterAndWhoWasEarly) {
             "1 PLAYER 2 first; 2 PLAYER 1 +1 ms (\xB1"
             "1), too close to call !; 3 PLAYER 3 +310 ms (\xB1"
             "1); ");
-  player.Play("+ 00! >100");
+  player.Do("correct, click A1, wait 100 ms");
   press(1, show.platform.clock.NowUs() + 3000000, 500);
-  player.Play(">5000");
+  player.Do("wait 5 s");
   EXPECT_EQ(texts(), " PLAYER 1 early; ");
 }
 

@@ -9,6 +9,7 @@
 #include "forms/fs_main_form.h"
 #include "forms/main_form.h"
 #include "program/handlers.h"
+#include "support/operator_words.h"
 #include "support/screen_pairs.h"
 #include "support/seen.h"
 
@@ -18,24 +19,13 @@ namespace {
 
 using std::string_literals::operator""s;
 
-// The steps of one letter.
-const std::string kLetters =
-    " +=btnQuestionCorrect -=btnQuestionIncorrect N=btnNextPlayer S=btnSkipQuestion C=btnContinue U=btnUndo "
-    "E=btnEndGame H=btnStandbyMode V=btnPlayMode R=btnReset p=chkIncorrectPenalty a=chkAnimation m=cboAutoContinue:3 "
-    "0=cbxScore(0):0 ";
+// The controls that set what a letter of the setup asks for.
+const std::map<char, std::string> kOptions = {
+    {'p', "chkIncorrectPenalty"}, {'a', "chkAnimation"}, {'m', "cboAutoContinue:3"}, {'0', "cbxScore(0):0"}};
 
 bool IsDigit(char c) { return std::isdigit(static_cast<unsigned char>(c)) != 0; }
 
 std::string Indexed(const std::string& name, int index) { return name + "(" + std::to_string(index) + ")"; }
-
-// The control behind a step's short form; a longer one names it.
-std::string ControlOf(const std::string& step) {
-  const std::size_t letter = kLetters.find(" " + step + "=");
-  if (letter != std::string::npos) return kLetters.substr(letter + 3, kLetters.find(' ', letter + 1) - letter - 3);
-  if (step[0] == 'r' && step.size() == 2) return Indexed("btnSelectPlayer", step[1] - '1');
-  if (!IsDigit(step[1])) return step;
-  return Indexed("btnScore"s + step[1] + (step[0] == 'u' ? "Up" : "Dn"), step[2] - '0');
-}
 
 std::string Spaced(std::string text) {
   std::replace(text.begin(), text.end(), '_', ' ');
@@ -49,7 +39,7 @@ std::string FileName(const std::string& path) { return path.substr(path.rfind('\
 GamePlayer::GamePlayer(const std::string& setup, Screens monitors) : fixture_(monitors), shown_(&fixture_.form()) {
   int type = 0, players = 0, grid = 0;
   std::string ending, options;
-  std::istringstream in(IsDigit(setup[0]) ? setup : SetupOfWords(setup));
+  std::istringstream in(SetupOfWords(setup));
   in >> type >> players >> grid >> ending >> options;
   for (std::string setting; in >> setting;) {
     fixture_.Preset(setting.substr(0, setting.find('=')), setting.substr(setting.find('=') + 1));
@@ -64,8 +54,8 @@ GamePlayer::GamePlayer(const std::string& setup, Screens monitors) : fixture_(mo
   Press(Indexed("optPlayers", players - 2));
   Press(Indexed("optGridControl", grid - 3));
   Press(Indexed("optGameEnds", ending == "row" ? 0 : 1));
-  for (const char option : "pam0"s) {
-    if (has(option)) Press(ControlOf({option}));
+  for (const auto& [option, control] : kOptions) {
+    if (has(option)) Press(control);
   }
   if (has('i')) return;
   if (type >= 3) fixture_.ChooseSet("Long");
@@ -89,6 +79,8 @@ void GamePlayer::PrepareMachine(const std::string& options) {
   if (options.find('w') != std::string::npos) fixture_.sim.hid.PlugTransceiver(kTransceiverShort);
   if (options.find('W') != std::string::npos) fixture_.sim.hid.PlugTransceiver();
 }
+
+void GamePlayer::Do(const std::string& words) { Play(StepsOfWords(words)); }
 
 void GamePlayer::Play(const std::string& script) {
   std::istringstream steps(script);
@@ -142,11 +134,11 @@ void GamePlayer::Step(const std::string& step) {
   } else if (step.find('=') != std::string::npos) {
     ExpectSeen(show(), step, played_, shown_);
   } else if (step[0] == '>') {
-    fixture_.sim.clock.Advance(step.size() == 1 ? 3000 : std::stoi(step.substr(1)));
+    fixture_.sim.clock.Advance(std::stoi(step.substr(1)));
   } else if (IsDigit(step[0])) {
     step.size() == 1 ? RingIn((wired_ ? 100 : 0) + step[0] - '0') : Claim(step);
   } else {
-    Press(ControlOf(step));
+    Press(step);
   }
 }
 

@@ -19,4 +19,12 @@
 //   disabled". A control without words of its own goes by its name, and a check with "=" is one of ExpectSeen's.
 #pragma once
 
-#include "support/game_player.h"
+#include <string>
+
+namespace pawnfield {
+
+// The setup and the steps of GamePlayer that an operator's words stand for.
+std::string SetupOfWords(const std::string& words);
+std::string StepsOfWords(const std::string& words);
+
+}  // namespace pawnfield
