@@ -1,5 +1,6 @@
 // The seconds to answer in, as they run on both screens.
 #include "data/game_state.h"
+#include "forms/fs_main_form.h"
 #include "forms/main_form.h"
 #include "show/phase.h"
 #include "support/game_player.h"
@@ -57,6 +58,7 @@ TEST(AnswerClock, IsTheAnsweringPlayersAndHasHisColour) {
     player.Do("player " + std::to_string(number) + " rings in, wait 1 s");
     EXPECT_EQ(RunningAnswerClock(player.show()), (AnswerClock{number, 4}));
     EXPECT_EQ(player.form().lblAnswerClock.ForeColor, colors[number - 1]);
+    EXPECT_EQ(player.fixture().audience().lblAnswerClock.ForeColor, colors[number - 1]);
     player.Do("incorrect");
     EXPECT_EQ(RunningAnswerClock(player.show()), AnswerClock{});
   }

@@ -85,6 +85,11 @@ const WordStory kBoardPlay[] = {
     {"The winner waits also on a full board", "Challenge B, 2 players, worthless squares",
      "claim A1, claim B1, claim C1, claim A2, claim B2, claim C2, claim A3, claim B3, lines worth 0, click C3, wait "
      "899 ms, winner is hidden, wait 3 s, bonus is hidden, winner is shown"},
+    {"An animated winner blinks on both screens and then stands", "Trivia B, 2 players, animated, user advances",
+     "correct, wait 5 s, claim A1, end game, wait 200 ms, lblWinner is hidden, room lblWinner is hidden, wait 200 ms, "
+     "tmrAnimate(1) is on, wait 1 s, tmrAnimate(1) is off, winner is shown"},
+    {"A winner without the animation stands still", "Trivia B, 2 players, user advances",
+     "correct, claim A1, end game, winner is shown, tmrAnimate(1) is off"},
     {"End game amid a flash leaves nothing to come", "Trivia B, 2 players",
      "correct, claim A1, wait 3 s, correct, click B1, wait 100 ms, end game, winner is shown, tmrAutoContinue is off, "
      "wait 3 s, question 2, question panel is hidden, winner is shown"},

@@ -1,10 +1,13 @@
 #include "support/screen_pairs.h"
 
+#include <algorithm>
+#include <array>
 #include <cctype>
 #include <map>
 #include <sstream>
 #include <string_view>
 #include <unordered_map>
+#include <utility>
 
 #include "forms/fs_main_form.h"
 #include "forms/main_form.h"
@@ -45,6 +48,23 @@ const std::map<std::string, const char*> kUnpaired = {
     {"lblTestHow", "on the test picture"},
     {"picImageResize(1).Visible", "on the console it stands in a panel of its own, picMODPicture"},
 };
+
+// What of the audience's has the console's colours, and not its own.
+constexpr std::array<std::string_view, 4> kColouredAlike = {"lblQuestion(", "lblAnswerClock", "lblRightWrong",
+                                                            "txtOptionalHeading"};
+
+// Text and ground of a control that has such colours.
+std::pair<Color, Color> Colours(const Control& control) {
+  if (const auto* label = dynamic_cast<const Label*>(&control)) return {label->ForeColor, 0};
+  const auto& box = static_cast<const TextBox&>(control);
+  return {box.ForeColor, box.BackColor};
+}
+
+bool SameColours(const Control& console, const Control& audience) {
+  const bool alike = std::any_of(kColouredAlike.begin(), kColouredAlike.end(),
+                                 [&](std::string_view name) { return audience.Name().starts_with(name); });
+  return !alike || !audience.IsShown() || Colours(console) == Colours(audience);
+}
 
 bool IsSquare(const std::string& name) {
   return name.size() == 5 && name.starts_with("img") && std::isdigit(name[3]) && std::isdigit(name[4]);
@@ -98,6 +118,7 @@ std::vector<std::string> UnlikePairs(Show& show) {
     // Of a missing picture the room learns nothing.
     if (IsPictureMissing(show) && name.starts_with("lblQuestion(")) continue;
     if (Content(*console) != Content(*control)) unlike.push_back(name);
+    if (!SameColours(*console, *control)) unlike.push_back(name + "'s colours");
   }
   return unlike;
 }
