@@ -76,8 +76,8 @@ class PhonesInBrowser : public ShowSuite {
     EXPECT_TRUE(Shows(phone, "name", Text(Main().lblPlayer1[PlayerIndex(seat)])));
   }
   static bool Take(int row, int column) {
-    return Wait([] { return IsPhase(TheShow(), PhaseKind::Claiming); }, 5000) && driver_->PressSquare(row, column) &&
-           Wait([] { return !Main().tmrAnswer.Enabled.Get(); }, 20000);
+    return Wait([] { return IsPhase(TheShow(), PhaseKind::Claiming); }) && driver_->PressSquare(row, column) &&
+           Wait([] { return !Main().tmrAnswer.Enabled.Get(); });
   }
 
   // The system's own, for which the driver's library is installed.
@@ -115,7 +115,7 @@ TEST_F(PhonesInBrowser, PlayAGameOnRealWindows) {
   driver_->Pause(3000);
 
   Do("press ben");
-  ASSERT_TRUE(Wait([] { return Turn() == 2; }, 5000));
+  ASSERT_TRUE(Wait([] { return Turn() == 2; }));
   Do("press anna");
   EXPECT_TRUE(Shows("ben", "word", "YOU"));
   EXPECT_TRUE(Shows("anna", "word", "BEN"));
@@ -134,7 +134,7 @@ TEST_F(PhonesInBrowser, PlayAGameOnRealWindows) {
   ASSERT_TRUE(Press({"btnQuestionIncorrect"}));
   EXPECT_TRUE(Shows("anna", "word", "PRESS"));
   Do("press anna");
-  ASSERT_TRUE(Wait([] { return Turn() == 1; }, 5000));
+  ASSERT_TRUE(Wait([] { return Turn() == 1; }));
   ASSERT_TRUE(Press({"btnQuestionCorrect"}));
   EXPECT_TRUE(Shows("anna", "line", "take a square"));
   ASSERT_TRUE(Take(0, 0));
@@ -162,14 +162,14 @@ TEST_F(PhonesInBrowser, PlayAGameOnRealWindows) {
     const int player = square % 3;
     EXPECT_TRUE(Shows(phones[player], "word", "PRESS"));
     Do(QString("press ") + phones[player]);
-    ASSERT_TRUE(Wait([player] { return Turn() == player + 1; }, 5000)) << "square " << square;
+    ASSERT_TRUE(Wait([player] { return Turn() == player + 1; })) << "square " << square;
     ASSERT_TRUE(Press({"btnQuestionCorrect"}));
     ASSERT_TRUE(Take(square / 3, square % 3));
     if (square < 8) {
-      ASSERT_TRUE(Wait([] { return Main().btnContinue.Enabled.Get(); }, 15000));
+      ASSERT_TRUE(Wait([] { return Main().btnContinue.Enabled.Get(); }));
     }
   }
-  ASSERT_TRUE(Wait([] { return IsPhase(TheShow(), PhaseKind::Winner); }, 20000));
+  ASSERT_TRUE(Wait([] { return IsPhase(TheShow(), PhaseKind::Winner); }));
   EXPECT_TRUE(Shows("scores", "winner", "Game Over!"));
   Picture("scores", "scores-winner");
   Form().btnSwitch.Click();

@@ -36,7 +36,8 @@ class ShowSuite : public testing::Test {
   void SetUp() override { ASSERT_TRUE(ready_); }
 
   static bool Xrandr(const QString& arguments) { return QProcess::execute("xrandr", arguments.split(' ')) == 0; }
-  static bool Wait(const std::function<bool()>& condition, int ms = 60000) { return driver_->WaitFor(condition, ms); }
+  // The limit is for a machine that has much else to do; a show that is well is seen long before it.
+  static bool Wait(const std::function<bool()>& condition, int ms = 180000) { return driver_->WaitFor(condition, ms); }
   static bool Press(const QStringList& widgets) {
     return std::all_of(widgets.begin(), widgets.end(), [](const QString& widget) { return driver_->Press(widget); });
   }

@@ -49,7 +49,7 @@ QImage AsSeen(QImage picture, Sight sight) {
 constexpr int kStepMs = 20;
 constexpr int kStartMs = 120000;
 // A key whose window closes at its press may never be seen to go up.
-constexpr int kKeyMs = 2000;
+constexpr int kKeyMs = 5000;
 
 // Waits for a key that the display server was given: it has come through when it is seen to go up.
 class KeyUp : public QObject {
