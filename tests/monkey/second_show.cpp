@@ -3,13 +3,17 @@
 #include <algorithm>
 
 #include "forms/main_form.h"
+#include "platform/text.h"
 #include "presentation/both_screens.h"
+#include "presentation/picture_question.h"
 #include "program/program.h"
 #include "record/capture.h"
 #include "record/history.h"
 #include "record/record_lines.h"
 #include "record/restore.h"
 #include "record/snapshot_json.h"
+#include "sets/set_file.h"
+#include "sets/set_parser.h"
 #include "support/same_show.h"
 
 namespace pawnfield {
@@ -26,6 +30,14 @@ bool SameMonitors(const std::vector<MonitorInfo>& a, const std::vector<MonitorIn
 // Whether the room's screen is covered and what was written of the console alone isn't the record's.
 void CoverLike(const Show& played, Show& restored) {
   restored.frmMain.picStandby.Visible = played.frmMain.picStandby.Visible;
+}
+
+// The picture of the question that is up was lost or found since: the played show has what was there then, and the
+// restored one what is there now.
+bool PictureCameOrWent(Show& played, const SimPlatform& machine) {
+  const std::string picture = Trim(RecordAt(played.GameSet, played.state.CurrentQuestion + 1).QuestionText);
+  return played.state.QuestionUp && KindOfQuestion(picture) == QuestionKind::Picture &&
+         machine.files.CanOpen(picture) == IsPictureMissing(played);
 }
 
 std::string AtStep(Show& show, const char* way) {
@@ -59,6 +71,7 @@ std::string SecondShow::Compare(Show& played, const SimPlatform& machine) {
   RestoreSet(*read_.Set, show_);
   RestoreOptions(read_.Events[0].After.Options, show_);
   Restore(read_.Events[0].After, show_);
+  if (PictureCameOrWent(played, machine)) return {};
   const std::string unlike = UnlikeShows(played, show_);
   return unlike.empty() ? unlike : "after a restore: " + unlike;
 }
