@@ -11,6 +11,8 @@ namespace pawnfield {
 void PrintMedian(const std::string& name, std::vector<double> milliseconds);
 // The value that so many in 100 of them do not exceed; as a line under that name.
 void PrintPercentile(const std::string& name, std::vector<double> milliseconds, std::size_t percent);
+// Of 50, 95 and 99, under that name with "_95" and its like behind it.
+void PrintPercentiles(const std::string& name, const std::vector<double>& milliseconds);
 
 // Starts this program several times over as the show's program, and by turns as a plain window of the toolkit's. Takes
 // the times to their windows and what they hold at rest. False when a start failed.
@@ -29,6 +31,11 @@ bool MeasurePaints();
 // and the player of the clip: from the moment it was handed over, and from the poll that took it. False when one got
 // lost.
 bool MeasurePresses();
+
+// Phones, the host's page and strangers at the server of the pages, beside the real windows: touches until both screens
+// are painted, pairs of presses over a poor network, sixty idle pages, and wired presses beside an attack. Takes eight
+// minutes. False when a press or a page got lost.
+bool MeasurePages();
 
 // Fits a long question into both boxes with the desktop's own measurer, quickly and plainly.
 void MeasureFits();

@@ -20,9 +20,15 @@ void PrintPercentile(const std::string& name, std::vector<double> milliseconds, 
   PrintMedian(name, {milliseconds[milliseconds.size() * percent / 100]});
 }
 
+void PrintPercentiles(const std::string& name, const std::vector<double>& milliseconds) {
+  for (const std::size_t percent : {50, 95, 99}) {
+    PrintPercentile(name + "_" + std::to_string(percent), milliseconds, percent);
+  }
+}
+
 }  // namespace pawnfield
 
-// Usage: pawnfield_desktop_bench [MEASURE...], each of fits, paints, presses, sound, film,
+// Usage: pawnfield_desktop_bench [MEASURE...], each of fits, paints, presses, pages, sound, film,
 // standby and start; all without one.
 int main(int argc, char** argv) {
   QApplication application(argc, argv);
@@ -41,6 +47,7 @@ int main(int argc, char** argv) {
                                               }},
                                       {"paints", pawnfield::MeasurePaints},
                                       {"presses", pawnfield::MeasurePresses},
+                                      {"pages", pawnfield::MeasurePages},
                                       {"sound", pawnfield::MeasureSoundStart},
                                       {"film", pawnfield::MeasureFilm},
                                       {"standby", pawnfield::MeasureWakeUps},

@@ -3,6 +3,7 @@
 #include "controllers/pages_switch.h"
 #include "controllers/phone_presses.h"
 #include "controllers/phones.h"
+#include "controllers/show_control.h"
 #include "forms/main_form.h"
 #include "forms/pages_form.h"
 #include "platform/attach.h"
@@ -26,6 +27,7 @@ void AttachPages(Show& show) {
   form.btnClose.OnClick = [&form] { form.Unload(); };
   OnTimer(show, form.tmrPing, tmrPing_Timer);
   OnTimer(show, form.tmrWeigh, tmrWeigh_Timer);
+  OnTimer(show, form.tmrControl, tmrControl_Timer);
 }
 
 }  // namespace pawnfield

@@ -34,9 +34,21 @@ bool IsRefused(const Show& show, const std::string& address, std::int64_t nowUs)
   return found != show.pages->Guesses.end() && nowUs < found->second.RefusedUntilUs;
 }
 
+// Whoever has many addresses ends nobody's refusal by them: what is given up is what would end first.
+void KeepRoomForGuessers(std::map<std::string, WrongGuesses>& guesses, std::int64_t nowUs) {
+  std::erase_if(guesses, [nowUs](const auto& one) {
+    return nowUs >= one.second.RefusedUntilUs &&
+           (one.second.AtUs.empty() || nowUs - one.second.AtUs.back() > kMinuteUs);
+  });
+  if (guesses.size() < kMostGuessers) return;
+  guesses.erase(std::min_element(guesses.begin(), guesses.end(), [](const auto& one, const auto& other) {
+    return one.second.RefusedUntilUs < other.second.RefusedUntilUs;
+  }));
+}
+
 void CountWrongGuess(Show& show, const std::string& address, std::int64_t nowUs) {
   auto& guesses = show.pages->Guesses;
-  if (guesses.size() >= kMostGuessers) guesses.clear();
+  if (guesses.count(address) == 0) KeepRoomForGuessers(guesses, nowUs);
   WrongGuesses& wrong = guesses[address];
   std::erase_if(wrong.AtUs, [&](std::int64_t at) { return nowUs - at > kMinuteUs; });
   wrong.AtUs.push_back(nowUs);

@@ -3,13 +3,17 @@
 #include <algorithm>
 #include <array>
 #include <cctype>
+#include <utility>
 
 #include "controllers/ring_in.h"
 #include "data/players.h"
+#include "engine/safe_click.h"
 #include "forms/main_form.h"
+#include "forms/pages_form.h"
 #include "media/media_on_demand.h"
 #include "media/sound_table.h"
 #include "platform/text.h"
+#include "show/page_state.h"
 #include "show/phase.h"
 #include "show/show.h"
 
@@ -20,16 +24,24 @@ namespace {
 ControlAnswer NotNow(const std::string& why) { return {409, why}; }
 
 // The control's name in words, for an answer.
-ControlAnswer ClickButton(Button& button, const std::string& what) {
-  if (!button.IsReachable()) return NotNow(what + " is not offered now.");
-  button.Click();
+ControlAnswer ClickButton(Show& show, Button& button, const std::string& what) {
+  if (!ClickSafely(show, button)) return NotNow(what + " is not offered now.");
   return {};
+}
+
+// What would wipe a game is the operator's: the console asks, in an event of its own, as the device is to have its
+// answer.
+ControlAnswer AskOperator(Show& show, Button& button, const std::string& what) {
+  if (!button.IsReachable()) return NotNow(what + " is not offered now.");
+  show.pages->AskedFor = &button;
+  show.frmPages.tmrControl.Enabled = true;
+  return {202, "The console asks its operator."};
 }
 
 // Nobody has the turn, or no question waits: the console's buttons do nothing then, and say so in the status line.
 ControlAnswer Judge(Show& show, Button& button, const std::string& what) {
   if (!IsPhase(show, PhaseKind::Answering)) return NotNow("Nobody has to be judged now.");
-  return ClickButton(button, what);
+  return ClickButton(show, button, what);
 }
 
 ControlAnswer Correct(Show& show, const std::string&) {
@@ -38,11 +50,17 @@ ControlAnswer Correct(Show& show, const std::string&) {
 ControlAnswer Incorrect(Show& show, const std::string&) {
   return Judge(show, show.frmMain.btnQuestionIncorrect, "Incorrect");
 }
-ControlAnswer Continue(Show& show, const std::string&) { return ClickButton(show.frmMain.btnContinue, "Continue"); }
-ControlAnswer Skip(Show& show, const std::string&) { return ClickButton(show.frmMain.btnSkipQuestion, "Skip"); }
-ControlAnswer Undo(Show& show, const std::string&) { return ClickButton(show.frmMain.btnUndo, "Undo"); }
-ControlAnswer ShowBoard(Show& show, const std::string&) { return ClickButton(show.frmMain.btnPlayMode, "Show"); }
-ControlAnswer HideBoard(Show& show, const std::string&) { return ClickButton(show.frmMain.btnStandbyMode, "Hide"); }
+ControlAnswer Continue(Show& show, const std::string&) {
+  return ClickButton(show, show.frmMain.btnContinue, "Continue");
+}
+ControlAnswer Skip(Show& show, const std::string&) { return ClickButton(show, show.frmMain.btnSkipQuestion, "Skip"); }
+ControlAnswer Undo(Show& show, const std::string&) { return ClickButton(show, show.frmMain.btnUndo, "Undo"); }
+ControlAnswer ShowBoard(Show& show, const std::string&) { return ClickButton(show, show.frmMain.btnPlayMode, "Show"); }
+ControlAnswer HideBoard(Show& show, const std::string&) {
+  return ClickButton(show, show.frmMain.btnStandbyMode, "Hide");
+}
+ControlAnswer EndGame(Show& show, const std::string&) { return AskOperator(show, show.frmMain.btnEndGame, "End Game"); }
+ControlAnswer Reset(Show& show, const std::string&) { return AskOperator(show, show.frmMain.btnReset, "Reset"); }
 
 // "C2": the letter stands above a column and the digit beside a row.
 ControlAnswer Claim(Show& show, const std::string& square) {
@@ -67,7 +85,7 @@ ControlAnswer RingIn(Show& show, const std::string& number) {
   const int player = number.size() == 1 ? number[0] - '0' : 0;
   if (!Plays(show.state, player)) return {400, "There is no such player in this game."};
   if (!MayRingIn(show)) return NotNow("No question is open to all.");
-  return ClickButton(show.frmMain.btnSelectPlayer[PlayerIndex(player)], "Player " + number);
+  return ClickButton(show, show.frmMain.btnSelectPlayer[PlayerIndex(player)], "Player " + number);
 }
 
 ControlAnswer Media(Show& show, const std::string& key) {
@@ -93,6 +111,7 @@ constexpr std::array kCommands{
     Command{"undo", nullptr, Undo},         Command{"show", nullptr, ShowBoard},
     Command{"hide", nullptr, HideBoard},    Command{"claim", "square", Claim},
     Command{"ringin", "player", RingIn},    Command{"media", "key", Media},
+    Command{"endgame", nullptr, EndGame},   Command{"reset", nullptr, Reset},
 };
 
 }  // namespace
@@ -113,6 +132,11 @@ ControlAnswer RunControl(Show& show, const std::string& request) {
     return command.Run(show, rest.substr(name.size()));
   }
   return {404, "There is no control of that name."};
+}
+
+void tmrControl_Timer(Show& show) {
+  show.frmPages.tmrControl.Enabled = false;
+  if (Button* asked = std::exchange(show.pages->AskedFor, nullptr)) ClickSafely(show, *asked);
 }
 
 }  // namespace pawnfield

@@ -45,6 +45,8 @@ struct PagesForm : Form {
   // The exchanges of times with the phones, and the wait of the first press for those that may have been earlier.
   Timer tmrPing{*this, "tmrPing", 1000};
   Timer tmrWeigh{*this, "tmrWeigh", 1};
+  // What a control device wants of the operator is asked for behind the event that brought it.
+  Timer tmrControl{*this, "tmrControl", 1};
 };
 
 }  // namespace pawnfield

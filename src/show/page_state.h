@@ -15,6 +15,8 @@
 
 namespace pawnfield {
 
+class Button;
+
 // A player's seat, which a phone holds by its token.
 struct PhoneSeat {
   std::string Token;
@@ -69,6 +71,8 @@ struct PageState {
   // Presses that wait for those which may have been earlier.
   std::vector<PhonePress> Weighed;
   ToldGame Told;
+  // Of the console, what a control device wants its operator to be asked for; null for nothing.
+  Button* AskedFor = nullptr;
 };
 
 }  // namespace pawnfield

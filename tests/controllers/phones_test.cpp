@@ -155,6 +155,20 @@ TEST(Pages, AWrongPinIsRefusedAndFiveInAMinuteAreHeldOff) {
   EXPECT_THAT(says(right, "192.168.1.32"), HasSubstr("\"t\":\"seats\""));
 }
 
+TEST(Pages, ManyAddressesThatGuessEndNobodysRefusal) {
+  Room room;
+  const auto says = [&](const std::string& pin, const std::string& address) {
+    const std::uint64_t page = room.network.Connect("hello phone " + pin, {.Address = address});
+    room.Wait(2);
+    return room.Heard(page);
+  };
+  const std::string right = room.pages().Pin, wrong = right == "0000" ? "0001" : "0000";
+  for (int i = 0; i < 5; ++i) says(wrong, "10.0.0.1");
+  for (int i = 0; i < 600; ++i) says(wrong, "10.1." + std::to_string(i / 200) + "." + std::to_string(i % 200 + 1));
+  EXPECT_EQ(says(right, "10.0.0.1"), R"({"t":"no","why":"wait"})");
+  EXPECT_LE(room.pages().Guesses.size(), 256U);
+}
+
 TEST(Pages, WhoDoesNotBeginWithAHelloIsCutOff) {
   Room room;
   for (const char* words : {"press 1", "seat 1", "pong 1 1 1", "GET / HTTP/1.1", "hello phone"}) {
@@ -498,7 +512,8 @@ TEST(Control, RunsTheConsolesOwnControlsAndSaysWhyNot) {
                          {"", "ringin", "400 ringin needs player=..."},
                          {"", "ringin?square=A1", "400 ringin needs player=..."},
                          {"", "correct?player=1", "400 Nothing stands behind correct."},
-                         {"", "reset", "404 There is no control of that name."},
+                         {"", "restart", "404 There is no control of that name."},
+                         {"phase open", "reset?x", "400 Nothing stands behind reset."},
                          {"", "", "404 There is no control of that name."},
                          {"phase open", "ringin?player=2", "200 Done."},
                          {"turn 2", "ringin?player=1", "409 No question is open to all."},
@@ -527,6 +542,33 @@ TEST(Control, RunsTheConsolesOwnControlsAndSaysWhyNot) {
     EXPECT_EQ(room.network.Ask("continue", token), "409 The console waits for its operator.");
   });
   room.form().mnuFileExit.Click();
+}
+
+// What would wipe a game goes through the gate of whatever is no hand: the console asks, and "no" is the safe answer.
+TEST(Control, ResetAndEndGameAreAskedForAtTheConsole) {
+  for (const std::string request : {"reset", "endgame"}) {
+    SCOPED_TRACE(request);
+    Room room;
+    room.show().frmPages.btnSwitch.Click();
+    room.show().frmPages.chkControl.Click();
+    room.show().frmPages.btnSwitch.Click();
+    const std::string token = room.pages().ControlToken;
+    const bool reset = request == "reset";
+    const std::string question =
+        reset ? "Reset the game? Its squares and scores are lost." : "End the game and name the winner?";
+    room.Steps("player 1 rings in, correct, claim A1");
+    for (const BoxAnswer answer : {BoxAnswer::No, BoxAnswer::Yes}) {
+      room.fixture().sim.dialogs.ExpectMessage(question, answer, [&] {
+        EXPECT_EQ(room.network.Ask(request, token), "409 The console waits for its operator.");
+      });
+      EXPECT_EQ(room.network.Ask(request, token), "202 The console asks its operator.");
+      room.Steps("scores 50/0/0, board 100/000/000");
+      room.Wait(10);
+      if (answer == BoxAnswer::No) room.Steps("scores 50/0/0, board 100/000/000");
+    }
+    EXPECT_EQ(room.show().state.GameInProgress, false);
+    EXPECT_EQ(room.network.Ask("endgame", token), "409 End Game is not offered now.");
+  }
 }
 
 TEST(Control, DevicesHearNumbersAndStates) {

@@ -6,14 +6,19 @@
 #include <gmock/gmock.h>
 #include <netinet/tcp.h>
 #include <poll.h>
+#include <sched.h>
 #include <sys/socket.h>
 #include <unistd.h>
 
 #include <atomic>
 #include <chrono>
 #include <condition_variable>
-#include <fstream>
+#include <cstdlib>
+#include <functional>
+#include <memory>
 #include <mutex>
+#include <optional>
+#include <stdexcept>
 #include <thread>
 
 #include "desktop/pages/osc_text.h"
@@ -26,14 +31,13 @@ using testing::HasSubstr;
 using testing::Not;
 using testing::StartsWith;
 
-// A socket of somebody on this machine, from an address of his own below 127.0.0.
+// A socket of somebody, by default on this machine, from an address of his own below 127.0.0.
 class Caller {
  public:
-  explicit Caller(int port, const std::string& from = "127.0.0.1", int type = SOCK_STREAM)
-      : socket_(socket(AF_INET, type, 0)) {
-    const sockaddr_in own = Address(from, 0), to = Address("127.0.0.1", port);
-    if (bind(socket_, reinterpret_cast<const sockaddr*>(&own), sizeof own) != 0) return;
-    connected_ = connect(socket_, reinterpret_cast<const sockaddr*>(&to), sizeof to) == 0;
+  explicit Caller(int port, const std::string& from = "127.0.0.1", int type = SOCK_STREAM,
+                  const std::string& to = "127.0.0.1")
+      : socket_(socket(to.find(':') == std::string::npos ? AF_INET : AF_INET6, type, 0)) {
+    connected_ = With(from, 0, bind) && With(to, port, connect);
   }
   ~Caller() { close(socket_); }
   Caller(const Caller&) = delete;
@@ -63,12 +67,19 @@ class Caller {
   }
 
  private:
-  static sockaddr_in Address(const std::string& host, int port) {
-    sockaddr_in address{};
-    address.sin_family = AF_INET;
-    address.sin_port = htons(static_cast<std::uint16_t>(port));
-    inet_pton(AF_INET, host.c_str(), &address.sin_addr);
-    return address;
+  using Use = int (*)(int, const sockaddr*, socklen_t);
+  bool With(const std::string& host, int port, Use use) const {
+    sockaddr_in old{};
+    old.sin_family = AF_INET;
+    old.sin_port = htons(static_cast<std::uint16_t>(port));
+    if (inet_pton(AF_INET, host.c_str(), &old.sin_addr) == 1) {
+      return use(socket_, reinterpret_cast<const sockaddr*>(&old), sizeof old) == 0;
+    }
+    sockaddr_in6 newer{};
+    newer.sin6_family = AF_INET6;
+    newer.sin6_port = old.sin_port;
+    return inet_pton(AF_INET6, host.c_str(), &newer.sin6_addr) == 1 &&
+           use(socket_, reinterpret_cast<const sockaddr*>(&newer), sizeof newer) == 0;
   }
   int socket_;
   bool connected_ = false, closed_ = false;
@@ -96,6 +107,7 @@ class Server : public testing::Test {
   }
 
   void Take(PageEvent event) {
+    if (faulty_) throw std::runtime_error("a fault of ours");
     const std::scoped_lock lock(mutex_);
     events_.push_back(std::move(event));
     came_.notify_all();
@@ -143,6 +155,8 @@ class Server : public testing::Test {
   std::condition_variable came_;
   std::vector<PageEvent> events_;
   int port_ = 0;
+  // What is handed an event fails.
+  std::atomic<bool> faulty_ = false;
   PageServer server_;
 };
 
@@ -335,12 +349,39 @@ TEST_F(Server, ControlIsClosedUntilItIsOpenedAndAskedForWithItsToken) {
   EXPECT_THAT(answer, HasSubstr("No square may be taken now."));
 }
 
+TEST_F(Server, AControlThatNobodyAnswersIsNotKept) {
+  Reopen({.Address = "127.0.0.1", .Control = true});
+  Caller box(port_);
+  box.Write("POST /control/skip HTTP/1.1\r\nHost: " + Host() + "\r\nContent-Length: 0\r\n\r\n");
+  const std::optional<PageEvent> asked = Next(PageEventKind::Control);
+  ASSERT_TRUE(asked);
+  EXPECT_THAT(box.ReadAll((kFirstWordSeconds + 2) * 1000), StartsWith("HTTP/1.1 503"));
+  server_.Answer(asked->Page, 200, "Too late.");
+  EXPECT_THAT(Asked(Get("/")), StartsWith("HTTP/1.1 200"));
+}
+
+TEST_F(Server, AFaultInItsThreadEndsNothing) {
+  const std::unique_ptr<Caller> before = Linked();
+  ASSERT_TRUE(Next(PageEventKind::Opened));
+  faulty_ = true;
+  const std::unique_ptr<Caller> amid = Linked();
+  before->Write(Frame("hello scores"));
+  EXPECT_FALSE(Next(PageEventKind::Message, 100));
+  faulty_ = false;
+  EXPECT_THAT(Asked(Get("/")), StartsWith("HTTP/1.1 200"));
+  const std::unique_ptr<Caller> after = Linked();
+  ASSERT_TRUE(Next(PageEventKind::Opened));
+  after->Write(Frame("hello scores"));
+  EXPECT_TRUE(Next(PageEventKind::Message));
+}
+
 TEST_F(Server, OscIsTakenFromListedAddressesAlone) {
   constexpr int kOsc = 18474;
   Reopen({.Address = "127.0.0.1",
           .Control = true,
           .ControlPort = kOsc,
-          .ControlAddresses = {"127.0.0.5", "127.0.0.6:9999", "8.8.8.8", "nonsense", "127.0.0.7:0"}});
+          .ControlAddresses = {"127.0.0.5", "127.0.0.6:9999", "8.8.8.8", "nonsense", "127.0.0.7:0", "fd00::9",
+                               "[fd00::9]:1", "[", "[]:", "::", "]"}});
   // The packet of a lighting desk, as the format writes it: address, types, token, square.
   const std::string claim("/pawnfield/claim\0\0\0\0,ss\0secret\0\0C2\0\0", 36);
   Caller stranger(kOsc, "127.0.0.7", SOCK_DGRAM), desk(kOsc, "127.0.0.5", SOCK_DGRAM);
@@ -362,6 +403,90 @@ TEST_F(Server, OscIsTakenFromListedAddressesAlone) {
                                      36));
   EXPECT_EQ(WriteOsc({"/pawnfield/score", {2, 250}}),
             std::string("/pawnfield/score\0\0\0\0,ii\0\0\0\0\x02\0\0\0\xFA", 32));
+}
+
+TEST_F(Server, AnswersOnTheNewerKindOfAddress) {
+  Reopen({.Address = "::1"});
+  const std::string host = "[::1]:" + std::to_string(port_);
+  Caller page(port_, "::1", SOCK_STREAM, "::1"), other(port_, "::1", SOCK_STREAM, "::1");
+  page.Write("GET / HTTP/1.1\r\nHost: " + host + "\r\n\r\n");
+  EXPECT_THAT(page.ReadAll(), StartsWith("HTTP/1.1 200"));
+  other.Write("GET / HTTP/1.1\r\nHost: evil.example\r\n\r\n");
+  EXPECT_THAT(other.ReadAll(), StartsWith("HTTP/1.1 403"));
+  EXPECT_FALSE(Caller(port_).Connected()) << "the other kind, which wasn't chosen";
+}
+
+// Two machines of a room, each a network of its own, with a cable between them: the show's at 10.77.0.1, and a guest
+// who has an address of the room and one of the internet.
+class TwoMachines {
+ public:
+  TwoMachines() {
+    Stands = Ip("netns add pawnfield-show") && Ip("netns add pawnfield-guest") &&
+             Ip("-n pawnfield-show link add cable0 type veth peer name cable1 netns pawnfield-guest") &&
+             Ip("-n pawnfield-show addr add 10.77.0.1/24 dev cable0") &&
+             Ip("-n pawnfield-show addr add 10.77.0.3/24 dev cable0") &&
+             Ip("-n pawnfield-show addr add fd77::1/64 dev cable0 nodad") &&
+             Ip("-n pawnfield-guest addr add 10.77.0.2/24 dev cable1") &&
+             Ip("-n pawnfield-guest addr add 203.0.113.9/24 dev cable1") &&
+             Ip("-n pawnfield-guest addr add fd77::2/64 dev cable1 nodad") &&
+             Ip("-n pawnfield-show link set cable0 up") && Ip("-n pawnfield-guest link set cable1 up") &&
+             Ip("-n pawnfield-show route add 203.0.113.0/24 dev cable0");
+  }
+  ~TwoMachines() {
+    Ip("netns del pawnfield-show");
+    Ip("netns del pawnfield-guest");
+  }
+  TwoMachines(const TwoMachines&) = delete;
+  TwoMachines& operator=(const TwoMachines&) = delete;
+
+  // What is made meanwhile, sockets and threads, belongs to that machine.
+  static void On(const std::string& machine, const std::function<void()>& work) {
+    std::thread([&] {
+      const int network = open(("/run/netns/pawnfield-" + machine).c_str(), O_RDONLY);
+      EXPECT_EQ(setns(network, CLONE_NEWNET), 0);
+      close(network);
+      work();
+    }).join();
+  }
+
+  bool Stands = false;
+
+ private:
+  static bool Ip(const std::string& words) { return std::system(("ip " + words + " 2>/dev/null").c_str()) == 0; }
+};
+
+TEST_F(Server, IsReachedOverTheNetworkByTheRoomAndByNobodyElse) {
+  const TwoMachines machines;
+  if (!machines.Stands) GTEST_SKIP() << "networks of their own need root and a kernel that has them";
+  const auto answer = [this](const std::string& address, const std::string& from) {
+    const bool newer = address.find(':') != std::string::npos;
+    std::string heard;
+    TwoMachines::On("guest", [&] {
+      Caller guest(port_, from, SOCK_STREAM, address);
+      guest.Write("GET / HTTP/1.1\r\nHost: " + (newer ? "[" + address + "]" : address) + ":" + std::to_string(port_) +
+                  "\r\n\r\n");
+      heard = guest.Connected() ? guest.ReadAll().substr(0, 12) : "unreached";
+    });
+    return heard;
+  };
+  TwoMachines::On("show", [this] { Reopen({.Address = "10.77.0.1"}); });
+  EXPECT_EQ(answer("10.77.0.1", "10.77.0.2"), "HTTP/1.1 200");
+  EXPECT_EQ(answer("10.77.0.1", "203.0.113.9"), "") << "an address of the internet";
+  EXPECT_EQ(answer("10.77.0.3", "10.77.0.2"), "unreached") << "an interface that wasn't chosen";
+  TwoMachines::On("guest", [this] {
+    Caller phone(port_, "10.77.0.2", SOCK_STREAM, "10.77.0.1");
+    const std::string host = "10.77.0.1:" + std::to_string(port_);
+    phone.Write("GET /link HTTP/1.1\r\nHost: " + host + "\r\nOrigin: http://" + host +
+                "\r\nUpgrade: websocket\r\nConnection: Upgrade\r\nSec-WebSocket-Version: 13\r\n"
+                "Sec-WebSocket-Key: dGhlIHNhbXBsZSBub25jZQ==\r\n\r\n");
+    EXPECT_THAT(phone.Read(), StartsWith("HTTP/1.1 101"));
+    phone.Write(Frame("hello scores"));
+    const std::optional<PageEvent> said = Next(PageEventKind::Message);
+    ASSERT_TRUE(said);
+    EXPECT_EQ(said->Address, "10.77.0.2");
+  });
+  TwoMachines::On("show", [this] { Reopen({.Address = "fd77::1"}); });
+  EXPECT_EQ(answer("fd77::1", "fd77::2"), "HTTP/1.1 200");
 }
 
 TEST_F(Server, NothingListensOnceItIsClosed) {

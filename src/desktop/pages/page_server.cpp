@@ -211,10 +211,12 @@ class Link : public std::enable_shared_from_this<Link> {
 class Visit : public std::enable_shared_from_this<Visit> {
  public:
   Visit(Hub& hub, Tcp::socket&& socket, std::unique_ptr<Place> place)
-      : hub_(hub), place_(std::move(place)), stream_(std::move(socket)) {}
+      : hub_(hub), place_(std::move(place)), stream_(std::move(socket)), patience_(stream_.get_executor()) {}
 
   std::function<void(beast::tcp_stream&&, std::unique_ptr<Place>, Request&&)> OnLink;
   std::function<void(std::uint64_t, std::shared_ptr<Visit>)> OnControl;
+  // The program hasn't answered in time.
+  std::function<void(std::uint64_t)> OnPatienceEnds;
 
   void Begin() {
     parser_.header_limit(kHeaderBytes);
@@ -226,6 +228,7 @@ class Visit : public std::enable_shared_from_this<Visit> {
   }
 
   void Reply(http::status status, const std::string& type, std::string body, bool head = false) {
+    patience_.cancel();
     response_ = Response(status, 11);
     response_.set(http::field::content_type, type);
     response_.set(http::field::cache_control, "no-store");
@@ -280,14 +283,19 @@ class Visit : public std::enable_shared_from_this<Visit> {
     }
     const std::uint64_t number = hub_.NextNumber();
     const std::string token(request["X-Pawnfield-Token"]);
-    stream_.expires_after(std::chrono::seconds(kFirstWordSeconds));
     OnControl(number, shared_from_this());
+    // A program that is busy for so long, or whose events were too many, gives the place free again.
+    patience_.expires_after(std::chrono::seconds(kFirstWordSeconds));
+    patience_.async_wait([self = shared_from_this(), number](const Error& error) {
+      if (!error) self->OnPatienceEnds(number);
+    });
     hub_.Deliver({PageEventKind::Control, number, place_->Address(), what, token, PageServer::NowUs()});
   }
 
   Hub& hub_;
   std::unique_ptr<Place> place_;
   beast::tcp_stream stream_;
+  asio::steady_timer patience_;
   beast::flat_buffer buffer_{kHeaderBytes + kBodyBytes};
   http::request_parser<http::string_body> parser_;
   Response response_;
@@ -315,13 +323,19 @@ class OscDoor {
   }
 
  private:
-  // "192.168.1.9" or, with a port of its own for what goes out, "192.168.1.9:9000". What is neither is passed over.
+  // "192.168.1.9", "fd00::9" or, with a port of its own for what goes out, "192.168.1.9:9000", "[fd00::9]:9000". What
+  // is none of these is passed over.
   void List(const std::string& text) {
     constexpr unsigned short kUsualPort = 8475;
-    const std::size_t colon = text.rfind(':');
+    const bool bracketed = text.starts_with('[') && text.find(']') != std::string::npos;
+    std::size_t colon = bracketed ? text.find(']') + 1 : text.find(':');
+    // Several colons are an address of the newer kind, without a port.
+    if (!bracketed && text.find(':', colon + 1) != std::string::npos) colon = std::string::npos;
+    const std::string host = text.substr(0, colon);
     Error error;
-    const auto address = asio::ip::make_address(text.substr(0, colon), error);
-    const int port = colon == std::string::npos ? kUsualPort : std::atoi(text.c_str() + colon + 1);
+    const auto address = asio::ip::make_address(bracketed ? host.substr(1, host.size() - 2) : host, error);
+    const bool hasPort = colon < text.size();
+    const int port = hasPort ? std::atoi(text.c_str() + colon + 1) : kUsualPort;
     if (!error && IsLocal(address) && port > 0 && port < 65536) {
       listed_.emplace_back(address, static_cast<unsigned short>(port));
     }
@@ -479,6 +493,7 @@ class PageServer::Running : public Hub {
       if (asked_.size() >= kMostConnections) asked_.clear();
       asked_[number] = std::move(asking);
     };
+    visit->OnPatienceEnds = [this](std::uint64_t number) { Answer(number, 503, "The program is busy."); };
     visit->Begin();
   }
 

@@ -39,12 +39,16 @@ std::map<std::string, PageFile> ServedFiles() {
 QtPages::QtPages() : server_(ServedFiles(), [this](PageEvent event) { Take(std::move(event)); }) {}
 
 std::vector<std::string> QtPages::Addresses() const {
-  std::vector<std::string> addresses;
+  std::vector<std::string> addresses, newer;
   for (const QHostAddress& address : QNetworkInterface::allAddresses()) {
-    if (address.protocol() != QAbstractSocket::IPv4Protocol) continue;
+    const bool old = address.protocol() == QAbstractSocket::IPv4Protocol;
+    // A browser opens no link-local address of the newer kind: it would need the name of the phone's own interface.
+    if (!old && address.isLinkLocal()) continue;
     std::string text = address.toString().toStdString();
-    if (IsLocalAddress(text)) addresses.push_back(std::move(text));
+    if (IsLocalAddress(text)) (old ? addresses : newer).push_back(std::move(text));
   }
+  // What every phone reaches stands first.
+  addresses.insert(addresses.end(), newer.begin(), newer.end());
   return addresses;
 }
 
