@@ -5,6 +5,7 @@ open NAME URL WIDTH HEIGHT    a window of that size with touch, whose storage is
 pin NAME DIGITS               types the PIN and sends the form
 seat NAME N                   taps the seat
 press NAME                    touches the middle of the button
+resize NAME WIDTH HEIGHT      turns the phone, or puts the page on a larger one
 look NAME                     what the page shows, as JSON
 picture NAME FILE             saves what it shows as PNG
 """
@@ -21,7 +22,13 @@ OWN_STORAGE = "Object.defineProperty(window, 'localStorage', { get: () => window
 LOOK = """
 const text = id => { const e = document.getElementById(id); return e ? e.textContent : ''; };
 const shown = id => { const e = document.getElementById(id); return !!e && !e.hidden; };
-return { state: document.body.className, join: shown('join'), note: text('joinNote'), seats: shown('seats'),
+// A part that is shown reaches beyond the screen, or its text beyond it.
+const cut = id => { const e = document.getElementById(id); if (!e || !e.offsetParent) return false;
+  const r = e.getBoundingClientRect();
+  return r.bottom > window.innerHeight + 1 || r.right > window.innerWidth + 1 || e.scrollHeight > e.clientHeight + 8 &&
+    e.clientHeight > 0 && id === 'buzzer'; };
+return { title: document.title, images: document.images.length, cut: ['name', 'buzzer', 'word', 'line'].filter(cut).join(),
+  state: document.body.className, join: shown('join'), note: text('joinNote'), seats: shown('seats'),
   name: text('name'), word: text('word'), line: text('line'), question: text('question'), answer: text('answer'),
   floor: text('floor'), order: text('order'), players: text('players'), winner: text('winner'),
   wide: document.documentElement.scrollWidth > window.innerWidth };
@@ -47,12 +54,16 @@ class Browser:
         self.windows[name] = self.driver.current_window_handle
         command = self.driver.execute_cdp_cmd
         command("Page.addScriptToEvaluateOnNewDocument", {"source": OWN_STORAGE})
-        command("Emulation.setDeviceMetricsOverride", {"width": int(width), "height": int(height),
-                                                       "deviceScaleFactor": 2, "mobile": True})
+        self.resize(name, width, height)
         command("Emulation.setTouchEmulationEnabled", {"enabled": True})
         if url.endswith("/scores"):
             command("Emulation.setDefaultBackgroundColorOverride", {"color": {"r": 0, "g": 90, "b": 60, "a": 1}})
         self.driver.get(url)
+
+    def resize(self, name, width, height):
+        self.to(name)
+        size = {"width": int(width), "height": int(height), "deviceScaleFactor": 2, "mobile": True}
+        self.driver.execute_cdp_cmd("Emulation.setDeviceMetricsOverride", size)
 
     def pin(self, name, digits):
         self.to(name)

@@ -1,6 +1,6 @@
 // Three phones, the host's page and the scores in a real browser, on the real program in its windows: a game from the
-// PIN to the winner, with a restart of the program amid it. Skips where no browser is installed. With
-// PAWNFIELD_PICTURES set to a folder, each page is saved there in each state.
+// PIN to the winner, with a network that is lost and a program that dies amid it. Skips where no browser is installed.
+// With PAWNFIELD_PICTURES set to a folder, each page is saved there in each state and size.
 #include <QJsonDocument>
 #include <QJsonObject>
 #include <QProcess>
@@ -57,10 +57,21 @@ class PhonesInBrowser : public ShowSuite {
                   << "\"";
     return false;
   }
+  // On small and large phones and on a tablet, upright and on its side, nothing is cut.
   void Picture(const QString& page, const QString& name) {
-    EXPECT_FALSE(Look(page)["wide"].toBool()) << name.toStdString() << " is wider than its screen";
     const QString folder = qEnvironmentVariable("PAWNFIELD_PICTURES");
-    if (!folder.isEmpty()) Do("picture " + page + " " + folder + "/" + name + ".png");
+    for (const char* size : {"360 640", "390 844", "820 1180", "640 360", "1180 820"}) {
+      Do("resize " + page + " " + size);
+      const QJsonObject look = Look(page);
+      EXPECT_FALSE(look["wide"].toBool()) << name.toStdString() << " is wider than " << size;
+      EXPECT_EQ(look["cut"].toString().toStdString(), "") << name.toStdString() << " at " << size;
+      if (!folder.isEmpty())
+        Do("picture " + page + " " + folder + "/" + name + "-" + QString(size).replace(' ', 'x') + ".png");
+    }
+  }
+  void PictureOfScores(const QString& name) {
+    const QString folder = qEnvironmentVariable("PAWNFIELD_PICTURES");
+    if (!folder.isEmpty()) Do("picture scores " + folder + "/" + name + ".png");
   }
   static QString Text(const Label& label) { return QString::fromStdString(label.Caption); }
   static PagesForm& Form() { return TheShow().frmPages; }
@@ -68,7 +79,12 @@ class PhonesInBrowser : public ShowSuite {
 
   void Join(const QString& phone, int seat, int width, int height) {
     Do(QString("open %1 %2 %3 %4").arg(phone, Text(Form().lblPhonesAddress)).arg(width).arg(height));
-    if (seat == 1) Picture(phone, "phone-pin");
+    if (seat == 1) {
+      Picture(phone, "phone-pin");
+      Do("pin " + phone + (Text(Form().lblPin) == "0000" ? " 0001" : " 0000"));
+      EXPECT_TRUE(Shows(phone, "note", "That PIN is wrong."));
+      Picture(phone, "phone-pin-wrong");
+    }
     Do("pin " + phone + " " + Text(Form().lblPin));
     EXPECT_TRUE(Shows(phone, "seats", "true"));
     if (seat == 2) Picture(phone, "phone-seats");
@@ -80,13 +96,30 @@ class PhonesInBrowser : public ShowSuite {
            Wait([] { return !Main().tmrAnswer.Enabled.Get(); });
   }
 
+  // The program ends as by a power cut, and the next one offers the show, which the driver takes.
+  static bool DieAndComeBack() {
+    delete driver_;
+    driver_ = new ShowDriver(folder_->path());
+    return driver_->Start() && Wait([] { return TheShow().pages->On; }, 20000);
+  }
+  // The console's RING-IN ORDER, row by row, as the host's page has it.
+  static QString OrderAtConsole() {
+    QStringList rows;
+    for (const ListView::Row& row : Main().lstRingInOrder.ListItems.Get()) {
+      const QString when = row[0] == "1" ? QString() : " " + QString::fromLatin1(row[2]);
+      rows.append(QString::fromLatin1(row[0] + " " + row[1]) + when);
+    }
+    return rows.join("   ");
+  }
+
   // The system's own, for which the driver's library is installed.
   static constexpr const char* kPython = "/usr/bin/python3";
   QProcess browser_;
 };
 
 TEST_F(PhonesInBrowser, PlayAGameOnRealWindows) {
-  const char* const names[] = {"ANNA", "BEN", "CHLOE"};
+  // A name and a set with markup in them stay the texts they are.
+  const char* const names[] = {"ANNA", "BEN <i>", "CHLOE"};
   ASSERT_TRUE(Press({"optGameType_4"}));
   ASSERT_TRUE(Wait([] { return Main().optGridControl[0].IsShown(); }));
   ASSERT_TRUE(Press({"optGridControl_0"}));
@@ -95,6 +128,9 @@ TEST_F(PhonesInBrowser, PlayAGameOnRealWindows) {
   ASSERT_TRUE(Wait([] { return Main().btnStart.Enabled.Get(); }));
   // The choice of a type and of a set gives the players their numbers again.
   for (std::size_t i = 0; i < kPlayers; ++i) Main().lblPlayer1[i].Caption = names[i];
+  TheShow().GameSet[0].QuestionText =
+      "Which <b>planet</b> is the largest? <img src=x onerror=\"document.title='taken'\">";
+  TheShow().GameSet[0].AnswerText = "<script>document.title='taken'</script> Jupiter";
   Main().mnuFilePages.Click();
   Form().cboAddress.Select(
       static_cast<int>(std::find(Form().cboAddress.List->begin(), Form().cboAddress.List->end(), "127.0.0.1") -
@@ -109,25 +145,37 @@ TEST_F(PhonesInBrowser, PlayAGameOnRealWindows) {
   Do("pin host " + Text(Form().lblHostPin));
   Do("open scores " + Text(Form().lblScoresAddress) + " 1920 1080");
   EXPECT_TRUE(Shows("ben", "word", "WAIT"));
+  Picture("ben", "phone-wait");
+  Picture("host", "host-before-the-game");
   ASSERT_TRUE(Press({"btnStart"}));
   for (const char* phone : {"anna", "ben", "chloe"}) EXPECT_TRUE(Shows(phone, "word", "PRESS"));
   for (const char* phone : {"anna", "ben", "chloe"}) Picture(phone, QString("phone-ready-") + phone);
   driver_->Pause(3000);
 
+  // The others are locked out, and learn by how much; the console, the host and the phones say the same.
   Do("press ben");
   ASSERT_TRUE(Wait([] { return Turn() == 2; }));
   Do("press anna");
+  Do("press chloe");
   EXPECT_TRUE(Shows("ben", "word", "YOU"));
+  EXPECT_TRUE(Shows("chloe", "line", "has the floor; you were"));
+  EXPECT_EQ(Turn(), 2);
+  EXPECT_EQ(Main().lstRingInOrder.ListItems->size(), kPlayers);
+  EXPECT_TRUE(Shows("host", "order", OrderAtConsole()));
   EXPECT_TRUE(Shows("anna", "word", "BEN"));
   EXPECT_TRUE(Shows("anna", "line", "has the floor; you were"));
-  EXPECT_TRUE(Shows("host", "floor", "BEN answers"));
+  EXPECT_TRUE(Shows("host", "floor", "BEN <i> answers"));
   EXPECT_TRUE(Shows("host", "order", "2 ANNA +"));
-  EXPECT_FALSE(Look("host")["answer"].toString().isEmpty());
+  EXPECT_TRUE(Shows("host", "answer", "<script>document.title='taken'</script> Jupiter"));
+  EXPECT_TRUE(Shows("host", "question", "<b>planet</b>"));
+  for (const char* page : {"host", "anna", "ben", "scores"}) {
+    EXPECT_EQ(Look(page)["images"].toInt(), 0) << page;
+    EXPECT_TRUE(Look(page)["title"].toString().startsWith("Pawnfield")) << page;
+  }
   Picture("ben", "phone-floor");
   Picture("anna", "phone-other");
-  Picture("chloe", "phone-other-landscape");
   Picture("host", "host");
-  Picture("scores", "scores");
+  PictureOfScores("scores");
   if (const QString folder = qEnvironmentVariable("PAWNFIELD_PICTURES"); !folder.isEmpty()) {
     driver_->Form("frmPages")->grab().save(folder + "/pages.png");
   }
@@ -137,6 +185,7 @@ TEST_F(PhonesInBrowser, PlayAGameOnRealWindows) {
   ASSERT_TRUE(Wait([] { return Turn() == 1; }));
   ASSERT_TRUE(Press({"btnQuestionCorrect"}));
   EXPECT_TRUE(Shows("anna", "line", "take a square"));
+  Picture("anna", "phone-claim");
   ASSERT_TRUE(Take(0, 0));
   EXPECT_TRUE(Shows("scores", "players", "ANNA50"));
 
@@ -151,6 +200,7 @@ TEST_F(PhonesInBrowser, PlayAGameOnRealWindows) {
   TheShow().platform.webPages.Close();
   for (const char* phone : {"anna", "ben", "chloe"}) EXPECT_TRUE(Shows(phone, "word", "LOST"));
   Picture("ben", "phone-lost");
+  Picture("host", "host-lost");
   TheShow().pages->Pages.clear();
   ASSERT_EQ(TheShow().platform.webPages.Open(place), place.Port);
   for (const char* phone : {"anna", "ben", "chloe"}) EXPECT_TRUE(Shows(phone, "word", "WAIT"));
@@ -161,6 +211,19 @@ TEST_F(PhonesInBrowser, PlayAGameOnRealWindows) {
     ASSERT_TRUE(Press({"btnContinue"}));
     const int player = square % 3;
     EXPECT_TRUE(Shows(phones[player], "word", "PRESS"));
+    if (square == 4) {
+      const std::string pin = TheShow().pages->Pin, board = Main().Score(1).Caption;
+      ASSERT_TRUE(DieAndComeBack());
+      EXPECT_TRUE(driver_->BoxTexts().join('\n').contains("A show was interrupted at"));
+      EXPECT_EQ(TheShow().pages->Pin, pin);
+      EXPECT_EQ(Main().Score(1).Caption.Get(), board);
+      // Each is in its seat again, by itself, while the room sees standby.
+      for (const char* phone : phones) EXPECT_TRUE(Shows(phone, "word", "WAIT"));
+      EXPECT_TRUE(Shows("ben", "name", "BEN <i>"));
+      EXPECT_TRUE(Shows("host", "answer", QString::fromLatin1(TheShow().GameSet[4].AnswerText).trimmed()));
+      ASSERT_TRUE(Press({"btnPlayMode"}));
+      EXPECT_TRUE(Shows(phones[player], "word", "PRESS"));
+    }
     Do(QString("press ") + phones[player]);
     ASSERT_TRUE(Wait([player] { return Turn() == player + 1; })) << "square " << square;
     ASSERT_TRUE(Press({"btnQuestionCorrect"}));
@@ -171,7 +234,10 @@ TEST_F(PhonesInBrowser, PlayAGameOnRealWindows) {
   }
   ASSERT_TRUE(Wait([] { return IsPhase(TheShow(), PhaseKind::Winner); }));
   EXPECT_TRUE(Shows("scores", "winner", "Game Over!"));
-  Picture("scores", "scores-winner");
+  PictureOfScores("scores-winner");
+  EXPECT_TRUE(Shows("chloe", "word", "GAME OVER"));
+  Picture("chloe", "phone-over");
+  Picture("host", "host-winner");
   Form().btnSwitch.Click();
   Form().btnClose.Click();
 }
