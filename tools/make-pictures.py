@@ -256,7 +256,6 @@ def sound_panel():
             ImageDraw.Draw(wave).ellipse((x - 23, y - 23, x + 23, y + 23), fill=255)
         glow(image, GOLD, wave, 26, 0.45 * share)
         paint(image, GOLD, wave, share)
-    frame(image, "#3B5690")
     return finish(image, (1024, 576))
 
 
@@ -308,7 +307,6 @@ def cover():
     title(image, (1024, 215), "?", font("black", 290), "#FFE9B8", "#E39C22", 0, GOLD)
     # The name and the question stand in the middle.
     paint(image, "#0A0F1C", rounded_mask(size, (-40, 380, 2088, 790), 0).filter(ImageFilter.GaussianBlur(50)), 0.7)
-    frame(image, GOLD, share=0.55)
     return finish(image, (1024, 576))
 
 

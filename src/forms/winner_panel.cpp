@@ -11,7 +11,7 @@ constexpr double kHeadTop = 0.07, kHeadHeight = 0.10;
 constexpr double kNamesTop = 0.18, kNamesHeight = 0.40;
 constexpr double kWordTop = 0.59, kWordHeight = 0.14;
 constexpr double kCardTop = 0.79, kCardHeight = 0.13;
-constexpr double kCardWidth = 0.29, kCardGap = 0.025;
+constexpr double kCardWidth = 0.315, kCardGap = 0.015;
 constexpr double kSide = 0.05;
 constexpr double kTwipsPerPoint = 20;
 
@@ -77,8 +77,8 @@ void WinnerPanel::PlaceCards(const std::vector<int>& order) {
   for (const int player : order) {
     const std::size_t i = PlayerIndex(player);
     picFinal[i].MoveTo(left, top, width, height);
-    lblFinalName[i].MoveTo(left + height * 0.56, top, width * 0.66 - height * 0.56, height);
-    lblFinalScore[i].MoveTo(left + width * 0.66, top, width * 0.30, height);
+    lblFinalName[i].MoveTo(left + height * 0.56, top, width * 0.68 - height * 0.56, height);
+    lblFinalScore[i].MoveTo(left + width * 0.68, top, width * 0.29, height);
     lblFinalName[i].Font = LetteringFor(height, 0.28);
     lblFinalScore[i].Font = LetteringFor(height, 0.46);
     picFinal[i].Visible = lblFinalName[i].Visible = lblFinalScore[i].Visible = true;

@@ -18,7 +18,7 @@ bool IsStillAsked(Show& show, const std::string& path) {
 
 void WriteCard(Show& show, const std::string& text, ControlArray<Label, 5>& labels) {
   constexpr double kCardSize = 28;
-  labels[0].Font = {"Courier New", kCardSize, true, true};
+  labels[0].Font = {"Segoe UI", kCardSize, true, false};
   SetQuestion(show, text, labels);
 }
 

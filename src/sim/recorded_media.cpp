@@ -65,6 +65,11 @@ void RecordedChannel::Settle() {
   since_ = Now();
 }
 
+void RecordedChannel::FallSilent(bool silent) {
+  silent_ = silent;
+  if (OnSilenceChange) OnSilenceChange();
+}
+
 void RecordedChannel::Report(PlayState state) {
   Playing = state != PlayState::Stopped;
   Paused = state == PlayState::Paused;

@@ -34,9 +34,12 @@ class RecordedChannel : public MediaChannel {
   void SetVolume(int volume) override;
   double CurrentPosition() const override;
   double Duration() const override { return duration_; }
+  bool IsSilent() const override { return silent_; }
 
   // The operator's hand on the player's own controls, or the file's end: notifies the program.
   void Report(PlayState state);
+  // The sound device goes or comes back: notifies the program.
+  void FallSilent(bool silent);
 
   std::string Url;
   double Position = 0;
@@ -54,6 +57,7 @@ class RecordedChannel : public MediaChannel {
   MediaDeck& deck_;
   double duration_ = 0;
   double since_ = 0;
+  bool silent_ = false;
 };
 
 struct RecordedMedia {

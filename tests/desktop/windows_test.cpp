@@ -258,9 +258,9 @@ TEST_F(WindowsTest, TheTurnIsLightInThePlayersOwnColourAndTheOthersAreDim) {
   EXPECT_GT(edgeOf(2).green(), edgeOf(2).red() + 40) << "player 3's own colour";
   for (const std::size_t other : {0U, 1U}) EXPECT_LT(edgeOf(other).lightness(), 100) << other;
   auto& box = Widget<QLineEdit>("txtDJCommand");
-  EXPECT_EQ(box.placeholderText(), "PLAYER 3");
+  EXPECT_EQ(box.accessibleDescription(), "PLAYER 3");
   LightScoreBox(show_, 0);
-  EXPECT_EQ(box.placeholderText(), "") << "nobody has the turn";
+  EXPECT_EQ(box.accessibleDescription(), "") << "nobody has the turn";
 }
 
 TEST_F(WindowsTest, TheOptionsTabsTurnByKeyFromAnywhere) {

@@ -1,7 +1,7 @@
 // Plays two short games in the real program on the present display and saves pictures of both screens at each phase.
-// Usage: pawnfield_show [FOLDER [forms|gallery|media]]; with "forms" it opens every form instead and saves a picture of
-// each, with "gallery" it brings up everything that the two screens can show, with "media" headers, a picture and a
-// film on demand.
+// Usage: pawnfield_show [FOLDER [forms|gallery|phases|media]]; with "forms" it opens every form instead and saves a
+// picture of each, with "gallery" it brings up everything that the two screens can show, with "phases" it plays a game
+// of each type at each size of the console, with "media" headers, a picture and a film on demand.
 
 #include <QApplication>
 #include <QFile>
@@ -18,6 +18,7 @@
 #include "forms/main_form.h"
 #include "gallery.h"
 #include "media/media_on_demand.h"
+#include "phases.h"
 #include "show_driver.h"
 
 namespace pawnfield {
@@ -201,6 +202,8 @@ int main(int argc, char** argv) {
     pawnfield::ShowForms(driver, script);
   } else if (what == "gallery") {
     script.Do("gallery", pawnfield::ShowGallery(driver));
+  } else if (what == "phases") {
+    script.Do("phases", pawnfield::ShowPhases(driver));
   } else if (what == "media") {
     pawnfield::ShowMedia(driver, script, folder);
   } else {

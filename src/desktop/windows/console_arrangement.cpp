@@ -23,6 +23,16 @@ constexpr int kLeastHit = 24;
 // A length of the look in pixels, as it is at that growth. Hair lines stay.
 int Grown(int length, double growth) { return length <= 1 ? length : static_cast<int>(std::lround(length * growth)); }
 
+// A mark is round when it is as wide as its two radii, which lengths that are rounded one by one need not be.
+QString RoundMarks(double growth) {
+  const int radius = static_cast<int>(7 * growth);
+  const int edge = Grown(4, growth);
+  const QString mark =
+      "QRadioButton::indicator%1 { width: %2px; height: %2px; border-radius: %3px; border-width: %4px; }";
+  return mark.arg("").arg(2 * radius - 2).arg(radius).arg(1) +
+         mark.arg(":checked").arg(2 * (radius - edge)).arg(radius).arg(edge);
+}
+
 QString LookAt(double growth) {
   QFile file(":/look/look.qss");
   if (!file.open(QIODevice::ReadOnly)) return {};
@@ -39,7 +49,7 @@ QString LookAt(double growth) {
     grown += QString::number(radius ? static_cast<int>(pixels * growth) : Grown(pixels, growth)) + "px";
     from = length.capturedEnd();
   }
-  return grown + look.mid(from);
+  return grown + look.mid(from) + RoundMarks(growth);
 }
 
 int Closer(int height) { return height < kLeastHit ? height : std::max(kLeastHit, Grown(height, kCloser)); }
@@ -93,14 +103,15 @@ void ConsoleArrangement::Fit(const QSize& room) {
 
 void ConsoleArrangement::Resize(const Plan& plan) {
   const double growth = plan.Growth;
-  const auto height = [&](int length) { return plan.Close ? Closer(length) : Grown(length, growth); };
   for (const Sized& item : sized_) {
+    const bool close = plan.Close && !KeepsRoom(plan, item.Widget);
+    const auto height = [&](int length) { return close ? Closer(length) : Grown(length, growth); };
     item.Widget->setMinimumSize(Grown(item.Least.width(), growth), height(item.Least.height()));
     item.Widget->setMaximumSize(IsFree(item.Most.width()) ? QWIDGETSIZE_MAX : Grown(item.Most.width(), growth),
                                 IsFree(item.Most.height()) ? QWIDGETSIZE_MAX : height(item.Most.height()));
   }
-  const double gap = plan.Close ? 0.7 : growth;
   for (const Spaced& item : spaced_) {
+    const double gap = plan.Close && !KeepsRoom(plan, item.Layout->parentWidget()) ? 0.7 : growth;
     const QMargins& m = item.Margins;
     item.Layout->setContentsMargins(Grown(m.left(), growth), Grown(m.top(), gap), Grown(m.right(), growth),
                                     Grown(m.bottom(), gap));
@@ -109,7 +120,14 @@ void ConsoleArrangement::Resize(const Plan& plan) {
   if (auto* line = window_.findChild<QBoxLayout*>("pnlShowLineParts")) {
     line->setDirection(plan.Stacked ? QBoxLayout::TopToBottom : QBoxLayout::LeftToRight);
     if (!plan.Stacked) line->setSpacing(Grown(14, growth));
+    // As high as with all its parts, so that the board stays where it is when one comes or goes.
+    line->parentWidget()->setMinimumHeight(Grown(plan.Stacked ? (plan.Close ? 47 : 52) : 36, growth));
   }
+}
+
+bool ConsoleArrangement::KeepsRoom(const Plan& plan, const QWidget* widget) const {
+  const auto* right = window_.findChild<const QWidget*>("pnlRight");
+  return plan.Folded && (widget == right || right->isAncestorOf(widget));
 }
 
 void ConsoleArrangement::FoldScores(bool folded) {

@@ -43,6 +43,8 @@ class ConsoleArrangement {
   static Plan PlanFor(const QSize& room);
   void Resize(const Plan& plan);
   void FoldScores(bool folded);
+  // The right column has room to spare where the score keys have left it.
+  bool KeepsRoom(const Plan& plan, const QWidget* widget) const;
   void Restyle(const Plan& plan);
 
   QMainWindow& window_;

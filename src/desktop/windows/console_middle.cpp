@@ -42,6 +42,7 @@ void AddLine(QBoxLayout& column) {
   Add<QLabel>(*next, "lblLineContinue");
   auto* question = Add<ElidedLabel>(*next, "lblLineNext", 1);
   question->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Preferred);
+  next->addStretch(0);
 }
 
 ModelLabel* AddFramed(QBoxLayout& row, const QString& frameName, const QString& labelName, int share) {

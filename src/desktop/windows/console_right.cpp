@@ -103,6 +103,7 @@ void AddRingInOrder(QBoxLayout& column) {
 // The keys of one player's score, which stand in the panel of the scores or, on a small screen, in the player's card.
 QWidget* MakeScoreKeys(int player) {
   const char* const amounts[] = {"100,000", "10,000", "1,000", "100", "10", "1"};
+  const int widths[] = {42, 38, 35, 35, 31, 29};
   const QByteArray number = QByteArray::number(player);
   auto* keys = new QWidget;
   keys->setObjectName("pnlScoreKeys" + number);
@@ -117,8 +118,9 @@ QWidget* MakeScoreKeys(int player) {
     const QByteArray spoken = "Player " + number + (up ? " plus " : " minus ") + amount;
     auto* button = new KeyButton;
     DressButton(*button, {name.constData(), 26, tip.constData(), "", spoken.constData(), "score"});
-    button->setMinimumWidth(35);
+    button->setMinimumWidth(widths[i % 6]);
     grid->addWidget(button, i / 6, i % 6);
+    grid->setColumnStretch(i % 6, widths[i % 6]);
   }
   return keys;
 }

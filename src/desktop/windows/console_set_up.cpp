@@ -93,9 +93,9 @@ void AddOptions(QBoxLayout& column) {
   text->setToolTip("Control keys work the buttons, letters judge, a square can be typed");
   AddButton(*keys, {"btnEditKeyboardCtrl", kRowHeight, "Show the keys and choose the judging letters", "", "", "small"},
             0)
-      ->setMinimumWidth(66);
+      ->setMinimumWidth(62);
   group->addSpacing(2);
-  AddChoice(*group, "lblTimedResponse", "cboTimedResponse", "Timed response", 100);
+  AddChoice(*group, "lblTimedResponse", "cboTimedResponse", "Timed response", 84);
   group->addSpacing(2);
   AddChoice(*group, "lblAutoContinuePrompt", "cboAutoContinue", "Auto continue", 100);
   AddGroup(column, "pnlPoints", "POINTS", group);

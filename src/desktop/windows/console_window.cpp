@@ -131,11 +131,20 @@ Canvas* ConsoleWindow::AddCanvas(PictureCache& pictures, const QString& name) {
 }
 
 void ConsoleWindow::FollowModels(MainForm& form) {
-  // One stands in the other's place.
-  auto* cues = findChild<QWidget*>("fraCues");
-  QSizePolicy policy = cues->sizePolicy();
-  policy.setRetainSizeWhenHidden(false);
-  cues->setSizePolicy(policy);
+  // What isn't there leaves its place to what stands beside or below it.
+  for (const char* name :
+       {"fraCues", "lblLineCount", "lblLineWho", "lblLineClock", "lblLineSet", "lblLineContinue", "lblLineNext",
+        "chkAnimation", "lblShowAnimation", "chkHideQuestion", "lblHidequestionOption", "chkIncorrectPenalty",
+        "lblLose100Points", "cboTimedResponse", "lblTimedResponse", "cboAutoContinue", "lblAutoContinuePrompt"}) {
+    auto* widget = findChild<QWidget*>(name);
+    QSizePolicy policy = widget->sizePolicy();
+    policy.setRetainSizeWhenHidden(false);
+    widget->setSizePolicy(policy);
+  }
+  for (Label* part : LineParts()) {
+    part->AddObserver(*this);
+    Changed(*part, PropertyId::Caption);
+  }
   for (int player = 1; player <= kPlayers; ++player) {
     form.lblPlayer1[PlayerIndex(player)].AddObserver(*this);
     Changed(form.lblPlayer1[PlayerIndex(player)], PropertyId::Caption);
@@ -169,6 +178,9 @@ void ConsoleWindow::Changed(Control& control, PropertyId id) {
     if (&control != &main_.btnBuzzer[static_cast<std::size_t>(strip)]) continue;
     findChild<KeyButton*>(Member("btnBuzzer", strip))->SetFace(control.Enabled ? "open to ring in" : " ");
   }
+  for (Label* part : LineParts()) {
+    if (&control == part) findChild<QWidget*>(QString::fromStdString(part->Name()))->setHidden(part->Caption->empty());
+  }
   if (&control == &main_.ScoreCopy(3)) {
     findChild<QWidget*>("pnlScoreRow3")->setVisible(control.Visible);
   }
@@ -178,6 +190,11 @@ void ConsoleWindow::Changed(Control& control, PropertyId id) {
   if (&control == &main_.btnAnswerClock) findChild<QWidget*>("pnlAnswerClock")->setVisible(control.Enabled);
   if (&control == &main_.fraCues) findChild<QWidget*>("pnlSetUp")->setVisible(!control.Visible);
   if (&control == &main_.lblUndoNote) findChild<KeyButton*>("btnUndo")->SetNote(Unescape(main_.lblUndoNote.Caption));
+}
+
+std::array<Label*, 6> ConsoleWindow::LineParts() const {
+  return {&main_.lblLineCount, &main_.lblLineWho,      &main_.lblLineClock,
+          &main_.lblLineSet,   &main_.lblLineContinue, &main_.lblLineNext};
 }
 
 // A long name gives way to what is expected.

@@ -36,6 +36,8 @@ class ConsoleWindow : public FormWindow {
   void MakeColumns();
   Canvas* AddCanvas(PictureCache& pictures, const QString& name);
   void KeepLineWhole();
+  // Those that say nothing at times.
+  std::array<Label*, 6> LineParts() const;
   // What the window itself draws of its models.
   void FollowModels(MainForm& form);
   void FillBoard(MainForm& form);

@@ -57,28 +57,48 @@ void KeyButton::paintEvent(QPaintEvent*) {
   initStyleOption(&option);
   painter.drawControl(QStyle::CE_PushButtonBevel, option);
   if (!face_.isEmpty()) {
-    int icon = option.icon.isNull() ? 0 : option.iconSize.width() + kEdge;
-    // Words before signs where both don't fit.
-    if (icon > 0 && fontMetrics().horizontalAdvance(face_) > width() - 2 * kEdge - icon) {
-      option.icon = QIcon();
-      icon = 0;
-    }
-    option.text = fontMetrics().elidedText(face_, Qt::ElideRight, width() - 2 * kEdge - icon);
+    PaintFace(painter, option);
+    return;
   }
   // The text stays in the middle as long as the key leaves it room there.
   const int key = KeySize().width() + kEdge;
   const int text = fontMetrics().horizontalAdvance(option.text);
-  if (!key_.isEmpty() && text + 2 * key + kEdge > width()) option.rect.setRight(option.rect.right() - key);
-  const QRect whole = option.rect;
+  const bool beside = note_.isEmpty() && text + 2 * key + kEdge > width();
+  if (!key_.isEmpty() && beside) option.rect.setRight(option.rect.right() - key);
   if (!note_.isEmpty()) option.rect.setHeight(height() * 3 / 5);
   painter.drawControl(QStyle::CE_PushButtonLabel, option);
   if (!key_.isEmpty()) PaintKey(painter);
-  if (!note_.isEmpty()) PaintNote(painter, whole);
+  if (!note_.isEmpty()) PaintNote(painter);
+}
+
+// The sign stands beside the words in letters that may shrink for it; where both don't fit, words come first.
+void KeyButton::PaintFace(QPainter& painter, const QStyleOptionButton& option) const {
+  const int sign = option.icon.isNull() ? 0 : option.iconSize.width() + kEdge;
+  const int room = width() - 2 * kEdge;
+  QFont letters = font();
+  const auto words = [&] { return QFontMetrics(letters).horizontalAdvance(face_); };
+  while (words() + sign > room && letters.pixelSize() > kSmallestPixels) letters.setPixelSize(letters.pixelSize() - 1);
+  const bool signFits = sign > 0 && words() + sign <= room;
+  if (!signFits) letters = font();
+  const QFontMetrics metrics(letters);
+  const QString text = metrics.elidedText(face_, Qt::ElideRight, room);
+  const int needed = metrics.horizontalAdvance(text) + (signFits ? sign : 0);
+  QRect place((width() - needed) / 2, 0, needed, height());
+  if (signFits) {
+    const QRect square(QPoint(place.left(), (height() - option.iconSize.height()) / 2), option.iconSize);
+    option.icon.paint(&painter, square, Qt::AlignCenter, isEnabled() ? QIcon::Normal : QIcon::Disabled);
+    place.setLeft(place.left() + sign);
+  }
+  painter.setFont(letters);
+  painter.setPen(palette().color(isEnabled() ? QPalette::Active : QPalette::Disabled, QPalette::ButtonText));
+  painter.drawText(place, Qt::AlignVCenter | Qt::AlignLeft | Qt::TextDontClip, text);
 }
 
 void KeyButton::PaintKey(QPainter& painter) const {
   const QSize size = KeySize();
-  const QRect place(QPoint(width() - size.width() - kEdge, height() - size.height() - kEdge), size);
+  // A note has the foot for itself.
+  const int top = note_.isEmpty() ? height() - size.height() - kEdge : kEdge;
+  const QRect place(QPoint(width() - size.width() - kEdge, top), size);
   QColor ink = palette().color(isEnabled() ? QPalette::Active : QPalette::Disabled, QPalette::ButtonText);
   painter.setRenderHint(QPainter::Antialiasing);
   painter.setPen(ink);
@@ -90,10 +110,9 @@ void KeyButton::PaintKey(QPainter& painter) const {
   painter.drawText(place, Qt::AlignCenter, key_);
 }
 
-void KeyButton::PaintNote(QPainter& painter, const QRect& whole) const {
+void KeyButton::PaintNote(QPainter& painter) const {
   const QFont small = SmallFont();
-  QRect place = whole.adjusted(kEdge + 2, height() / 2, -kEdge - 2, -kEdge);
-  place.setRight(std::min(place.right(), width() - KeySize().width() - 2 * kEdge));
+  const QRect place = rect().adjusted(kEdge + 2, height() / 2, -kEdge - 2, -kEdge);
   painter.setFont(small);
   painter.setPen(QColor(isEnabled() ? "#A7B2C8" : "#5A6784"));
   painter.drawText(place, Qt::AlignCenter, QFontMetrics(small).elidedText(note_, Qt::ElideRight, place.width()));

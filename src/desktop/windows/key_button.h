@@ -26,7 +26,8 @@ class KeyButton : public QPushButton {
   QFont SmallFont() const;
   QSize KeySize() const;
   void PaintKey(QPainter& painter) const;
-  void PaintNote(QPainter& painter, const QRect& place) const;
+  void PaintNote(QPainter& painter) const;
+  void PaintFace(QPainter& painter, const QStyleOptionButton& option) const;
 
   QString key_, note_, face_;
 };

@@ -102,6 +102,16 @@ CueView::CueView(QWidget* parent) : QTreeWidget(parent) {
   header()->setMinimumSectionSize(20);
 }
 
+void CueView::paintEvent(QPaintEvent* event) {
+  QTreeWidget::paintEvent(event);
+  if (topLevelItemCount() > 0) return;
+  constexpr int kEdge = 10;
+  QPainter painter(viewport());
+  painter.setPen(QColor("#8592AD"));
+  painter.drawText(viewport()->rect().adjusted(kEdge, kEdge, -kEdge, -kEdge), Qt::AlignTop | Qt::TextWordWrap,
+                   "No letter has a sound, picture or film in this bank. Press Sounds to give it one.");
+}
+
 OrderView::OrderView(QWidget* parent) : QWidget(parent) { setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Fixed); }
 
 void OrderView::SetRows(const QList<QStringList>& rows) {

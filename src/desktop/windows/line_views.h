@@ -53,14 +53,18 @@ class CueView : public QTreeWidget {
   Q_OBJECT
  public:
   explicit CueView(QWidget* parent = nullptr);
+
+ protected:
+  // An empty list says how it is filled.
+  void paintEvent(QPaintEvent* event) override;
 };
 
-// A line for each ring-in: the player's number and name in the player's colour, and when it was.
+// A line for each ring-in: its place and the player's name in the player's colour, and when it was.
 class OrderView : public QWidget {
   Q_OBJECT
  public:
   explicit OrderView(QWidget* parent = nullptr);
-  // Number, name, when, and "amber" where that is too close to call.
+  // Place, name, when, "amber" where that is too close to call, and the player's number.
   void SetRows(const QList<QStringList>& rows);
   QSize sizeHint() const override;
   QSize minimumSizeHint() const override { return sizeHint(); }

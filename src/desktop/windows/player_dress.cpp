@@ -118,11 +118,56 @@ class NameSign : public QWidget {
   int player_;
 };
 
+// Stands in the square's box while nothing is typed, in letters that may shrink: a placeholder has the box's own, in
+// which a name is cut.
+class NameInBox : public QWidget {
+ public:
+  explicit NameInBox(QLineEdit& box) : QWidget(&box), box_(box) {
+    setObjectName("pnlNameInBox");
+    setAttribute(Qt::WA_TransparentForMouseEvents);
+    box.installEventFilter(this);
+    QObject::connect(&box, &QLineEdit::textChanged, this, [this] { setVisible(box_.text().isEmpty()); });
+  }
+  void Show(const QString& name, const QColor& color) {
+    name_ = name;
+    color_ = color;
+    box_.setAccessibleDescription(name);
+    update();
+  }
+
+ protected:
+  bool eventFilter(QObject*, QEvent* event) override {
+    constexpr int kSign = 34, kEdge = 8;
+    if (event->type() == QEvent::Resize) setGeometry(box_.rect().adjusted(kSign, 0, -kEdge, 0));
+    return false;
+  }
+  void paintEvent(QPaintEvent*) override {
+    constexpr double kShare = 0.75;
+    QFont letters("Inter");
+    letters.setWeight(QFont::Bold);
+    letters.setPixelSize(static_cast<int>(QFontInfo(box_.font()).pixelSize() * kShare));
+    const auto width = [&] { return QFontMetrics(letters).horizontalAdvance(name_); };
+    while (width() > this->width() && letters.pixelSize() > kSmallestPixels)
+      letters.setPixelSize(letters.pixelSize() - 1);
+    QPainter painter(this);
+    painter.setFont(letters);
+    painter.setPen(color_);
+    painter.drawText(rect(), Qt::AlignVCenter | Qt::AlignLeft,
+                     QFontMetrics(letters).elidedText(name_, Qt::ElideRight, this->width()));
+  }
+
+ private:
+  QLineEdit& box_;
+  QString name_;
+  QColor color_;
+};
+
 // The box for the square: whose it is is said by his sign, his name and the light of his colour.
 class TurnInBox : public Observer {
  public:
   TurnInBox(MainForm& form, QLineEdit& box) : form_(form), box_(box) {
     box_.setProperty("showsTurn", true);
+    name_ = new NameInBox(box_);
     sign_ = box_.addAction(QIcon(), QLineEdit::LeadingPosition);
     for (auto* sign : box_.findChildren<QAbstractButton*>()) sign->setAccessibleName("Whose turn it is");
     for (int player = 1; player <= kPlayers; ++player) {
@@ -147,17 +192,16 @@ class TurnInBox : public Observer {
     sign_->setVisible(player != 0);
     const QColor color = ToQColor(player == 0 ? kQuietText : kPlayerColors[player]);
     if (player != 0) sign_->setIcon(PlayerSignPicture(player, 2 * kSignSide, color));
-    box_.setPlaceholderText(player == 0 ? QString() : Unescape(form_.lblPlayer1[PlayerIndex(player)].Caption));
-    QPalette palette = box_.palette();
-    palette.setColor(QPalette::PlaceholderText, color);
-    box_.setPalette(palette);
-    box_.setStyleSheet(player == 0 ? QString()
+    name_->Show(player == 0 ? QString() : Unescape(form_.lblPlayer1[PlayerIndex(player)].Caption), color);
+    // As large with either edge.
+    box_.setStyleSheet(player == 0 ? QString("QLineEdit { margin: 2px; }")
                                    : QString("QLineEdit { border: 3px solid %1; color: #FFFFFF; }").arg(color.name()));
   }
 
   MainForm& form_;
   QLineEdit& box_;
   QAction* sign_ = nullptr;
+  NameInBox* name_ = nullptr;
 };
 
 void DressCard(QWidget& window, int player) {
