@@ -4,6 +4,7 @@
 #include <gmock/gmock.h>
 
 #include "forms/main_form.h"
+#include "media/media_on_demand.h"
 #include "media/sound_table.h"
 #include "show/settings.h"
 #include "support/operator_words.h"
@@ -61,9 +62,9 @@ TEST_F(SoundPanel, SaysWhatPlaysNowAndStopAllEndsItAll) {
   show().soundBanks[1][kSoundFirstKey] = "C:\\applause.mp3";
   media().Deck.Durations["C:\\applause.mp3"] = 12;
   EXPECT_EQ(Playing(), "");
-  game_.Play("keys:^A");
-  game_.form().btnCues.Click();
-  game_.Play("keys:a >1000");
+  form().btnCues.Click();
+  PlayKeyMedia(show(), kSoundFirstKey);
+  game_.Play(">1000");
   EXPECT_EQ(Playing(), "NOW: applause.mp3 0:11");
   form().btnStopAll.Click();
   EXPECT_EQ(Playing(), "");

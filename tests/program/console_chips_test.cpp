@@ -32,8 +32,7 @@ TEST_F(Chips, TellOfTheRoomsScreenWhileItComesIsCoveredAndGoes) {
   Expect(form().chpAudience, "AUDIENCE 1920x1080", ChipState::Good);
   form().btnStandbyMode.Click();
   Expect(form().chpAudience, "AUDIENCE COVERED", ChipState::None);
-  sim.displays.Monitors = {kOperators};
-  show().state.DualScreen = true;
+  sim.displays.Change({kOperators});
   Expect(form().chpAudience, "AUDIENCE LOST", ChipState::Red);
 }
 

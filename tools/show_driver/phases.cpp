@@ -66,12 +66,18 @@ class Phases {
   void Resize() {
     ConsoleWindow& console = driver_.Program().Console();
     const QString mode = QString("%1x%2").arg(size_.width()).arg(size_.height() == 680 ? 720 : size_.height());
-    Do("the room's mode", QProcess::execute("xrandr", {"--output", "DUMMY1", "--mode", mode, "--pos", "1280x0"}) == 0);
+    // The console goes home from where another monitor is, so its own is as large as it.
+    const bool large = size_.width() > 1920;
+    const QStringList own{"--output", "DUMMY0", "--mode", large ? mode : "1280x800", "--pos", "0x0"};
+    const QStringList rooms{"--output", "DUMMY1", "--mode", mode, "--pos", large ? "3840x0" : "1280x0"};
+    Do("the monitors", QProcess::execute("xrandr", own + rooms) == 0);
+    driver_.Pause(1000);
     console.showNormal();
     driver_.Pause(200);
     console.resize(size_);
     Do("the console's size", driver_.WaitFor([&] { return console.size() == size_; }, 3000));
     driver_.Pause(500);
+    Do("the console's size", console.size() == size_);
   }
 
   void Choose(int type) {

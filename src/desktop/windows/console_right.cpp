@@ -173,6 +173,7 @@ void AddHold(QBoxLayout& row, const char* name, const char* tip) {
   button->setMinimumHeight(34);
   button->setSizePolicy(QSizePolicy::Preferred, QSizePolicy::Fixed);
   button->setToolTip(tip);
+  button->SetKey("hold");
   button->setProperty("role", "end");
 }
 

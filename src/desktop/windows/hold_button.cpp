@@ -40,7 +40,7 @@ void HoldButton::End() {
 
 void HoldButton::timerEvent(QTimerEvent* event) {
   if (event->timerId() != tick_.timerId()) {
-    QPushButton::timerEvent(event);
+    KeyButton::timerEvent(event);
     return;
   }
   heldMs_ += std::min(static_cast<int>(sinceTick_.restart()), kLongestTickMs);
@@ -67,7 +67,7 @@ void HoldButton::mouseReleaseEvent(QMouseEvent* event) {
 // A held key repeats itself as presses and releases; only its own count.
 void HoldButton::keyPressEvent(QKeyEvent* event) {
   if (!IsHoldKey(*event)) {
-    QPushButton::keyPressEvent(event);
+    KeyButton::keyPressEvent(event);
   } else if (!event->isAutoRepeat()) {
     Begin();
   }
@@ -75,7 +75,7 @@ void HoldButton::keyPressEvent(QKeyEvent* event) {
 
 void HoldButton::keyReleaseEvent(QKeyEvent* event) {
   if (!IsHoldKey(*event)) {
-    QPushButton::keyReleaseEvent(event);
+    KeyButton::keyReleaseEvent(event);
   } else if (!event->isAutoRepeat() && tick_.isActive()) {
     End();
     emit LetGo();
@@ -84,21 +84,21 @@ void HoldButton::keyReleaseEvent(QKeyEvent* event) {
 
 void HoldButton::focusOutEvent(QFocusEvent* event) {
   End();
-  QPushButton::focusOutEvent(event);
+  KeyButton::focusOutEvent(event);
 }
 
 void HoldButton::changeEvent(QEvent* event) {
   if (event->type() == QEvent::EnabledChange && !isEnabled()) End();
-  QPushButton::changeEvent(event);
+  KeyButton::changeEvent(event);
 }
 
 void HoldButton::hideEvent(QHideEvent* event) {
   End();
-  QPushButton::hideEvent(event);
+  KeyButton::hideEvent(event);
 }
 
 void HoldButton::paintEvent(QPaintEvent* event) {
-  QPushButton::paintEvent(event);
+  KeyButton::paintEvent(event);
   if (heldMs_ == 0) return;
   const double half = kEdge / 2;
   QPainterPath edge;

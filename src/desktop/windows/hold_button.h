@@ -4,7 +4,8 @@
 
 #include <QBasicTimer>
 #include <QElapsedTimer>
-#include <QPushButton>
+
+#include "desktop/windows/key_button.h"
 
 namespace pawnfield {
 
@@ -12,10 +13,10 @@ inline constexpr int kHoldMs = 800;
 
 // Neither a click nor a key that is only struck emits clicked(). What does is an action of an assistive device or a
 // program, which can't hold: whoever uses the button asks before it acts on that.
-class HoldButton : public QPushButton {
+class HoldButton : public KeyButton {
   Q_OBJECT
  public:
-  using QPushButton::QPushButton;
+  using KeyButton::KeyButton;
   // 0 to 1, for what shows it.
   double Filled() const;
 

@@ -1,0 +1,147 @@
+// What the console draws of its models beyond their texts, as pictures and by real keys.
+#include <QHelpEvent>
+#include <QLineEdit>
+#include <QTest>
+#include <QToolTip>
+
+#include "desktop/windows/console_window.h"
+#include "desktop/windows/hold_button.h"
+#include "desktop/windows/line_views.h"
+#include "forms/main_form.h"
+#include "places.h"
+#include "program/handlers.h"
+#include "show/phase.h"
+
+namespace pawnfield {
+namespace {
+
+// How many of the picture's points are of that colour, but for the edges of letters.
+int PointsOf(const QImage& picture, const QColor& color) {
+  int points = 0;
+  for (int y = 0; y < picture.height(); ++y) {
+    for (int x = 0; x < picture.width(); ++x) {
+      const QColor at = picture.pixelColor(x, y);
+      const int apart =
+          std::abs(at.red() - color.red()) + std::abs(at.green() - color.green()) + std::abs(at.blue() - color.blue());
+      points += apart < 30 ? 1 : 0;
+    }
+  }
+  return points;
+}
+
+class ConsoleLooks : public ProgramTest {
+ protected:
+  void SetUp() override {
+    program_.Console().resize(1280, 680);
+    program_.Console().show();
+    ASSERT_TRUE(QTest::qWaitForWindowActive(&program_.Console()));
+  }
+  QImage Picture(const char* name) { return Widget<QWidget>(name).grab().toImage(); }
+};
+
+TEST_F(ConsoleLooks, TheRingInOrderHasThePlayersColoursWhateverTheirPlace) {
+  const QColor colors[] = {QColor("#FF6B70"), QColor("#FFD84D"), QColor("#46E08C")};
+  for (int player = 1; player <= kPlayers; ++player) {
+    form_.lstRingInOrder.Visible = form_.lblRingInOrder.Visible = true;
+    form_.lstRingInOrder.ListItems = {{"1", "ANNA", "first", "", std::to_string(player)}};
+    QTest::qWait(30);
+    const QImage order = Picture("lstRingInOrder");
+    for (int other = 1; other <= kPlayers; ++other) {
+      const int points = PointsOf(order, colors[other - 1]);
+      EXPECT_EQ(points > 20, other == player) << "player " << player << " in the colour of " << other;
+    }
+  }
+}
+
+TEST_F(ConsoleLooks, TheLineHasNoGapWhereItHasNothingToSay) {
+  const auto left = [this](const char* name) {
+    auto& label = Widget<QWidget>(name);
+    return label.mapTo(&program_.Console(), QPoint()).x();
+  };
+  form_.lblLineCount.Caption = form_.lblLineWho.Caption = "";
+  form_.lblLineExpected.Caption = "Choose a set";
+  QTest::qWait(30);
+  const int alone = left("lblLineExpected");
+  const QRect board = Widget<QWidget>("pnlBoard").geometry();
+  form_.lblLineCount.Caption = "Question 1 of 30";
+  form_.lblLineNext.Caption = "Next: Which planet has the shortest day?";
+  form_.btnAnswerClock.Enabled = true;
+  QTest::qWait(30);
+  EXPECT_EQ(left("lblLineCount"), alone);
+  EXPECT_GT(left("lblLineExpected"), alone);
+  EXPECT_EQ(Widget<QWidget>("pnlBoard").geometry(), board) << "the board stays where it is";
+}
+
+TEST_F(ConsoleLooks, AnEmptyListOfLettersSaysHowItIsFilled) {
+  form_.fraCues.Visible = true;
+  QTest::qWait(30);
+  const QColor ink("#8592AD");
+  const auto points = [&] { return PointsOf(Widget<CueView>("lstCues").viewport()->grab().toImage(), ink); };
+  EXPECT_GT(points(), 50);
+  form_.lstCues.ListItems = {{"A", "applause.mp3", "sound", "0:12", ""}};
+  QTest::qWait(30);
+  EXPECT_LT(points(), 50);
+}
+
+TEST_F(ConsoleLooks, WhatWantsAHoldSaysSo) {
+  for (const char* name : {"btnReset", "btnEndGame"}) {
+    auto& button = Widget<HoldButton>(name);
+    const QImage said = button.grab().toImage();
+    button.SetKey("");
+    EXPECT_NE(said, button.grab().toImage()) << name;
+    button.SetKey("hold");
+    EXPECT_EQ(said, button.grab().toImage()) << name;
+  }
+}
+
+TEST_F(ConsoleLooks, TheNameStandsWholeInTheSquaresBoxUntilSomethingIsTyped) {
+  form_.PlayerBox(2).Picture = "scoreboxred.bmp";
+  auto& box = Widget<QLineEdit>("txtDJCommand");
+  const QColor ink("#FFD84D");
+  const auto points = [&] { return PointsOf(Widget<QWidget>("pnlNameInBox").grab().toImage(), ink); };
+  form_.lblPlayer1[1].Caption = "I";
+  QTest::qWait(30);
+  const int few = points();
+  EXPECT_GT(few, 0);
+  form_.lblPlayer1[1].Caption = "IIIIIIII";
+  QTest::qWait(30);
+  EXPECT_GT(points(), few * 5) << "a name of eight letters isn't cut";
+  form_.txtDJCommand.Text = "B";
+  QTest::qWait(30);
+  EXPECT_FALSE(Widget<QWidget>("pnlNameInBox").isVisible());
+  EXPECT_EQ(box.text(), "B");
+}
+
+TEST_F(ConsoleLooks, ATipSaysWhyAButtonCanNotBePressed) {
+  AttachHandlers(show_);
+  show_.state.GameType = GameMode::ChallengeA;
+  form_.btnContinue.Enabled = false;
+  auto& button = Widget<QWidget>("btnContinue");
+  const QPoint middle = button.rect().center();
+  QHelpEvent ask(QEvent::ToolTip, middle, button.mapToGlobal(middle));
+  QApplication::sendEvent(&button, &ask);
+  EXPECT_EQ(QToolTip::text(), "No game runs: press Start");
+  QToolTip::hideText();
+  form_.btnContinue.Enabled = true;
+  QApplication::sendEvent(&button, &ask);
+  EXPECT_EQ(QToolTip::text(), "Show the next question (C)");
+  QToolTip::hideText();
+}
+
+TEST_F(ConsoleLooks, F9StartsTheSecondsOnceForEachStroke) {
+  int started = 0;
+  form_.btnAnswerClock.OnClick = [&] { ++started; };
+  form_.btnAnswerClock.Enabled = true;
+  QWidget* focus = program_.Console().focusWidget();
+  QTest::keyClick(focus != nullptr ? focus : &program_.Console(), Qt::Key_F9);
+  EXPECT_EQ(started, 1);
+  QKeyEvent held(QEvent::KeyPress, Qt::Key_F9, Qt::NoModifier, QString(), true);
+  QApplication::sendEvent(focus != nullptr ? focus : &program_.Console(), &held);
+  EXPECT_EQ(started, 1) << "a key that is held repeats nothing";
+  form_.btnAnswerClock.Enabled = false;
+  QTest::keyClick(focus != nullptr ? focus : &program_.Console(), Qt::Key_F9);
+  EXPECT_EQ(started, 1);
+}
+
+}  // namespace
+}  // namespace pawnfield
