@@ -58,18 +58,22 @@ TEST_F(ConsoleLooks, TheLineHasNoGapWhereItHasNothingToSay) {
     auto& label = Widget<QWidget>(name);
     return label.mapTo(&program_.Console(), QPoint()).x();
   };
-  form_.lblLineCount.Caption = form_.lblLineWho.Caption = "";
-  form_.lblLineExpected.Caption = "Choose a set";
-  QTest::qWait(30);
-  const int alone = left("lblLineExpected");
-  const QRect board = Widget<QWidget>("pnlBoard").geometry();
-  form_.lblLineCount.Caption = "Question 1 of 30";
-  form_.lblLineNext.Caption = "Next: Which planet has the shortest day?";
-  form_.btnAnswerClock.Enabled = true;
-  QTest::qWait(30);
-  EXPECT_EQ(left("lblLineCount"), alone);
-  EXPECT_GT(left("lblLineExpected"), alone);
-  EXPECT_EQ(Widget<QWidget>("pnlBoard").geometry(), board) << "the board stays where it is";
+  for (const QSize size : {QSize(1280, 680), QSize(1366, 768), QSize(1600, 1000), QSize(1920, 1080)}) {
+    program_.Console().resize(size);
+    form_.lblLineCount.Caption = form_.lblLineWho.Caption = form_.lblLineNext.Caption = "";
+    form_.lblLineExpected.Caption = "Choose a set";
+    form_.btnAnswerClock.Enabled = false;
+    QTest::qWait(50);
+    const int alone = left("lblLineExpected");
+    const QRect board = Widget<QWidget>("pnlBoard").geometry();
+    form_.lblLineCount.Caption = "Question 1 of 30";
+    form_.lblLineNext.Caption = "Next: Which planet has the shortest day?";
+    form_.btnAnswerClock.Enabled = true;
+    QTest::qWait(50);
+    EXPECT_EQ(left("lblLineCount"), alone) << size.width();
+    EXPECT_GT(left("lblLineExpected"), alone) << size.width();
+    EXPECT_EQ(Widget<QWidget>("pnlBoard").geometry(), board) << "the board stays where it is at " << size.width();
+  }
 }
 
 TEST_F(ConsoleLooks, AnEmptyListOfLettersSaysHowItIsFilled) {

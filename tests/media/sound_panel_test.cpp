@@ -61,6 +61,7 @@ TEST_F(SoundPanel, MuteTakesTheMusicAwayAndGivesItBackAtItsVolume) {
 TEST_F(SoundPanel, SaysWhatPlaysNowAndStopAllEndsItAll) {
   show().soundBanks[1][kSoundFirstKey] = "C:\\applause.mp3";
   media().Deck.Durations["C:\\applause.mp3"] = 12;
+  game_.fixture().sim.files.Put("C:\\applause.mp3", "a sound");
   EXPECT_EQ(Playing(), "");
   form().btnCues.Click();
   PlayKeyMedia(show(), kSoundFirstKey);

@@ -36,7 +36,8 @@ constexpr double kLargestSample = 24;
 template <typename Model, typename Widget>
 class Binding : public Observer {
  public:
-  Binding(Model& boundModel, Widget& boundWidget) : model(boundModel), widget(boundWidget) {
+  Binding(Model& boundModel, Widget& boundWidget)
+      : model(boundModel), widget(boundWidget), ownTip_(boundWidget.toolTip()) {
     QSizePolicy policy = widget.sizePolicy();
     // A hidden control keeps its place, so that nothing moves under the operator's hand; a box for typing leaves its
     // own to what stands beside it.
@@ -70,9 +71,13 @@ class Binding : public Observer {
       widget.setVisible(model.Visible);
     }
     widget.setEnabled(model.Enabled);
-    if (!model.ToolTipText->empty()) widget.setToolTip(Unescape(model.ToolTipText));
+    if (!model.ToolTipText->empty()) ShowTip(Unescape(model.ToolTipText));
   }
 
+  // A tip that is but a key is in the widget's own, which also says what the key does.
+  void ShowTip(const QString& tip) { widget.setToolTip(ownTip_.endsWith('(' + tip + ')') ? ownTip_ : tip); }
+
+  QString ownTip_;
   // For what blinks all the time that nobody plays.
   std::unique_ptr<Blinker> blinker_;
 };

@@ -121,7 +121,7 @@ void ConsoleArrangement::Resize(const Plan& plan) {
     line->setDirection(plan.Stacked ? QBoxLayout::TopToBottom : QBoxLayout::LeftToRight);
     if (!plan.Stacked) line->setSpacing(Grown(14, growth));
     // As high as with all its parts, so that the board stays where it is when one comes or goes.
-    line->parentWidget()->setMinimumHeight(Grown(plan.Stacked ? (plan.Close ? 47 : 52) : 36, growth));
+    line->parentWidget()->setMinimumHeight(Grown(plan.Stacked ? (plan.Close ? 49 : 54) : 38, growth));
   }
 }
 
