@@ -2,7 +2,7 @@
 #include "engine/why_not.h"
 
 #include "forms/main_form.h"
-#include "support/operator_words.h"
+#include "support/game_player.h"
 
 namespace pawnfield {
 namespace {
@@ -41,7 +41,7 @@ const Tip kTips[] = {
 TEST(WhyNot, SaysWhyAControlCanNotBePressed) {
   for (const Tip& tip : kTips) {
     SCOPED_TRACE(std::string(tip.setup) + ": " + tip.steps + ", " + tip.control);
-    GamePlayer game(SetupOfWords(tip.setup));
+    GamePlayer game(tip.setup);
     if (*tip.steps != '\0') game.Do(tip.steps);
     const Control* control = game.form().Find(tip.control);
     ASSERT_NE(control, nullptr);
@@ -51,7 +51,7 @@ TEST(WhyNot, SaysWhyAControlCanNotBePressed) {
 }
 
 TEST(WhyNot, IsSilentOfWhatCanBePressed) {
-  GamePlayer game(SetupOfWords("Trivia A, user advances"));
+  GamePlayer game("Trivia A, user advances");
   for (const char* name : {"btnSkipQuestion", "btnNextPlayer", "btnStandbyMode", "btnQuestionCorrect"}) {
     const Control* control = game.form().Find(name);
     ASSERT_TRUE(control->IsReachable()) << name;

@@ -7,7 +7,7 @@
 #include "media/media_on_demand.h"
 #include "media/sound_table.h"
 #include "show/settings.h"
-#include "support/operator_words.h"
+#include "support/game_player.h"
 
 namespace pawnfield {
 namespace {
@@ -21,7 +21,7 @@ class SoundPanel : public testing::Test {
   RecordedMedia& media() { return game_.fixture().sim.media; }
   std::string Playing() { return form().lblNowPlaying.Caption; }
 
-  GamePlayer game_{SetupOfWords("Trivia A, user advances")};
+  GamePlayer game_{"Trivia A, user advances"};
 };
 
 TEST_F(SoundPanel, EachFaderReachesItsOwnPlayerAtOnceAndIsKept) {
@@ -65,7 +65,7 @@ TEST_F(SoundPanel, SaysWhatPlaysNowAndStopAllEndsItAll) {
   EXPECT_EQ(Playing(), "");
   form().btnCues.Click();
   PlayKeyMedia(show(), kSoundFirstKey);
-  game_.Play(">1000");
+  game_.Do("wait 1");
   EXPECT_EQ(Playing(), "NOW: applause.mp3 0:11");
   form().btnStopAll.Click();
   EXPECT_EQ(Playing(), "");
@@ -79,7 +79,7 @@ TEST_F(SoundPanel, ListsTheFilledLettersWithTheirKindLengthAndRest) {
   show().soundBanks[1][kSoundFirstKey + 25] = "C:\\stage.jpg";
   media().Deck.Durations["C:\\applause.mp3"] = 12;
   form().btnCues.Click();
-  game_.Play(">1000");
+  game_.Do("wait 1");
   const std::vector<ListView::Row> rows = form().lstCues.ListItems;
   ASSERT_EQ(rows.size(), 2U);
   EXPECT_THAT(rows[0], ElementsAre("A", "applause.mp3", "sound", testing::_, ""));
