@@ -104,8 +104,9 @@ void FitMedia(Show& show) {
     if (facts.Error == 0) {
       FitMODPicOnAudience(show, facts.Size);
     } else {
-      // The file has gone since the console took it, and the board beneath is better than an empty frame.
-      show.frmFSMain.picMOD.Visible = false;
+      // The file has gone since the console took it: the board beneath is better than an empty frame, on both screens.
+      show.frmMain.tmrMODPicture.Enabled = false;
+      show.frmMain.picMOD.Visible = show.frmFSMain.picMOD.Visible = false;
     }
   });
 }

@@ -139,7 +139,7 @@ TEST(MediaOnDemand, AScreenThatComesUpShowsWhatTheConsoleHasUp) {
                                                                      {"C:\\a.mp4", "gone", "V/V"},
                                                                      {"C:\\a.mp4", "ended", "/"},
                                                                      {"C:\\a.jpg", "", "P/P"},
-                                                                     {"C:\\a.jpg", "gone", "P/"}};
+                                                                     {"C:\\a.jpg", "gone", "/"}};
   for (const auto& [file, event, shown] : cases) {
     MediaShow media(Screens::One);
     media.Press(file);

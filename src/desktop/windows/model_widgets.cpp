@@ -77,7 +77,10 @@ void PictureFrame::paintEvent(QPaintEvent* event) {
   }
   QPainter painter(this);
   painter.setRenderHint(QPainter::SmoothPixmapTransform);
-  painter.drawPixmap(rect(), picture_);
+  // Fills the frame in its own shape; what reaches over is cut at both sides alike.
+  const QSizeF part = QSizeF(size()).scaled(picture_.size(), Qt::KeepAspectRatio);
+  const QPointF corner((picture_.width() - part.width()) / 2, (picture_.height() - part.height()) / 2);
+  painter.drawPixmap(QRectF(rect()), picture_, QRectF(corner, part));
 }
 
 void PictureFrame::mousePressEvent(QMouseEvent* event) {
