@@ -91,11 +91,9 @@ void tmrWinner_Timer(Show& show) {
   MainForm& form = show.frmMain;
   // Before the scores and names go. The operator may still have to say it.
   KeepLastResult(show);
+  // Before the winner goes, so that the room sees no board between.
   ShowPanel(show, Panel::Standby);
-  form.btnStandbyMode.Enabled = false;
-  form.btnPlayMode.Enabled = true;
   HidePanel(show, Panel::Winner);
-  form.btnContinue.Enabled = false;
   ResetGameBoard(show);
   ResetGameSet(show);
   form.tmrWinner.Enabled = false;

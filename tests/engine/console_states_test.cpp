@@ -21,6 +21,9 @@ const WordStory kStates[] = {
      "player 1 rings in, correct, claim A1, reset, standby is shown, offers SelectGame and PlayMode, options Animation "
      "and HideQuestion and IncorrectPenalty and TimedResponse and AutoContinue and List and SelectPlayer(0) and "
      "GameType(0)"},
+    {"The options are free again behind the winner", "Challenge B, 2 players, Finish Row",
+     "claim A1, grid choice is off, claim B1, claim C1, wait 6 s, standby is shown, grid choice is shown, offers Start "
+     "and PlayMode, options GameType(0)"},
     {"A change of type while idle offers the options of the new one", "Challenge A, 2 players, not started",
      "offers Start and PlayMode, choose Trivia A, offers SelectGame and PlayMode, choose entry 0 of cboList, pause of "
      "3 s, choose Challenge B, offers Start and PlayMode"},
