@@ -123,6 +123,9 @@ struct GameState {
   // The mode of the music: 0 none, 1 the music folder, 2 one file.
   int BackgroundMusic = 0;
   std::string BgMusicFileName;
+  // Which columns of a sheet were question and answer last, and whether it had a heading: "0,1,1".
+  std::string ImportColumns;
+  bool SpellChecker = false;
   // True while there is something to play. The folder's tracks; MusicIndex counts from 1, 0 is before the first.
   bool MusicEnabled = false;
   // The operator has turned the music's sound off, or has stopped it, until he turns it on again.

@@ -15,7 +15,7 @@ void Describe(QCommandLineParser& parser) {
   parser.setApplicationDescription("Runs a live trivia game on an operator's console and an audience's screen.");
   parser.addHelpOption();
   parser.addVersionOption();
-  parser.addPositionalArgument("set", "The set of questions to load, a .txt file.", "[set]");
+  parser.addPositionalArgument("set", "The set of questions to load: a .txt file, or a packed .pawnset.", "[set]");
 }
 
 bool IsQuestion(const QString& argument) {

@@ -37,8 +37,14 @@ DesktopPlatform::DesktopPlatform(const DesktopPlaces& places, std::function<void
                serial,
                webPages,
                records,
+               sheets,
+               bundles,
+               spelling,
                places.folders} {
   for (const char* own : {"\\Images", "\\Question Backgrounds"}) pictures.HoldFolder(places.folders.App + own);
+  processes.OnHandedOver = [this](const std::string& path) {
+    if (bundles.OnOpened) bundles.OnOpened(path);
+  };
   mediaFiles.OnMeasure = [this](const std::string& path, std::function<void(double)> then) {
     if (!mediaLength) mediaLength = std::make_unique<MediaLength>();
     mediaLength->Measure(path, std::move(then));

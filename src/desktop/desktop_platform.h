@@ -12,6 +12,8 @@
 #include "desktop/files/qt_file_system.h"
 #include "desktop/files/qt_settings_store.h"
 #include "desktop/files/record_writer.h"
+#include "desktop/files/sheet_reader.h"
+#include "desktop/files/zip_bundles.h"
 #include "desktop/media/media_files.h"
 #include "desktop/media/media_length.h"
 #include "desktop/media/mpv_video.h"
@@ -25,6 +27,7 @@
 #include "desktop/system/qt_printing.h"
 #include "desktop/system/qt_readers.h"
 #include "desktop/windows/desktop_pages.h"
+#include "desktop/windows/speller.h"
 
 namespace pawnfield {
 
@@ -67,6 +70,9 @@ class DesktopPlatform {
   QtSerialPort serial;
   QtPages webPages;
   RecordWriter records;
+  SheetReader sheets;
+  ZipBundles bundles;
+  Speller spelling;
   Platform platform;
 };
 

@@ -12,10 +12,12 @@
 #include "desktop/windows/connect_to_projector_window.h"
 #include "desktop/windows/console_window.h"
 #include "desktop/windows/editor_window.h"
+#include "desktop/windows/file_drop.h"
 #include "desktop/windows/help_about_window.h"
 #include "desktop/windows/help_key.h"
 #include "desktop/windows/hold_guard.h"
 #include "desktop/windows/house_palette.h"
+#include "desktop/windows/import_window.h"
 #include "desktop/windows/optional_headers_window.h"
 #include "desktop/windows/options_window.h"
 #include "desktop/windows/pages_window.h"
@@ -28,6 +30,7 @@
 #include "forms/editor_form.h"
 #include "forms/fs_main_form.h"
 #include "forms/help_about_form.h"
+#include "forms/import_form.h"
 #include "forms/main_form.h"
 #include "forms/missing_media_form.h"
 #include "forms/optional_headers_form.h"
@@ -58,6 +61,7 @@ struct DesktopProgram::AllWindows {
   ConfigKeysWindow ConfigKeys;
   EditorWindow Editor;
   EditChoiceWindow EditChoice;
+  ImportWindow Import;
   MissingMediaWindow MissingMedia;
   SoundEffectsWindow SoundEffects;
   OptionalHeadersWindow OptionalHeaders;
@@ -80,8 +84,9 @@ DesktopProgram::AllWindows::AllWindows(DesktopPlatform& desktop, Show& show)
       PlayerNames(show.frmPlayerNames, desktop.windows),
       HelpAbout(show.frmHelpAbout, desktop.windows),
       ConfigKeys(show.frmConfigKeys, desktop.windows),
-      Editor(show.frmEditor, desktop.windows, desktop.pictures),
+      Editor(show.frmEditor, desktop.windows, desktop.pictures, desktop.spelling),
       EditChoice(show.frmEditChoice, desktop.windows),
+      Import(show.frmImport, desktop.windows),
       MissingMedia(show.frmDialog2, desktop.windows),
       SoundEffects(show.frmSoundEffects, desktop.windows),
       OptionalHeaders(show.frmOptionalHeaders, desktop.windows),
@@ -96,6 +101,11 @@ DesktopProgram::DesktopProgram(const DesktopPlaces& places)
       show_(desktop_.platform),
       windows_(std::make_unique<AllWindows>(desktop_, show_)) {
   GuardConsole(show_, windows_->Console);
+  if (auto* list = windows_->Console.findChild<QWidget*>("cboList")) {
+    TakeDrops(*list, [this](const std::string& path) {
+      if (desktop_.bundles.OnOpened) desktop_.bundles.OnOpened(path);
+    });
+  }
 }
 
 // The clock, the serial line and the watch over the devices outlive the forms, whose timers must not be looked at any
@@ -106,6 +116,7 @@ DesktopProgram::~DesktopProgram() {
   desktop_.serial.OnComm = {};
   desktop_.devices.OnChanged({});
   desktop_.settings.OnSaveFailed = {};
+  desktop_.bundles.OnOpened = {};
   desktop_.records.OnFailed = {};
   desktop_.records.OnBack = {};
   for (Form* form : AllForms(show_)) desktop_.clock.Detach(*form);
@@ -121,7 +132,8 @@ std::vector<FormWindow*> DesktopProgram::Windows() {
           &all.Splash,      &all.GameLoading,  &all.GameInProgress,     &all.GameTypeHelp,
           &all.PlayerNames, &all.HelpAbout,    &all.ConfigKeys,         &all.Editor,
           &all.EditChoice,  &all.MissingMedia, &all.SoundEffects,       &all.OptionalHeaders,
-          &all.Options,     &all.MapMF,        &all.SetInterface,       &all.Pages};
+          &all.Options,     &all.MapMF,        &all.SetInterface,       &all.Pages,
+          &all.Import};
 }
 
 void NameApplication() {

@@ -1,5 +1,8 @@
 #include "engine/set_choice.h"
 
+#include <optional>
+#include <utility>
+
 #include "engine/game_flow.h"
 #include "engine/options.h"
 #include "engine/question_cycle.h"
@@ -13,10 +16,14 @@
 #include "platform/text.h"
 #include "presentation/board_layout.h"
 #include "presentation/both_screens.h"
+#include "sets/editor.h"
+#include "sets/editor_import.h"
 #include "sets/file_dialogs.h"
 #include "sets/media_check.h"
 #include "sets/missing_media.h"
+#include "sets/set_bundles.h"
 #include "sets/set_file.h"
+#include "sets/sheet_names.h"
 #include "show/show.h"
 
 namespace pawnfield {
@@ -84,6 +91,24 @@ void LoadChosenSet(Show& show) {
   if (show.state.GameLoaded) CheckSetMedia(show);
 }
 
+// A set that came while a game is open waits in the list.
+void OfferSet(Show& show, const std::string& path) {
+  const std::string name = SetName(ExtractFileName(path));
+  const bool open = show.state.GameLoaded && show.state.GameStarted;
+  if (open || !show.state.Nature().Trivia) {
+    show.frmMain.lblStatusBar.Caption =
+        "\"" + name + "\" was not loaded: " + (open ? "a game is open." : "the game type plays without questions.");
+    return;
+  }
+  if (show.platform.dialogs.Ask(
+          {"Would you like to load the set \"" + name + "\"?", BoxKind::YesNo, BoxAnswer::No, "Load", "Don't Load"},
+          kAppTitle) != BoxAnswer::Yes) {
+    return;
+  }
+  show.consoleDialog.FileName = path;
+  LoadChosenSet(show);
+}
+
 }  // namespace
 
 void StopShowing(Show& show) {
@@ -107,7 +132,28 @@ void OpenSetAtStart(Show& show) {
                                      kAppTitle, BoxKind::Plain);
     return;
   }
+  if (IsBundleName(show.consoleDialog.FileName)) {
+    const auto set = OfferBundle(show, std::exchange(show.consoleDialog.FileName, ""));
+    if (!set) return;
+    show.consoleDialog.FileName = *set;
+  }
   LoadChosenSet(show);
+}
+
+void OpenHandedOver(Show& show, const std::string& path) {
+  const std::string name = ExtractFileName(path);
+  // A question over a question would be lost behind it.
+  if (show.platform.dialogs.Modal() != ModalKind::None || !show.frmMain.Visible) {
+    show.frmMain.lblStatusBar.Caption = "Close the window that is open, then open \"" + name + "\" again.";
+    return;
+  }
+  if (IsSheetName(path)) {
+    show.EditCurrentSet = false;
+    editor::ShowEditor(show, [&show, &path] { editor::ImportSheet(show, path); });
+    return;
+  }
+  const auto set = IsBundleName(path) ? OfferBundle(show, path) : std::optional(path);
+  if (set) OfferSet(show, *set);
 }
 
 void cboList_DropDown(Show& show) {

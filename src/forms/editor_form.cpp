@@ -21,6 +21,18 @@ EditChoiceForm::EditChoiceForm() : Form("frmEditChoice") {
   New.Caption = "New";
 }
 
+void QuestionList::Move(int from, int to) {
+  if (IsReachable() && OnMove) Raise([this, from, to] { OnMove(from, to); }, "_Move");
+}
+
+void QuestionList::Delete() {
+  if (IsReachable() && OnDelete) Raise(OnDelete, "_Delete");
+}
+
+void QuestionList::Duplicate() {
+  if (IsReachable() && OnDuplicate) Raise(OnDuplicate, "_Duplicate");
+}
+
 EditorForm::EditorForm() : Form("frmEditor") {
   SetCaptions();
   for (Control* panel : std::initializer_list<Control*>{&txtDisplayQuestion, &picQuestionPicture}) {
@@ -33,7 +45,12 @@ EditorForm::EditorForm() : Form("frmEditor") {
   btnStop.Container = &frmSoundButtons;
   txtEnterQuestion.MaxLength = kQuestionLength;
   txtAnswer.MaxLength = kAnswerLength;
+  lstQuestions.ColumnHeaders = {"No.", "Kind", "Question", "Answer", "Check"};
   Reset();
+}
+
+void EditorForm::DropFile(const std::string& path) {
+  if (IsReachable() && OnDropFile) Raise([this, path] { OnDropFile(path); }, "_DropFile");
 }
 
 void EditorForm::SetFile(const std::string& path) {
@@ -49,7 +66,18 @@ void EditorForm::SetCaptions() {
   mnuFileSave.Caption = "&Save";
   mnuSaveAs.Caption = "Save &As...";
   mnuFilePrint.Caption = "&Print...";
+  mnuImport.Caption = "&Import questions...";
+  mnuExport.Caption = "&Export questions...";
+  mnuPackSet.Caption = "Pac&k set...";
   mnuFileExit.Caption = "E&xit";
+  mnuEdit.Caption = "&Edit";
+  mnuEditDuplicate.Caption = "D&uplicate Question";
+  mnuEditFind.Caption = "&Find...";
+  btnUndo.Caption = "Undo";
+  btnRedo.Caption = "Redo";
+  btnFindNext.Caption = "Find Next";
+  btnDuplicateQuestion.Caption = "Duplicate";
+  btnDuplicateQuestion.ToolTipText = "Add a copy of this question behind it.";
   btnNewFile.Caption = "New";
   btnFileOpen.Caption = "Open";
   btnSave.Caption = "Save";
@@ -74,6 +102,7 @@ void EditorForm::SetCaptions() {
   btnPlay.Caption = "Play";
   btnStop.Caption = "Stop";
   chkSpellChecker.Caption = "Enable Spell Checker";
+  chkSpellChecker.ToolTipText = "Underlines words that are misspelt; a right click on one suggests others.";
   btnBack10.Caption = "Back 10";
   btnBack.Caption = "Back";
   btnForward.Caption = "Forward";
@@ -92,8 +121,11 @@ void EditorForm::Reset() {
                                                          &lblPath, &txtPath}) {
     hidden->Visible = false;
   }
-  for (TextBox* box : {&txtDisplayQuestion, &txtEnterQuestion, &txtPath, &txtAnswer}) box->Text = std::string();
+  for (TextBox* box : {&txtDisplayQuestion, &txtEnterQuestion, &txtPath, &txtAnswer, &txtFind})
+    box->Text = std::string();
   imgQuestionPicture.Picture = std::string();
+  lblFound.Caption = std::string();
+  History.Begin({});
   chkSpellChecker.Value = 0;
   EditQuestionNumber = 1;
   EditDirty = false;

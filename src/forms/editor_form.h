@@ -2,8 +2,10 @@
 // the set that is open in it. Owned by the show.
 #pragma once
 
+#include <functional>
 #include <string>
 
+#include "data/edit_history.h"
 #include "platform/common_dialog.h"
 #include "platform/controls.h"
 
@@ -16,11 +18,28 @@ struct EditChoiceForm : Form {
   Button New{*this, "New"};
 };
 
+// A list whose rows a user drags, removes and copies.
+class QuestionList : public ListView {
+ public:
+  using ListView::ListView;
+  // A user drags a row to the place of another, and presses Delete or Ctrl+D on the selected one. Rows are counted
+  // from 0.
+  void Move(int from, int to);
+  void Delete();
+  void Duplicate();
+  std::function<void(int from, int to)> OnMove;
+  std::function<void()> OnDelete, OnDuplicate;
+};
+
 class EditorForm : public Form {
  public:
   EditorForm();
   // Every control as the form's design has it, and an empty set's state.
   void Reset();
+
+  // A user drops a file on the form's window.
+  void DropFile(const std::string& path);
+  std::function<void(const std::string& path)> OnDropFile;
 
   // The set is that file's from here on; empty for a new one. The window says so.
   void SetFile(const std::string& path);
@@ -31,6 +50,7 @@ class EditorForm : public Form {
   // Empty for a new set.
   std::string EditFileName;
   std::string EditQuestionKind = "T";
+  EditHistory History;
   CommonDialog cd1EditorDialog;
   CommonDialog cd1FontDialog;
 
@@ -40,7 +60,24 @@ class EditorForm : public Form {
   Menu mnuFileSave{*this, "mnuFileSave"};
   Menu mnuSaveAs{*this, "mnuSaveAs"};
   Menu mnuFilePrint{*this, "mnuFilePrint"};
+  Menu mnuImport{*this, "mnuImport"};
+  Menu mnuExport{*this, "mnuExport"};
+  Menu mnuPackSet{*this, "mnuPackSet"};
   Menu mnuFileExit{*this, "mnuFileExit"};
+
+  Menu mnuEdit{*this, "mnuEdit"};
+  Menu mnuEditUndo{*this, "mnuEditUndo"};
+  Menu mnuEditRedo{*this, "mnuEditRedo"};
+  Menu mnuEditDuplicate{*this, "mnuEditDuplicate"};
+  Menu mnuEditFind{*this, "mnuEditFind"};
+
+  Button btnUndo{*this, "btnUndo"};
+  Button btnRedo{*this, "btnRedo"};
+  TextBox txtFind{*this, "txtFind"};
+  Button btnFindNext{*this, "btnFindNext"};
+  Label lblFound{*this, "lblFound"};
+  QuestionList lstQuestions{*this, "lstQuestions"};
+  Button btnDuplicateQuestion{*this, "btnDuplicateQuestion"};
 
   Button btnNewFile{*this, "btnNewFile"};
   Button btnFileOpen{*this, "btnFileOpen"};
@@ -74,6 +111,8 @@ class EditorForm : public Form {
   Label lblAnswer{*this, "lblAnswer"};
   TextBox txtAnswer{*this, "txtAnswer"};
   CheckBox chkSpellChecker{*this, "chkSpellChecker"};
+  // Why spelling can't be checked.
+  Label lblSpelling{*this, "lblSpelling"};
 
   Button btnBack10{*this, "btnBack10"};
   Button btnBack{*this, "btnBack"};

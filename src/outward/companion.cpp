@@ -55,7 +55,7 @@ void Send(Show& show, const std::string& text) {
   if (show.dgTransceiver) {
     show.dgTransceiver->SendData(PlainLetters(text));
   } else {
-    show.platform.processes.StartHelper("PadBridge.exe", text);
+    show.platform.processes.StartHelper("PadBridge.exe", PlainLetters(text));
   }
 }
 

@@ -1,5 +1,7 @@
 #include "platform/escapes.h"
 
+#include "platform/nearest_letters.h"
+
 namespace pawnfield {
 
 namespace {
@@ -52,7 +54,10 @@ std::string FirstLetters(std::string_view text, std::size_t count) {
 
 std::string PlainLetters(std::string_view text) {
   std::string plain;
-  for (std::size_t at = 0; at < text.size(); at += LetterLength(text, at)) plain += EscapeAt(text, at) ? '?' : text[at];
+  for (std::size_t at = 0; at < text.size(); at += LetterLength(text, at)) {
+    const auto code = EscapeAt(text, at);
+    plain += code ? NearestLetter(*code) : text[at];
+  }
   return plain;
 }
 

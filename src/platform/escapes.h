@@ -22,7 +22,7 @@ std::optional<char32_t> EscapeAt(std::string_view text, std::size_t at);
 std::size_t CountLetters(std::string_view text);
 // The text's beginning, so many letters or all there are.
 std::string FirstLetters(std::string_view text, std::size_t count);
-// With "?" for each escape, for a device whose letters are Windows-1252's.
+// With the nearest letter for each escape, for a device whose letters are Windows-1252's.
 std::string PlainLetters(std::string_view text);
 
 }  // namespace pawnfield

@@ -333,6 +333,8 @@ class Processes {
   virtual std::int64_t CurrentId() const = 0;
   // Brings that process's window to the front; 0 means the other instance of this program.
   virtual void Activate(std::int64_t id) = 0;
+  // Hands a file over to the other instance of this program, which comes to the front. False when it doesn't answer.
+  virtual bool HandOver(const std::string& path) = 0;
   // Starts the program of that name that lies beside this one, hidden, with the text as its one argument, and doesn't
   // wait for it. False when there is none. No shell takes part, so that every character arrives as it is.
   virtual bool StartHelper(const std::string& name, const std::string& argument) = 0;
@@ -456,6 +458,10 @@ class HelpPages {
   virtual bool Open(const std::string& address) = 0;
 };
 
+class Bundles;
+class SheetFiles;
+class Spelling;
+
 // Folders without a trailing backslash; the operator's data lies below DataRoot.
 struct Folders {
   std::string App;
@@ -494,6 +500,9 @@ struct Platform {
   SerialPort& serial;
   Pages& webPages;
   RecordFiles& records;
+  SheetFiles& sheets;
+  Bundles& bundles;
+  Spelling& spelling;
   Folders folders;
 };
 

@@ -31,6 +31,7 @@
 #include "outward/shared_key.h"
 #include "platform/attach.h"
 #include "platform/errors.h"
+#include "platform/set_ports.h"
 #include "presentation/audience_screen.h"
 #include "program/console_chips.h"
 #include "program/detection.h"
@@ -184,6 +185,9 @@ void AttachExit(Show& show) {
 
 void AttachHandlers(Show& show) {
   show.platform.settings.OnSaveFailed = [&show](const RuntimeError& error) { ReportSettingsFailure(show, error); };
+  show.platform.bundles.OnOpened = [&show](const std::string& path) {
+    show.frmMain.Dispatch([&show, &path] { OpenHandedOver(show, path); }, "OpenFile");
+  };
   AttachOptions(show);
   AttachButtons(show);
   AttachSquares(show);

@@ -28,6 +28,11 @@ void Main(Show& show) {
   bool another = false;
   RunGuarded(
       show.platform.dialogs, [&] { another = processes.AnotherInstanceRuns(); }, "modMain", "Main");
+  // A file that was opened goes to the program that runs, which offers it.
+  if (another && !show.consoleDialog.FileName.empty() && processes.HandOver(show.consoleDialog.FileName)) {
+    processes.EndProgram();
+    return;
+  }
   if (another) {
     show.platform.dialogs.MessageBox(
         "There is already an instance of this application open. Please close that instance first.", kAppTitle,

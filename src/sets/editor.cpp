@@ -7,8 +7,10 @@
 #include "forms/editor_form.h"
 #include "forms/main_form.h"
 #include "media/sound_channels.h"
+#include "platform/set_ports.h"
 #include "platform/text.h"
 #include "presentation/text_fitting.h"
+#include "sets/editor_history.h"
 #include "sets/editor_picture.h"
 #include "sets/set_file.h"
 #include "sets/set_parser.h"
@@ -111,6 +113,14 @@ void ShowRecord(Show& show) {
   }
 }
 
+void PrepareSpelling(Show& show) {
+  EditorForm& form = show.frmEditor;
+  const std::string problem = show.platform.spelling.Problem();
+  form.chkSpellChecker.Enabled = problem.empty();
+  form.chkSpellChecker.Value = problem.empty() && show.state.SpellChecker ? 1 : 0;
+  form.lblSpelling.Caption = problem;
+}
+
 void PrepareForm(Show& show) {
   EditorForm& form = show.frmEditor;
   SetShown({&form.frmSoundButtons, &form.lblPath, &form.txtPath}, false);
@@ -129,6 +139,8 @@ void PrepareForm(Show& show) {
     form.SetFile(show.state.LoadedSetPath);
   }
   SetNumEditQuestions(show, show.NumEditQuestions);
+  BeginHistory(show);
+  PrepareSpelling(show);
   DisplayEditQuestion(show);
 }
 
@@ -165,12 +177,13 @@ void EditChoice_Click(Show& show, bool current) {
   show.frmEditChoice.Unload();
 }
 
-void ShowEditor(Show& show) {
+void ShowEditor(Show& show, const std::function<void()>& first) {
   EditorForm& form = show.frmEditor;
   form.Reset();
   // The form is loaded and then activated, and an error in a bad record must not prevent it from being shown.
   form.Dispatch([&show] { PrepareForm(show); }, "Form_Load");
   StopSoundClip(show);
+  if (first) form.Dispatch(first, "Form_Load");
   form.txtEnterQuestion.SetFocus();
   show.platform.dialogs.ShowModal(form);
 }
@@ -260,6 +273,8 @@ void txtAnswer_Change(Show& show) {
   record.AnswerText = typed;
   UpdateEditorControls(show);
 }
+
+void chkSpellChecker_Click(Show& show) { show.state.SpellChecker = show.frmEditor.chkSpellChecker.Value == 1; }
 
 void txtDisplayQuestion_Click(Show& show) { show.frmEditor.txtEnterQuestion.SetFocus(); }
 

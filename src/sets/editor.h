@@ -2,6 +2,7 @@
 // only when the operator says so.
 #pragma once
 
+#include <functional>
 #include <string>
 
 #include "data/trivia_set.h"
@@ -15,8 +16,8 @@ namespace editor {
 // The console's Edit: asks for the current set or a new one while the list of sets shows a text, and opens the editor.
 void btnStartGame_Click(Show& show);
 void EditChoice_Click(Show& show, bool current);
-// Shows the editor and returns when it has been closed.
-void ShowEditor(Show& show);
+// Shows the editor and returns when it has been closed. What is to be done first finds the set open in it.
+void ShowEditor(Show& show, const std::function<void()>& first = {});
 
 // All 101 records to their reset values.
 void ResetEditSet(Show& show);
@@ -43,6 +44,8 @@ void SetNumEditQuestions(Show& show, int count);
 void txtEnterQuestion_Change(Show& show);
 void txtEnterQuestion_LostFocus(Show& show);
 void txtAnswer_Change(Show& show);
+// Remembered for the next time.
+void chkSpellChecker_Click(Show& show);
 void txtDisplayQuestion_Click(Show& show);
 
 }  // namespace editor

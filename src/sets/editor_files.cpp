@@ -5,6 +5,7 @@
 #include "platform/errors.h"
 #include "platform/text.h"
 #include "sets/editor.h"
+#include "sets/editor_history.h"
 #include "sets/file_dialogs.h"
 #include "sets/media_paths.h"
 #include "sets/set_file.h"
@@ -17,6 +18,7 @@ namespace {
 
 constexpr const char* kSetFilter = "Game Sets(*.txt)|*.txt";
 constexpr const char* kOverwriteQuestion = "File already exists. Do you want to overwrite?";
+constexpr std::size_t kChangesNamed = 8;
 constexpr const char* kSiblingFolder = "\\Program Files\\Ostara Panel Pro 4\\";
 
 std::string SetsFolder(const Show& show) { return show.AppPath("\\Trivia Sets"); }
@@ -60,10 +62,11 @@ bool SaveChanges(Show& show) {
 // True when nothing is unsaved any more, or the operator doesn't mind.
 bool SavedFirst(Show& show) {
   if (!show.frmEditor.EditDirty) return true;
-  const BoxAnswer answer =
-      show.platform.dialogs.Ask({"Would you like to save the changes you made?", BoxKind::YesNoCancel,
-                                 BoxAnswer::Cancel, "Save", "Don't Save", "Go On Editing"},
-                                kAppTitle);
+  const std::string changes = UnsavedLines(show, kChangesNamed);
+  const BoxAnswer answer = show.platform.dialogs.Ask(
+      {"Would you like to save the changes you made?" + (changes.empty() ? changes : "\r\n" + changes),
+       BoxKind::YesNoCancel, BoxAnswer::Cancel, "Save", "Don't Save", "Go On Editing"},
+      kAppTitle);
   if (answer == BoxAnswer::Yes) return SaveChanges(show);
   return answer == BoxAnswer::No;
 }
@@ -117,6 +120,18 @@ bool TakeImport(Show& show, const std::string& bytes) {
   return false;
 }
 
+void TakeFile(Show& show, const std::string& path) {
+  EditorForm& form = show.frmEditor;
+  if (!OpenFile(show, path)) return;
+  form.SetFile(path);
+  form.EditDirty = false;
+  show.state.SetFolder = ExtractFolder(path);
+  BeginHistory(show);
+  form.btnPicture.Enabled = true;
+  form.btnSound.Enabled = true;
+  ShowFirstQuestion(show);
+}
+
 }  // namespace
 
 void mnuFileNew_Click(Show& show) {
@@ -131,6 +146,7 @@ void mnuFileNew_Click(Show& show) {
   // The new set is nobody's file: a save asks for a name.
   form.SetFile("");
   form.EditDirty = false;
+  BeginHistory(show);
   ShowFirstQuestion(show);
   FocusWording(show);
 }
@@ -140,15 +156,11 @@ void mnuFileOpen_Click(Show& show) {
   if (!SavedFirst(show)) return;
   form.cd1EditorDialog = {"", kSetFilter, SetsFolder(show)};
   ShowOpen(show, form.cd1EditorDialog);
-  const std::string path = form.cd1EditorDialog.FileName;
-  if (path.empty()) return;
-  if (!OpenFile(show, path)) return;
-  form.SetFile(path);
-  form.EditDirty = false;
-  show.state.SetFolder = ExtractFolder(path);
-  form.btnPicture.Enabled = true;
-  form.btnSound.Enabled = true;
-  ShowFirstQuestion(show);
+  if (!form.cd1EditorDialog.FileName.empty()) TakeFile(show, form.cd1EditorDialog.FileName);
+}
+
+void OpenSet(Show& show, const std::string& path) {
+  if (SavedFirst(show)) TakeFile(show, path);
 }
 
 void mnuFileSave_Click(Show& show) {

@@ -14,6 +14,8 @@ void mnuFileOpen_Click(Show& show);
 void mnuFileSave_Click(Show& show);
 void mnuSaveAs_Click(Show& show);
 void mnuFilePrint_Click(Show& show);
+// Brings the set of that file into the editor, after the question about changes.
+void OpenSet(Show& show, const std::string& path);
 void btnImport_Click(Show& show);
 // True when the editor may close: nothing is unsaved, or the operator has decided. The set is then gone from it.
 bool Editor_QueryUnload(Show& show);

@@ -179,6 +179,8 @@ void AddRest(Rows& rows) {
   rows.push_back(Whole("LCDScreensTop", 0, Any(), FieldOf(&State::LCDScreensTop)));
   rows.push_back(AtChangeOnly(Whole("Scoring", 5, Within(kPointChoices, 5), FieldOf(&State::Scoring))));
   rows.push_back(AtChangeOnly(Whole("Bonus", 5, Within(kPointChoices, 5), FieldOf(&State::Bonus))));
+  rows.push_back(AtChangeOnly(Text("ImportColumns", "", FieldOf(&State::ImportColumns))));
+  rows.push_back(AtChangeOnly(Truth("SpellChecker", false, FieldOf(&State::SpellChecker))));
   rows.push_back(AtChangeOnly(Truth(kShowBaseHeaderKey, true, FieldOf(&State::ShowBaseHeader))));
 }
 

@@ -9,6 +9,7 @@
 #include "forms/editor_form.h"
 #include "forms/fs_main_form.h"
 #include "forms/help_about_form.h"
+#include "forms/import_form.h"
 #include "forms/main_form.h"
 #include "forms/missing_media_form.h"
 #include "forms/optional_headers_form.h"
@@ -40,6 +41,7 @@ struct Forms {
   GameTypeHelpForm frmGameTypeHelp;
   EditorForm frmEditor;
   EditChoiceForm frmEditChoice;
+  ImportForm frmImport;
   MissingMediaForm frmDialog2;
   MapMFForm frmMapMF;
   SetInterfaceForm frmSetInterface;
@@ -72,6 +74,7 @@ Show::Show(Platform& platformPorts, std::unique_ptr<Forms> forms)
       frmGameTypeHelp(forms->frmGameTypeHelp),
       frmEditor(forms->frmEditor),
       frmEditChoice(forms->frmEditChoice),
+      frmImport(forms->frmImport),
       frmDialog2(forms->frmDialog2),
       frmMapMF(forms->frmMapMF),
       frmSetInterface(forms->frmSetInterface),
@@ -99,6 +102,7 @@ std::vector<Form*> AllForms(Show& show) {
           &show.frmPlayerNames,
           &show.frmEditor,
           &show.frmEditChoice,
+          &show.frmImport,
           &show.frmDialog2,
           &show.frmHelpAbout,
           &show.frmConfigKeys,

@@ -30,6 +30,7 @@ struct GameInProgressForm;
 struct GameLoadingForm;
 struct GameTypeHelpForm;
 struct HelpAboutForm;
+struct ImportForm;
 class Image;
 struct LoadingForm;
 class MainForm;
@@ -175,6 +176,7 @@ struct Show {
   GameTypeHelpForm& frmGameTypeHelp;
   EditorForm& frmEditor;
   EditChoiceForm& frmEditChoice;
+  ImportForm& frmImport;
   MissingMediaForm& frmDialog2;
   MapMFForm& frmMapMF;
   SetInterfaceForm& frmSetInterface;

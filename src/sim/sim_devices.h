@@ -120,6 +120,10 @@ class SimProcesses : public Processes {
   std::vector<ProcessInfo> List() const override { return Others; }
   std::int64_t CurrentId() const override { return 4711; }
   void Activate(std::int64_t id) override { Activated.push_back(id); }
+  bool HandOver(const std::string& path) override {
+    HandedOver.push_back(path);
+    return AlreadyRuns;
+  }
   bool StartHelper(const std::string& name, const std::string& argument) override;
   void EndProgram() override { Ended = true; }
   void Start(const std::string& path) override { Started.push_back(path); }
@@ -130,6 +134,7 @@ class SimProcesses : public Processes {
   std::vector<std::string> HelperArguments;
   std::vector<ProcessInfo> Others;
   std::vector<std::int64_t> Activated;
+  std::vector<std::string> HandedOver;
   bool Ended = false;
   std::vector<std::string> Started;
 };

@@ -19,9 +19,10 @@ void PutImages(SimFiles& files, const std::string& folder) {
 }  // namespace
 
 SimPlatform::SimPlatform(Folders where)
-    : platform{clock,    dialogs,   media.Channels(), settings, files,   text,     pictures, mediaFiles,
-               displays, processes, random,           hid,      devices, printing, pages,    serial,
-               network,  records,   std::move(where)} {
+    : platform{clock,           dialogs,  media.Channels(), settings, files,  text,    pictures,
+               mediaFiles,      displays, processes,        random,   hid,    devices, printing,
+               pages,           serial,   network,          records,  sheets, bundles, spelling,
+               std::move(where)} {
   media.Deck.Time = &clock;
   const std::string app = platform.folders.App;
   PutImages(files, app + "\\Images");

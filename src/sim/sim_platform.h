@@ -11,6 +11,7 @@
 #include "sim/sim_hid.h"
 #include "sim/sim_network.h"
 #include "sim/sim_serial.h"
+#include "sim/sim_sets.h"
 #include "sim/virtual_clock.h"
 
 namespace pawnfield {
@@ -37,6 +38,9 @@ struct SimPlatform {
   SimSerial serial;
   SimNetwork network{clock};
   MemoryRecords records;
+  SimSheets sheets{files};
+  SimBundles bundles{files};
+  SimSpelling spelling;
   Platform platform;
 };
 

@@ -27,7 +27,11 @@ TEST(Text, ACutNeverFallsInsideAnEscapedLetter) {
                               EscapeOf(0x17C) + "\xF3" + EscapeOf(0x142)};
   for (std::size_t count = 0; count < 4; ++count) EXPECT_EQ(FirstLetters(zolw, count), cuts[count]) << count;
   for (const std::size_t count : {4U, 5U, 100U}) EXPECT_EQ(FirstLetters(zolw, count), zolw) << count;
-  EXPECT_EQ(PlainLetters(zolw), "?\xF3?w");
+  EXPECT_EQ(PlainLetters(zolw), "z\xF3lw");
+  // A device shows the nearest letter: of Greek, Hebrew, Vietnamese and Russian; a blank for a break, "?" for Chinese.
+  const std::pair<char32_t, char> nearest[] = {{0x3A9, 'O'}, {0x3AC, 'a'}, {0x5E9, 's'},  {0x1EC7, 'e'},
+                                               {0x416, 'J'}, {'\n', ' '},  {0x4E2D, '?'}, {0x2011, '-'}};
+  for (const auto& [code, letter] : nearest) EXPECT_EQ(PlainLetters(EscapeOf(code)), std::string(1, letter)) << code;
   // A mark without its digits is a letter like others.
   for (const char* plain : {"\x7F",
                             "\x7F"

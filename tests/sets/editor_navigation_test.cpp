@@ -126,7 +126,8 @@ TEST(EditorNavigation, ABlankQuestionBlocksAllButTheWayBack) {
     if (acts && control->Enabled) enabled += control->Name() + " ";
   }
   EXPECT_EQ(enabled,
-            "mnuFile mnuFileExit btnText btnPicture btnSound btnFont btnFontColor btnDefault btnPlay btnStop btnBack "
+            "mnuFile mnuFileExit mnuEdit mnuEditFind btnText btnPicture btnSound btnFont btnFontColor btnDefault "
+            "btnPlay btnStop btnBack "
             "btnDeleteQuestion ");
   editor.txtEnterQuestion.Type("   ");
   EXPECT_FALSE(editor.btnSave.Enabled);

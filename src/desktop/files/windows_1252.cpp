@@ -69,6 +69,15 @@ std::string Escape(const QString& text) {
   return bytes;
 }
 
+std::string EscapeLines(const QString& text) {
+  std::string line;
+  for (const char byte : Escape(text)) {
+    const bool control = static_cast<unsigned char>(byte) < ' ' && byte != '\t';
+    line += control ? EscapeOf(static_cast<unsigned char>(byte)) : std::string(1, byte);
+  }
+  return line;
+}
+
 QString Unescape(const std::string& bytes) {
   QString text;
   text.reserve(static_cast<qsizetype>(bytes.size()));

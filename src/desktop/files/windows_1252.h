@@ -12,6 +12,9 @@ namespace pawnfield {
 std::string Escape(const QString& text);
 QString Unescape(const std::string& bytes);
 
+// Escape for a text of a set, whose file has one line for it: breaks and other controls go as escapes too.
+std::string EscapeLines(const QString& text);
+
 // Every byte has a character; the five that the code page leaves open become the control characters of that number.
 QString FromWindows1252(const std::string& bytes);
 // Empty when a character has no byte. An accent that stands alone joins its letter.

@@ -15,6 +15,7 @@ namespace pawnfield {
 namespace {
 
 constexpr int kConnectMs = 500;
+constexpr qint64 kLongestPath = 16384;
 
 }  // namespace
 
@@ -47,7 +48,7 @@ bool DesktopProcesses::AnotherInstanceRuns() {
 void DesktopProcesses::Listen() {
   QLocalServer::removeServer(SocketPath());
   QObject::connect(&server_, &QLocalServer::newConnection, &server_, [this] {
-    while (QLocalSocket* caller = server_.nextPendingConnection()) caller->deleteLater();
+    while (QLocalSocket* caller = server_.nextPendingConnection()) Answer(*caller);
     onActivate_();
   });
   server_.listen(SocketPath());
@@ -62,6 +63,32 @@ void DesktopProcesses::Activate(std::int64_t id) {
   QLocalSocket socket;
   socket.connectToServer(SocketPath());
   socket.waitForConnected(kConnectMs);
+}
+
+// A caller that wants more than the front sends a path and a line's end, and then hangs up.
+void DesktopProcesses::Answer(QLocalSocket& caller) {
+  caller.setReadBufferSize(kLongestPath);
+  const auto take = [this, &caller] {
+    if (!caller.canReadLine()) return;
+    const QString path = QString::fromUtf8(caller.readLine(kLongestPath)).chopped(1);
+    // What follows may hold the program by a question; the line is done with here.
+    const auto open = [this, path] {
+      if (OnHandedOver) OnHandedOver(SpelledPath(path));
+    };
+    if (!path.isEmpty()) QMetaObject::invokeMethod(&server_, open, Qt::QueuedConnection);
+  };
+  QObject::connect(&caller, &QLocalSocket::readyRead, &caller, take);
+  QObject::connect(&caller, &QLocalSocket::disconnected, &caller, &QObject::deleteLater);
+  take();
+  if (caller.state() == QLocalSocket::UnconnectedState) caller.deleteLater();
+}
+
+bool DesktopProcesses::HandOver(const std::string& path) {
+  QLocalSocket socket;
+  socket.connectToServer(SocketPath());
+  if (!socket.waitForConnected(kConnectMs)) return false;
+  socket.write(NativePath(path).toUtf8() + '\n');
+  return socket.waitForBytesWritten(kConnectMs);
 }
 
 bool DesktopProcesses::StartHelper(const std::string& name, const std::string& argument) {

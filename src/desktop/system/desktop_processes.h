@@ -18,6 +18,9 @@ class DesktopProcesses : public Processes {
   // programs are looked for in the program's folders, in their order.
   DesktopProcesses(QString runtimeFolder, std::function<void()> onActivate, QStringList programFolders = {});
 
+  // Runs with the path of a file that another instance hands over.
+  std::function<void(const std::string& path)> OnHandedOver;
+
   // A RuntimeError where the mark can't be made.
   bool AnotherInstanceRuns() override;
   // This user's.
@@ -25,6 +28,7 @@ class DesktopProcesses : public Processes {
   std::int64_t CurrentId() const override;
   // Other programs' windows can't be raised from here on Linux; only 0 has an effect.
   void Activate(std::int64_t id) override;
+  bool HandOver(const std::string& path) override;
   // "PadBridge.exe" is an executable "PadBridge" here. It is given the text in UTF-8, and its output goes nowhere.
   bool StartHelper(const std::string& name, const std::string& argument) override;
   void EndProgram() override;
@@ -33,6 +37,7 @@ class DesktopProcesses : public Processes {
  private:
   QString SocketPath() const { return runtimeFolder_ + "/pawnfield.socket"; }
   void Listen();
+  void Answer(QLocalSocket& caller);
 
   QString runtimeFolder_;
   std::function<void()> onActivate_;

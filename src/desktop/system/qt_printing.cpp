@@ -38,8 +38,16 @@ struct Paragraph {
   double height = 0;
 };
 
+// A break in a text of the set is one on paper too.
+QString Lines(const std::string& text) {
+  QString lines = Unescape(text);
+  lines.replace("\r\n", "\n");
+  lines.replace('\r', '\n');
+  return lines.replace('\n', QChar::LineSeparator);
+}
+
 Paragraph Wrap(const std::string& text, const QFont& font, double indent, QPainter& painter) {
-  Paragraph paragraph{std::make_unique<QTextLayout>(Unescape(text), font, painter.device()), indent, 0};
+  Paragraph paragraph{std::make_unique<QTextLayout>(Lines(text), font, painter.device()), indent, 0};
   QTextOption wrap;
   wrap.setWrapMode(QTextOption::WrapAtWordBoundaryOrAnywhere);
   paragraph.layout->setTextOption(wrap);

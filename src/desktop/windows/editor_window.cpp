@@ -3,6 +3,7 @@
 #include <QAction>
 #include <QCheckBox>
 #include <QGridLayout>
+#include <QHeaderView>
 #include <QLineEdit>
 #include <QMenu>
 #include <QMenuBar>
@@ -10,7 +11,9 @@
 
 #include "desktop/files/windows_1252.h"
 #include "desktop/painting/ground.h"
+#include "desktop/windows/file_drop.h"
 #include "desktop/windows/model_widgets.h"
+#include "desktop/windows/question_list_view.h"
 #include "desktop/windows/set_text_edit.h"
 #include "forms/editor_form.h"
 #include "forms/missing_media_form.h"
@@ -24,7 +27,8 @@ constexpr int kToolHeight = 32;
 constexpr int kMoveHeight = 44;
 constexpr int kGap = 8;
 constexpr int kEdge = 16;
-constexpr int kPreviewUnit = 180;
+constexpr int kPreviewUnit = 160;
+constexpr int kLeastPreviewUnit = 90;
 
 template <typename Widget>
 Widget* Named(Widget* widget, const char* name) {
@@ -74,7 +78,8 @@ void AddButtons(QHBoxLayout& row, int height, std::initializer_list<const char*>
 // Keeps the preview in the proportions of the audience's screen, whatever the window's are.
 class PreviewArea : public QWidget {
  public:
-  PreviewArea() { setMinimumSize(4 * kPreviewUnit, 3 * kPreviewUnit); }
+  PreviewArea() { setMinimumSize(4 * kLeastPreviewUnit, 3 * kLeastPreviewUnit); }
+  QSize sizeHint() const override { return {4 * kPreviewUnit, 3 * kPreviewUnit}; }
   void Hold(QWidget& preview) { preview_ = &preview; }
 
  protected:
@@ -87,9 +92,28 @@ class PreviewArea : public QWidget {
   QWidget* preview_ = nullptr;
 };
 
+// Puts the speller into the boxes while the check box is set.
+class SpellingSwitch : public Observer {
+ public:
+  SpellingSwitch(CheckBox& box, Speller& speller, QList<SetTextEdit*> edits)
+      : box_(box), speller_(speller), edits_(std::move(edits)) {
+    box.AddObserver(*this);
+  }
+  void Changed(Control&, PropertyId) override {
+    for (SetTextEdit* edit : edits_) edit->SetSpeller(box_.Value == 1 ? &speller_ : nullptr);
+  }
+
+ private:
+  CheckBox& box_;
+  Speller& speller_;
+  QList<SetTextEdit*> edits_;
+};
+
 }  // namespace
 
-EditorWindow::EditorWindow(EditorForm& form, FormWindows& windows, PictureCache& pictures)
+EditorWindow::~EditorWindow() = default;
+
+EditorWindow::EditorWindow(EditorForm& form, FormWindows& windows, PictureCache& pictures, Speller& speller)
     : FormWindow(form, windows), editor_(form) {
   AddMenu();
   QVBoxLayout& column = *MakeContent(*this, kEdge);
@@ -100,7 +124,12 @@ EditorWindow::EditorWindow(EditorForm& form, FormWindows& windows, PictureCache&
   FillPreview(form);
   Bindings()->AddCanvas(*preview_);
   Bindings()->Hold({"lblQuestionAutoResize"});
+  FitColumns();
   ShowTitle();
+  TakeDrops(*this, [&form](const std::string& path) { form.DropFile(path); });
+  spelling_ = std::make_unique<SpellingSwitch>(
+      form.chkSpellChecker, speller,
+      QList{findChild<SetTextEdit*>("txtEnterQuestion"), findChild<SetTextEdit*>("txtAnswer")});
 }
 
 void EditorWindow::Changed(Control& control, PropertyId id) {
@@ -115,19 +144,30 @@ void EditorWindow::ShowTitle() {
   setWindowModified(editor_.EditDirty);
 }
 
-void EditorWindow::AddMenu() {
-  auto* menu = Named(menuBar()->addMenu(QString()), "mnuFile");
-  const std::pair<const char*, QKeySequence> entries[] = {
-      {"mnuFileNew", QKeySequence::New},     {"mnuFileOpen", QKeySequence::Open},
-      {"mnuFileSave", QKeySequence::Save},   {"mnuSaveAs", QKeySequence("Ctrl+Shift+S")},
-      {"mnuFilePrint", QKeySequence::Print}, {"mnuFileExit", QKeySequence()},
-  };
+void EditorWindow::AddEntries(const char* menuName, std::initializer_list<Entry> entries) {
+  auto* menu = Named(menuBar()->addMenu(QString()), menuName);
   for (const auto& [name, keys] : entries) {
     auto* action = Named(new QAction(this), name);
-    action->setShortcut(keys);
+    action->setShortcuts(keys);
     if (action->objectName() == "mnuFileExit") menu->addSeparator();
     menu->addAction(action);
   }
+}
+
+void EditorWindow::AddMenu() {
+  AddEntries("mnuFile", {{"mnuFileNew", {QKeySequence::New}},
+                         {"mnuFileOpen", {QKeySequence::Open}},
+                         {"mnuFileSave", {QKeySequence::Save}},
+                         {"mnuSaveAs", {QKeySequence("Ctrl+Shift+S")}},
+                         {"mnuFilePrint", {QKeySequence::Print}},
+                         {"mnuImport", {QKeySequence("Ctrl+I")}},
+                         {"mnuExport", {}},
+                         {"mnuPackSet", {}},
+                         {"mnuFileExit", {}}});
+  AddEntries("mnuEdit", {{"mnuEditUndo", {QKeySequence("Ctrl+Z")}},
+                         {"mnuEditRedo", {QKeySequence("Ctrl+Y"), QKeySequence("Ctrl+Shift+Z")}},
+                         {"mnuEditDuplicate", {QKeySequence("Ctrl+D")}},
+                         {"mnuEditFind", {QKeySequence::Find}}});
 }
 
 void EditorWindow::AddTools(QVBoxLayout& column) {
@@ -138,15 +178,51 @@ void EditorWindow::AddTools(QVBoxLayout& column) {
   row.addSpacing(kEdge);
   AddButtons(row, kToolHeight, {"btnFont", "btnFontColor", "btnDefault"});
   row.addSpacing(kEdge);
+  AddButtons(row, kToolHeight, {"btnUndo", "btnRedo"});
+  row.addSpacing(kEdge);
   row.addStretch();
   row.addWidget(MakeLabel("lblImport", "quiet"));
   row.addWidget(MakeButton("btnImport", QSize(0, kToolHeight)));
+}
+
+void EditorWindow::AddList(QHBoxLayout& halves) {
+  auto* column = new QVBoxLayout;
+  column->setSpacing(kGap);
+  halves.addLayout(column, 3);
+  auto* row = AddRow(*column);
+  auto* find = Named(new QLineEdit, "txtFind");
+  find->setMinimumHeight(kToolHeight);
+  find->setPlaceholderText("Find in questions and answers");
+  find->setAccessibleName("Find");
+  find->setClearButtonEnabled(true);
+  row->addWidget(find, 1);
+  row->addWidget(MakeLabel("lblFound", "quiet"));
+  AddButtons(*row, kToolHeight, {"btnFindNext"});
+  auto* list = Named(new QuestionListView, "lstQuestions");
+  list->setAccessibleName("All questions");
+  column->addWidget(list, 1);
+  connect(list, &QuestionListView::Moved, this, [this](int from, int to) { editor_.lstQuestions.Move(from, to); });
+  connect(list, &QuestionListView::DeletePressed, this, [this] { editor_.lstQuestions.Delete(); });
+  connect(list, &QuestionListView::DuplicatePressed, this, [this] { editor_.lstQuestions.Duplicate(); });
+  auto* next = findChild<QPushButton*>("btnFindNext");
+  if (next != nullptr) next->setShortcut(QKeySequence::FindNext);
+  connect(find, &QLineEdit::returnPressed, this, [this] { editor_.btnFindNext.Click(); });
+}
+
+// The wording has what room the numbers and kinds leave.
+void EditorWindow::FitColumns() {
+  QHeaderView& header = *findChild<QTreeWidget*>("lstQuestions")->header();
+  header.setStretchLastSection(false);
+  const int widths[] = {44, 66, 150, 110, 92};
+  for (int column = 0; column < header.count(); ++column) header.resizeSection(column, widths[column]);
+  header.setSectionResizeMode(2, QHeaderView::Stretch);
 }
 
 void EditorWindow::AddQuestion(QVBoxLayout& column, PictureCache& pictures) {
   auto* halves = new QHBoxLayout;
   halves->setSpacing(kEdge);
   column.addLayout(halves, 1);
+  AddList(*halves);
   auto* area = new PreviewArea;
   preview_ = Named(new Canvas(pictures, area), "pnlPreview");
   area->Hold(*preview_);
@@ -178,7 +254,11 @@ void EditorWindow::AddQuestion(QVBoxLayout& column, PictureCache& pictures) {
   grid->addWidget(MakeLabel("lblAnswer"), 5, 0);
   auto* answer = MakeText("txtAnswer", 3, "Answer");
   grid->addWidget(answer, 6, 0);
-  grid->addWidget(Named(new QCheckBox, "chkSpellChecker"), 7, 0);
+  auto* spelling = new QHBoxLayout;
+  spelling->setSpacing(kGap);
+  spelling->addWidget(Named(new QCheckBox, "chkSpellChecker"));
+  spelling->addWidget(MakeLabel("lblSpelling", "quiet"), 1);
+  grid->addLayout(spelling, 7, 0);
   grid->setRowStretch(4, 3);
   grid->setRowStretch(6, 2);
   setTabOrder(question, answer);
@@ -188,7 +268,7 @@ void EditorWindow::AddNavigation(QVBoxLayout& column) {
   QHBoxLayout& row = *AddRow(column);
   AddButtons(row, kMoveHeight, {"btnBack10", "btnBack", "btnForward", "btnForward10"});
   row.addSpacing(kEdge * 2);
-  AddButtons(row, kMoveHeight, {"btnInsertQuestion", "btnDeleteQuestion"});
+  AddButtons(row, kMoveHeight, {"btnInsertQuestion", "btnDuplicateQuestion", "btnDeleteQuestion"});
   row.addStretch();
   row.addWidget(MakeButton("btnNext", QSize(180, kMoveHeight)));
   // What is written is followed by the next question.

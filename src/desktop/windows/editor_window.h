@@ -1,6 +1,10 @@
 // The windows of the set editor: the editor itself, the choice before it, and the repair of a missing medium.
 #pragma once
 
+#include <QKeySequence>
+#include <QList>
+#include <initializer_list>
+
 #include "desktop/painting/canvas.h"
 #include "desktop/windows/form_window.h"
 
@@ -11,17 +15,26 @@ namespace pawnfield {
 
 struct EditChoiceForm;
 class EditorForm;
+class Speller;
 struct MissingMediaForm;
 
 class EditorWindow : public FormWindow {
  public:
-  EditorWindow(EditorForm& form, FormWindows& windows, PictureCache& pictures);
+  EditorWindow(EditorForm& form, FormWindows& windows, PictureCache& pictures, Speller& speller);
+  ~EditorWindow() override;
   Canvas& Preview() { return *preview_; }
   void Changed(Control& control, PropertyId id) override;
 
  private:
+  struct Entry {
+    const char* name;
+    QList<QKeySequence> keys;
+  };
+  void AddEntries(const char* menuName, std::initializer_list<Entry> entries);
   void AddMenu();
   void AddTools(QVBoxLayout& column);
+  void AddList(QHBoxLayout& halves);
+  void FitColumns();
   void AddQuestion(QVBoxLayout& column, PictureCache& pictures);
   void AddNavigation(QVBoxLayout& column);
   void FillPreview(EditorForm& form);
@@ -30,6 +43,8 @@ class EditorWindow : public FormWindow {
 
   EditorForm& editor_;
   Canvas* preview_ = nullptr;
+  // Turns the spelling of the boxes on and off with the check box.
+  std::unique_ptr<Observer> spelling_;
 };
 
 class EditChoiceWindow : public FormWindow {

@@ -1,13 +1,16 @@
 #include "desktop/windows/set_text_edit.h"
 
+#include <QContextMenuEvent>
 #include <QInputMethodEvent>
 #include <QKeyEvent>
+#include <QMenu>
 #include <QMimeData>
 #include <QTextDocument>
 #include <QToolTip>
 #include <algorithm>
 
 #include "desktop/files/windows_1252.h"
+#include "desktop/windows/spelling_marks.h"
 
 namespace pawnfield {
 
@@ -22,14 +25,31 @@ QString OneLine(QString text) {
   return text.normalized(QString::NormalizationForm_C);
 }
 
-// The first character that a set file has no byte for; empty when there is none.
+// The first character that no text of people holds; empty when there is none.
 QString Unstorable(const QString& text) {
   for (const char32_t code : text.toUcs4()) {
-    QString character = QString::fromUcs4(&code, 1);
-    const bool control = code < 0x20 && code != '\t';
-    if (control || !ToWindows1252(character)) return character;
+    const bool control = (code < 0x20 && code != '\t') || code == 0x7F || (code >= 0xD800 && code <= 0xDFFF);
+    if (control) return QString::fromUcs4(&code, 1);
   }
   return {};
+}
+
+// As the box has them: one end of a line, whatever it is in the set.
+QString WithOneBreak(QString text) {
+  text.replace("\r\n", "\n");
+  return text.replace('\r', '\n');
+}
+
+// As many letters as the file has room for. A letter that Western European text doesn't have takes five bytes there.
+QString Fitting(const QString& text, qsizetype room) {
+  QString fitting;
+  for (const char32_t code : text.toUcs4()) {
+    const QString letter = QString::fromUcs4(&code, 1);
+    room -= static_cast<qsizetype>(EscapeLines(letter).size());
+    if (room < 0) break;
+    fitting += letter;
+  }
+  return fitting;
 }
 
 QString NameOf(const QString& character) {
@@ -52,7 +72,7 @@ class SetTextBinding : public Observer {
     view_.setVisible(box_.Visible);
     view_.setEnabled(box_.Enabled);
     if (id == PropertyId::Focus) view_.setFocus();
-    const QString text = Unescape(box_.Text);
+    const QString text = WithOneBreak(Unescape(box_.Text));
     if (id == PropertyId::Text && view_.Content() != text) {
       const QSignalBlocker quiet(view_);
       view_.setPlainText(text);
@@ -61,7 +81,7 @@ class SetTextBinding : public Observer {
 
  private:
   void Edited() {
-    const std::string bytes = Escape(view_.Content());
+    const std::string bytes = EscapeLines(view_.Content());
     if (bytes != box_.Text.Get()) box_.Type(bytes);
   }
 
@@ -71,14 +91,27 @@ class SetTextBinding : public Observer {
 
 }  // namespace
 
+SetTextEdit::~SetTextEdit() = default;
+
 SetTextEdit::SetTextEdit(QWidget* parent) : QPlainTextEdit(parent) {
   setTabChangesFocus(true);
+  // The editor takes back what was typed, with all else that was changed.
+  setUndoRedoEnabled(false);
   setVerticalScrollBarPolicy(Qt::ScrollBarAsNeeded);
 }
 
 // The toolkit's plain text would have its hard blanks changed into soft ones.
 QString SetTextEdit::Content() const {
   return document()->toRawText().replace(QChar(QChar::ParagraphSeparator), QChar('\n'));
+}
+
+bool SetTextEdit::event(QEvent* event) {
+  if (event->type() == QEvent::ShortcutOverride) {
+    const auto* key = static_cast<QKeyEvent*>(event);
+    // The toolkit would keep these keys from the menu.
+    if (key->matches(QKeySequence::Undo) || key->matches(QKeySequence::Redo)) return false;
+  }
+  return QPlainTextEdit::event(event);
 }
 
 void SetTextEdit::keyPressEvent(QKeyEvent* event) {
@@ -119,11 +152,37 @@ void SetTextEdit::Insert(const QString& text) {
     ShowNotice(NameOf(refused) + " can't be kept in a set file and was not taken.");
     return;
   }
-  const qsizetype selected = textCursor().selectionEnd() - textCursor().selectionStart();
-  const qsizetype room = limit_ == 0 ? line.size() : limit_ - (Content().size() - selected);
-  if (line.size() > room) ShowNotice(QString("Only %1 characters fit here. The rest was left out.").arg(limit_));
-  insertPlainText(line.left(std::max<qsizetype>(room, 0)));
+  const auto bytesOf = [](const QString& of) { return static_cast<qsizetype>(EscapeLines(of).size()); };
+  const QString selected = textCursor().selectedText();
+  const qsizetype room = limit_ - (bytesOf(Content()) - bytesOf(selected));
+  const QString fitting = limit_ == 0 ? line : Fitting(line, room);
+  if (fitting != line) ShowNotice(NoticeOf(line));
+  insertPlainText(fitting);
   ensureCursorVisible();
+}
+
+QString SetTextEdit::NoticeOf(const QString& line) const {
+  const bool plain = ToWindows1252(line + Content()).has_value();
+  return plain ? QString("Only %1 characters fit here. The rest was left out.").arg(limit_)
+               : QString(
+                     "Only %1 characters fit here, and letters of other alphabets count as five. The rest was left "
+                     "out.")
+                     .arg(limit_);
+}
+
+void SetTextEdit::SetSpeller(Speller* speller) {
+  marks_ = speller == nullptr ? nullptr : std::make_unique<SpellingMarks>(*document(), *speller);
+}
+
+// A right click on a word that is marked offers others for it, above what a text box offers anyway.
+void SetTextEdit::contextMenuEvent(QContextMenuEvent* event) {
+  const std::unique_ptr<QMenu> menu(createStandardContextMenu());
+  if (marks_)
+    marks_->AddSuggestions(*menu, cursorForPosition(event->pos()), [this](QTextCursor word, QString with) {
+      setTextCursor(word);
+      Insert(with);
+    });
+  menu->exec(event->globalPos());
 }
 
 void SetTextEdit::ShowNotice(const QString& notice) {

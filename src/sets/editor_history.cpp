@@ -1,0 +1,124 @@
+#include "sets/editor_history.h"
+
+#include <algorithm>
+
+#include "forms/editor_form.h"
+#include "platform/escapes.h"
+#include "platform/text.h"
+#include "sets/set_parser.h"
+#include "show/show.h"
+
+namespace pawnfield::editor {
+
+namespace {
+
+constexpr std::size_t kFirstWords = 80;
+
+EditState StateOf(Show& show) {
+  EditState state;
+  state.Count = show.NumEditQuestions;
+  state.File = show.frmEditor.EditFileName;
+  state.Number = show.frmEditor.EditQuestionNumber;
+  const TriviaQuestion blank;
+  auto last = show.EditSet.end();
+  while (last != show.EditSet.begin() && *(last - 1) == blank) --last;
+  state.Records.assign(show.EditSet.begin(), last);
+  return state;
+}
+
+void NoteEdit(Show& show, const std::string& what, const EditState& before) {
+  EditorForm& form = show.frmEditor;
+  EditState state = StateOf(show);
+  if (what.empty()) {
+    if (state.Number != before.Number) form.History.Settle();
+    form.History.Absorb(std::move(state));
+  } else if (!state.HoldsSame(before)) {
+    form.History.Take(std::move(state), what);
+    form.EditDirty = true;
+  }
+  if (!form.EditDirty) form.History.MarkSaved();
+  ShowEditorLists(show);
+}
+
+std::string KindText(const TriviaQuestion& question) {
+  switch (KindOfQuestion(Trim(question.QuestionText))) {
+    case QuestionKind::Picture:
+      return "Picture";
+    case QuestionKind::Sound:
+      return "Sound";
+    default:
+      return "Text";
+  }
+}
+
+// A medium goes by its file's name.
+std::string FirstWords(const TriviaQuestion& question) {
+  const std::string text = Trim(question.QuestionText);
+  const std::string name = ExtractFileName(text);
+  return FirstLetters(KindOfQuestion(text) == QuestionKind::Text || name.empty() ? text : name, kFirstWords);
+}
+
+ListView::Row RowOf(const TriviaSet& set, std::size_t i) {
+  const TriviaQuestion& question = set[i];
+  return {std::to_string(i + 1), KindText(question), FirstWords(question),
+          FirstLetters(Trim(question.AnswerText), kFirstWords), ""};
+}
+
+void ShowStep(Button& button, Menu& entry, const char* verb, const std::string& what) {
+  button.Enabled = !what.empty();
+  entry.Enabled = !what.empty();
+  const std::string text = what.empty() ? verb : std::string(verb) + ": " + what;
+  button.ToolTipText = text;
+  entry.Caption = "&" + text;
+}
+
+bool CanDuplicate(Show& show) {
+  const int number = show.frmEditor.EditQuestionNumber;
+  if (number < 1 || number > kSetCapacity || show.NumEditQuestions >= kSetCapacity - 1) return false;
+  const TriviaQuestion& shown = show.EditSet[static_cast<std::size_t>(number) - 1];
+  return !Trim(shown.QuestionText).empty() || !Trim(shown.AnswerText).empty();
+}
+
+}  // namespace
+
+void BeginHistory(Show& show) {
+  show.frmEditor.History.Begin(StateOf(show));
+  ShowEditorLists(show);
+}
+
+void RunEdit(Show& show, const std::string& what, const std::function<void()>& routine) {
+  EditState before = StateOf(show);
+  try {
+    routine();
+  } catch (...) {
+    NoteEdit(show, what, before);
+    throw;
+  }
+  NoteEdit(show, what, before);
+}
+
+std::string UnsavedLines(Show& show, std::size_t most) {
+  const auto lines = show.frmEditor.History.Unsaved();
+  std::string text;
+  for (std::size_t i = 0; i < lines.size() && i < most; ++i) text += "\r\n" + lines[i];
+  if (lines.size() > most) text += "\r\nand " + std::to_string(lines.size() - most) + " more";
+  return text;
+}
+
+void ShowEditorLists(Show& show) {
+  EditorForm& form = show.frmEditor;
+  const int shown = std::max(show.NumEditQuestions, form.EditQuestionNumber);
+  std::vector<ListView::Row> rows;
+  for (int i = 0; i < std::clamp(shown, 0, kSetCapacity); ++i) {
+    rows.push_back(RowOf(show.EditSet, static_cast<std::size_t>(i)));
+  }
+  form.lstQuestions.ListItems = rows;
+  form.lstQuestions.SelectedItem = form.EditQuestionNumber - 1;
+  form.btnDuplicateQuestion.Enabled = CanDuplicate(show);
+  form.mnuEditDuplicate.Enabled = form.btnDuplicateQuestion.Enabled.Get();
+  form.btnFindNext.Enabled = !Trim(form.txtFind.Text).empty();
+  ShowStep(form.btnUndo, form.mnuEditUndo, "Undo", form.History.UndoText());
+  ShowStep(form.btnRedo, form.mnuEditRedo, "Redo", form.History.RedoText());
+}
+
+}  // namespace pawnfield::editor
