@@ -13,7 +13,6 @@
 #include "desktop/files/qt_settings_store.h"
 #include "desktop/files/record_writer.h"
 #include "desktop/files/sheet_reader.h"
-#include "desktop/files/zip_bundles.h"
 #include "desktop/media/media_files.h"
 #include "desktop/media/media_length.h"
 #include "desktop/media/mpv_video.h"
@@ -26,6 +25,7 @@
 #include "desktop/system/qt_displays.h"
 #include "desktop/system/qt_printing.h"
 #include "desktop/system/qt_readers.h"
+#include "desktop/system/zip_bundles.h"
 #include "desktop/windows/desktop_pages.h"
 #include "desktop/windows/speller.h"
 

@@ -50,7 +50,7 @@ EditorForm::EditorForm() : Form("frmEditor") {
 }
 
 void EditorForm::DropFile(const std::string& path) {
-  if (IsReachable() && OnDropFile) Raise([this, path] { OnDropFile(path); }, "_DropFile");
+  if (Enabled && OnDropFile) Raise([this, path] { OnDropFile(path); }, "_DropFile");
 }
 
 void EditorForm::SetFile(const std::string& path) {
@@ -126,6 +126,8 @@ void EditorForm::Reset() {
   imgQuestionPicture.Picture = std::string();
   lblFound.Caption = std::string();
   History.Begin({});
+  Checked.clear();
+  Findings.clear();
   chkSpellChecker.Value = 0;
   EditQuestionNumber = 1;
   EditDirty = false;

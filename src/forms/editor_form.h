@@ -4,8 +4,10 @@
 
 #include <functional>
 #include <string>
+#include <vector>
 
 #include "data/edit_history.h"
+#include "data/trivia_set.h"
 #include "platform/common_dialog.h"
 #include "platform/controls.h"
 
@@ -51,6 +53,9 @@ class EditorForm : public Form {
   std::string EditFileName;
   std::string EditQuestionKind = "T";
   EditHistory History;
+  // The records that were checked last, and what was found about each.
+  std::vector<TriviaQuestion> Checked;
+  std::vector<std::string> Findings;
   CommonDialog cd1EditorDialog;
   CommonDialog cd1FontDialog;
 

@@ -1,4 +1,5 @@
-// frmImport: what would come into the editor's set from a sheet, row by row, before anything is taken. Owned by the show.
+// frmImport: what would come into the editor's set from a sheet, row by row, before anything is taken. Owned by the
+// show.
 #pragma once
 
 #include <string>

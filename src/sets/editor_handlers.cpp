@@ -42,7 +42,7 @@ void OnEdit(Show& show, Control& button, Control& entry, Handler handler, const 
 }
 
 void OnTyped(Show& show, TextBox& box, Handler handler, const std::string& what) {
-  box.OnChange = [&show, handler, what] { RunEdit(show, NameStep(show, what), [&show, handler] { handler(show); }); };
+  box.OnChange = [&show, handler, what] { RunTyping(show, NameStep(show, what), [&show, handler] { handler(show); }); };
 }
 
 void TakeDropped(Show& show, const std::string& path) {
@@ -68,7 +68,10 @@ void AttachEntries(Show& show) {
     RunEdit(show, "", [&show] { txtEnterQuestion_LostFocus(show); });
     show.frmEditor.History.Settle();
   };
-  form.txtAnswer.OnLostFocus = [&show] { show.frmEditor.History.Settle(); };
+  form.txtAnswer.OnLostFocus = [&show] {
+    show.frmEditor.History.Settle();
+    ShowEditorLists(show);
+  };
   OnClick(show, form.chkSpellChecker, chkSpellChecker_Click);
   OnClick(show, form.txtDisplayQuestion, txtDisplayQuestion_Click);
 }

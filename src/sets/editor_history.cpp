@@ -5,6 +5,7 @@
 #include "forms/editor_form.h"
 #include "platform/escapes.h"
 #include "platform/text.h"
+#include "sets/set_check.h"
 #include "sets/set_parser.h"
 #include "show/show.h"
 
@@ -37,7 +38,6 @@ void NoteEdit(Show& show, const std::string& what, const EditState& before) {
     form.EditDirty = true;
   }
   if (!form.EditDirty) form.History.MarkSaved();
-  ShowEditorLists(show);
 }
 
 std::string KindText(const TriviaQuestion& question) {
@@ -58,10 +58,24 @@ std::string FirstWords(const TriviaQuestion& question) {
   return FirstLetters(KindOfQuestion(text) == QuestionKind::Text || name.empty() ? text : name, kFirstWords);
 }
 
-ListView::Row RowOf(const TriviaSet& set, std::size_t i) {
+// Takes some tens of milliseconds for a full set, and nothing where the set is the one that was checked last.
+void CheckRecords(Show& show) {
+  EditorForm& form = show.frmEditor;
+  std::vector<TriviaQuestion> records = StateOf(show).Records;
+  if (records == form.Checked) return;
+  form.Findings.assign(kSetCapacity, "");
+  const int count = CountQuestions(show.EditSet);
+  for (const SetFinding& finding : CheckSet(show.platform.text, show.EditSet, count, RoomForWordings(show))) {
+    std::string& text = form.Findings.at(static_cast<std::size_t>(finding.Question) - 1);
+    text += (text.empty() ? "" : "; ") + finding.Sentence;
+  }
+  form.Checked = std::move(records);
+}
+
+ListView::Row RowOf(const EditorForm& form, const TriviaSet& set, std::size_t i) {
   const TriviaQuestion& question = set[i];
   return {std::to_string(i + 1), KindText(question), FirstWords(question),
-          FirstLetters(Trim(question.AnswerText), kFirstWords), ""};
+          FirstLetters(Trim(question.AnswerText), kFirstWords), i < form.Findings.size() ? form.Findings[i] : ""};
 }
 
 void ShowStep(Button& button, Menu& entry, const char* verb, const std::string& what) {
@@ -79,6 +93,22 @@ bool CanDuplicate(Show& show) {
   return !Trim(shown.QuestionText).empty() || !Trim(shown.AnswerText).empty();
 }
 
+void ShowList(Show& show) {
+  EditorForm& form = show.frmEditor;
+  const int shown = std::max(show.NumEditQuestions, form.EditQuestionNumber);
+  std::vector<ListView::Row> rows;
+  for (int i = 0; i < std::clamp(shown, 0, kSetCapacity); ++i) {
+    rows.push_back(RowOf(form, show.EditSet, static_cast<std::size_t>(i)));
+  }
+  form.lstQuestions.ListItems = rows;
+  form.lstQuestions.SelectedItem = form.EditQuestionNumber - 1;
+  form.btnDuplicateQuestion.Enabled = CanDuplicate(show);
+  form.mnuEditDuplicate.Enabled = form.btnDuplicateQuestion.Enabled.Get();
+  form.btnFindNext.Enabled = !Trim(form.txtFind.Text).empty();
+  ShowStep(form.btnUndo, form.mnuEditUndo, "Undo", form.History.UndoText());
+  ShowStep(form.btnRedo, form.mnuEditRedo, "Redo", form.History.RedoText());
+}
+
 }  // namespace
 
 void BeginHistory(Show& show) {
@@ -86,15 +116,24 @@ void BeginHistory(Show& show) {
   ShowEditorLists(show);
 }
 
-void RunEdit(Show& show, const std::string& what, const std::function<void()>& routine) {
-  EditState before = StateOf(show);
+void RunTyping(Show& show, const std::string& what, const std::function<void()>& routine) {
+  const EditState before = StateOf(show);
+  const auto note = [&] {
+    NoteEdit(show, what, before);
+    ShowList(show);
+  };
   try {
     routine();
   } catch (...) {
-    NoteEdit(show, what, before);
+    note();
     throw;
   }
-  NoteEdit(show, what, before);
+  note();
+}
+
+void RunEdit(Show& show, const std::string& what, const std::function<void()>& routine) {
+  RunTyping(show, what, routine);
+  ShowEditorLists(show);
 }
 
 std::string UnsavedLines(Show& show, std::size_t most) {
@@ -106,19 +145,8 @@ std::string UnsavedLines(Show& show, std::size_t most) {
 }
 
 void ShowEditorLists(Show& show) {
-  EditorForm& form = show.frmEditor;
-  const int shown = std::max(show.NumEditQuestions, form.EditQuestionNumber);
-  std::vector<ListView::Row> rows;
-  for (int i = 0; i < std::clamp(shown, 0, kSetCapacity); ++i) {
-    rows.push_back(RowOf(show.EditSet, static_cast<std::size_t>(i)));
-  }
-  form.lstQuestions.ListItems = rows;
-  form.lstQuestions.SelectedItem = form.EditQuestionNumber - 1;
-  form.btnDuplicateQuestion.Enabled = CanDuplicate(show);
-  form.mnuEditDuplicate.Enabled = form.btnDuplicateQuestion.Enabled.Get();
-  form.btnFindNext.Enabled = !Trim(form.txtFind.Text).empty();
-  ShowStep(form.btnUndo, form.mnuEditUndo, "Undo", form.History.UndoText());
-  ShowStep(form.btnRedo, form.mnuEditRedo, "Redo", form.History.RedoText());
+  CheckRecords(show);
+  ShowList(show);
 }
 
 }  // namespace pawnfield::editor

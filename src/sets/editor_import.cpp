@@ -21,8 +21,7 @@ namespace pawnfield::editor {
 namespace {
 
 constexpr std::size_t kFirstWords = 80;
-constexpr const char* kSheetFilter =
-    "Sheets(*.csv;*.tsv;*.ods;*.xlsx)|*.csv;*.tsv;*.ods;*.xlsx|All files(*.*)|*.*";
+constexpr const char* kSheetFilter = "Sheets(*.csv;*.tsv;*.ods;*.xlsx)|*.csv;*.tsv;*.ods;*.xlsx|All files(*.*)|*.*";
 
 // A name alone is a file beside the sheet, where there is one.
 std::string MediumPath(Show& show, const std::string& name) {
@@ -37,9 +36,7 @@ ImportColumns ChosenColumns(const ImportForm& form) {
 }
 
 // How many questions stay in the set. A last one that nobody has written doesn't.
-int KeptQuestions(Show& show) {
-  return show.frmImport.optReplace.Value ? 0 : CountQuestions(show.EditSet);
-}
+int KeptQuestions(Show& show) { return show.frmImport.optReplace.Value ? 0 : CountQuestions(show.EditSet); }
 
 std::vector<ImportRow> PreviewedRows(Show& show) {
   return ReadQuestions(show.frmImport.Rows, ChosenColumns(show.frmImport), kSetCapacity - KeptQuestions(show),
@@ -67,8 +64,9 @@ void ShowPreview(Show& show) {
   }
   form.lstRows.ListItems = lines;
   const std::size_t out = rows.size() - fit;
-  form.lblSummary.Caption = out == 0 ? "All rows fit." : std::to_string(out) + " of " + std::to_string(rows.size()) +
-                                                             " rows can't be taken and are left out.";
+  form.lblSummary.Caption =
+      out == 0 ? "All rows fit."
+               : std::to_string(out) + " of " + std::to_string(rows.size()) + " rows can't be taken and are left out.";
   form.btnTake.Caption = "Import " + Questions(fit);
   form.btnTake.Enabled = fit > 0;
 }
@@ -149,8 +147,9 @@ void ImportSheet(Show& show, const std::string& path) {
 
 void mnuExport_Click(Show& show) {
   const std::string name = SetName(ExtractFileName(show.frmEditor.EditFileName));
-  std::string path = ShowFileDialog(show, {FileDialogMode::SaveAskingOverwrite, "Export Questions",
-                                           "Comma-separated(*.csv)|*.csv", "csv", name.empty() ? "" : name + ".csv", ""});
+  std::string path =
+      ShowFileDialog(show, {FileDialogMode::SaveAskingOverwrite, "Export Questions", "Comma-separated(*.csv)|*.csv",
+                            "csv", name.empty() ? "" : name + ".csv", ""});
   if (Trim(path).empty()) return;
   const std::string folder = ExtractFolder(path);
   // What lies beside the sheet goes by its name, as it came.

@@ -34,8 +34,8 @@ struct ImportRow {
   std::string Problem;
 };
 
-// A row for each of the sheet that isn't blank, and for no heading. `room` questions are taken. What a set can't hold as
-// a file has it is left out, and said: nothing is cut. A name of a picture or sound becomes a path by `mediumPath`.
+// A row for each of the sheet that isn't blank, and for no heading. `room` questions are taken. What a set can't hold
+// as a file has it is left out, and said: nothing is cut. A name of a picture or sound becomes a path by `mediumPath`.
 std::vector<ImportRow> ReadQuestions(const Sheet& sheet, const ImportColumns& columns, int room,
                                      const std::function<std::string(const std::string& name)>& mediumPath);
 // The set as a sheet with a heading, such that ReadQuestions gives it back. `mediumName` says how a path is written.

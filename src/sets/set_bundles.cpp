@@ -40,8 +40,9 @@ std::string PlainName(const std::string& name) {
   std::string plain;
   for (std::size_t at = 0; at < base.size();) {
     const auto code = EscapeAt(base, at);
-    const bool isOdd = code ? *code < 0x80 : static_cast<unsigned char>(base[at]) < ' ' || base[at] == kEscapeMark ||
-                                                 std::string("/\\:*?\"<>|").find(base[at]) != std::string::npos;
+    const bool isOdd = code ? *code < 0x80
+                            : static_cast<unsigned char>(base[at]) < ' ' || base[at] == kEscapeMark ||
+                                  std::string("/\\:*?\"<>|").find(base[at]) != std::string::npos;
     const std::size_t length = code ? kEscapeLength : 1;
     plain += isOdd ? "_" : base.substr(at, length);
     at += length;
@@ -100,9 +101,8 @@ bool PackWithout(Show& show, const std::vector<std::string>& missing) {
 std::string AskBundlePath(Show& show) {
   const std::string file = ExtractFileName(show.frmEditor.EditFileName);
   const std::string name = (file.empty() ? "Untitled" : SetName(file)) + kBundleEnding;
-  const std::string path =
-      Trim(ShowFileDialog(show, {FileDialogMode::SaveAskingOverwrite, "Pack Set", kBundleFilter,
-                                 std::string(kBundleEnding).substr(1), name, ""}));
+  const std::string path = Trim(ShowFileDialog(show, {FileDialogMode::SaveAskingOverwrite, "Pack Set", kBundleFilter,
+                                                      std::string(kBundleEnding).substr(1), name, ""}));
   return path.empty() || IsBundleName(path) ? path : path + kBundleEnding;
 }
 
@@ -125,12 +125,12 @@ std::string FreeSetName(Show& show, const std::string& name) {
 }
 
 bool WantsBundle(Show& show, const BundleContents& contents, const std::string& name) {
-  const std::string what = "\"" + contents.SetName + "\"" +
-                           (contents.Media.empty() ? "" : " with " + FileCount(contents.Media.size()));
-  const std::string text = name == contents.SetName
-                               ? "Would you like to add the set " + what + " to your sets?"
-                               : "You have a set \"" + contents.SetName + "\" already. Would you like to add this one, " +
-                                     what + ", beside it as \"" + name + "\"?";
+  const std::string what =
+      "\"" + contents.SetName + "\"" + (contents.Media.empty() ? "" : " with " + FileCount(contents.Media.size()));
+  const std::string text = name == contents.SetName ? "Would you like to add the set " + what + " to your sets?"
+                                                    : "You have a set \"" + contents.SetName +
+                                                          "\" already. Would you like to add this one, " + what +
+                                                          ", beside it as \"" + name + "\"?";
   return show.platform.dialogs.Ask({text, BoxKind::YesNo, BoxAnswer::No, "Add", "Don't Add"}, kAppTitle) ==
          BoxAnswer::Yes;
 }
@@ -140,9 +140,8 @@ void PointAtMedia(TriviaSet& set, const BundleContents& contents, const std::str
   for (TriviaQuestion& question : set) {
     if (!IsMedium(question)) continue;
     const std::string name = ExtractFileName("\\" + Trim(question.QuestionText));
-    const auto found = std::find_if(contents.Media.begin(), contents.Media.end(), [&name](const std::string& one) {
-      return ToLower(one) == ToLower(name);
-    });
+    const auto found = std::find_if(contents.Media.begin(), contents.Media.end(),
+                                    [&name](const std::string& one) { return ToLower(one) == ToLower(name); });
     question.QuestionText = found == contents.Media.end() ? name : folder + "\\" + *found;
   }
 }

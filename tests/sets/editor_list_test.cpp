@@ -1,7 +1,8 @@
 // The editor's list of all questions, and what Undo and Redo bring back, worked by the form's controls.
+#include "sets/editor_list.h"
+
 #include "forms/editor_form.h"
 #include "sets/editor_history.h"
-#include "sets/editor_list.h"
 #include "support/editor_fixture.h"
 
 namespace pawnfield {
@@ -123,10 +124,26 @@ TEST_F(EditorList, TheQuestionBeforeACloseNamesWhatIsNotSaved) {
   EXPECT_TRUE(editor().EditDirty);
 }
 
+TEST_F(EditorList, WhatTheCheckFindsStandsInTheListOnceABoxIsLeft) {
+  Open("abc");
+  const auto found = [this](std::size_t row) { return editor().lstQuestions.ListItems.Get()[row][4]; };
+  EXPECT_EQ(found(0) + "|" + found(2), "No answer|No answer");
+  Do("answer yes");
+  EXPECT_EQ(found(0), "No answer") << "the box is not left yet";
+  editor().txtAnswer.LoseFocus();
+  EXPECT_EQ(found(0), "");
+  Do("row 3 answer yes type a row 2");
+  EXPECT_EQ(found(2), "The same as question 1");
+  Do("undo undo row 1");
+  EXPECT_EQ(found(2), "No answer");
+}
+
 TEST_F(EditorList, AQuestionLeftUnwrittenIsGoneFromTheList) {
   const std::tuple<const char*, const char*, const char*> cases[] = {
-      {"abcd", "row 2 insert row 5", "abc[d]"}, {"abcd", "row 2 insert row 1", "[a]bcd"},
-      {"ab", "row 2 next row 1", "[a]b"},       {"ab", "row 2 next answer yes row 1", "[a]b_"},
+      {"abcd", "row 2 insert row 5", "abc[d]"},
+      {"abcd", "row 2 insert row 1", "[a]bcd"},
+      {"ab", "row 2 next row 1", "[a]b"},
+      {"ab", "row 2 next answer yes row 1", "[a]b_"},
       {"ab", "row 9", "[a]b"},
   };
   for (const auto& [set, done, listed] : cases) {

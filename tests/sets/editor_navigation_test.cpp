@@ -125,10 +125,10 @@ TEST(EditorNavigation, ABlankQuestionBlocksAllButTheWayBack) {
     const bool acts = control->Kind() == ControlKind::Button || control->Kind() == ControlKind::Menu;
     if (acts && control->Enabled) enabled += control->Name() + " ";
   }
-  EXPECT_EQ(enabled,
-            "mnuFile mnuFileExit mnuEdit mnuEditFind btnText btnPicture btnSound btnFont btnFontColor btnDefault "
-            "btnPlay btnStop btnBack "
-            "btnDeleteQuestion ");
+  EXPECT_EQ(
+      enabled,
+      "mnuFile mnuImport mnuExport mnuPackSet mnuFileExit mnuEdit mnuEditFind btnText btnPicture btnSound btnFont "
+      "btnFontColor btnDefault btnPlay btnStop btnBack btnDeleteQuestion ");
   editor.txtEnterQuestion.Type("   ");
   EXPECT_FALSE(editor.btnSave.Enabled);
   editor.txtEnterQuestion.Type(" x ");

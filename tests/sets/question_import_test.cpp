@@ -1,9 +1,10 @@
 // Questions out of sheets: what the preview says of each row, what is taken, and what an export gives back.
+#include "sets/question_import.h"
+
 #include "forms/editor_form.h"
 #include "forms/import_form.h"
 #include "platform/escapes.h"
 #include "sets/editor_history.h"
-#include "sets/question_import.h"
 #include "sets/set_parser.h"
 #include "support/editor_fixture.h"
 
@@ -116,8 +117,9 @@ TEST_F(ImportPreview, ThePreviewFollowsTheChoicesAndImportTakesWhatFits) {
     EXPECT_EQ(Checks(form), "1Me:|2You:|3He:|All rows fit.|Import 3 Questions");
     form.cboQuestion.Select(1);
     form.cboAnswer.Select(1);
-    EXPECT_EQ(Checks(form), "1Who?:|2:No question|3Where?:|1 of 3 rows can't be taken and are left out.|"
-                            "Import 2 Questions");
+    EXPECT_EQ(Checks(form),
+              "1Who?:|2:No question|3Where?:|1 of 3 rows can't be taken and are left out.|"
+              "Import 2 Questions");
     EXPECT_EQ(form.lstRows.ListItems.Get()[2][3], "He");
     form.chkHeading.Click();
     EXPECT_EQ(form.btnTake.Caption, "Import 1 Question");

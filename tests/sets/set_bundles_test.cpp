@@ -1,9 +1,10 @@
 // Sets packed with their media and opened again, by the editor's menu, a drop and a second start of the program.
+#include "sets/set_bundles.h"
+
 #include "engine/set_choice.h"
 #include "forms/editor_form.h"
 #include "forms/main_form.h"
 #include "program/program.h"
-#include "sets/set_bundles.h"
 #include "sets/set_parser.h"
 #include "support/editor_fixture.h"
 
@@ -55,8 +56,8 @@ TEST_F(SetBundles, APackedSetComesBackWithItsMediaInAFolderOfItsName) {
   Medium(3, kSets + "Media\\tune.mp3", "S");
   Pack();
   EXPECT_EQ(Packed(), "Quiz|dog.jpg|Dog (2).jpg|tune.mp3");
-  const auto set = Offer("Would you like to add the set \"Quiz\" with 3 pictures and sounds to your sets?",
-                         BoxAnswer::Yes);
+  const auto set =
+      Offer("Would you like to add the set \"Quiz\" with 3 pictures and sounds to your sets?", BoxAnswer::Yes);
   ASSERT_EQ(set, kSets + "Quiz.txt");
   EXPECT_EQ(InFile(*set), ".\\Media\\Quiz\\dog.jpg|b|.\\Media\\Quiz\\Dog (2).jpg|.\\Media\\Quiz\\tune.mp3|");
   EXPECT_EQ(sim.files.Read(kSets + "Media\\Quiz\\Dog (2).jpg"), "bytes of D:\\Other\\Dog.jpg");

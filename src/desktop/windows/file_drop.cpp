@@ -45,8 +45,6 @@ class FileDrop : public QObject {
 
 }  // namespace
 
-void TakeDrops(QWidget& widget, std::function<void(const std::string&)> take) {
-  new FileDrop(widget, std::move(take));
-}
+void TakeDrops(QWidget& widget, std::function<void(const std::string&)> take) { new FileDrop(widget, std::move(take)); }
 
 }  // namespace pawnfield

@@ -89,7 +89,9 @@ std::string Speller::Bytes(const QString& word) {
 
 bool Speller::IsRight(const QString& word) {
   Open();
-  const auto isForeign = [this](QChar letter) { return letter.isDigit() || (letter.isLetter() && letter.script() != script_); };
+  const auto isForeign = [this](QChar letter) {
+    return letter.isDigit() || (letter.isLetter() && letter.script() != script_);
+  };
   if (!dictionary_ || word.size() < 2 || std::any_of(word.begin(), word.end(), isForeign)) return true;
   QString plain = word;
   // A dictionary has its apostrophes upright.

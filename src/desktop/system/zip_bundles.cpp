@@ -1,4 +1,4 @@
-#include "desktop/files/zip_bundles.h"
+#include "desktop/system/zip_bundles.h"
 
 #include <QDir>
 #include <QFile>
