@@ -16,6 +16,7 @@
 #include <QPrinter>
 #include <QTest>
 #include <QTimer>
+#include <QTreeWidget>
 
 #include "desktop/files/native_path.h"
 #include "desktop/system/qt_dialogs.h"
@@ -24,6 +25,8 @@
 #include "editor_driver.h"
 #include "forms/fs_main_form.h"
 #include "forms/main_form.h"
+#include "platform/escapes.h"
+#include "sets/table_text.h"
 #include "show_suite.h"
 
 namespace pawnfield {
@@ -48,14 +51,18 @@ class SetTextEditTest : public testing::Test {
   std::unique_ptr<Observer> binding_;
 };
 
-TEST_F(SetTextEditTest, WhatIsPastedOrTypedKeepsToTheCodePageTheLimitAndOneLine) {
-  const std::tuple<const char16_t*, const char*, const char16_t*> cases[] = {
+TEST_F(SetTextEditTest, WhatIsPastedOrTypedKeepsToTheFilesRoomAndOneLine) {
+  const std::string alpha = EscapeOf(0x3B1);
+  const std::tuple<const char16_t*, std::string, const char16_t*> cases[] = {
       {u"e\u0301e\u0301e\u0301e\u0301e\u0301e\u0301e\u0301e\u0301e\u0301e\u0301e\u0301",
        "\xE9\xE9\xE9\xE9\xE9\xE9\xE9\xE9\xE9\xE9", u"Only 10 characters fit here. The rest was left out."},
       {u"a\r\nb\nc", "a b c", u""},
       {u"x\u00a0y\u20ac\u2019", "x\xA0y\x80\x92", u""},
-      {u"ok \u4e2d", "", u"\"\u4e2d\" (U+4E2D) can't be kept in a set file and was not taken."},
-      {u"\U0001F600", "", u"\"\U0001F600\" (U+1F600) can't be kept in a set file and was not taken."},
+      {u"\u4e2d", EscapeOf(0x4E2D), u""},
+      {u"\U0001F600\u05d0", EscapeOf(0x1F600) + EscapeOf(0x5D0), u""},
+      // Each of them takes five bytes of the ten.
+      {u"\u03b1\u03b1\u03b1", alpha + alpha,
+       u"Only 10 characters fit here, and letters of other alphabets count as five. The rest was left out."},
       {u"a\u0007", "", u"U+0007 can't be kept in a set file and was not taken."},
   };
   for (const auto& [pasted, kept, notice] : cases) {
@@ -73,8 +80,13 @@ TEST_F(SetTextEditTest, WhatIsPastedOrTypedKeepsToTheCodePageTheLimitAndOneLine)
   QKeyEvent key(QEvent::KeyPress, 0, Qt::NoModifier, QString(QChar(0x03b1)));
   QCoreApplication::sendEvent(&view_, &key);
   QTest::keyClick(&view_, Qt::Key_Return);
-  EXPECT_EQ(box_.Text.Get(), "new");
-  EXPECT_TRUE(view_.Notice().contains("(U+03B1)"));
+  EXPECT_EQ(box_.Text.Get(), "new" + alpha);
+  // A break that a sheet brought is one in the box, and stays one when something is written behind it.
+  box_.Text = "a" + EscapeOf('\r') + EscapeOf('\n') + "b";
+  EXPECT_EQ(view_.Content(), "a\nb");
+  view_.moveCursor(QTextCursor::End);
+  QTest::keyClicks(&view_, "c");
+  EXPECT_EQ(box_.Text.Get(), "a" + EscapeOf('\n') + "bc");
 }
 
 PrintDocument LongQuestions(int count) {
@@ -244,6 +256,51 @@ TEST_F(EditorShow, ASetIsWrittenSavedLoadedAndPlayedToTheWinner) {
   EXPECT_TRUE(PlayedToTheWinner());
   EXPECT_TRUE(Audience().picWinner.Visible);
   EXPECT_EQ(driver_->BoxTexts().size(), 1);
+}
+
+// The sheet of a host: quotation marks, breaks, umlauts, Greek and Hebrew in turn.
+QByteArray HundredRows() {
+  const char* words[] = {"\"Who said \"\"no\"\"; and why, question %1?\"", "\"Question %1\nin two lines?\"",
+                         "\u00C4rger \u00FCber \u00D6l %1?", "\u03A0\u03BF\u03B9\u03B1 %1;",
+                         "\u05DE\u05D4 \u05D4\u05D1\u05D9\u05E8\u05D4 %1?"};
+  QByteArray rows = "\xEF\xBB\xBFQuestion,Answer\r\n";
+  for (int i = 0; i < 100; ++i) {
+    rows += QString::fromUtf8(words[i % 5]).arg(i + 1).toUtf8() + ",\"Answer, " + QByteArray::number(i + 1) + "\"\r\n";
+  }
+  return rows;
+}
+
+QByteArray BytesIn(const QString& path) {
+  QFile file(path);
+  return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray("none");
+}
+
+TEST_F(EditorShow, ASheetOfAHundredQuestionsIsImportedSavedPlayedAndExported) {
+  EditorDriver editor(*driver_);
+  const QString sheet = driver_->AppFolder() + "/hundred.csv", out = driver_->AppFolder() + "/out.csv";
+  const QString set = driver_->AppFolder() + "/Trivia Sets/Hundred.txt";
+  QFile file(sheet);
+  ASSERT_TRUE(file.open(QIODevice::WriteOnly) && file.write(HundredRows()) > 0);
+  file.close();
+  editor.WhenShown("frmImport", [&] {
+    const auto* rows = editor.Window("frmImport")->findChild<QTreeWidget*>("lstRows");
+    EXPECT_EQ(rows->topLevelItemCount(), 100);
+    EXPECT_EQ(rows->topLevelItem(4)->text(2), QString::fromUtf8("\u05DE\u05D4 \u05D4\u05D1\u05D9\u05E8\u05D4 5?"));
+    EXPECT_TRUE(editor.Press("frmImport", "btnTake"));
+  });
+  const bool written = editor.WithNewSet([&] {
+    EXPECT_TRUE(editor.ChooseEntry("mnuImport", sheet));
+    const auto* list = editor.Window("frmEditor")->findChild<QTreeWidget*>("lstQuestions");
+    EXPECT_EQ(list->topLevelItemCount(), 100);
+    EXPECT_TRUE(editor.PressAndChoose("frmEditor", "btnSave", set));
+    EXPECT_TRUE(editor.ChooseEntry("mnuExport", out));
+  });
+  ASSERT_TRUE(written);
+  EXPECT_EQ(ReadTable(BytesIn(out).toStdString()), ReadTable(HundredRows().toStdString()));
+  ASSERT_TRUE(Press({"optGameType_2", "optGridControl_0", "optGameEnds_0"}) && driver_->Choose("cboList", "Hundred"));
+  EXPECT_EQ(TheShow().NumGameQuestions, 100);
+  ASSERT_TRUE(Press({"btnStart"}));
+  EXPECT_TRUE(PlayedToTheWinner());
 }
 
 }  // namespace

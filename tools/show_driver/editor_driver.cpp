@@ -1,5 +1,6 @@
 #include "editor_driver.h"
 
+#include <QAction>
 #include <QApplication>
 #include <QFileDialog>
 #include <QLineEdit>
@@ -64,7 +65,7 @@ bool EditorDriver::Type(const QString& widget, const QString& text) {
   return true;
 }
 
-bool EditorDriver::PressAndChoose(const QString& form, const QString& widget, const QString& file) {
+bool EditorDriver::GiveFile(const QString& file, const std::function<bool()>& step) {
   bool chosen = false;
   QTimer look;
   QObject::connect(&look, &QTimer::timeout, &look, [&] {
@@ -75,7 +76,20 @@ bool EditorDriver::PressAndChoose(const QString& form, const QString& widget, co
     QTimer::singleShot(kSettleMs, dialog, [dialog] { QMetaObject::invokeMethod(dialog, "accept"); });
   });
   look.start(kLookMs);
-  return Press(form, widget) && chosen;
+  return step() && chosen;
+}
+
+bool EditorDriver::PressAndChoose(const QString& form, const QString& widget, const QString& file) {
+  return GiveFile(file, [&] { return Press(form, widget); });
+}
+
+bool EditorDriver::ChooseEntry(const QString& entry, const QString& file) {
+  auto* action = Window("frmEditor")->findChild<QAction*>(entry);
+  if (action == nullptr || !action->isEnabled()) return false;
+  return GiveFile(file, [action] {
+    action->trigger();
+    return true;
+  });
 }
 
 bool EditorDriver::Write(const QString& question, const QString& answer, const QString& button, const QString& file) {

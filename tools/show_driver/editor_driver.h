@@ -21,6 +21,8 @@ class EditorDriver {
   bool Type(const QString& widget, const QString& text);
   // Presses the button that brings a file dialog up, and gives that dialog the file.
   bool PressAndChoose(const QString& form, const QString& widget, const QString& file);
+  // Chooses the editor's menu entry and gives the file dialog that comes up the file.
+  bool ChooseEntry(const QString& entry, const QString& file);
   // A text question where there is no file, otherwise a picture or a sound by the button of that name.
   bool Write(const QString& question, const QString& answer, const QString& button = {}, const QString& file = {});
   QWidget* Window(const QString& form) const;
@@ -30,6 +32,9 @@ class EditorDriver {
   void WhenShown(const QString& form, const std::function<void()>& work);
 
  private:
+  // Gives the file dialog that the step brings up the file.
+  bool GiveFile(const QString& file, const std::function<bool()>& step);
+
   ShowDriver& driver_;
 };
 

@@ -1,7 +1,8 @@
 // Plays two short games in the real program on the present display and saves pictures of both screens at each phase.
-// Usage: pawnfield_show [FOLDER [forms|gallery|phases|media]]; with "forms" it opens every form instead and saves a
-// picture of each, with "gallery" it brings up everything that the two screens can show, with "phases" it plays a game
-// of each type at each size of the console, with "media" headers, a picture and a film on demand.
+// Usage: pawnfield_show [FOLDER [forms|gallery|phases|media|sheet]]; with "forms" it opens every form instead and saves
+// a picture of each, with "gallery" it brings up everything that the two screens can show, with "phases" it plays a
+// game of each type at each size of the console, with "media" headers, a picture and a film on demand, with "sheet"
+// questions that come from a spreadsheet.
 
 #include <QApplication>
 #include <QFile>
@@ -9,6 +10,8 @@
 #include <QProcess>
 #include <QTabWidget>
 #include <QTextStream>
+#include <QTimer>
+#include <QTreeWidget>
 
 #include "desktop/files/native_path.h"
 #include "desktop/windows/fitting_scale.h"
@@ -162,6 +165,47 @@ void ShowMedia(ShowDriver& driver, Script& script, const QString& folder) {
   driver.TakePictures("after-the-film");
 }
 
+// A sheet is looked at and taken, and the list of all questions works on it.
+void ImportSheet(ShowDriver& driver, Script& script, const QString& folder) {
+  EditorDriver editor(driver);
+  QFile sheet(folder + "/Friday.csv");
+  script.Do("make a sheet", sheet.open(QIODevice::WriteOnly));
+  sheet.write("Question,Answer,Points\n");
+  for (int i = 1; i <= 12; ++i) {
+    sheet.write(QString("\"What is %1 times \"\"%2\"\"?\",%3,5\n").arg(i).arg(i + 1).arg(i * (i + 1)).toUtf8());
+  }
+  sheet.write("Flag 1.jpg,France,10\n,\"An answer, but no question\",5\n");
+  sheet.write(QString("\u03A0\u03BF\u03B9\u03B1 \u03B5\u03AF\u03BD\u03B1\u03B9 \u03B7 \u03C0\u03CC\u03BB\u03B7;,"
+                      "\u0391\u03B8\u03AE\u03BD\u03B1,5\n\u05DE\u05D4 \u05D4\u05D1\u05D9\u05E8\u05D4?,"
+                      "\u05D9\u05E8\u05D5\u05E9\u05DC\u05D9\u05DD,5\n")
+                  .toUtf8());
+  sheet.write("Who wrote the fisrt \"\"novell\"\"?,,5\n" + QByteArray(300, 'q') + ",Too long,5\n");
+  sheet.close();
+  QFile::copy(driver.AppFolder() + "/Trivia Sets/Media/Flag 1.jpg", folder + "/Flag 1.jpg");
+  editor.WhenShown("frmImport", [&] {
+    editor.TakePicture("frmImport", "import");
+    script.Do("take the sheet", editor.Press("frmImport", "btnTake"));
+  });
+  const auto work = [&] {
+    script.Do("import", editor.ChooseEntry("mnuImport", QFileInfo(sheet).absoluteFilePath()));
+    driver.Pause(300);
+    editor.TakePicture("frmEditor", "editor-list");
+    script.Do("find", editor.Type("txtFind", "novell"));
+    script.Do("check spelling", editor.Press("chkSpellChecker"));
+    editor.TakePicture("frmEditor", "editor-spelling");
+    auto* list = editor.Window("frmEditor")->findChild<QTreeWidget*>("lstQuestions");
+    list->setCurrentItem(list->topLevelItem(14));
+    driver.Pause(200);
+    editor.TakePicture("frmEditor", "editor-hebrew");
+    script.Do("save", editor.PressAndChoose("frmEditor", "btnSave", driver.AppFolder() + "/Trivia Sets/Friday.txt"));
+    QTimer::singleShot(1200, [&] {
+      if (QWidget* dialog = QApplication::activeModalWidget()) driver.TakePicture(*dialog, "pack-set");
+    });
+    script.Do("pack", editor.ChooseEntry("mnuPackSet", QFileInfo(folder).absoluteFilePath() + "/Friday.pawnset"));
+  };
+  script.Do("edit", editor.WithNewSet(work));
+}
+
 // Every form that the console opens, once.
 void ShowForms(ShowDriver& driver, Script& script) {
   MainForm& form = driver.TheShow().frmMain;
@@ -206,6 +250,8 @@ int main(int argc, char** argv) {
     script.Do("phases", pawnfield::ShowPhases(driver));
   } else if (what == "media") {
     pawnfield::ShowMedia(driver, script, folder);
+  } else if (what == "sheet") {
+    pawnfield::ImportSheet(driver, script, folder);
   } else {
     pawnfield::WriteSet(driver, script);
     pawnfield::PlayTrivia(driver, script);

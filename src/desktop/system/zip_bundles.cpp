@@ -60,6 +60,9 @@ bool ZipBundles::Pack(const std::string& path, const std::string& setName, const
   if (contents.size() > kMostBundled) throw RuntimeError(kErrorPathAccess, "A bundle holds 1,000 files at most");
   if (total > kLargestBundle) throw RuntimeError(kErrorPathAccess, "A bundle holds 2 GB at most");
   const QString target = NativePath(path);
+  if (!QFileInfo(QFileInfo(target).path()).isWritable()) {
+    throw RuntimeError(kErrorPathAccess, "The folder can't be written to");
+  }
   const QString part = QFileInfo(target).path() + "/." + QFileInfo(target).fileName() + ".part";
   bool packed = false;
   try {

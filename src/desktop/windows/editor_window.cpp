@@ -213,7 +213,7 @@ void EditorWindow::AddList(QHBoxLayout& halves) {
 void EditorWindow::FitColumns() {
   QHeaderView& header = *findChild<QTreeWidget*>("lstQuestions")->header();
   header.setStretchLastSection(false);
-  const int widths[] = {44, 66, 150, 110, 92};
+  const int widths[] = {40, 62, 150, 92, 96};
   for (int column = 0; column < header.count(); ++column) header.resizeSection(column, widths[column]);
   header.setSectionResizeMode(2, QHeaderView::Stretch);
 }

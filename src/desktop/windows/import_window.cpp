@@ -9,6 +9,7 @@
 #include <QVBoxLayout>
 
 #include "desktop/windows/model_widgets.h"
+#include "desktop/windows/text_rows.h"
 #include "forms/import_form.h"
 
 namespace pawnfield {
@@ -59,6 +60,7 @@ ImportWindow::ImportWindow(ImportForm& form, FormWindows& windows) : FormWindow(
   auto* list = Named<QTreeWidget>("lstRows");
   list->setMinimumSize(900, 380);
   list->setAlternatingRowColors(true);
+  ShowTextsWhole(*list);
   list->setAccessibleName("Rows of the sheet");
   column.addWidget(list, 1);
   column.addWidget(MakeLabel("lblSummary", "warning"));

@@ -4,6 +4,8 @@
 #include <QHeaderView>
 #include <QKeyEvent>
 
+#include "desktop/windows/text_rows.h"
+
 namespace pawnfield {
 
 QuestionListView::QuestionListView(QWidget* parent) : QTreeWidget(parent) {
@@ -11,6 +13,7 @@ QuestionListView::QuestionListView(QWidget* parent) : QTreeWidget(parent) {
   setDropIndicatorShown(true);
   setAlternatingRowColors(true);
   setTextElideMode(Qt::ElideRight);
+  ShowTextsWhole(*this);
   header()->setMinimumSectionSize(28);
 }
 
