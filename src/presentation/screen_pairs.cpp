@@ -52,12 +52,10 @@ PairTable SquarePictures(Show& show) {
 }
 
 void AddBoard(PairTable& table, MainForm& console, FSMainForm& audience) {
-  for (int r = 0; r < 6; ++r) {
-    for (int c = 0; c < 6; ++c) table.Pair(console.img.At(r, c)->Visible, audience.img.At(r, c)->Visible);
-  }
+  // Each screen shows the squares and labels of the grid that it builds for itself.
   for (std::size_t i = 0; i < 6; ++i) {
-    table.Picture(*ColumnLabels(console)[i], *ColumnLabels(audience)[i]);
-    table.Picture(*RowLabels(console)[i], *RowLabels(audience)[i]);
+    table.Pair(ColumnLabels(console)[i]->Picture, ColumnLabels(audience)[i]->Picture)
+        .Pair(RowLabels(console)[i]->Picture, RowLabels(audience)[i]->Picture);
   }
   table.Picture(console.imgHeader, audience.imgHeader);
   table.Pair(console.txtOptionalHeading.Visible, audience.txtOptionalHeading.Visible)
@@ -88,28 +86,28 @@ void AddPlayer(PairTable& table, MainForm& console, FSMainForm& audience, int pl
 
 void AddPanels(PairTable& table, MainForm& console, FSMainForm& audience) {
   table.Pair(console.picQuestion.Visible, audience.picQuestion.Visible);
-  table.Picture(console.imgQuestionBackground, audience.imgQuestionBackground);
+  table.Pair(console.imgQuestionBackground.Picture, audience.imgQuestionBackground.Picture);
   for (std::size_t i = 0; i < 5; ++i) {
-    table.Text(console.lblQuestion[i], audience.lblQuestion[i]);
-    table.Pair(console.lblQuestion[i].ForeColor, audience.lblQuestion[i].ForeColor);
+    table.Pair(console.lblQuestion[i].Caption, audience.lblQuestion[i].Caption)
+        .Pair(console.lblQuestion[i].ForeColor, audience.lblQuestion[i].ForeColor);
   }
   table.Text(console.lblAnswerClock, audience.lblAnswerClock);
   table.Pair(console.lblAnswerClock.ForeColor, audience.lblAnswerClock.ForeColor);
   table.Pair(console.picQuestionPicture.Visible, audience.picQuestionPicture.Visible);
-  table.Picture(console.picImageResize[0], audience.picImageResize[0]);
+  table.Pair(console.picImageResize[0].Picture, audience.picImageResize[0].Picture);
   table.Pair(console.picSound.Visible, audience.picSound.Visible);
-  table.Picture(console.imgSound, audience.imgSound);
+  table.Pair(console.imgSound.Picture, audience.imgSound.Picture);
   table.Pair(console.picBonus.Visible, audience.picBonus.Visible);
-  table.Picture(console.imgBonus, audience.imgBonus);
+  table.Pair(console.imgBonus.Picture, audience.imgBonus.Picture);
   table.Pair(console.picCorrect.Visible, audience.picCorrect.Visible);
-  table.Picture(console.imgCorrect, audience.imgCorrect);
+  table.Pair(console.imgCorrect.Picture, audience.imgCorrect.Picture);
   table.Text(console.lblRightWrong, audience.lblRightWrong);
   table.Pair(console.lblRightWrong.ForeColor, audience.lblRightWrong.ForeColor);
   table.Pair(console.picWinner.Visible, audience.picWinner.Visible)
       .Pair(console.picWinner.Picture, audience.picWinner.Picture);
   table.Text(console.lblWinner, audience.lblWinner);
   table.Pair(console.picStandby.Visible, audience.picStandby.Visible);
-  table.Picture(console.imgStandby, audience.imgStandby);
+  table.Pair(console.imgStandby.Picture, audience.imgStandby.Picture);
 }
 
 void AddMedia(PairTable& table, MainForm& console, FSMainForm& audience) {

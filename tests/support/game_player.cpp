@@ -66,7 +66,7 @@ void GamePlayer::PrepareMachine(const std::string& options) {
   for (const char* cursor : {"Neutral", "X", "O", "T"}) {
     fixture_.sim.files.Put("C:\\Pawnfield\\Images\\Cursor"s + cursor + ".png", "");
   }
-  for (const char* picture : {"Neutral.bmp", "Correct.jpg", "Incorrect.jpg"}) {
+  for (const char* picture : {"Neutral.bmp", "Correct.jpg", "Incorrect.jpg", "ColA.png", "Row1.png"}) {
     fixture_.sim.files.Put("C:\\Pawnfield\\Images\\"s + picture, "");
   }
   fixture_.sim.files.Put("C:\\Shows\\photo.jpg", SimPictures::PictureBytes(800, 600));
