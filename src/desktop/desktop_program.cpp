@@ -2,11 +2,13 @@
 
 #include <QApplication>
 #include <QFile>
+#include <QIcon>
 #include <QStyleFactory>
 #include <clocale>
 
 #include "desktop/painting/text_layout.h"
 #include "desktop/system/flat_memory.h"
+#include "desktop/system/x_windows.h"
 #include "desktop/windows/audience_window.h"
 #include "desktop/windows/config_keys_window.h"
 #include "desktop/windows/connect_to_projector_window.h"
@@ -18,6 +20,7 @@
 #include "desktop/windows/hold_guard.h"
 #include "desktop/windows/house_palette.h"
 #include "desktop/windows/import_window.h"
+#include "desktop/windows/last_screen.h"
 #include "desktop/windows/optional_headers_window.h"
 #include "desktop/windows/options_window.h"
 #include "desktop/windows/pages_window.h"
@@ -45,11 +48,23 @@
 
 namespace pawnfield {
 
+namespace {
+
+// The sizes that desktops show windows in, for those that have none of their own for the name.
+QIcon Icon() {
+  QIcon icon;
+  for (const char* side : {"16", "32", "48", "128"}) icon.addFile(QString(":/look/icon-") + side + ".png");
+  return icon;
+}
+
+}  // namespace
+
 struct DesktopProgram::AllWindows {
   AllWindows(DesktopPlatform& desktop, Show& show);
 
   ConsoleWindow Console;
   AudienceWindow Audience;
+  LastScreen OneLeft;
   ConnectToProjectorWindow ConnectToProjector;
   LoadingWindow Loading;
   SplashWindow Splash;
@@ -75,9 +90,10 @@ struct DesktopProgram::AllWindows {
 DesktopProgram::AllWindows::AllWindows(DesktopPlatform& desktop, Show& show)
     : Console(show.frmMain, desktop.windows, desktop.pictures, desktop.screens, desktop.mediaPlayer1),
       Audience(show.frmFSMain, show.frmSS, desktop.windows, desktop.pictures, desktop.screens, desktop.mediaPlayer1),
+      OneLeft(Console, Audience, desktop.screens),
       ConnectToProjector(show.frmConnectToProjector, desktop.windows, desktop.pictures),
       Loading(show.frmLoading, desktop.windows),
-      Splash(show.frmSplash, desktop.windows, desktop.screens),
+      Splash(show.frmSplash, desktop.windows),
       GameLoading(show.frmGameLoading, desktop.windows),
       GameInProgress(show.frmGameInProgress, desktop.windows),
       GameTypeHelp(show.frmGameTypeHelp, desktop.windows),
@@ -106,6 +122,7 @@ DesktopProgram::DesktopProgram(const DesktopPlaces& places)
       if (desktop_.bundles.OnOpened) desktop_.bundles.OnOpened(path);
     });
   }
+  windows_->Audience.HandKeysTo(windows_->Console);
 }
 
 // The clock, the serial line and the watch over the devices outlive the forms, whose timers must not be looked at any
@@ -150,6 +167,10 @@ void PrepareApplication() {
   QApplication::setPalette(HousePalette());
   // The windows come and go as the forms say; the last one that goes does not end the program.
   QApplication::setQuitOnLastWindowClosed(false);
+  QGuiApplication::setDesktopFileName(kAppId);
+  QApplication::setWindowIcon(Icon());
+  // Lives as long as the application.
+  (new WindowClass)->setParent(qApp);
   QFile look(":/look/look.qss");
   if (look.open(QIODevice::ReadOnly)) qApp->setStyleSheet(QString::fromUtf8(look.readAll()));
 }

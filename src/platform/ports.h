@@ -317,6 +317,8 @@ class Displays {
   virtual void KeepAwake(bool awake) = 0;
   // Asks the desktop to hold both off, reports its answers between events, and leaves all as KeepAwake has it.
   virtual void TryAwake(std::function<void(const AwakeAnswer& answer)> then) = 0;
+  // False once it is known that nothing on this machine holds the screen saver off, although it was asked to.
+  virtual bool KeepsAwake() const = 0;
 };
 
 struct ProcessInfo {

@@ -39,6 +39,11 @@ void ShowAudienceChip(Show& show) {
   const std::string name = monitor.Name.empty() ? "The room's screen" : monitor.Name;
   if (ScreenCovered(show)) {
     Write(chip, "AUDIENCE COVERED", ChipState::None, name + " shows standby until Show or Start is pressed");
+  } else if (!show.platform.displays.KeepsAwake()) {
+    Write(chip, "SCREENS MAY SLEEP", ChipState::Amber,
+          name + ", " + SizeOf(monitor) +
+              ": the room sees it. Nothing here keeps the screens awake for the program: "
+              "switch the screen saver and power saving off before the show.");
   } else {
     Write(chip, "AUDIENCE " + SizeOf(monitor), ChipState::Good, name + ", " + SizeOf(monitor) + ": the room sees it");
   }

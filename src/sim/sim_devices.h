@@ -76,6 +76,7 @@ class SimDisplays : public Displays {
   void RoundWindow(Form& form, int radius) override { Rounded[form.Name()] = radius; }
   void KeepAwake(bool awake) override { Awake = awake; }
   void TryAwake(std::function<void(const AwakeAnswer& answer)> then) override { then(AwakeGrants); }
+  bool KeepsAwake() const override { return !Awake || AwakeGrants.Saver; }
   // The cable is pulled or put in, or a mode is changed.
   void Change(std::vector<MonitorInfo> monitors);
 

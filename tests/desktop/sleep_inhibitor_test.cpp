@@ -5,6 +5,7 @@
 #include <gtest/gtest.h>
 
 #include <QDBusMessage>
+#include <QDBusObjectPath>
 #include <QDBusVirtualObject>
 #include <QProcess>
 #include <QTest>
@@ -13,6 +14,25 @@ namespace pawnfield {
 namespace {
 
 // Gives out cookies and counts what is held.
+// The desktop portal's: each hold is a request, which is closed.
+class Portal : public QDBusVirtualObject {
+ public:
+  QString introspect(const QString&) const override { return {}; }
+  bool handleMessage(const QDBusMessage& message, const QDBusConnection& bus) override {
+    if (message.member() == "Inhibit") {
+      flags = message.arguments().at(1).toUInt();
+      bus.send(message.createReply(QVariant::fromValue(QDBusObjectPath(kRequest))));
+      ++held;
+    } else if (message.member() == "Close" && message.path() == kRequest) {
+      --held;
+    }
+    return true;
+  }
+  static constexpr const char* kRequest = "/org/freedesktop/portal/desktop/request/1";
+  unsigned flags = 0;
+  int held = 0;
+};
+
 class SaverService : public QDBusVirtualObject {
  public:
   QString introspect(const QString&) const override { return {}; }
@@ -57,6 +77,28 @@ TEST(SleepInhibitorTest, HoldsOnceGivesBackAlsoWhatComesLateAndBearsAbsentServic
   inhibitor.Hold();
   inhibitor.Release();
   EXPECT_TRUE(QTest::qWaitFor([&] { return saver.last == 2 && saver.held.empty(); }, 30000));
+
+  // With the services gone nothing holds the saver, and that is known once they have all been asked.
+  inhibitor.Hold();
+  EXPECT_TRUE(inhibitor.HoldsSaver());
+  EXPECT_TRUE(QTest::qWaitFor([&] { return saver.held.size() == 1; }, 30000));
+  EXPECT_TRUE(inhibitor.HoldsSaver());
+  inhibitor.Release();
+  ASSERT_TRUE(services.unregisterService("org.freedesktop.ScreenSaver"));
+  inhibitor.Hold();
+  EXPECT_TRUE(QTest::qWaitFor([&] { return !inhibitor.HoldsSaver(); }, 30000));
+  inhibitor.Release();
+
+  Portal portal;
+  ASSERT_TRUE(services.registerVirtualObject("/org/freedesktop/portal", &portal, QDBusConnection::SubPath));
+  ASSERT_TRUE(services.registerService("org.freedesktop.portal.Desktop"));
+  inhibitor.Hold();
+  EXPECT_TRUE(QTest::qWaitFor([&] { return portal.held == 1; }, 30000));
+  QTest::qWait(300);
+  EXPECT_TRUE(inhibitor.HoldsSaver()) << "the portal is enough";
+  EXPECT_EQ(portal.flags, 12U) << "sleep and idle";
+  inhibitor.Release();
+  EXPECT_TRUE(QTest::qWaitFor([&] { return portal.held == 0; }, 30000));
   for (const char* name : {"services", "program", "nowhere"}) QDBusConnection::disconnectFromBus(name);
   daemon.terminate();
   daemon.waitForFinished();

@@ -2,6 +2,7 @@
 #include "presentation/audience_screen.h"
 
 #include "forms/fs_main_form.h"
+#include "forms/main_form.h"
 #include "forms/second_screen_form.h"
 #include "presentation/monitors.h"
 #include "program/program.h"
@@ -148,6 +149,20 @@ TEST(AudienceScreen, SleepIsHeldOffFromStartToStandbyAndExit) {
   EXPECT_EQ(awake, "0101");
   player.fixture().Exit();
   EXPECT_FALSE(player.fixture().sim.displays.Awake);
+}
+
+TEST(AudienceScreen, WhereNothingHoldsTheSaverOffTheChipSaysSoWhileTheRoomSeesTheShow) {
+  GamePlayer player("Challenge A, 2 players, not started");
+  const Chip& chip = player.fixture().form().chpAudience;
+  player.fixture().sim.displays.AwakeGrants.Saver = false;
+  player.Do("wait 3 s");
+  EXPECT_EQ(chip.Caption.Get(), "AUDIENCE COVERED");
+  player.Do("start, claim A1, wait 3 s");
+  EXPECT_EQ(chip.Caption.Get(), "SCREENS MAY SLEEP");
+  EXPECT_EQ(chip.State.Get(), ChipState::Amber);
+  player.fixture().sim.displays.AwakeGrants.Saver = true;
+  player.Do("wait 3 s");
+  EXPECT_EQ(chip.Caption.Get(), "AUDIENCE 1920x1080");
 }
 
 }  // namespace

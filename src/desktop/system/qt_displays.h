@@ -24,6 +24,7 @@ class QtDisplays : public Displays {
   void RoundWindow(Form& form, int radius) override;
   void KeepAwake(bool awake) override;
   void TryAwake(std::function<void(const AwakeAnswer& answer)> then) override;
+  bool KeepsAwake() const override { return !inhibitor_ || inhibitor_->HoldsSaver(); }
 
  private:
   Screens& screens_;

@@ -9,6 +9,13 @@ namespace {
 // A change of monitors comes as a burst of signals, and the window manager has its say after it.
 constexpr int kSoonMs = 30;
 constexpr int kSettledMs = 600;
+
+QScreen* Named(const QString& name) {
+  for (QScreen* screen : QGuiApplication::screens()) {
+    if (screen->name() == name) return screen;
+  }
+  return nullptr;
+}
 }  // namespace
 
 bool WindowsHavePlaces() { return !QGuiApplication::platformName().startsWith("wayland"); }
@@ -44,21 +51,29 @@ void Screens::NotifyChanged() {
 
 void Screens::MoveHome(const QScreen& screen) {
   if (!IsChanging() || !homeIsKnown_) home_ = screen.name();
-  if (!std::exchange(homeIsKnown_, true)) Change();
+  const bool moved = standing_ != screen.name();
+  standing_ = screen.name();
+  if (!std::exchange(homeIsKnown_, true) || (moved && !WindowsHavePlaces())) Change();
 }
 
 QScreen* Screens::First() const {
-  for (QScreen* screen : QGuiApplication::screens()) {
-    if (screen->name() == home_) return screen;
-  }
-  return QGuiApplication::primaryScreen();
+  QScreen* standing = WindowsHavePlaces() ? nullptr : Named(standing_);
+  QScreen* first = standing != nullptr ? standing : Home();
+  return first != nullptr ? first : QGuiApplication::primaryScreen();
+}
+
+QScreen* Screens::Home() const { return Named(home_); }
+
+// A compositor takes a moment to put the windows of a monitor that is back on it again.
+bool Screens::ConsoleIsOnItsWay() const {
+  return !WindowsHavePlaces() && IsChanging() && Home() != nullptr && Home() != First();
 }
 
 QList<QScreen*> Screens::List() const {
   QList<QScreen*> screens = QGuiApplication::screens();
   const qsizetype home = screens.indexOf(First());
   if (home > 0) screens.move(home, 0);
-  if (!homeIsKnown_ && screens.size() > 1) screens.resize(1);
+  if ((!homeIsKnown_ || ConsoleIsOnItsWay()) && screens.size() > 1) screens.resize(1);
   return screens;
 }
 

@@ -19,10 +19,13 @@ class Screens : public QObject {
  public:
   Screens();
 
-  // The console's alone until it is known which it is.
+  // The console's alone until it is known which it is, and while it is on its way back to it.
   QList<QScreen*> List() const;
-  // The console's monitor; the primary one while the console's is away.
+  // The console's monitor; the primary one while the console's is away. In a Wayland session the one that the console
+  // is seen on, whoever has put it there.
   QScreen* First() const;
+  // Where the operator has put the console, null while that monitor is away.
+  QScreen* Home() const;
   // The audience's, null when there is none.
   QScreen* Second() const;
   // Where the screen stands now, and what the desktop leaves of it to windows.
@@ -30,8 +33,10 @@ class Screens : public QObject {
   QRect Room(const QScreen& screen) const;
   // The screen that shows the point, null when none does.
   QScreen* At(QPoint point) const;
-  // The operator has put the console on another monitor, or one of the windows has reported which it is.
+  // The console is seen on that monitor. Unless the monitors are changing, the operator has put it there.
   void MoveHome(const QScreen& screen);
+  // What is done to the console now is not the operator's doing either.
+  void Unsettle() { Change(); }
   // False in a Wayland session until then.
   bool HomeIsKnown() const { return homeIsKnown_; }
   // True from a change of the monitors until it has settled: what moves meanwhile is not the operator's doing.
@@ -44,9 +49,12 @@ class Screens : public QObject {
   void Watch(QScreen& screen);
   void Change();
   void NotifyChanged();
+  bool ConsoleIsOnItsWay() const;
 
   // By name, so that a monitor which comes back is known again.
   QString home_;
+  // Where the console is seen, by name; a Wayland session alone needs it.
+  QString standing_;
   bool homeIsKnown_ = WindowsHavePlaces();
   QTimer soon_, settled_;
   mutable XMonitors server_{[this] { Change(); }};

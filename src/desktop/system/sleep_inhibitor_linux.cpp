@@ -1,8 +1,10 @@
 #include "desktop/system/sleep_inhibitor.h"
 
 #include <QDBusMessage>
+#include <QDBusObjectPath>
 #include <QDBusPendingCallWatcher>
 #include <QDBusPendingReply>
+#include <QVariantMap>
 #include <utility>
 
 namespace pawnfield {
@@ -11,6 +13,7 @@ namespace {
 
 constexpr const char* kWho = "Pawnfield";
 constexpr const char* kWhy = "A show is running";
+constexpr const char* kPortal = "org.freedesktop.portal.Desktop";
 
 }  // namespace
 
@@ -48,12 +51,14 @@ void SleepInhibitor::Begin() {
   held_ = true;
   saver_ = sleep_ = false;
   for (CookieService& service : services_) HoldBy(service);
+  HoldByPortal();
   HoldSleep();
 }
 
 void SleepInhibitor::Release() {
   held_ = false;
   for (CookieService& service : services_) GiveBack(service);
+  ReleasePortal();
   sleepLock_ = QDBusUnixFileDescriptor();
 }
 
@@ -86,6 +91,35 @@ void SleepInhibitor::GiveBack(CookieService& service) {
   call << *service.cookie;
   session_.send(call);
   service.cookie.reset();
+}
+
+void SleepInhibitor::HoldByPortal() {
+  if (!session_.isConnected()) return;
+  constexpr unsigned kSuspend = 4, kIdle = 8;
+  QDBusMessage call = QDBusMessage::createMethodCall(kPortal, "/org/freedesktop/portal/desktop",
+                                                     "org.freedesktop.portal.Inhibit", "Inhibit");
+  call << QString() << (kSuspend | kIdle) << QVariantMap{{"reason", QString(kWhy)}};
+  auto* watcher = new QDBusPendingCallWatcher(session_.asyncCall(call), this);
+  ++unanswered_;
+  connect(watcher, &QDBusPendingCallWatcher::finished, this, [this, watcher] {
+    watcher->deleteLater();
+    const QDBusPendingReply<QDBusObjectPath> reply = *watcher;
+    --unanswered_;
+    if (!reply.isError()) {
+      saver_ = true;
+      ReleasePortal();
+      portalRequest_ = reply.value().path();
+      if (!held_) ReleasePortal();
+    }
+    Answered();
+  });
+}
+
+void SleepInhibitor::ReleasePortal() {
+  if (portalRequest_.isEmpty()) return;
+  session_.send(
+      QDBusMessage::createMethodCall(kPortal, portalRequest_, "org.freedesktop.portal.Request", "Close"));
+  portalRequest_.clear();
 }
 
 void SleepInhibitor::HoldSleep() {

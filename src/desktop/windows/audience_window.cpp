@@ -8,6 +8,8 @@
 #include "desktop/files/windows_1252.h"
 #include "desktop/painting/board_items.h"
 #include "desktop/painting/ground.h"
+#include "desktop/system/x_windows.h"
+#include "desktop/windows/key_relay.h"
 #include "forms/fs_main_form.h"
 #include "forms/second_screen_form.h"
 
@@ -17,6 +19,9 @@ namespace {
 // Names and scores are read from the back row: their capitals are a fortieth of the picture high, or more.
 constexpr double kSmallestLegible = 20;
 constexpr double kRound = 0.18;
+// In which a compositor has put a window where it belongs; and how often it is asked.
+constexpr int kPlacedMs = 400;
+constexpr int kTries = 3;
 }  // namespace
 
 AudienceWindow::AudienceWindow(FSMainForm& form, SecondScreenForm& copy, FormWindows& windows, PictureCache& pictures,
@@ -40,7 +45,13 @@ AudienceWindow::AudienceWindow(FSMainForm& form, SecondScreenForm& copy, FormWin
   copy_.AddObserver(*this);
   windows_.Add(copy_, *this);
   setWindowTitle(Unescape(copy_.Form::Caption));
-  screens_.Subscribe([this] { Place(); });
+  placed_.setSingleShot(true);
+  placed_.setInterval(kPlacedMs);
+  placed_.callOnTimeout(this, [this] { CheckPlace(); });
+  screens_.Subscribe([this] {
+    triesLeft_ = kTries;
+    Place();
+  });
   connect(qGuiApp, &QGuiApplication::screenRemoved, this, &AudienceWindow::ScreenRemoved);
 }
 
@@ -105,18 +116,43 @@ void AudienceWindow::Place() {
     return;
   }
   winId();
+  if (relay_) windowHandle()->installEventFilter(relay_.get());
+  if (!WindowsHavePlaces()) {
+    GoTo(*target);
+    return;
+  }
   // The window manager keeps a full-screen window at its monitor's size, also where the toolkit has not heard of it.
   const QRect place = screens_.Place(*target);
   if (isVisible() && windowHandle()->screen() == target && pos() == place.topLeft()) return;
-  // Where windows have no coordinates, a full-screen window goes to the monitor it had when it was shown.
   if (isVisible() && windowHandle()->screen() != target) hide();
   windowHandle()->setScreen(target);
+  StandOnEveryWorkspace(*windowHandle());
   setGeometry(place);
   // The toolkit's own call for this would also ask for the focus.
   setWindowState(Qt::WindowFullScreen);
   show();
   setGeometry(place);
+  StandOnEveryWorkspace(*windowHandle());
 }
+
+// A full-screen window goes to the monitor that it had when it was shown.
+void AudienceWindow::GoTo(QScreen& target) {
+  placed_.start();
+  if (isVisible() && windowHandle()->screen() == &target) return;
+  hide();
+  windowHandle()->setScreen(&target);
+  setWindowState(Qt::WindowFullScreen);
+  show();
+}
+
+void AudienceWindow::CheckPlace() {
+  const QScreen* target = screens_.Second();
+  if (!isVisible() || target == nullptr || windowHandle()->screen() == target) return;
+  // Nowhere is better than over the console.
+  --triesLeft_ > 0 ? Place() : hide();
+}
+
+void AudienceWindow::HandKeysTo(QWidget& console) { relay_ = std::make_unique<KeyRelay>(console); }
 
 void AudienceWindow::ScreenRemoved(const QScreen* screen) {
   if (windowHandle() != nullptr && windowHandle()->screen() == screen) hide();
@@ -124,6 +160,7 @@ void AudienceWindow::ScreenRemoved(const QScreen* screen) {
 
 void AudienceWindow::changeEvent(QEvent* event) {
   FormWindow::changeEvent(event);
+  if (event->type() == QEvent::ActivationChange && isActiveWindow() && relay_) relay_->BringForward();
   if (event->type() != QEvent::WindowStateChange || screens_.IsChanging()) return;
   copy_.WindowState = isMinimized() ? 1 : 0;
   if (copy_.OnResize) copy_.Dispatch(copy_.OnResize, "Form_Resize");

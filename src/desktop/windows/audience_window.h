@@ -2,6 +2,8 @@
 // monitor while frmSS is loaded, and never takes the focus from the console.
 #pragma once
 
+#include <QTimer>
+
 #include "desktop/painting/board_items.h"
 #include "desktop/system/screens.h"
 #include "desktop/windows/form_window.h"
@@ -9,6 +11,7 @@
 namespace pawnfield {
 
 class FSMainForm;
+class KeyRelay;
 class MpvVideo;
 struct SecondScreenForm;
 
@@ -18,6 +21,8 @@ class AudienceWindow : public FormWindow {
                  Screens& screens, MpvVideo& video);
   ~AudienceWindow() override;
   Canvas& Screen() { return *screen_; }
+  // A desktop can give this window the keyboard although it wants none: the console gets each key then.
+  void HandKeysTo(QWidget& console);
 
  protected:
   void Changed(Control& control, PropertyId id) override;
@@ -31,6 +36,10 @@ class AudienceWindow : public FormWindow {
 
   // Fills its monitor or hides, as the monitors and frmSS have it.
   void Place();
+  // For sessions where a window has no place but a screen.
+  void GoTo(QScreen& target);
+  // Looks whether the desktop has put the window where it was to go.
+  void CheckPlace();
   // Gone before the toolkit would move it over the console.
   void ScreenRemoved(const QScreen* screen);
 
@@ -38,6 +47,9 @@ class AudienceWindow : public FormWindow {
   FormWindows& windows_;
   Screens& screens_;
   Canvas* screen_ = nullptr;
+  std::unique_ptr<KeyRelay> relay_;
+  QTimer placed_;
+  int triesLeft_ = 0;
 };
 
 }  // namespace pawnfield

@@ -1,12 +1,14 @@
 #include "desktop/windows/console_window.h"
 
 #include <QAction>
+#include <QGuiApplication>
 #include <QHBoxLayout>
 #include <QHelpEvent>
 #include <QMenu>
 #include <QMenuBar>
 #include <QPainter>
 #include <QScreen>
+#include <QTimer>
 #include <QToolTip>
 #include <QWindow>
 #include <array>
@@ -32,6 +34,7 @@ constexpr double kPanelHeight = 5640;
 constexpr double kAnswerHeight = 900;
 // Of the window, in logical pixels.
 constexpr int kLeastWidth = 1180, kLeastHeight = 640;
+constexpr int kEnterMs = 200;
 }  // namespace
 
 ConsoleWindow::ConsoleWindow(MainForm& form, FormWindows& windows, PictureCache& pictures, Screens& screens,
@@ -282,9 +285,17 @@ void ConsoleWindow::ShowForm() {
   if (const QScreen* screen = screens_.First()) setGeometry(screens_.Room(*screen));
   showMaximized();
   connect(windowHandle(), &QWindow::screenChanged, this, &ConsoleWindow::NoteHome, Qt::UniqueConnection);
+  if (!WindowsHavePlaces()) QTimer::singleShot(kEnterMs, this, &ConsoleWindow::AwaitScreen);
   raise();
   activateWindow();
   focus_->Rest();
+}
+
+// A compositor tells a window of its screen a moment after it is first drawn. Of the one that the toolkit has guessed
+// right it tells nothing.
+void ConsoleWindow::AwaitScreen() {
+  if (!isVisible()) return;
+  windowHandle()->isExposed() ? NoteHome() : QTimer::singleShot(kEnterMs, this, &ConsoleWindow::AwaitScreen);
 }
 
 bool ConsoleWindow::focusNextPrevChild(bool next) {
@@ -292,6 +303,7 @@ bool ConsoleWindow::focusNextPrevChild(bool next) {
 }
 
 void ConsoleWindow::ReturnHome() {
+  if (!WindowsHavePlaces()) ReturnByScreen();
   const QScreen* home = screens_.First();
   if (!WindowsHavePlaces() || !isVisible() || home == nullptr) return;
   if (screens_.Place(*home).contains(geometry().center())) return;
@@ -301,9 +313,27 @@ void ConsoleWindow::ReturnHome() {
   if (maximised) showMaximized();
 }
 
+// A compositor that has put the console elsewhere is asked once: a window can say on which screen it fills the whole.
+void ConsoleWindow::ReturnByScreen() {
+  QScreen* home = screens_.Home();
+  const qsizetype count = QGuiApplication::screens().size();
+  if (count < 2) sentHomeAt_ = 0;
+  if (!isVisible() || screens_.IsChanging() || home == nullptr || screen() == home || sentHomeAt_ == count) return;
+  sentHomeAt_ = count;
+  screens_.Unsettle();
+  hide();
+  windowHandle()->setScreen(home);
+  showFullScreen();
+  QTimer::singleShot(kEnterMs, this, [this] {
+    showMaximized();
+    AwaitScreen();
+  });
+}
+
 void ConsoleWindow::moveEvent(QMoveEvent* event) {
   FormWindow::moveEvent(event);
-  NoteHome();
+  // Elsewhere the toolkit's guess of the screen isn't to be taken for the desktop's word.
+  if (WindowsHavePlaces()) NoteHome();
 }
 
 void ConsoleWindow::NoteHome() {

@@ -43,6 +43,9 @@ class ConsoleWindow : public FormWindow {
   void FillBoard(MainForm& form);
   void FillAnswer(MainForm& form, PictureCache& pictures);
   void HoldUnseen();
+  // Where windows have no places: waits until the console is seen somewhere.
+  void AwaitScreen();
+  void ReturnByScreen();
   // Takes the monitor that the operator has put the console on for the console's own.
   void NoteHome();
   // Back to its own monitor, when a change of the monitors has left it on another one.
@@ -56,6 +59,8 @@ class ConsoleWindow : public FormWindow {
   Canvas* board_ = nullptr;
   Canvas* answer_ = nullptr;
   FocusRules* focus_ = nullptr;
+  // Of monitors, when the console was last sent home.
+  qsizetype sentHomeAt_ = 0;
 };
 
 }  // namespace pawnfield

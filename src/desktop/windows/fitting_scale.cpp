@@ -1,6 +1,7 @@
 #include "desktop/windows/fitting_scale.h"
 
 #include <QGuiApplication>
+#include <QRegularExpression>
 #include <QScreen>
 #include <algorithm>
 #include <vector>
@@ -14,7 +15,23 @@ namespace {
 constexpr double kNeededWidth = 1190;
 constexpr double kNeededHeight = 782;
 constexpr const char* kFactor = "QT_SCALE_FACTOR";
+constexpr const char* kPlatform = "QT_QPA_PLATFORM";
+
+// Monitors are known again by their names. Where a compositor tells none, the X server that stands beside it does.
+void LeaveUnnamedScreens() {
+  QStringList names;
+  for (const QScreen* screen : QGuiApplication::screens()) names.append(screen->name());
+  if (!NamesTell(names) && qEnvironmentVariableIsSet("DISPLAY") && !qEnvironmentVariableIsSet(kPlatform)) {
+    qputenv(kPlatform, "xcb");
+  }
+}
 }  // namespace
+
+bool NamesTell(QStringList names) {
+  // The toolkit's own names for what has none; they change with each plugging in.
+  static const QRegularExpression made("^(Screen\\d+)?$");
+  return names.removeDuplicates() == 0 && names.filter(made).isEmpty();
+}
 
 double FittingShare(double pixelRatio, int width, int height) {
   const double largest = std::min(width / kNeededWidth, height / kNeededHeight);
@@ -30,6 +47,7 @@ void FitScaleToMonitor(int argc, char** argv) {
     std::vector<char*> options(argv, argv + argc + 1);
     const QGuiApplication probe(argc, options.data());
     const QScreen* screen = QGuiApplication::primaryScreen();
+    if (!WindowsHavePlaces()) LeaveUnnamedScreens();
     // In a Wayland session the toolkit paints wrongly at a factor that is not whole.
     if (screen == nullptr || !WindowsHavePlaces()) return;
     const double ratio = screen->devicePixelRatio();

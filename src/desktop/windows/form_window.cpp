@@ -67,6 +67,8 @@ void FormWindow::ShowForm() {
     // Over the window that the operator works with, wherever he has put that; the full-screen one is the room's.
     const QWidget* worked = QApplication::activeWindow();
     const bool stands = WindowsHavePlaces() && worked != nullptr && worked->isVisible() && !worked->isFullScreen();
+    // A tiling desktop would stretch it else.
+    if (windowType() == Qt::SplashScreen) setFixedSize(size());
     move((stands ? worked->frameGeometry() : room).center() - rect().center());
   }
   show();

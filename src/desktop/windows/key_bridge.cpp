@@ -16,7 +16,7 @@ KeyBridge::KeyBridge(MainForm& form, QWidget& console) : QObject(&console), form
 
 bool KeyBridge::eventFilter(QObject* watched, QEvent* event) {
   if (event->type() != QEvent::KeyPress || QApplication::activeModalWidget() != nullptr) return false;
-  if (QApplication::activePopupWidget() != nullptr || !console_.isActiveWindow()) return false;
+  if (QApplication::activePopupWidget() != nullptr) return false;
   // A key travels from the focus up through its parents; it counts once, where it starts.
   QWidget* focus = console_.focusWidget() != nullptr ? console_.focusWidget() : &console_;
   return watched == focus && Hand(focus, *static_cast<QKeyEvent*>(event));

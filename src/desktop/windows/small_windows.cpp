@@ -2,10 +2,7 @@
 
 #include <QLabel>
 #include <QPainterPath>
-#include <QScreen>
-#include <QTimer>
 #include <QVBoxLayout>
-#include <QWindow>
 
 #include "desktop/files/windows_1252.h"
 #include "desktop/windows/game_type_picture.h"
@@ -21,7 +18,6 @@ namespace pawnfield {
 namespace {
 
 constexpr Qt::WindowFlags kBare = Qt::SplashScreen | Qt::FramelessWindowHint;
-constexpr int kEnterMs = 200;
 constexpr int kCorner = 12;
 
 void AddGameTypes(const GameTypeHelpForm& form, QVBoxLayout& column) {
@@ -52,8 +48,7 @@ LoadingWindow::LoadingWindow(LoadingForm& form, FormWindows& windows) : FormWind
   BindForm();
 }
 
-SplashWindow::SplashWindow(SplashForm& form, FormWindows& windows, Screens& screens)
-    : FormWindow(form, windows, kBare), screens_(screens) {
+SplashWindow::SplashWindow(SplashForm& form, FormWindows& windows) : FormWindow(form, windows, kBare) {
   SetUp<Ui::frmSplash>(*this);
   BindForm();
   // A click anywhere is the splash's own.
@@ -67,12 +62,6 @@ void SplashWindow::ShowForm() {
   outline.addRoundedRect(rect(), kCorner, kCorner);
   setMask(QRegion(outline.toFillPolygon().toPolygon()));
   activateWindow();
-  if (!screens_.HomeIsKnown()) QTimer::singleShot(kEnterMs, this, &SplashWindow::NoteHome);
-}
-
-// A Wayland session notifies a window of its screen a moment after it is drawn.
-void SplashWindow::NoteHome() {
-  if (isVisible() && windowHandle() != nullptr) screens_.MoveHome(*windowHandle()->screen());
 }
 
 void SplashWindow::keyPressEvent(QKeyEvent*) { form_.Click(); }

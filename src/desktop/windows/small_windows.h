@@ -1,7 +1,6 @@
 // The windows of the small forms: loading, splash, the wait for system files, game in progress, game types.
 #pragma once
 
-#include "desktop/system/screens.h"
 #include "desktop/windows/form_window.h"
 
 namespace pawnfield {
@@ -19,17 +18,12 @@ class LoadingWindow : public FormWindow {
 
 class SplashWindow : public FormWindow {
  public:
-  // Reports to the screens which one it is shown on.
-  SplashWindow(SplashForm& form, FormWindows& windows, Screens& screens);
+  SplashWindow(SplashForm& form, FormWindows& windows);
 
  protected:
   void ShowForm() override;
   void keyPressEvent(QKeyEvent* event) override;
   void mousePressEvent(QMouseEvent* event) override;
-
- private:
-  void NoteHome();
-  Screens& screens_;
 };
 
 class GameLoadingWindow : public FormWindow {
