@@ -1,0 +1,206 @@
+// Console and audience in a Wayland session, where a compositor gives windows their screens and the keyboard: outputs go
+// and come back in mid-question. What an output shows is read from the compositor, not from the windows.
+
+#include <gtest/gtest.h>
+
+#include <QElapsedTimer>
+#include <QFile>
+#include <QGuiApplication>
+#include <QPainter>
+#include <QProcess>
+#include <QTemporaryDir>
+#include <QWindow>
+
+#include "desktop/painting/ground.h"
+#include "desktop/windows/audience_window.h"
+#include "desktop/windows/console_window.h"
+#include "forms/fs_main_form.h"
+#include "forms/main_form.h"
+#include "show/phase.h"
+#include "show_driver.h"
+
+namespace pawnfield {
+namespace {
+
+// Ground that no window covers.
+constexpr QRgb kBare = 0xFF305030;
+
+class WaylandTest : public testing::TestWithParam<const char*> {
+ protected:
+  void SetUp() override {
+    ASSERT_TRUE(QGuiApplication::platformName().startsWith("wayland"));
+    own_ = GetParam();
+    room_ = own_ == "HEADLESS-1" ? "HEADLESS-2" : "HEADLESS-1";
+    ASSERT_TRUE(Sway("focus output " + own_));
+    // A machine has a keyboard also while nobody types.
+    keyboard_.start("wtype", {"-s", "3600000"});
+    driver_ = std::make_unique<ShowDriver>(folder_.path());
+    ASSERT_TRUE(driver_->Start());
+  }
+  // A picture of each output shows what was wrong.
+  void TearDown() override {
+    for (const QString& output : {own_, room_}) {
+      if (HasFailure()) Seen(output).save("wayland-" + own_ + "-at-the-end-" + output + ".png");
+    }
+    for (const QString& output : {own_, room_}) {
+      if (!Outputs().contains(output)) Plug(output);
+      Sway("output " + output + " scale 1");
+    }
+    driver_.reset();
+    keyboard_.kill();
+    keyboard_.waitForFinished();
+  }
+
+  static bool Sway(const QString& command) { return QProcess::execute("swaymsg", {"-q", command}) == 0; }
+  static QString Tell(const QStringList& arguments) {
+    QProcess tool;
+    tool.start("swaymsg", arguments);
+    tool.waitForFinished();
+    return QString::fromUtf8(tool.readAllStandardOutput());
+  }
+  static QString Outputs() { return Tell({"-t", "get_outputs"}); }
+  static bool Unplug(const QString& output) { return Sway("output " + output + " subpixel vbgr"); }
+  static bool Plug(const QString& output) { return Sway("output " + output + " subpixel none; create_output"); }
+
+  bool Wait(const std::function<bool()>& condition) { return driver_->WaitFor(condition, 10000); }
+  // What the output shows at this moment.
+  QImage Seen(const QString& output) const {
+    const QString file = folder_.filePath("seen.png");
+    QProcess::execute("grim", {"-o", output, file});
+    return QImage(file).convertToFormat(QImage::Format_RGB32);
+  }
+  void Keep(const QString& name) const {
+    const QString folder = qEnvironmentVariable("PAWNFIELD_PICTURES");
+    if (folder.isEmpty()) return;
+    for (const QString& output : {own_, room_}) {
+      Seen(output).save(folder + "/wayland-" + own_ + '-' + name + '-' + output + ".png");
+    }
+  }
+  // The share of pixels that are the same; 0 for pictures of two sizes.
+  static double Alike(const QImage& one, const QImage& other) {
+    if (one.isNull() || one.size() != other.size()) return 0;
+    qint64 same = 0;
+    for (int y = 0; y < one.height(); ++y) {
+      const auto* a = reinterpret_cast<const QRgb*>(one.constScanLine(y));
+      const auto* b = reinterpret_cast<const QRgb*>(other.constScanLine(y));
+      for (int x = 0; x < one.width(); ++x) same += (a[x] & 0xFFFFFF) == (b[x] & 0xFFFFFF) ? 1 : 0;
+    }
+    return static_cast<double>(same) / (static_cast<double>(one.width()) * one.height());
+  }
+  static QImage Picture(QWidget& window) { return window.grab().toImage().convertToFormat(QImage::Format_RGB32); }
+  // Lights and seconds may change between two pictures.
+  bool Shows(const QString& output, QWidget& window) { return Alike(Seen(output), Picture(window)) > 0.97; }
+
+  MainForm& Main() { return driver_->TheShow().frmMain; }
+  FSMainForm& Audience() { return driver_->TheShow().frmFSMain; }
+  ConsoleWindow& Console() { return driver_->Program().Console(); }
+  AudienceWindow& Screen() { return driver_->Program().Audience(); }
+  QWidget* Card() { return Console().findChild<QWidget*>("pnlLastScreen"); }
+
+  void ExpectEachOnItsOwn(const char* when) {
+    SCOPED_TRACE(when);
+    EXPECT_TRUE(Wait([&] { return Shows(own_, Console()); })) << "the console is on its output";
+    EXPECT_TRUE(Wait([&] { return Screen().isVisible() && Shows(room_, Screen()); })) << "the room sees its screen";
+    Keep(QString(when).replace(' ', '-'));
+    ExpectKeys();
+  }
+  // By the compositor's own keyboard, wherever it sends the keys.
+  bool Key(const QStringList& arguments) { return QProcess::execute("wtype", QStringList{"-s", "100"} + arguments) == 0; }
+  void ExpectKeys() {
+    for (const QString& output : {own_, room_}) {
+      if (!Outputs().contains(output)) continue;
+      Sway("focus output " + output);
+      SCOPED_TRACE("the keyboard is given to what is on " + output.toStdString());
+      ASSERT_TRUE(Key({"2"}));
+      EXPECT_TRUE(Wait([&] { return Phase(driver_->TheShow()) == GamePhase{PhaseKind::Answering, 2}; }));
+      ASSERT_TRUE(Key({"-M", "ctrl", "u", "-m", "ctrl"}));
+      EXPECT_TRUE(Wait([&] { return IsPhase(driver_->TheShow(), PhaseKind::QuestionOpen); }));
+    }
+    Sway("focus output " + own_);
+  }
+  void BeginQuestion() {
+    ASSERT_TRUE(driver_->Press("optGameType_4"));
+    ASSERT_TRUE(driver_->Choose("cboList", "General Knowledge 2"));
+    ASSERT_TRUE(Wait([&] { return Main().btnStart.Enabled.Get(); }));
+    ASSERT_TRUE(driver_->Press("btnStart"));
+    ASSERT_TRUE(Wait([&] { return IsPhase(driver_->TheShow(), PhaseKind::QuestionOpen); }));
+  }
+  // The operator's own screen goes. From then on the room sees its screen as it was, the bare ground or the card, and
+  // nothing else.
+  void UnplugTheConsolesOwn() {
+    const QImage room = Seen(room_);
+    ASSERT_TRUE(Unplug(own_));
+    QElapsedTimer since;
+    since.start();
+    int looks = 0;
+    while (since.elapsed() < 2500) {
+      driver_->Pause(10);
+      const QImage seen = Seen(room_);
+      QImage bare(seen.size(), QImage::Format_RGB32);
+      bare.fill(kBare);
+      const bool card = Card() != nullptr && Alike(seen, Picture(Console())) > 0.97;
+      EXPECT_TRUE(card || Alike(seen, room) > 0.97 || Alike(seen, bare) > 0.97)
+          << "after " << since.elapsed() << " ms, picture " << ++looks;
+      if (HasFailure()) seen.save(QString("wayland-%1-leak.png").arg(own_));
+    }
+    ASSERT_NE(Card(), nullptr);
+    EXPECT_TRUE(Wait([&] { return Shows(room_, Console()); }));
+    Keep("card");
+  }
+
+  QString own_, room_;
+  QTemporaryDir folder_;
+  QProcess keyboard_;
+  std::unique_ptr<ShowDriver> driver_;
+};
+
+TEST_P(WaylandTest, EachScreenStaysTheConsolesOrTheRoomsWhateverIsUnplugged) {
+  ASSERT_NO_FATAL_FAILURE(BeginQuestion());
+  const std::string question = Main().lblQuestion[0].Caption;
+  ExpectEachOnItsOwn("at the start");
+
+  ASSERT_TRUE(Unplug(room_));
+  EXPECT_TRUE(Wait([&] { return Main().lblStatusBar.Caption == std::string("Audience screen lost"); }));
+  EXPECT_TRUE(Wait([&] { return Shows(own_, Console()) && !Screen().isVisible(); }));
+  EXPECT_EQ(Card(), nullptr) << "the console's own screen is no card's";
+  ExpectKeys();
+  ASSERT_TRUE(Plug(room_));
+  ExpectEachOnItsOwn("the room's is back");
+
+  ASSERT_NO_FATAL_FAILURE(UnplugTheConsolesOwn());
+  ASSERT_TRUE(Plug(own_));
+  ExpectEachOnItsOwn("the console's is back");
+  EXPECT_EQ(Card(), nullptr);
+
+  ASSERT_NO_FATAL_FAILURE(UnplugTheConsolesOwn());
+  ASSERT_TRUE(Key({"x"}));
+  EXPECT_TRUE(Wait([&] { return Card() == nullptr && Shows(room_, Console()); })) << "the operator asked for it";
+  ExpectKeys();
+  ASSERT_TRUE(Plug(own_));
+  ExpectEachOnItsOwn("the console's is back after it was shown to the room");
+  EXPECT_EQ(Audience().lblQuestion[0].Caption.Get(), question);
+}
+
+TEST_P(WaylandTest, AChangeOfScaleAndAMoveByHandLeaveEachAScreenOfItsOwn) {
+  ASSERT_NO_FATAL_FAILURE(BeginQuestion());
+  for (const char* scale : {"2", "1.5", "1"}) {
+    for (const QString& output : {own_, room_}) {
+      SCOPED_TRACE(output.toStdString() + " at " + scale);
+      ASSERT_TRUE(Sway("output " + output + " scale " + scale));
+      driver_->Pause(800);
+      EXPECT_TRUE(Wait([&] { return Screen().isVisible() && Screen().windowHandle()->screen()->name() == room_; }));
+      EXPECT_EQ(Console().windowHandle()->screen()->name(), own_);
+      ExpectKeys();
+    }
+  }
+  ExpectEachOnItsOwn("scales are 1 again");
+  ASSERT_TRUE(Sway("focus output " + own_));
+  ASSERT_TRUE(Sway("[title=\"^Pawnfield\"] focus; move container to output " + room_));
+  std::swap(own_, room_);
+  ExpectEachOnItsOwn("the operator has moved the console");
+}
+
+INSTANTIATE_TEST_SUITE_P(StartedAt, WaylandTest, testing::Values("HEADLESS-1", "HEADLESS-2"));
+
+}  // namespace
+}  // namespace pawnfield
