@@ -9,6 +9,7 @@
 #include "desktop/painting/text_layout.h"
 #include "desktop/system/flat_memory.h"
 #include "desktop/system/x_windows.h"
+#include "desktop/windows/access.h"
 #include "desktop/windows/audience_window.h"
 #include "desktop/windows/config_keys_window.h"
 #include "desktop/windows/connect_to_projector_window.h"
@@ -26,6 +27,7 @@
 #include "desktop/windows/pages_window.h"
 #include "desktop/windows/player_names_window.h"
 #include "desktop/windows/press_windows.h"
+#include "desktop/windows/show_speaker.h"
 #include "desktop/windows/small_windows.h"
 #include "desktop/windows/sound_effects_window.h"
 #include "forms/config_keys_form.h"
@@ -85,6 +87,7 @@ struct DesktopProgram::AllWindows {
   MapMFWindow MapMF;
   SetInterfaceWindow SetInterface;
   HelpKey Help;
+  ShowSpeaker Speaker;
 };
 
 DesktopProgram::AllWindows::AllWindows(DesktopPlatform& desktop, Show& show)
@@ -110,7 +113,8 @@ DesktopProgram::AllWindows::AllWindows(DesktopPlatform& desktop, Show& show)
       Pages(show.frmPages, desktop.windows),
       MapMF(show.frmMapMF, desktop.windows),
       SetInterface(show.frmSetInterface, desktop.windows),
-      Help(show) {}
+      Help(show),
+      Speaker(show, Console, Audience) {}
 
 DesktopProgram::DesktopProgram(const DesktopPlaces& places)
     : desktop_(places, [this] { windows_->Console.ComeForward(); }),
@@ -169,6 +173,7 @@ void PrepareApplication() {
   QApplication::setQuitOnLastWindowClosed(false);
   QGuiApplication::setDesktopFileName(kAppId);
   QApplication::setWindowIcon(Icon());
+  InstallAccess();
   // Lives as long as the application.
   (new WindowClass)->setParent(qApp);
   QFile look(":/look/look.qss");

@@ -123,6 +123,23 @@ TEST(StyleSheet, EveryTextCanBeReadOnItsGround) {
   EXPECT_GT(pairs, 100) << "the sheet was read";
 }
 
+// The selected row of a list, and the tool that has the focus.
+TEST(StyleSheet, WhatIsPickedByItsGroundStandsOutFromWhatItStandsOn) {
+  const StyleSheet sheet;
+  int grounds = 0;
+  for (const Rule& rule : sheet.Rules()) {
+    const bool row = rule.selector.part == "item" && rule.selector.states.contains("selected");
+    const bool tool = rule.selector.type == "QToolButton" && rule.selector.states.contains("focus");
+    if (!row && !tool) continue;
+    for (const Color ground : {kPanelGround, kDeepGround, FromRgb(0x0B0F1A), FromRgb(0x171F33)}) {
+      ++grounds;
+      EXPECT_GE(ContrastRatio(sheet.Of(rule.selector, "background"), ground), kEdge)
+          << rule.selector.whole.toStdString();
+    }
+  }
+  EXPECT_GT(grounds, 15);
+}
+
 TEST(StyleSheet, EveryEdgeThatMeansSomethingIsSeen) {
   const StyleSheet sheet;
   int edges = 0;

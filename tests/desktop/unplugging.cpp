@@ -1,5 +1,6 @@
-// Preloaded into a headless compositor: lets a test unplug an output and plug it in again under its old name, as a cable
-// does. The command "output NAME subpixel vbgr" takes an output away, and the next one that is created gets its name.
+// Preloaded into a headless compositor: lets a test unplug an output and plug it in again under its old name, as a
+// cable does. The command "output NAME subpixel vbgr" takes an output away, and the next one that is created gets its
+// name.
 
 #include <dlfcn.h>
 #include <unistd.h>

@@ -1,5 +1,5 @@
-// Console and audience in a Wayland session, where a compositor gives windows their screens and the keyboard: outputs go
-// and come back in mid-question. What an output shows is read from the compositor, not from the windows.
+// Console and audience in a Wayland session, where a compositor gives windows their screens and the keyboard: outputs
+// go and come back in mid-question. What an output shows is read from the compositor, not from the windows.
 
 #include <gtest/gtest.h>
 
@@ -105,7 +105,9 @@ class WaylandTest : public testing::TestWithParam<const char*> {
     ExpectKeys();
   }
   // By the compositor's own keyboard, wherever it sends the keys.
-  bool Key(const QStringList& arguments) { return QProcess::execute("wtype", QStringList{"-s", "100"} + arguments) == 0; }
+  bool Key(const QStringList& arguments) {
+    return QProcess::execute("wtype", QStringList{"-s", "100"} + arguments) == 0;
+  }
   void ExpectKeys() {
     for (const QString& output : {own_, room_}) {
       if (!Outputs().contains(output)) continue;

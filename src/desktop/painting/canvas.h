@@ -2,6 +2,7 @@
 // the logical screen stands in the middle, and only what changed is painted again.
 #pragma once
 
+#include <QAccessible>
 #include <QWidget>
 #include <functional>
 #include <map>
@@ -52,6 +53,17 @@ struct ItemStyle {
   bool Rises = false;
 };
 
+// One of the things that a canvas tells an assistive device.
+struct SpokenPart {
+  QAccessible::Role Role = QAccessible::StaticText;
+  // Empty while it isn't there.
+  std::function<QString()> Text;
+  // Where it stands; the whole canvas for null.
+  const Control* Place = nullptr;
+  // As by a hand; empty for what can't be pressed.
+  std::function<void()> Press;
+};
+
 class Canvas : public QWidget {
  public:
   Canvas(PictureCache& pictures, QWidget* parent);
@@ -66,6 +78,12 @@ class Canvas : public QWidget {
   // Shows the film at the control's place while it has a file.
   void AddVideo(MediaPlayer& control, MpvVideo& video);
   bool Holds(const Control& control) const { return items_.count(&control) != 0; }
+  // What the canvas is called and tells, from back to front; before anything asks for it.
+  void SetSpoken(const QString& name, std::vector<SpokenPart> parts) {
+    setAccessibleName(name);
+    spoken_ = std::move(parts);
+  }
+  const std::vector<SpokenPart>& Spoken() const { return spoken_; }
   // A widget that stands on the canvas at its control's place.
   void Embed(Control& control, QWidget& widget);
 
@@ -115,6 +133,7 @@ class Canvas : public QWidget {
   std::vector<Item*> order_;
   std::vector<std::pair<Control*, QWidget*>> embedded_;
   MpvVideo* video_ = nullptr;
+  std::vector<SpokenPart> spoken_;
 };
 
 }  // namespace pawnfield

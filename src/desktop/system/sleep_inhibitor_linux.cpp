@@ -117,8 +117,7 @@ void SleepInhibitor::HoldByPortal() {
 
 void SleepInhibitor::ReleasePortal() {
   if (portalRequest_.isEmpty()) return;
-  session_.send(
-      QDBusMessage::createMethodCall(kPortal, portalRequest_, "org.freedesktop.portal.Request", "Close"));
+  session_.send(QDBusMessage::createMethodCall(kPortal, portalRequest_, "org.freedesktop.portal.Request", "Close"));
   portalRequest_.clear();
 }
 

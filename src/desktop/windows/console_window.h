@@ -18,6 +18,7 @@ class ConsoleWindow : public FormWindow {
  public:
   ConsoleWindow(MainForm& form, FormWindows& windows, PictureCache& pictures, Screens& screens, MpvVideo& video);
   Canvas& Board() { return *board_; }
+  Canvas& Answer() { return *answer_; }
   // Comes to the front, as asked by a second start of the program.
   void ComeForward();
 

@@ -22,7 +22,8 @@ bool KeyRelay::eventFilter(QObject*, QEvent* event) {
   if (event->type() != QEvent::KeyPress && event->type() != QEvent::KeyRelease) return false;
   QWidget* popup = QApplication::activePopupWidget();
   QWidget& target = popup != nullptr ? *popup : Target();
-  if (&target == &console_ && event->type() == QEvent::KeyPress && OpenMenu(*static_cast<QKeyEvent*>(event))) return true;
+  if (&target == &console_ && event->type() == QEvent::KeyPress && OpenMenu(*static_cast<QKeyEvent*>(event)))
+    return true;
   QWindow* window = target.windowHandle();
   if (window != nullptr && target.isVisible()) QCoreApplication::sendEvent(window, event);
   return true;

@@ -1,0 +1,195 @@
+// What a screen reader is told of the windows, and what its actions do: asked as a screen reader asks, without a bus.
+
+#include <QAccessible>
+#include <QAccessibleActionInterface>
+#include <QTest>
+#include <set>
+
+#include "desktop/windows/audience_window.h"
+#include "desktop/windows/console_window.h"
+#include "forms/fs_main_form.h"
+#include "forms/main_form.h"
+#include "places.h"
+#include "program/handlers.h"
+
+namespace pawnfield {
+namespace {
+
+QAccessibleInterface& Of(QWidget& widget) { return *QAccessible::queryAccessibleInterface(&widget); }
+
+// What is told of everything below, without what isn't there at the moment.
+QStringList Told(QAccessibleInterface& node) {
+  QStringList texts;
+  for (int i = 0; i < node.childCount(); ++i) {
+    QAccessibleInterface* child = node.child(i);
+    if (child == nullptr || child->state().invisible) continue;
+    EXPECT_EQ(node.indexOfChild(child), i);
+    texts += child->text(QAccessible::Name);
+    texts += Told(*child);
+  }
+  texts.removeAll(QString());
+  return texts;
+}
+
+// The texts of the notifications that were told to be read out.
+QStringList& Announced() {
+  static QStringList texts;
+  return texts;
+}
+
+void TakeUpdate(QAccessibleEvent* event) {
+  QAccessibleInterface* told = event->accessibleInterface();
+  const bool comesUp = event->type() == QAccessible::ObjectShow && told != nullptr;
+  if (comesUp && told->role() == QAccessible::Notification) Announced() += told->text(QAccessible::Name);
+}
+
+class AccessTest : public ProgramTest {
+ protected:
+  void SetUp() override {
+    AttachHandlers(show_);
+    program_.Console().show();
+    ASSERT_TRUE(QTest::qWaitForWindowActive(&program_.Console()));
+  }
+  void ShowQuestion() {
+    for (Label* question : {&form_.lblQuestion[0], &show_.frmFSMain.lblQuestion[0]}) {
+      question->Caption = "What is the capital of Norway?";
+    }
+    form_.picQuestion.Visible = show_.frmFSMain.picQuestion.Visible = true;
+    form_.lblAnswer.Caption = "Oslo";
+  }
+  QStringList TakeAnnounced() {
+    QTest::qWait(50);
+    return std::exchange(Announced(), {});
+  }
+};
+
+TEST_F(AccessTest, TheCanvasesTellWhatTheyShowAndOnlyTheConsoleTellsTheAnswer) {
+  show_.state.Board[1][2] = 2;
+  const QStringList console = Told(Of(program_.Console().Board()));
+  EXPECT_EQ(console.count("A1: free"), 1);
+  EXPECT_EQ(console.count("C2: PLAYER 2"), 1);
+  EXPECT_EQ(console.filter(": ").size(), 25);
+  EXPECT_FALSE(console.contains("What is the capital of Norway?"));
+
+  ShowQuestion();
+  const QString question = "What is the capital of Norway?";
+  EXPECT_TRUE(Told(Of(program_.Console())).contains(question));
+  EXPECT_TRUE(Told(Of(program_.Console())).contains("Oslo"));
+  program_.Audience().show();
+  EXPECT_TRUE(Told(Of(program_.Audience())).contains(question));
+  EXPECT_TRUE(Told(Of(program_.Audience())).filter("Oslo").isEmpty());
+
+  form_.lblRightWrong.Caption = "Correct!";
+  form_.picCorrect.Visible = true;
+  EXPECT_TRUE(Told(Of(program_.Console().Board())).contains("Correct!"));
+  form_.picStandby.Visible = true;
+  EXPECT_TRUE(Told(Of(program_.Console().Board())).contains("Standby"));
+}
+
+TEST_F(AccessTest, WhatChangesIsReadOutInWords) {
+  QAccessible::setActive(true);
+  const auto before = QAccessible::installUpdateHandler(TakeUpdate);
+  form_.picStandby.Visible = false;
+  TakeAnnounced();
+  ShowQuestion();
+  EXPECT_EQ(TakeAnnounced(), QStringList{"What is the capital of Norway?"});
+  form_.lblRightWrong.Caption = "Incorrect";
+  form_.picCorrect.Visible = true;
+  EXPECT_EQ(TakeAnnounced(), QStringList{"Incorrect"});
+  form_.picQuestion.Visible = form_.picCorrect.Visible = false;
+  TakeAnnounced();
+  show_.state.Board[0][0] = 1;
+  form_.img.At(0, 0)->Picture = "taken";
+  form_.ScoreCopy(1).Caption = "100";
+  EXPECT_EQ(TakeAnnounced(), QStringList{"A1: PLAYER 1. PLAYER 1: 100"});
+  form_.picStandby.Visible = true;
+  EXPECT_EQ(TakeAnnounced(), QStringList{"Standby"});
+  QAccessible::installUpdateHandler(before);
+  QAccessible::setActive(false);
+}
+
+TEST_F(AccessTest, ASquareIsPressedAsByAClickAndNotThroughWhatCoversIt) {
+  int clicks = 0;
+  form_.img.At(1, 2)->OnClick = [&clicks] { ++clicks; };
+  form_.img.At(1, 2)->Visible = true;
+  for (PictureBox* panel : {&form_.picStandby, &form_.picQuestion, &form_.picWinner}) panel->Visible = false;
+  QAccessibleInterface* square = Of(program_.Console().Board()).child(1 * 5 + 2);
+  ASSERT_EQ(square->text(QAccessible::Name), "C2: free");
+  EXPECT_EQ(square->role(), QAccessible::Cell);
+  square->actionInterface()->doAction(QAccessibleActionInterface::pressAction());
+  EXPECT_EQ(clicks, 1);
+  form_.picStandby.Visible = true;
+  square->actionInterface()->doAction(QAccessibleActionInterface::pressAction());
+  EXPECT_EQ(clicks, 1) << "standby lies over it";
+}
+
+TEST_F(AccessTest, AToggleIsAClickAndLeavesOneOptionOfEachGroupChecked) {
+  const auto expectOne = [this](auto& group, std::size_t chosen) {
+    for (std::size_t i = 0; i < group.Size(); ++i) {
+      const QAccessibleInterface& option = Of(Widget<QWidget>(WidgetName(group[i].Name()).toLatin1()));
+      EXPECT_EQ(option.role(), QAccessible::RadioButton) << group[i].Name();
+      EXPECT_EQ(static_cast<bool>(option.state().checked), i == chosen) << group[i].Name();
+      EXPECT_EQ(group[i].Value.Get(), i == chosen) << group[i].Name();
+    }
+  };
+  const auto toggle = [this](Control& control) {
+    Of(Widget<QWidget>(WidgetName(control.Name()).toLatin1()))
+        .actionInterface()
+        ->doAction(QAccessibleActionInterface::toggleAction());
+  };
+  const auto eachOf = [&](auto& group) {
+    for (std::size_t i = 0; i < group.Size(); ++i) {
+      group[i].Enabled = true;
+      toggle(group[i]);
+      expectOne(group, i);
+    }
+    const std::size_t last = group.Size() - 1;
+    toggle(group[last]);
+    expectOne(group, last);
+    group[0].Enabled = false;
+    toggle(group[0]);
+    expectOne(group, last);
+  };
+  form_.fraGridControl.Enabled = true;
+  eachOf(form_.optGameEnds);
+  eachOf(form_.optSoundBank);
+  eachOf(form_.optPlayers);
+  eachOf(form_.optGameType);
+
+  for (CheckBox* box : {&form_.chkAnimation, &form_.chkIncorrectPenalty}) {
+    box->Enabled = true;
+    const auto was = box->Value.Get();
+    EXPECT_EQ(Of(Widget<QWidget>(box->Name().c_str())).role(), QAccessible::CheckBox);
+    toggle(*box);
+    EXPECT_NE(box->Value.Get(), was) << box->Name();
+    toggle(*box);
+    EXPECT_EQ(box->Value.Get(), was) << box->Name();
+  }
+}
+
+// Whatever is worked has a name, and a list's is not what is chosen in it.
+TEST_F(AccessTest, EveryControlOfEveryFormHasAName) {
+  const std::set<QAccessible::Role> worked{QAccessible::RadioButton,  QAccessible::CheckBox, QAccessible::ComboBox,
+                                           QAccessible::EditableText, QAccessible::Slider,   QAccessible::Button,
+                                           QAccessible::Table,        QAccessible::Tree};
+  int looked = 0;
+  for (FormWindow* window : program_.Windows()) {
+    for (QWidget* widget : window->findChildren<QWidget*>()) {
+      QAccessibleInterface* access = QAccessible::queryAccessibleInterface(widget);
+      if (access == nullptr || worked.count(access->role()) == 0 || widget->objectName().isEmpty() ||
+          widget->objectName().startsWith("qt_")) {
+        continue;
+      }
+      ++looked;
+      const QString name = access->text(QAccessible::Name);
+      const std::string where = (window->objectName() + " " + widget->objectName()).toStdString();
+      EXPECT_FALSE(name.isEmpty()) << where;
+      const bool isList = access->role() == QAccessible::ComboBox;
+      EXPECT_FALSE(isList && name == access->text(QAccessible::Value)) << where;
+    }
+  }
+  EXPECT_GT(looked, 150);
+}
+
+}  // namespace
+}  // namespace pawnfield
