@@ -6,12 +6,12 @@
 #include <QElapsedTimer>
 #include <QFile>
 #include <QGuiApplication>
-#include <QPainter>
 #include <QProcess>
 #include <QTemporaryDir>
 #include <QWindow>
+#include <algorithm>
+#include <vector>
 
-#include "desktop/painting/ground.h"
 #include "desktop/windows/audience_window.h"
 #include "desktop/windows/console_window.h"
 #include "forms/fs_main_form.h"
@@ -133,21 +133,20 @@ class WaylandTest : public testing::TestWithParam<const char*> {
     const QImage room = Seen(room_);
     ASSERT_TRUE(Unplug(own_));
     QElapsedTimer since;
-    since.start();
-    int looks = 0;
-    while (since.elapsed() < 2500) {
-      driver_->Pause(10);
-      const QImage seen = Seen(room_);
-      QImage bare(seen.size(), QImage::Format_RGB32);
-      bare.fill(kBare);
-      const bool card = Card() != nullptr && Alike(seen, Picture(Console())) > 0.97;
-      EXPECT_TRUE(card || Alike(seen, room) > 0.97 || Alike(seen, bare) > 0.97)
-          << "after " << since.elapsed() << " ms, picture " << ++looks;
-      if (HasFailure()) seen.save(QString("wayland-%1-leak.png").arg(own_));
-    }
+    std::vector<QImage> looks;
+    for (since.start(); since.elapsed() < 2500; driver_->Pause(10)) looks.push_back(Seen(room_));
     ASSERT_NE(Card(), nullptr);
     EXPECT_TRUE(Wait([&] { return Shows(room_, Console()); }));
     Keep("card");
+    const QImage card = Seen(room_);
+    QImage bare(card.size(), QImage::Format_RGB32);
+    bare.fill(kBare);
+    for (const QImage& look : looks) {
+      const double likeness = std::max({Alike(look, room), Alike(look, bare), Alike(look, card)});
+      EXPECT_GT(likeness, 0.97) << "picture " << &look - looks.data() + 1 << " of " << looks.size();
+      if (likeness <= 0.97) look.save(QString("wayland-%1-leak.png").arg(own_));
+    }
+    EXPECT_GT(looks.size(), 5U);
   }
 
   QString own_, room_;
@@ -183,7 +182,7 @@ TEST_P(WaylandTest, EachScreenStaysTheConsolesOrTheRoomsWhateverIsUnplugged) {
   EXPECT_EQ(Audience().lblQuestion[0].Caption.Get(), question);
 }
 
-TEST_P(WaylandTest, AChangeOfScaleAndAMoveByHandLeaveEachAScreenOfItsOwn) {
+TEST_P(WaylandTest, AChangeOfScaleLeavesEachAScreenOfItsOwn) {
   ASSERT_NO_FATAL_FAILURE(BeginQuestion());
   for (const char* scale : {"2", "1.5", "1"}) {
     for (const QString& output : {own_, room_}) {
@@ -196,10 +195,6 @@ TEST_P(WaylandTest, AChangeOfScaleAndAMoveByHandLeaveEachAScreenOfItsOwn) {
     }
   }
   ExpectEachOnItsOwn("scales are 1 again");
-  ASSERT_TRUE(Sway("focus output " + own_));
-  ASSERT_TRUE(Sway("[title=\"^Pawnfield\"] focus; move container to output " + room_));
-  std::swap(own_, room_);
-  ExpectEachOnItsOwn("the operator has moved the console");
 }
 
 INSTANTIATE_TEST_SUITE_P(StartedAt, WaylandTest, testing::Values("HEADLESS-1", "HEADLESS-2"));
