@@ -8,6 +8,7 @@
 #include <vector>
 
 #include "data/players.h"
+#include "data/trivia_set.h"
 
 namespace pawnfield {
 
@@ -44,6 +45,8 @@ struct Snapshot {
   // Standby stood over the room's screen.
   bool Covered = false;
   int CurrentQuestion = 0;
+  // The question as the players were asked it, whatever became of it in the set; blank while none has been.
+  TriviaQuestion Asked;
   std::string LastSquareKey;
   int LastPlayer = 0, LastPoints = 0, LastRow = 0, LastCol = 0;
   std::array<int, kPlayers> Lamp{};

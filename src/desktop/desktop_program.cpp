@@ -27,6 +27,7 @@
 #include "desktop/windows/pages_window.h"
 #include "desktop/windows/player_names_window.h"
 #include "desktop/windows/press_windows.h"
+#include "desktop/windows/results_window.h"
 #include "desktop/windows/show_speaker.h"
 #include "desktop/windows/small_windows.h"
 #include "desktop/windows/sound_effects_window.h"
@@ -43,6 +44,7 @@
 #include "forms/pages_form.h"
 #include "forms/player_names_form.h"
 #include "forms/press_forms.h"
+#include "forms/results_form.h"
 #include "forms/second_screen_form.h"
 #include "forms/small_forms.h"
 #include "forms/sound_effects_form.h"
@@ -84,6 +86,7 @@ struct DesktopProgram::AllWindows {
   OptionalHeadersWindow OptionalHeaders;
   OptionsWindow Options;
   PagesWindow Pages;
+  ResultsWindow Results;
   MapMFWindow MapMF;
   SetInterfaceWindow SetInterface;
   HelpKey Help;
@@ -111,6 +114,7 @@ DesktopProgram::AllWindows::AllWindows(DesktopPlatform& desktop, Show& show)
       OptionalHeaders(show.frmOptionalHeaders, desktop.windows),
       Options(show.frmOptions, desktop.windows),
       Pages(show.frmPages, desktop.windows),
+      Results(show.frmResults, desktop.windows),
       MapMF(show.frmMapMF, desktop.windows),
       SetInterface(show.frmSetInterface, desktop.windows),
       Help(show),

@@ -137,7 +137,7 @@ void ReopenQuestion(Show& show) {
 }
 
 void ShowQuestion(Show& show, int index) {
-  const TriviaQuestion& question = RecordAt(show.GameSet, index + 1);
+  const TriviaQuestion& question = show.Asked = RecordAt(show.GameSet, index + 1);
   show.state.QuestionUp = true;
   const std::string text = Trim(question.QuestionText);
   SetQuestion(show, text, show.frmMain.lblQuestion);
@@ -159,7 +159,7 @@ void ShowQuestion(Show& show, int index) {
 }
 
 void ShowQuestionAgain(Show& show) {
-  const TriviaQuestion& question = RecordAt(show.GameSet, show.state.CurrentQuestion + 1);
+  const TriviaQuestion& question = show.Asked;
   const std::string text = Trim(question.QuestionText);
   show.state.QuestionUp = true;
   SetQuestion(show, text, show.frmMain.lblQuestion);

@@ -10,6 +10,7 @@
 #include "engine/set_choice.h"
 #include "forms/fs_main_form.h"
 #include "forms/main_form.h"
+#include "media/background_music.h"
 #include "media/sound_channels.h"
 #include "presentation/board_layout.h"
 #include "presentation/both_screens.h"
@@ -40,8 +41,7 @@ bool IsGameOver(const Show& show, LineMade lineMade) {
 
 void EndGame(Show& show) {
   MainForm& form = show.frmMain;
-  form.tmrBGMusic.Enabled = false;
-  StopBackground(show);
+  EndMusic(show);
   EndQuestionClip(show);
   show.state.GameInProgress = false;
   show.state.GameLoaded = false;

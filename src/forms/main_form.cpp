@@ -64,6 +64,7 @@ void MainForm::SetCaptions() {
   mnuFilePages.Caption = "&Phones and pages...";
   mnuFileShowCheck.Caption = "Show &check...";
   mnuFileShowCheck.Visible = false;
+  mnuFileResults.Caption = "&Results...";
   mnuFileBringBack.Caption = "&Bring back the last game";
   mnuFileExit.Caption = "E&xit";
   mnuZR610.Caption = "ZR-610 System";

@@ -37,6 +37,7 @@ class MainForm : public Form {
   Menu mnuFileInterface{*this, "mnuFileInterface"};
   Menu mnuFilePages{*this, "mnuFilePages"};
   Menu mnuFileShowCheck{*this, "mnuFileShowCheck"};
+  Menu mnuFileResults{*this, "mnuFileResults"};
   Menu mnuFileBringBack{*this, "mnuFileBringBack"};
   Menu mnuFileExit{*this, "mnuFileExit"};
   Menu mnuZR610{*this, "mnuZR610"};

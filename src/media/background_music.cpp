@@ -79,6 +79,11 @@ void BringMusicBack(Show& show) {
   ResumeBackground(show);
 }
 
+void EndMusic(Show& show) {
+  show.frmMain.tmrBGMusic.Enabled = false;
+  StopBackground(show);
+}
+
 void tmrBGMusic_Timer(Show& show) {
   if (!show.state.MusicEnabled) return;
   if (show.state.MusicWaits) {

@@ -18,6 +18,8 @@ void DecideOnMusic(Show& show);
 void StartMusic(Show& show);
 // When a game starts: music that a game's end stopped, or a clip paused, goes on; what plays is left alone.
 void BringMusicBack(Show& show);
+// When a game ends.
+void EndMusic(Show& show);
 void tmrBGMusic_Timer(Show& show);
 
 }  // namespace pawnfield

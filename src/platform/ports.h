@@ -213,6 +213,10 @@ class RecordFiles {
   virtual std::vector<std::string> List() const = 0;
   // Empty when it can't be read.
   virtual std::string Read(const std::string& name) const = 0;
+  // Reads it beside the main thread: `take` gets the bytes there, and must not touch the show; `done` comes on the main
+  // thread afterwards.
+  virtual void ReadBeside(const std::string& name, std::function<void(const std::string& bytes)> take,
+                          std::function<void()> done) = 0;
   // Adds the lines at the end of the record, which is made where it isn't there. The caller waits for no disk; they are
   // on it within a second.
   virtual void Append(const std::string& name, const std::string& lines) = 0;
@@ -434,9 +438,9 @@ class SerialPort {
   virtual void Open(int number, const SerialSettings& settings) = 0;
   virtual bool PortOpen() const = 0;
   virtual void Close() = 0;
-  // Takes all that has arrived.
+  // Takes what arrived together, the oldest first; empty when nothing waits.
   virtual std::string Input() = 0;
-  // When the last of what Input gave last arrived, in the clock's microseconds; 0 where nobody has looked.
+  // When that arrived which Input gave last, in the clock's microseconds; 0 where nobody has looked.
   virtual std::int64_t ArrivedUs() const { return 0; }
   virtual std::size_t InBufferCount() const = 0;
   // Bytes have arrived, or the device is gone; the latter may be announced many times until the port is closed.

@@ -40,6 +40,7 @@
 #include "program/wireless.h"
 #include "record/history.h"
 #include "record/record_file.h"
+#include "record/results_window.h"
 #include "sets/editor_handlers.h"
 #include "show/settings.h"
 #include "show/show.h"
@@ -95,6 +96,7 @@ void AttachButtons(Show& show) {
   OnClick(show, form.btnSkipQuestion, btnSkipQuestion_Click);
   OnClick(show, form.btnUndo, btnUndo_Click);
   OnClick(show, form.mnuFileBringBack, BringBackLastGame);
+  AttachResults(show);
   OnClick(show, form.btnReset, btnReset_Click);
   OnClick(show, form.btnEndGame, btnEndGame_Click);
   OnClick(show, form.btnQuestionCorrect, HandleCorrect);

@@ -157,6 +157,7 @@ Snapshot Capture(const Show& show) {
   snapshot.Cursor = CursorOf(form);
   snapshot.Covered = ScreenCovered(show);
   snapshot.CurrentQuestion = state.CurrentQuestion;
+  if (state.GameStarted && state.Nature().Trivia) snapshot.Asked = show.Asked;
   snapshot.LastSquareKey = state.LastSquareKey;
   snapshot.LastPlayer = state.LastPlayer;
   snapshot.LastPoints = state.LastPoints;

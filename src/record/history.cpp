@@ -48,6 +48,7 @@ RecordedEvent EventOf(const Show& show, const Happening& cause, const Snapshot& 
   event.At = show.platform.clock.Now();
   event.Ms = show.platform.clock.NowMs() - show.record->BegunMs;
   event.Presses = show.record->DuePresses;
+  event.OpenedUs = show.record->DueOpenedUs;
   event.After = std::move(after);
   return event;
 }
@@ -74,7 +75,10 @@ void BeginGame(Show& show, RecordedEvent event) {
   ShowRecord& record = *show.record;
   if (WasPlayed(record.Game)) record.LastGame = std::move(record.Game);
   record.Game = {};
-  if (event.After.Loaded) event.Kind = EventKind::Ready;
+  if (event.After.Loaded) {
+    event.Kind = EventKind::Ready;
+    event.What = WordsOf({EventKind::Ready, 0}, event.After, event.After, SetNameOf(show));
+  }
   record.Game.Events.push_back(std::move(event));
 }
 
@@ -149,6 +153,7 @@ void AfterEvent(Show& show) {
   if (record.Noted.empty()) return;
   record.Due.insert(record.Due.end(), record.Noted.begin(), record.Noted.end());
   record.DuePresses = record.Presses;
+  record.DueOpenedUs = record.OpenedUs;
   FollowPresses(show);
   record.Noted.clear();
   if (!options) show.frmMain.btnUndo.Enabled = !Holds(record.Due, EventKind::Wipe);

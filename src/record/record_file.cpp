@@ -19,8 +19,11 @@ std::string FileNameOf(const LocalTime& at) {
 }
 
 void RemoveOldShows(Show& show) {
-  const std::vector<std::string>& names = show.record->FilesAtStart;
-  for (std::size_t i = 0; i + kShowsKept - 1 < names.size(); ++i) show.platform.records.Remove(names[i]);
+  std::vector<std::string>& names = show.record->FilesAtStart;
+  while (names.size() >= kShowsKept) {
+    show.platform.records.Remove(names.front());
+    names.erase(names.begin());
+  }
 }
 
 // Two shows of one second, and a clock that was put back, get names of their own behind the others.
@@ -89,7 +92,8 @@ void AppendEvent(Show& show, const RecordedEvent& event) {
   std::string lines;
   if (record.File.empty()) {
     if (!event.After.Started) return;
-    lines = BeginFile(show) + CheckLine(show) + SetLine(show) + GameLines(record.Game);
+    lines = BeginFile(show);
+    lines += CheckLine(show) + SetLine(show) + GameLines(record.Game);
   } else {
     lines = CheckLine(show) + SetLine(show) + FormatEvent(event);
   }

@@ -92,19 +92,6 @@ std::optional<Press> PressOf(const Json& json) {
                static_cast<PressPlace>(PlaceIn(kPlaces, fields[4].AsText()))};
 }
 
-Json JsonOf(const TriviaQuestion& question) {
-  return Json::List{question.QuestionType, question.QuestionText, question.FontName,  question.FontSize,
-                    question.FontBold,     question.FontItalic,   question.FontColor, question.AnswerText};
-}
-
-TriviaQuestion QuestionOf(const Json& json) {
-  TriviaQuestion question;
-  const Json::List& fields = json.AsList();
-  if (fields.size() != 8) return question;
-  return {fields[0].AsText(), fields[1].AsText(), fields[2].AsText(), fields[3].AsText(),
-          fields[4].AsBool(), fields[5].AsBool(), fields[6].AsText(), fields[7].AsText()};
-}
-
 RecordedSet SetOf(const Json& json) {
   RecordedSet set;
   const auto text = [&](const char* name) {
@@ -143,6 +130,7 @@ std::optional<RecordedEvent> EventOf(const Json& json) {
   event.At = TimeOf(json.Find("at"));
   if (const Json* what = json.Find("what")) event.What = what->AsText();
   if (const Json* ms = json.Find("ms")) event.Ms = ms->AsNumber();
+  if (const Json* opened = json.Find("opened")) event.OpenedUs = opened->AsNumber();
   if (const Json* player = json.Find("player")) event.Player = static_cast<int>(player->AsNumber());
   if (!IsPlayer(event.Player)) event.Player = 0;
   if (const Json* presses = json.Find("presses")) {
@@ -199,6 +187,7 @@ std::string FormatEvent(const RecordedEvent& event) {
                      {"player", event.Player},
                      {"what", event.What},
                      {"presses", std::move(presses)},
+                     {"opened", event.OpenedUs},
                      {"now", JsonOf(event.After)}});
 }
 
@@ -211,6 +200,19 @@ std::string FormatCheck(const std::vector<CheckedRow>& rows) {
 std::string FormatEnd() { return FormatLine({{"end", true}}); }
 
 namespace {
+
+bool WasPlayed(const GameHistory& game) {
+  return std::any_of(game.Events.begin(), game.Events.end(),
+                     [](const RecordedEvent& event) { return event.After.Started; });
+}
+
+// A game that was brought back stands in the record once more, and counts once.
+void LeaveGame(ReadRecord& record, const RecordedEvent& next) {
+  if (WasPlayed(record.Game)) record.Games.push_back(std::move(record.Game));
+  record.Game = {};
+  if (next.Kind != EventKind::BroughtBack) return;
+  std::erase_if(record.Games, [&](const GameHistory& game) { return game.Events.front().Ms == next.Ms; });
+}
 
 // Plays an event into the history as it was played in the show.
 void Replay(ReadRecord& record, const RecordedEvent& event) {
@@ -228,7 +230,7 @@ void Replay(ReadRecord& record, const RecordedEvent& event) {
     case EventKind::Ready:
     case EventKind::Wipe:
     case EventKind::BroughtBack:
-      game.Events.clear();
+      LeaveGame(record, event);
       break;
     default:
       if (game.Events.size() > game.Now + 1) game.Events.resize(game.Now + 1);
@@ -246,7 +248,7 @@ void TakeCheck(ReadRecord& record, const Json& rows) {
 
 void TakeLine(ReadRecord& record, const Json& line) {
   if (const Json* set = line.Find("set")) {
-    record.Game.Set = std::make_shared<const RecordedSet>(SetOf(*set));
+    record.Set = std::make_shared<const RecordedSet>(SetOf(*set));
   } else if (const Json* check = line.Find("check")) {
     TakeCheck(record, *check);
   } else if (line.Find("end") != nullptr) {
@@ -254,6 +256,7 @@ void TakeLine(ReadRecord& record, const Json& line) {
   } else if (auto event = EventOf(line)) {
     record.Ended = false;
     Replay(record, *event);
+    record.Game.Set = record.Set;
     record.Events.push_back(std::move(*event));
   }
 }

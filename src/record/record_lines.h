@@ -2,7 +2,8 @@
 //
 //   {"record":1,"at":"2026-03-01 20:00:00","sum":"1f2e3d4c"}          the record's first line: the version
 //   {"set":{"path":...,"folder":...,"questions":[[...]]},"sum":...}    the set of the games that follow
-//   {"ms":5120,"at":"20:00:05","kind":"RingIn","player":2,"what":"BEN rings in","presses":[...],"now":{...},"sum":...}
+//   {"ms":5120,"at":"20:00:05","kind":"RingIn","player":2,"what":"BEN rings in","presses":[...],"opened":...,
+//    "now":{...},"sum":...}
 //   {"check":[["Sound","Ready","Built-in Audio"],...],"sum":...}       what the check before the games that follow said
 //   {"end":true,"sum":...}                                            the operator has ended the show
 #pragma once

@@ -10,6 +10,7 @@
 #include "forms/fs_main_form.h"
 #include "forms/main_form.h"
 #include "forms/player_names_form.h"
+#include "media/background_music.h"
 #include "media/sound_channels.h"
 #include "outward/companion.h"
 #include "outward/shared_key.h"
@@ -144,9 +145,11 @@ void RestoreQuestion(const Snapshot& snapshot, Show& show) {
     show.DrawnBackground = snapshot.Background;
     show.frmMain.imgQuestionBackground.Picture = snapshot.Background;
   }
+  const bool asked = snapshot.Started && show.state.Nature().Trivia;
+  if (asked) show.Asked = snapshot.Asked;
   if (snapshot.QuestionUp) ShowQuestionAgain(show);
-  if (snapshot.Started && show.state.Nature().Trivia) {
-    SetAnswer(show, Trim(RecordAt(show.GameSet, snapshot.CurrentQuestion + 1).AnswerText));
+  if (asked) {
+    SetAnswer(show, Trim(show.Asked.AnswerText));
   } else {
     show.frmMain.lblAnswer.Caption = "";
   }
@@ -166,6 +169,13 @@ void TellOthers(const Snapshot& before, const Snapshot& after, Show& show) {
   if (QuestionIsUp(show)) SendKeyPressInRingIn(show, IsPhase(show, PhaseKind::QuestionOpen));
 }
 
+// A game's end stops the music, and nothing else of the game does.
+void RestoreMusic(const Snapshot& snapshot, Show& show) {
+  const bool plays = show.frmMain.tmrBGMusic.Enabled;
+  if (snapshot.Loaded && !plays && !show.state.MusicStopped) BringMusicBack(show);
+  if (snapshot.Over && plays) EndMusic(show);
+}
+
 template <std::size_t N>
 int IndexOf(const std::array<int, N>& choices, int value) {
   return static_cast<int>(std::find(choices.begin(), choices.end(), value) - choices.begin());
@@ -183,6 +193,7 @@ void Restore(const Snapshot& snapshot, Show& show) {
   RestoreFlow(snapshot, show);
   RestoreTurn(snapshot, show);
   RestoreLights(snapshot, show);
+  RestoreMusic(snapshot, show);
   UpdateAnswerClock(show);
   TellOthers(before, snapshot, show);
 }

@@ -16,12 +16,6 @@ namespace {
 
 constexpr std::int64_t kListedUs = 2000000;
 
-const Press* FirstOf(const std::vector<Press>& presses) {
-  const auto first =
-      std::find_if(presses.begin(), presses.end(), [](const Press& p) { return p.Place == PressPlace::First; });
-  return first == presses.end() ? nullptr : &*first;
-}
-
 std::optional<PressPlace> PlaceOf(const Show& show, const Press& press) {
   if (IsPhase(show, PhaseKind::QuestionOpen) && !ScreenCovered(show)) return PressPlace::First;
   const Press* first = FirstOf(show.record->Presses);
@@ -37,6 +31,12 @@ bool IsListed(const std::vector<Press>& presses, int player, bool early) {
 }
 
 }  // namespace
+
+const Press* FirstOf(const std::vector<Press>& presses) {
+  const auto first =
+      std::find_if(presses.begin(), presses.end(), [](const Press& p) { return p.Place == PressPlace::First; });
+  return first == presses.end() ? nullptr : &*first;
+}
 
 Press PressOf(const Show& show, int player, PressWay way, std::int64_t atUs) {
   return {player, way, atUs != 0 ? atUs : show.platform.clock.NowUs(), ErrorOfWay(way), PressPlace::First};
@@ -58,22 +58,29 @@ void BeginRingInOrder(Show& show, Opening opening) {
   std::erase_if(record.Presses, [&](const Press& press) {
     return press.Place != PressPlace::Early || (opening == Opening::Anew && press.TimeUs < record.QuestionUs);
   });
-  if (opening == Opening::Anew) record.QuestionUs = show.platform.clock.NowUs();
+  record.OpenedUs = show.platform.clock.NowUs();
+  if (opening == Opening::Anew) record.QuestionUs = record.OpenedUs;
   ShowRingInOrder(show);
 }
 
-std::vector<RingInRow> RingInRows(const Show& show) {
+std::vector<RingInRow> RingInRows(const std::vector<Press>& presses, const std::array<std::string, kPlayers>& names) {
   std::vector<RingInRow> rows;
-  for (const Press& press : show.record->Presses) {
+  for (const Press& press : presses) {
     if (press.Place == PressPlace::Early)
-      rows.push_back({press.Player, "", show.frmMain.PlayerName(press.Player), "early", false});
+      rows.push_back({press.Player, "", names[PlayerIndex(press.Player)], "early", false});
   }
   int number = 0;
-  for (const PlacedPress& placed : PlacePresses(show.record->Presses)) {
-    const std::string& name = show.frmMain.PlayerName(placed.Of.Player);
+  for (const PlacedPress& placed : PlacePresses(presses)) {
+    const std::string& name = names[PlayerIndex(placed.Of.Player)];
     rows.push_back({placed.Of.Player, std::to_string(++number), name, MarginText(placed), placed.TooClose});
   }
   return rows;
+}
+
+std::vector<RingInRow> RingInRows(const Show& show) {
+  std::array<std::string, kPlayers> names;
+  for (int player = 1; player <= kPlayers; ++player) names[PlayerIndex(player)] = show.frmMain.PlayerName(player);
+  return RingInRows(show.record->Presses, names);
 }
 
 void ShowRingInOrder(Show& show) {

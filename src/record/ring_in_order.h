@@ -1,10 +1,12 @@
 // RING-IN ORDER: the presses of a question in the order of their times, and how far apart they were.
 #pragma once
 
+#include <array>
 #include <cstdint>
 #include <string>
 #include <vector>
 
+#include "data/players.h"
 #include "data/press.h"
 
 namespace pawnfield {
@@ -31,7 +33,10 @@ struct RingInRow {
   bool TooClose = false;
 };
 
+std::vector<RingInRow> RingInRows(const std::vector<Press>& presses, const std::array<std::string, kPlayers>& names);
 std::vector<RingInRow> RingInRows(const Show& show);
+// The first of them; null where nobody rang in.
+const Press* FirstOf(const std::vector<Press>& presses);
 // Writes the order to the console's list.
 void ShowRingInOrder(Show& show);
 

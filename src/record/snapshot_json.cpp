@@ -8,6 +8,19 @@
 
 namespace pawnfield {
 
+Json JsonOf(const TriviaQuestion& question) {
+  return Json::List{question.QuestionType, question.QuestionText, question.FontName,  question.FontSize,
+                    question.FontBold,     question.FontItalic,   question.FontColor, question.AnswerText};
+}
+
+TriviaQuestion QuestionOf(const Json& json) {
+  TriviaQuestion question;
+  const Json::List& fields = json.AsList();
+  if (fields.size() != 8) return question;
+  return {fields[0].AsText(), fields[1].AsText(), fields[2].AsText(), fields[3].AsText(),
+          fields[4].AsBool(), fields[5].AsBool(), fields[6].AsText(), fields[7].AsText()};
+}
+
 namespace {
 
 // Every member with its name, once for both directions.
@@ -47,6 +60,7 @@ void EachMember(State& s, Visit&& visit) {
   visit("cursor", s.Cursor);
   visit("covered", s.Covered);
   visit("question", s.CurrentQuestion);
+  visit("asked", s.Asked);
   visit("lastKey", s.LastSquareKey);
   visit("lastPlayer", s.LastPlayer);
   visit("lastPoints", s.LastPoints);
@@ -76,6 +90,7 @@ struct ToJson {
   void operator()(const char* name, const T& value) const {
     members.emplace_back(name, value);
   }
+  void operator()(const char* name, const TriviaQuestion& value) const { members.emplace_back(name, JsonOf(value)); }
   template <typename T, std::size_t N>
   void operator()(const char* name, const std::array<T, N>& values) const {
     members.emplace_back(name, Json::List(values.begin(), values.end()));
@@ -86,6 +101,7 @@ struct ToJson {
 };
 
 void Read(const Json& json, bool& value) { value = json.AsBool(value); }
+void Read(const Json& json, TriviaQuestion& value) { value = QuestionOf(json); }
 void Read(const Json& json, std::string& value) { value = json.AsText(value); }
 void Read(const Json& json, int& value) {
   const std::int64_t number = json.AsNumber(value);

@@ -5,6 +5,8 @@
 #include <cstdint>
 #include <optional>
 
+#include "platform/escapes.h"
+
 namespace pawnfield {
 
 namespace {
@@ -202,6 +204,19 @@ std::string FormatCell(const std::string& cell) {
 }
 
 }  // namespace
+
+std::string CellOf(std::string_view text) {
+  std::string cell;
+  for (std::size_t i = 0; i < text.size();) {
+    if (const auto code = EscapeAt(text, i)) {
+      Append(cell, *code);
+      i += kEscapeLength;
+    } else {
+      cell += FromWindows1252(text.substr(i++, 1));
+    }
+  }
+  return cell;
+}
 
 bool IsUtf8(std::string_view bytes) {
   for (std::size_t i = 0; i < bytes.size();) {

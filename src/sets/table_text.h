@@ -28,6 +28,9 @@ char SeparatorOf(std::string_view text);
 // a row of one empty cell.
 Table ParseTable(std::string_view text, char separator, std::size_t mostRows = static_cast<std::size_t>(-1));
 
+// The core's text, which is Windows-1252 with escapes, as a cell.
+std::string CellOf(std::string_view text);
+
 // The table of a file's bytes, without a line "sep=".
 Table ReadTable(std::string_view bytes);
 // The file of a table, by RFC 4180, in UTF-8 with a mark. ReadTable gives back what was written, field by field; a row

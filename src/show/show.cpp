@@ -17,6 +17,7 @@
 #include "forms/pages_form.h"
 #include "forms/player_names_form.h"
 #include "forms/press_forms.h"
+#include "forms/results_form.h"
 #include "forms/second_screen_form.h"
 #include "forms/show_check_form.h"
 #include "forms/small_forms.h"
@@ -53,6 +54,7 @@ struct Forms {
   OptionsForm frmOptions;
   PagesForm frmPages;
   ShowCheckForm frmShowCheck;
+  ResultsForm frmResults;
 };
 
 Show::Show(Platform& platformPorts) : Show(platformPorts, std::make_unique<Forms>()) {}
@@ -86,6 +88,7 @@ Show::Show(Platform& platformPorts, std::unique_ptr<Forms> forms)
       frmOptions(forms->frmOptions),
       frmPages(forms->frmPages),
       frmShowCheck(forms->frmShowCheck),
+      frmResults(forms->frmResults),
       forms_(std::move(forms)) {}
 
 Show::~Show() = default;
@@ -112,6 +115,7 @@ std::vector<Form*> AllForms(Show& show) {
           &show.frmOptionalHeaders,
           &show.frmOptions,
           &show.frmPages,
+          &show.frmResults,
           &show.frmMapMF,
           &show.frmSetInterface};
 }

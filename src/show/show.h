@@ -41,6 +41,7 @@ struct OptionsForm;
 struct PagesForm;
 struct PageState;
 struct PlayerNamesForm;
+struct ResultsForm;
 struct SecondScreenForm;
 struct SetInterfaceForm;
 struct ShowCheckForm;
@@ -103,6 +104,8 @@ struct Show {
   GameState state;
   TriviaSet GameSet;
   int NumGameQuestions = 0;
+  // The question that was asked last, as it stood in the set then.
+  TriviaQuestion Asked;
   // The set that is open in the editor, which begins with the game's set where EditCurrentSet says so.
   TriviaSet EditSet;
   int NumEditQuestions = 0;
@@ -188,6 +191,7 @@ struct Show {
   OptionsForm& frmOptions;
   PagesForm& frmPages;
   ShowCheckForm& frmShowCheck;
+  ResultsForm& frmResults;
 
   // The path of a file of the program's folder, as in AppPath("\\Images\\scorebox.bmp").
   std::string AppPath(const std::string& tail) const { return platform.folders.App + tail; }

@@ -10,6 +10,7 @@
 #include <vector>
 
 #include "data/press.h"
+#include "data/show_results.h"
 #include "data/snapshot.h"
 #include "data/trivia_set.h"
 #include "platform/ports.h"
@@ -54,6 +55,8 @@ struct RecordedEvent {
   // Since the record's beginning.
   std::int64_t Ms = 0;
   std::vector<Press> Presses;
+  // When the question opened to these presses, in the microseconds of the same clock; 0 where none did.
+  std::int64_t OpenedUs = 0;
   Snapshot After;
 };
 
@@ -84,7 +87,11 @@ struct ReadRecord {
   LocalTime At;
   // The game that was open last, with the events that were taken back in it.
   GameHistory Game;
-  // All events of the show in their order, for its results.
+  // The set that was read last, which is that of the events behind it.
+  std::shared_ptr<const RecordedSet> Set;
+  // The games before it, in their order, each as it stood at last.
+  std::vector<GameHistory> Games;
+  // All events of the show in their order.
   std::vector<RecordedEvent> Events;
   // What the checks before its games said, a row of the check each.
   std::vector<CheckedRow> Checked;
@@ -107,6 +114,7 @@ struct ShowRecord {
   std::vector<Happening> Due;
   // The presses as they stood then.
   std::vector<Press> DuePresses;
+  std::int64_t DueOpenedUs = 0;
   GameHistory Game, LastGame;
   // How often Undo, Redo and the return of a game have moved the show to another snapshot.
   std::size_t Steps = 0;
@@ -114,6 +122,8 @@ struct ShowRecord {
   std::vector<Press> Presses;
   // When the question came up, in the clock's microseconds.
   std::int64_t QuestionUs = 0;
+  // When it opened last, which it does again after a wrong answer.
+  std::int64_t OpenedUs = 0;
   // The name of the record on the disk, empty before the first line of it.
   std::string File;
   // The records that there were at the program's start, oldest first.
@@ -126,6 +136,9 @@ struct ShowRecord {
   bool FileFails = false;
   // What the check before the show said last; goes to the record with its next line.
   std::vector<CheckedRow> Checked;
+  // What the results' window shows, and a number for each record that was asked for.
+  ShowResults Results;
+  int ResultsAsked = 0;
 };
 
 }  // namespace pawnfield

@@ -13,6 +13,12 @@ std::string MemoryRecords::Read(const std::string& name) const {
   return file == Files.end() ? std::string() : file->second;
 }
 
+void MemoryRecords::ReadBeside(const std::string& name, std::function<void(const std::string& bytes)> take,
+                               std::function<void()> done) {
+  take(Read(name));
+  done();
+}
+
 void MemoryRecords::Append(const std::string& name, const std::string& lines) {
   if (error_ == 0) {
     Files[name] += lines;

@@ -12,6 +12,8 @@ class MemoryRecords : public RecordFiles {
  public:
   std::vector<std::string> List() const override;
   std::string Read(const std::string& name) const override;
+  void ReadBeside(const std::string& name, std::function<void(const std::string& bytes)> take,
+                  std::function<void()> done) override;
   void Append(const std::string& name, const std::string& lines) override;
   void CutTo(const std::string& name, std::size_t bytes) override;
   void Remove(const std::string& name) override { Files.erase(name); }

@@ -5,6 +5,7 @@
 
 #include "forms/main_form.h"
 #include "forms/press_forms.h"
+#include "record/ring_in_order.h"
 #include "support/game_player.h"
 
 namespace pawnfield {
@@ -89,6 +90,23 @@ TEST(Pads, BrokenFramesAreReportedOnceAndAPulledAdapterUntilReconnected) {
       "expect Error Number: 8002, reconnect the pads, reconnect the pads, says ZR-610 System initialized, pad 2, turn "
       "2");
   EXPECT_EQ(port.Number, 4);
+}
+
+TEST(Pads, PressesOfABusyMomentKeepTheirTimesAndOrder) {
+  GamePlayer player("Trivia C, pads, user advances");
+  player.Do("wait 1 s");
+  SimSerial& port = player.fixture().sim.serial;
+  const std::int64_t now = player.show().platform.clock.NowUs();
+  port.Arrive(Pad(103).substr(0, 4), now - 400000);
+  port.Arrive(Pad(103).substr(4), now - 395000);
+  port.Arrive(Pad(101) + Pad(102).substr(0, 5), now - 345000);
+  port.Feed(Pad(102).substr(5));
+  player.Do("turn 3");
+  const auto rows = RingInRows(player.show());
+  ASSERT_EQ(rows.size(), 3U);
+  EXPECT_EQ(rows[0].Name + rows[0].When, "PLAYER 3first");
+  EXPECT_EQ(rows[1].Name + rows[1].When, "PLAYER 1+50 ms");
+  EXPECT_EQ(rows[2].Name + rows[2].When, "PLAYER 2+395 ms");
 }
 
 TEST(Pads, HalfAFrameAndAWrongLengthCostNoLaterPress) {

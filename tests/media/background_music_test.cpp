@@ -154,6 +154,22 @@ TEST_F(Music, EachStartOfAGameBringsBackWhatTheLastGamesEndStopped) {
   EXPECT_EQ(Heard(2), "a.mp3 ");
 }
 
+TEST_F(Music, AnEndThatIsTakenBackBringsItBackAndTheEndDoneAgainEndsIt) {
+  Begin("1", {"a.mp3"});
+  form().optGameType[1].Click();
+  form().btnStart.Click();
+  Claim(0, 0);
+  sim.clock.Advance(2000);
+  form().btnEndGame.Click();
+  sim.clock.Advance(100);
+  EXPECT_FALSE(sim.media.BackgroundPlayer.Playing);
+  form().btnUndo.Click();
+  EXPECT_EQ(Heard(2), "a.mp3 ");
+  form().KeyPress('Y' - '@');
+  EXPECT_FALSE(sim.media.BackgroundPlayer.Playing);
+  EXPECT_EQ(Heard(10), "");
+}
+
 TEST_F(Music, MusicChosenInTheOptionsWaitsForAGame) {
   Begin("0", {"a.mp3"});
   form().optGameType[1].Click();

@@ -160,6 +160,33 @@ TEST_F(Interrupted, ASetThatWasEditedLaterChangesNothing) {
   EXPECT_EQ(again_->show().GameSet, played_->show().GameSet);
 }
 
+TEST_F(Interrupted, AQuestionThatWasEditedWhileItStoodComesBackAsItWasAsked) {
+  Play("5 3 5 full", "r2 + 00 >");
+  Show& played = played_->show();
+  played.GameSet[1].QuestionText = "Another wording of quite another length?";
+  played.GameSet[1].AnswerText = "Another";
+  played_->Play("r3");
+  played_->fixture().sim.clock.Advance(60);
+  StartAgain(BoxAnswer::Yes);
+  MainForm& form = again_->form();
+  form.btnPlayMode.Click();
+  EXPECT_EQ(form.lblQuestion[0].Caption.Get(), played.frmMain.lblQuestion[0].Caption.Get());
+  EXPECT_EQ(form.lblQuestion[0].Top, played.frmMain.lblQuestion[0].Top);
+  EXPECT_EQ(form.lblAnswer.Caption.Get(), played.frmMain.lblAnswer.Caption.Get());
+  EXPECT_EQ(again_->show().GameSet[1], played.GameSet[1]) << "and the set as it was edited";
+}
+
+TEST_F(Interrupted, ARecordBeginsWithItsSetOnceAndTheBoardThatIsReady) {
+  Play("5 3 5 full i", "");
+  played_->Play("set btnStart >60");
+  const std::string& file = Disk().begin()->second;
+  EXPECT_EQ(file.find("{\"set\""), file.rfind("{\"set\""));
+  const auto record = ParseRecord(file);
+  ASSERT_TRUE(record);
+  ASSERT_EQ(record->Events.size(), 2U);
+  EXPECT_EQ(record->Events[0].What, "Long is ready");
+}
+
 TEST_F(Interrupted, AFullDiskIsToldOnceAndLosesNothing) {
   played_ = std::make_unique<GamePlayer>("Trivia C, 5x5");
   MemoryRecords& records = played_->fixture().sim.records;

@@ -1,6 +1,8 @@
 #include "desktop/devices/qt_serial_port.h"
 
 #include <QSerialPortInfo>
+#include <chrono>
+#include <utility>
 
 #include "controllers/zr610.h"
 #include "desktop/files/windows_1252.h"
@@ -9,8 +11,13 @@ namespace pawnfield {
 
 namespace {
 
-// What waits while nobody reads; the line's driver keeps or drops what is beyond it.
-constexpr qint64 kReadBuffer = 65536;
+// What waits while nobody takes it; what comes beyond it is dropped.
+constexpr std::size_t kMostWaiting = 65536;
+
+std::int64_t NowUs() {
+  const auto now = std::chrono::steady_clock::now().time_since_epoch();
+  return std::chrono::duration_cast<std::chrono::microseconds>(now).count();
+}
 
 std::string Text(const QString& text) { return Escape(text); }
 
@@ -35,12 +42,15 @@ std::vector<SerialAdapter> FindSerialAdapters() {
 }
 
 QtSerialPort::QtSerialPort(std::function<std::vector<SerialAdapter>()> find) : find_(std::move(find)) {
-  port_.setReadBufferSize(kReadBuffer);
-  QObject::connect(&port_, &QSerialPort::readyRead, &port_, [this] {
-    if (OnComm) OnComm(SerialEvent::Received);
-  });
+  QObject::connect(&port_, &QSerialPort::readyRead, &port_, [this] { Arrived(); });
   QObject::connect(&port_, &QSerialPort::errorOccurred, &port_,
                    [this](QSerialPort::SerialPortError error) { Failed(error); });
+}
+
+QtSerialPort::~QtSerialPort() {
+  Close();
+  thread_.quit();
+  thread_.wait();
 }
 
 std::vector<SerialDevice> QtSerialPort::Enumerate() const {
@@ -59,32 +69,99 @@ QString QtSerialPort::LocationOf(int number) const {
   return location;
 }
 
+void QtSerialPort::OnLine(const std::function<void()>& work) {
+  QMetaObject::invokeMethod(&port_, work, Qt::BlockingQueuedConnection);
+}
+
 void QtSerialPort::Open(int number, const SerialSettings& settings) {
   Close();
   const QString location = LocationOf(number);
   if (location.isEmpty()) throw RuntimeError(kErrorInvalidPort, "Invalid port number");
-  port_.setPortName(location);
-  port_.setBaudRate(settings.Baud);
-  port_.setParity(ParityOf(settings.Parity));
-  port_.setDataBits(static_cast<QSerialPort::DataBits>(settings.DataBits));
-  port_.setStopBits(static_cast<QSerialPort::StopBits>(settings.StopBits));
-  port_.setFlowControl(QSerialPort::NoFlowControl);
-  if (!port_.open(QIODevice::ReadWrite)) {
-    throw RuntimeError(kErrorInvalidPort,
-                       "The port " + Text(location) + " can't be opened: " + Text(port_.errorString()));
+  if (!thread_.isRunning()) {
+    port_.moveToThread(&thread_);
+    thread_.start();
   }
-  port_.setRequestToSend(true);
-  port_.clear();
+  QString error;
+  OnLine([&] {
+    port_.setPortName(location);
+    port_.setBaudRate(settings.Baud);
+    port_.setParity(ParityOf(settings.Parity));
+    port_.setDataBits(static_cast<QSerialPort::DataBits>(settings.DataBits));
+    port_.setStopBits(static_cast<QSerialPort::StopBits>(settings.StopBits));
+    port_.setFlowControl(QSerialPort::NoFlowControl);
+    open_ = port_.open(QIODevice::ReadWrite);
+    error = port_.errorString();
+    if (!open_) return;
+    port_.setRequestToSend(true);
+    port_.clear();
+  });
+  if (!open_) {
+    throw RuntimeError(kErrorInvalidPort, "The port " + Text(location) + " can't be opened: " + Text(error));
+  }
 }
 
 void QtSerialPort::Close() {
-  if (port_.isOpen()) port_.close();
+  if (!open_) return;
+  open_ = false;
+  OnLine([this] { port_.close(); });
+  const std::lock_guard lock(mutex_);
+  waiting_.clear();
+  waitingBytes_ = 0;
+  lost_ = false;
+  ++opened_;
+}
+
+std::string QtSerialPort::Input() {
+  const std::lock_guard lock(mutex_);
+  takenUs_ = 0;
+  if (waiting_.empty()) return {};
+  const Piece piece = std::move(waiting_.front());
+  waiting_.pop_front();
+  waitingBytes_ -= piece.Bytes.size();
+  takenUs_ = piece.AtUs;
+  return piece.Bytes;
+}
+
+std::size_t QtSerialPort::InBufferCount() const {
+  const std::lock_guard lock(mutex_);
+  return waitingBytes_;
+}
+
+void QtSerialPort::Arrived() {
+  const std::int64_t at = NowUs();
+  std::string bytes = port_.readAll().toStdString();
+  if (bytes.empty()) return;
+  {
+    const std::lock_guard lock(mutex_);
+    if (waitingBytes_ + bytes.size() > kMostWaiting) return;
+    waitingBytes_ += bytes.size();
+    waiting_.push_back({std::move(bytes), at});
+  }
+  Tell(SerialEvent::Received);
 }
 
 // The port reports a far side that is gone without end until it is closed.
 void QtSerialPort::Failed(QSerialPort::SerialPortError error) {
   const bool gone = error == QSerialPort::ResourceError || error == QSerialPort::ReadError;
-  if (gone && port_.isOpen() && OnComm) OnComm(SerialEvent::Lost);
+  if (!gone || !port_.isOpen()) return;
+  {
+    const std::lock_guard lock(mutex_);
+    if (std::exchange(lost_, true)) return;
+  }
+  Tell(SerialEvent::Lost);
+}
+
+void QtSerialPort::Tell(SerialEvent event) {
+  const auto opened = [this] {
+    const std::lock_guard lock(mutex_);
+    return opened_;
+  };
+  QMetaObject::invokeMethod(
+      &home_,
+      [this, event, opened, line = opened()] {
+        if (open_ && line == opened() && OnComm) OnComm(event);
+      },
+      Qt::QueuedConnection);
 }
 
 }  // namespace pawnfield

@@ -46,6 +46,15 @@ std::string RecordWriter::Read(const std::string& name) const {
   return file.readAll().toStdString();
 }
 
+void RecordWriter::ReadBeside(const std::string& name, std::function<void(const std::string& bytes)> take,
+                              std::function<void()> done) {
+  readers_.setMaxThreadCount(1);
+  readers_.start([this, name, take = std::move(take), done = std::move(done)] {
+    take(Read(name));
+    QMetaObject::invokeMethod(&home_, done, Qt::QueuedConnection);
+  });
+}
+
 void RecordWriter::Append(const std::string& name, const std::string& lines) { Add({Work::Append, name, lines}); }
 
 void RecordWriter::CutTo(const std::string& name, std::size_t bytes) { Add({Work::Cut, name, {}, bytes}); }

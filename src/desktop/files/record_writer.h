@@ -3,6 +3,7 @@
 
 #include <QObject>
 #include <QString>
+#include <QThreadPool>
 #include <condition_variable>
 #include <cstddef>
 #include <deque>
@@ -24,6 +25,8 @@ class RecordWriter : public RecordFiles {
 
   std::vector<std::string> List() const override;
   std::string Read(const std::string& name) const override;
+  void ReadBeside(const std::string& name, std::function<void(const std::string& bytes)> take,
+                  std::function<void()> done) override;
   void Append(const std::string& name, const std::string& lines) override;
   void CutTo(const std::string& name, std::size_t bytes) override;
   void Remove(const std::string& name) override;
@@ -71,6 +74,8 @@ class RecordWriter : public RecordFiles {
   bool busy_ = false, ends_ = false, failedOnce_ = false;
   std::condition_variable wake_, idle_;
   std::thread writer_;
+  // Reads what is asked for, one record at a time; gone before what it reports to.
+  QThreadPool readers_;
 };
 
 }  // namespace pawnfield

@@ -97,9 +97,9 @@ void ConsoleWindow::FillMenus(QMenuBar& bar) {
       }
     }
   };
-  menu("mnuFile",
-       {"fileClearAllScores", "mnuFileOptions", "mnuFileAddPlayerNames", "mnuFileOptionalHeaders", "mnuFileInterface",
-        "mnuFilePages", "mnuFileShowCheck", "mTestK7Controllers", nullptr, "mnuFileBringBack", "mnuFileExit"});
+  menu("mnuFile", {"fileClearAllScores", "mnuFileOptions", "mnuFileAddPlayerNames", "mnuFileOptionalHeaders",
+                   "mnuFileInterface", "mnuFilePages", "mnuFileShowCheck", "mTestK7Controllers", nullptr,
+                   "mnuFileResults", "mnuFileBringBack", "mnuFileExit"});
   menu("mnuZR610", {"mnuMapMF", "mnuReconnectMF", "mTestK7Controllers"});
   menu("mnuHelp", {"mnuHelpManual", "mnuHelpDocumentation", "mnuHelpSupport", "mnuHelpProjector", "mnuHelpAbout"});
   findChild<QAction*>("mnuHelpManual")->setShortcut(Qt::Key_F1);
