@@ -40,6 +40,13 @@ bool MeasurePages();
 // Fits a long question into both boxes with the desktop's own measurer, quickly and plainly.
 void MeasureFits();
 
+// What the show's record costs, and how long a show that was interrupted takes to come back. False when a part of it
+// did not happen.
+bool MeasureRecord();
+// A start that finds one: prints the milliseconds from that reading of the steady clock to the question about it, and
+// from its answer to the game.
+int RunInterrupted(long long startedNs, const QString& folder);
+
 // How far the audience's picture of a film is from the operator's during a minute and at its end. False when the film
 // did not run.
 bool MeasureFilm();

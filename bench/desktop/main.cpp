@@ -28,7 +28,7 @@ void PrintPercentiles(const std::string& name, const std::vector<double>& millis
 
 }  // namespace pawnfield
 
-// Usage: pawnfield_desktop_bench [MEASURE...], each of fits, paints, presses, pages, sound, film,
+// Usage: pawnfield_desktop_bench [MEASURE...], each of fits, paints, presses, pages, record, sound, film,
 // standby and start; all without one.
 int main(int argc, char** argv) {
   QApplication application(argc, argv);
@@ -36,6 +36,7 @@ int main(int argc, char** argv) {
   const QStringList words = QApplication::arguments().mid(1);
   if (words.size() == 3 && words[0].toLongLong() > 0) {
     const long long started = words[0].toLongLong();
+    if (words[1] == "interrupted") return pawnfield::RunInterrupted(started, words[2]);
     return words[1] == "plain" ? pawnfield::RunPlain(started) : pawnfield::RunStartUp(started, words[2]);
   }
   using Measure = std::pair<const char*, bool (*)()>;
@@ -48,6 +49,7 @@ int main(int argc, char** argv) {
                                       {"paints", pawnfield::MeasurePaints},
                                       {"presses", pawnfield::MeasurePresses},
                                       {"pages", pawnfield::MeasurePages},
+                                      {"record", pawnfield::MeasureRecord},
                                       {"sound", pawnfield::MeasureSoundStart},
                                       {"film", pawnfield::MeasureFilm},
                                       {"standby", pawnfield::MeasureWakeUps},

@@ -69,6 +69,12 @@ void HandedReports::Hand(int remote) {
   Written = false;
   waiting_ = BuildPacket({static_cast<char>(remote % 10 == 0 ? remote - 10 : remote), '\5', '\0', '\0'}, 0);
   HandedAt = SteadyClock::now();
+  QMetaObject::invokeMethod(
+      &home_,
+      [this] {
+        if (OnReport) OnReport();
+      },
+      Qt::QueuedConnection);
 }
 
 Watch::Watch(DesktopProgram& program) : program_(program) { qApp->installEventFilter(this); }

@@ -38,6 +38,8 @@ class HandedReports : public HidPort {
 
  private:
   std::string waiting_;
+  // What tells of a report on the main thread, as the reading thread's does.
+  QObject home_;
 };
 
 // When the console's indicators went out (the player is set at once after it), when the judging buttons came up (the

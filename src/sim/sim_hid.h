@@ -27,6 +27,7 @@ class SimHid : public HidPort {
   std::optional<int> Open(int vendor, const std::vector<int>& products) override;
   HidLengths Lengths() const override;
   HidRead Read(std::string& report) override;
+  std::int64_t ArrivedUs() const override { return Instead != nullptr ? Instead->ArrivedUs() : 0; }
   std::size_t Write(const std::string& report) override;
   void Close() override;
 

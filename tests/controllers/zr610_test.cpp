@@ -105,8 +105,12 @@ TEST(Pads, PressesOfABusyMomentKeepTheirTimesAndOrder) {
   const auto rows = RingInRows(player.show());
   ASSERT_EQ(rows.size(), 3U);
   EXPECT_EQ(rows[0].Name + rows[0].When, "PLAYER 3first");
-  EXPECT_EQ(rows[1].Name + rows[1].When, "PLAYER 1+50 ms");
-  EXPECT_EQ(rows[2].Name + rows[2].When, "PLAYER 2+395 ms");
+  EXPECT_EQ(rows[1].Name + rows[1].When,
+            "PLAYER 1+50 ms (\xB1"
+            "21)");
+  EXPECT_EQ(rows[2].Name + rows[2].When,
+            "PLAYER 2+395 ms (\xB1"
+            "21)");
 }
 
 TEST(Pads, HalfAFrameAndAWrongLengthCostNoLaterPress) {

@@ -10,6 +10,7 @@
 #include "places.h"
 #include "program/detection.h"
 #include "program/handlers.h"
+#include "show/show_record.h"
 
 namespace pawnfield {
 namespace {
@@ -98,6 +99,23 @@ TEST_F(SerialLineTest, CutFramesNoiseAndSeveralInOneReadAreTakenInOrder) {
   // The program is busy.
   QTest::qSleep(150);
   ExpectRingsIn(2);
+}
+
+TEST_F(SerialLineTest, PressesOfABusyMomentKeepTheirTimes) {
+  for (const int apart : {5, 40}) {
+    line_->Write(Pad(103));
+    QTest::qSleep(apart);
+    line_->Write(Pad(101));
+    QTest::qSleep(200);
+    ASSERT_TRUE(QTest::qWaitFor([&] { return show_.record->Presses.size() == 2; }, 5000));
+    const std::vector<Press>& presses = show_.record->Presses;
+    EXPECT_EQ(presses[0].Player, 3);
+    EXPECT_EQ(presses[1].Player, 1);
+    EXPECT_NEAR(static_cast<double>(presses[1].TimeUs - presses[0].TimeUs) / 1000, apart, 4);
+    form_.btnQuestionIncorrect.Click();
+    form_.btnSkipQuestion.Click();
+    if (form_.btnContinue.Enabled) form_.btnContinue.Click();
+  }
 }
 
 TEST_F(SerialLineTest, AFloodOfNoiseFillsNothingAndTheNextFrameRingsIn) {

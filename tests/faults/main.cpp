@@ -17,6 +17,7 @@ int main(int argc, char** argv) {
   int faults = -1;
   if (mode == "kill") faults = RunKills(root, argc > 3 ? std::atoi(argv[3]) : 200);
   if (mode == "record") faults = RunRecordKills(root, argc > 3 ? std::atoi(argv[3]) : 200);
+  if (mode == "record-disks") faults = RunRecordDisks(root);
   if (mode == "full") faults = RunFullDisk(root);
   if (mode == "closed") faults = RunNoAccess(root);
   if (mode == "prepare") faults = PrepareReadOnly(root);

@@ -9,6 +9,8 @@ namespace pawnfield::faults {
 int RunKills(const QString& root, int kills);
 // The record of a show that is killed amid a game.
 int RunRecordKills(const QString& root, int kills);
+// The show's record on a small disk that fills up, and in a folder that goes, amid a game.
+int RunRecordDisks(const QString& root);
 
 // The root lies on a small disk, which is filled more and more.
 int RunFullDisk(const QString& root);

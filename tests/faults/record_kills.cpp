@@ -5,6 +5,9 @@
 #include <unistd.h>
 
 #include <QCoreApplication>
+#include <QDir>
+#include <QElapsedTimer>
+#include <QFile>
 #include <QTemporaryDir>
 #include <array>
 #include <atomic>
@@ -12,11 +15,13 @@
 #include <csignal>
 #include <cstdio>
 #include <cstring>
+#include <functional>
 #include <new>
 #include <random>
 
 #include "forms/main_form.h"
 #include "modes.h"
+#include "platform/text.h"
 #include "record/capture.h"
 #include "record/record_lines.h"
 #include "record/snapshot_json.h"
@@ -93,9 +98,8 @@ void Act(MainForm& form, std::mt19937& chance) {
   }
 }
 
-[[noreturn]] void Play(const QString& root, unsigned seed, Played& played) {
-  std::mt19937 chance(seed);
-  Rig rig(root);
+// A game of 100 questions, of a type that the seed decides.
+void BeginShow(Rig& rig, unsigned seed) {
   rig.places.MakeFolders();
   std::string set;
   for (int i = 1; i <= 100; ++i)
@@ -107,6 +111,13 @@ void Act(MainForm& form, std::mt19937& chance) {
   form.cboList.DropDown();
   form.cboList.Select(1);
   form.btnStart.Click();
+}
+
+[[noreturn]] void Play(const QString& root, unsigned seed, Played& played) {
+  std::mt19937 chance(seed);
+  Rig rig(root);
+  BeginShow(rig, seed);
+  MainForm& form = rig.show.frmMain;
   while (true) {
     rig.sim.clock.Advance(100);
     QCoreApplication::processEvents();
@@ -148,7 +159,90 @@ std::string Judge(const QString& root, const Played& played, std::int64_t killed
   return {};
 }
 
+// Writes until the disk takes no byte more.
+void FillDisk(const QString& path) {
+  QFile filler(path);
+  if (!filler.open(QIODevice::WriteOnly | QIODevice::Unbuffered)) return;
+  for (const qint64 size : {65536, 512, 1}) {
+    while (filler.write(QByteArray(static_cast<qsizetype>(size), 'x')) == size) {
+    }
+  }
+}
+
+// One score key, the moment in which it is taken down, and so long for the writer.
+void ScoreAndWait(Rig& rig, int ms) {
+  rig.show.frmMain.ScoreUp(1)[0].Click();
+  rig.sim.clock.Advance(100);
+  QElapsedTimer waited;
+  waited.start();
+  while (waited.elapsed() < ms) {
+    QCoreApplication::processEvents();
+    usleep(2000);
+  }
+}
+
+int Expect(bool held, const char* what) {
+  if (!held) std::printf("record: %s\n", what);
+  return held ? 0 : 1;
+}
+
+bool LastIsOnDisk(const Rig& rig) {
+  const auto names = rig.records.List();
+  const auto record = names.empty() ? std::nullopt : ParseRecord(rig.records.Read(names.back()));
+  if (!record || record->Game.Events.empty()) return false;
+  return TextOf(record->Game.Events[record->Game.Now].After) == TextOf(Capture(rig.show));
+}
+
+// What the operator is told while the disk fails and when it is back, and that the record is whole then.
+int TryDisk(Rig& rig, const std::function<void()>& spoil, const std::function<void()>& mend) {
+  MainForm& form = rig.show.frmMain;
+  ScoreAndWait(rig, 300);
+  int faults = Expect(LastIsOnDisk(rig), "isn't on a good disk");
+  spoil();
+  ScoreAndWait(rig, 300);
+  const std::string told = form.lblStatusBar.Caption;
+  faults += Expect(told.starts_with("The show's record can't be written: "), "failed and wasn't told of");
+  faults += Expect(form.chpRecord.State.Get() == ChipState::Amber, "failed and the chip isn't amber");
+  form.lblStatusBar.Caption = "";
+  ScoreAndWait(rig, 1500);
+  faults += Expect(form.lblStatusBar.Caption->empty(), "was told of twice");
+  const double score = ParseNumber(form.Score(1).Caption).value_or(0);
+  mend();
+  ScoreAndWait(rig, 2500);
+  faults += Expect(ParseNumber(form.Score(1).Caption).value_or(0) > score, "held the show up");
+  faults +=
+      Expect(form.lblStatusBar.Caption->starts_with("The show's record is written again"), "is back and not told");
+  faults += Expect(LastIsOnDisk(rig), "isn't whole again");
+  return faults;
+}
+
 }  // namespace
+
+int RunRecordDisks(const QString& root) {
+  int faults = 0;
+  const QString shows = root + "/full/data/Pawnfield/Shows";
+  {
+    Rig rig(root + "/full");
+    BeginShow(rig, 0);
+    const QString filler = root + "/filler";
+    faults += TryDisk(
+        rig, [&] { FillDisk(filler); }, [&] { QFile::remove(filler); });
+  }
+  QDir(root + "/full").removeRecursively();
+  {
+    Rig rig(root + "/gone");
+    BeginShow(rig, 1);
+    const QString folder = root + "/gone/data/Pawnfield";
+    // A file in the folder's place is a disk that is gone: nothing can be made below it.
+    const auto lose = [&] {
+      QDir(folder).removeRecursively();
+      QFile(folder).open(QIODevice::WriteOnly);
+    };
+    faults += TryDisk(rig, lose, [&] { QFile::remove(folder); });
+  }
+  std::printf("record: a full disk and one that went, %d wrong\n", faults);
+  return faults;
+}
 
 int RunRecordKills(const QString& root, int kills) {
   void* memory = mmap(nullptr, sizeof(Played), PROT_READ | PROT_WRITE, MAP_SHARED | MAP_ANONYMOUS, -1, 0);

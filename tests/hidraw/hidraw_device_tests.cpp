@@ -1,6 +1,9 @@
 // The transceiver on a real kernel's hidraw, with devices that the kernel takes for real ones.
 #include <gtest/gtest.h>
 
+#include <cmath>
+#include <iostream>
+
 #include "controllers/ring_in.h"
 #include "desktop/devices/device_folder.h"
 #include "desktop/devices/hidapi_port.h"
@@ -8,6 +11,7 @@
 #include "devices/transceiver.h"
 #include "forms/main_form.h"
 #include "hidraw/uhid_device.h"
+#include "show/show_record.h"
 #include "support/show_fixture.h"
 
 namespace pawnfield {
@@ -130,6 +134,42 @@ TEST_F(Hidraw, ATransceiverThatComesAfterTheStartIsPulledAmidAGameAndComesBack) 
     Polls([] { return false; });
     EXPECT_EQ(fixture_.show().state.CurrentPlayer, 0) << "no press is invented";
   }
+}
+
+// The main thread sleeps while both come, as a busy one would.
+TEST_F(Hidraw, TwoPresses5MsApartKeepTheirOrderAndMargin) {
+  constexpr int kRounds = 200;
+  constexpr double kMostOffMs = 2;
+  fixture_.sim.hid.Instead = &port_;
+  UhidDevice device(3, 0x1003, 32, 32);
+  ASSERT_TRUE(Says("Wireless transceiver found"));
+  MainForm& form = fixture_.form();
+  const std::vector<Press>& presses = fixture_.show().record->Presses;
+  int right = 0, off = 0;
+  double worst = 0;
+  for (int round = 0; round < kRounds; ++round) {
+    const int first = 1 + round % 3, second = 1 + (round + 1) % 3;
+    const auto begun = std::chrono::steady_clock::now();
+    Press(device, static_cast<char>(first));
+    std::this_thread::sleep_for(Milliseconds(5));
+    const auto between = std::chrono::steady_clock::now();
+    Press(device, static_cast<char>(second));
+    ASSERT_TRUE(Polls([&] { return presses.size() == 2; })) << "round " << round;
+    if (presses[0].Player == first && presses[1].Player == second) ++right;
+    const double margin = static_cast<double>(presses[1].TimeUs - presses[0].TimeUs) / 1000;
+    const double wanted = std::chrono::duration<double, std::milli>(between - begun).count();
+    worst = std::max(worst, std::abs(margin - wanted));
+    if (std::abs(margin - wanted) > kMostOffMs) ++off;
+    form.btnQuestionCorrect.Click();
+    form.btnUndo.Click();
+    form.btnUndo.Click();
+    // The remote's own bounce is over, and the question is open as it was.
+    Polls([] { return false; });
+  }
+  std::cout << right << " of " << kRounds << " in order, " << off << " margins more than 2 ms off, at most " << worst
+            << " ms\n";
+  EXPECT_EQ(right, kRounds);
+  EXPECT_EQ(off, 0);
 }
 
 TEST_F(Hidraw, AReportOf114CharactersKeepsItsPace) {

@@ -44,14 +44,15 @@ TEST(Results, TellWhoRangInByHowMuchAndWhatBecameOfIt) {
   player.Do("incorrect, wait 400 ms, pad 3, correct, claim B1, continue, skip");
   ResultsForm& form = Open(player);
   EXPECT_THAT(form.lblShown.Caption.Get(), HasSubstr(": Long"));
-  EXPECT_THAT(
-      Lines(form.lstQuestions),
-      ElementsAre("20:00:00 | 1 | Question 1? | The answer | PLAYER 1, PLAYER 2 +30 ms | Correct for PLAYER 1 | "
-                  "PLAYER 1 50, PLAYER 2 0, PLAYER 3 0",
-                  "20:00:00 | 2 | Question 2? | The answer | PLAYER 2, PLAYER 3 +310 ms; PLAYER 3 | Incorrect "
-                  "for PLAYER 2, -100; Correct for PLAYER 3 | PLAYER 1 50, PLAYER 2 -100, PLAYER 3 50",
-                  "20:00:00 | 3 | Question 3? | The answer |  | Skipped | PLAYER 1 50, PLAYER 2 -100, PLAYER 3 "
-                  "50"));
+  EXPECT_THAT(Lines(form.lstQuestions),
+              ElementsAre("20:00:00 | 1 | Question 1? | The answer | PLAYER 1, PLAYER 2 +30 ms (\xB1"
+                          "21) | Correct for PLAYER 1 | "
+                          "PLAYER 1 50, PLAYER 2 0, PLAYER 3 0",
+                          "20:00:00 | 2 | Question 2? | The answer | PLAYER 2, PLAYER 3 +310 ms (\xB1"
+                          "21); PLAYER 3 | Incorrect "
+                          "for PLAYER 2, -100; Correct for PLAYER 3 | PLAYER 1 50, PLAYER 2 -100, PLAYER 3 50",
+                          "20:00:00 | 3 | Question 3? | The answer |  | Skipped | PLAYER 1 50, PLAYER 2 -100, PLAYER 3 "
+                          "50"));
   EXPECT_THAT(Lines(form.lstTotals),
               ElementsAre("PLAYER 1 | 1 | 0 | 0.84 s | +30 ms | 50", "PLAYER 2 | 0 | 1 | 0.50 s | +310 ms | -100",
                           "PLAYER 3 | 1 | 0 | 0.40 s |  | 50"));
@@ -132,7 +133,9 @@ TEST_F(ResultsTable, OfAWholeGameIsOpenedAgainAsItWasShown) {
   const Table wanted = TableOf(player_.show().record->Results);
   EXPECT_EQ(table, wanted);
   EXPECT_EQ(table[2][3], "Question 2?, \"why\"\r\nnot;=1+1?");
-  EXPECT_EQ(table[2][5], "J\xC3\xB6rg; \xE2\x82\xAC, PLAYER 3 +45 ms");
+  EXPECT_EQ(table[2][5],
+            "J\xC3\xB6rg; \xE2\x82\xAC, PLAYER 3 +45 ms (\xC2\xB1"
+            "21)");
   EXPECT_EQ(table[1][8], "Ann, \"the\r\nfirst\"");
   EXPECT_EQ(table[12],
             (TableRow{"Ann, \"the\r\nfirst\"", "3", "0", "700", "45", "200", "", "", "", "", "", "", "", ""}));

@@ -4,11 +4,13 @@
 
 #include "forms/main_form.h"
 #include "platform/ports.h"
+#include "record/capture.h"
 #include "record/history.h"
 #include "record/ring_in_order.h"
 #include "show/phase.h"
 #include "show/show_record.h"
 #include "support/game_player.h"
+#include "support/same_show.h"
 
 namespace pawnfield {
 namespace {
@@ -98,6 +100,57 @@ TEST(Undo, GoesToTheGamesBeginningAndWhatIsNewEndsTheWayForward) {
   EXPECT_EQ(UndoText(player.show()), "") << "the set is ready and nothing was done";
   player.Do("scores 0/0/0, board 000/000/000, key ctrl y, key ctrl y, player 2 rings in, wait 60 ms, scores 0/0/0");
   EXPECT_EQ(RedoText(player.show()), "");
+}
+
+// Every step back over a whole game stands where the game stood, and so does every step forward.
+TEST(Undo, GoesBackOverWholeGamesAndForwardAgainEqualAtEachStep) {
+  const std::pair<const char*, const char*> games[] = {
+      {"Challenge A",
+       "claim A1, claim B2, player 2 gains 100, claim C3, claim B1, claim C1, claim A2, claim C2, claim A3, claim B3, "
+       "wait 12 s"},
+      {"Challenge B, Finish Row", "claim A1, claim B2, claim C3, claim B1, claim A2, claim A3, claim C1, wait 12 s"},
+      {"Trivia A, user advances",
+       "correct, claim A1, continue, correct, claim B2, continue, player 2 gains 100, correct, claim C1, continue, "
+       "skip, "
+       "end game"},
+      {"Trivia B, Finish Row, user advances",
+       "correct, claim A1, continue, correct, claim B1, continue, correct, claim C1, wait 12 s"},
+      {"Trivia C, penalty, user advances",
+       "player 1 rings in, correct, claim A1, continue, player 2 rings in, incorrect, player 3 rings in, correct, "
+       "claim B2, continue, skip, end game"},
+  };
+  for (const auto& [setup, script] : games) {
+    GamePlayer player(setup);
+    Show& show = player.show();
+    player.Do(script);
+    player.Do("wait 60 ms");
+    const GameHistory& game = show.record->Game;
+    const std::size_t last = game.Now;
+    ASSERT_GT(last, 4U) << setup;
+    std::vector<std::string> stood(last + 1);
+    const auto expectSnapshot = [&](const char* way) {
+      Snapshot wanted = game.Events[game.Now].After;
+      Snapshot found = Capture(show);
+      // The cover stays as it is, and hides or shows whose turn it is; a winner isn't begun again.
+      wanted.Covered = found.Covered;
+      wanted.Over = found.Over;
+      wanted.Lit = found.Lit;
+      wanted.Cursor = found.Cursor;
+      EXPECT_EQ(UnlikeSnapshots(wanted, found), "") << setup << way << game.Events[game.Now].What;
+    };
+    while (game.Now > 0) {
+      show.frmMain.btnUndo.Click();
+      expectSnapshot(": back to ");
+      stood[game.Now] = Stand(show);
+    }
+    while (game.Now < last) {
+      Redo(show);
+      expectSnapshot(": forward to ");
+      if (game.Now < last) {
+        EXPECT_EQ(Stand(show), stood[game.Now]) << setup << ": " << game.Events[game.Now].What;
+      }
+    }
+  }
 }
 
 struct EndOfAGame {

@@ -1,8 +1,9 @@
 // Plays two short games in the real program on the present display and saves pictures of both screens at each phase.
-// Usage: pawnfield_show [FOLDER [forms|gallery|phases|media|sheet]]; with "forms" it opens every form instead and saves
-// a picture of each, with "gallery" it brings up everything that the two screens can show, with "phases" it plays a
-// game of each type at each size of the console, with "media" headers, a picture and a film on demand, with "sheet"
-// questions that come from a spreadsheet.
+// Usage: pawnfield_show [FOLDER [forms|gallery|phases|media|sheet|record]]; with "forms" it opens every form instead
+// and saves a picture of each, with "gallery" it brings up everything that the two screens can show, with "phases" it
+// plays a game of each type at each size of the console, with "media" headers, a picture and a film on demand, with
+// "sheet" questions that come from a spreadsheet, with "record" a game's results and the question about an interrupted
+// show.
 
 #include <QApplication>
 #include <QFile>
@@ -19,9 +20,15 @@
 #include "editor_driver.h"
 #include "forms/fs_main_form.h"
 #include "forms/main_form.h"
+#include "forms/results_form.h"
 #include "gallery.h"
 #include "media/media_on_demand.h"
 #include "phases.h"
+#include "presentation/both_screens.h"
+#include "record/come_back.h"
+#include "record/record_lines.h"
+#include "record/ring_in_order.h"
+#include "show/show_record.h"
 #include "show_driver.h"
 
 namespace pawnfield {
@@ -229,6 +236,49 @@ void ShowForms(ShowDriver& driver, Script& script) {
   picture("frmSetInterface", form.mnuFileInterface);
 }
 
+// A few questions with presses of remotes, their results, and the question about a show that was interrupted.
+void ShowRecordOfAGame(ShowDriver& driver, Script& script, const QString& folder) {
+  Show& show = driver.TheShow();
+  MainForm& form = show.frmMain;
+  for (const auto& [player, name] : {std::pair{1, "ANNA"}, {2, "BEN"}, {3, "CHLOE"}}) SetPlayerName(show, player, name);
+  script.Press("optGameType_4");
+  script.Do("choose a set", driver.Choose("cboList", "General Knowledge 1"));
+  script.Press("btnStart");
+  for (int question = 0; question < 6; ++question) {
+    script.Do("question", driver.WaitFor([&] { return form.picQuestion.Visible.Get(); }));
+    driver.Pause(300 + 170 * question);
+    const std::int64_t now = show.platform.clock.NowUs();
+    const int first = 1 + question % 3, second = 1 + (question + 1) % 3;
+    AddPress(show, PressOf(show, first, PressWay::Remote, now));
+    script.Press(QString("btnSelectPlayer_%1").arg(first - 1));
+    AddPress(show, PressOf(show, second, PressWay::Remote, now + 3000 + 97000 * (question % 4)));
+    if (question == 4) {
+      script.Press("btnQuestionIncorrect");
+      script.Press(QString("btnSelectPlayer_%1").arg(second - 1));
+    }
+    script.Press("btnQuestionCorrect");
+    script.Do("board after the verdict", driver.WaitFor([&] { return !form.picCorrect.Visible; }));
+    script.Do("claim a square", driver.PressSquare(question % 5, (question * 2) % 5));
+    driver.Pause(1500);
+    if (form.btnContinue.Enabled) script.Press("btnContinue");
+  }
+  driver.Pause(200);
+  show.platform.records.Flush();
+  form.mnuFileResults.Click();
+  driver.Pause(500);
+  driver.TakePicture(*driver.Form("frmResults"), "frmResults");
+  show.frmResults.btnClose.Click();
+  auto record = ParseRecord(show.platform.records.Read(show.record->File));
+  script.Do("read the record", record.has_value());
+  if (!record) return;
+  show.record->Interrupted = InterruptedShow{show.record->File, std::move(*record)};
+  // Before the driver answers it.
+  QTimer::singleShot(0, [&folder] {
+    if (QWidget* box = QApplication::activeModalWidget()) box->grab().save(folder + "/99-interrupted.png");
+  });
+  AskForInterruptedShow(show);
+}
+
 }  // namespace
 }  // namespace pawnfield
 
@@ -248,6 +298,8 @@ int main(int argc, char** argv) {
     script.Do("gallery", pawnfield::ShowGallery(driver));
   } else if (what == "phases") {
     script.Do("phases", pawnfield::ShowPhases(driver));
+  } else if (what == "record") {
+    pawnfield::ShowRecordOfAGame(driver, script, folder);
   } else if (what == "media") {
     pawnfield::ShowMedia(driver, script, folder);
   } else if (what == "sheet") {

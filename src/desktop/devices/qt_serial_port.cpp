@@ -11,7 +11,7 @@ namespace pawnfield {
 
 namespace {
 
-// What waits while nobody takes it; what comes beyond it is dropped.
+// What waits while nobody takes it; beyond it the oldest is dropped, as a press is the newest.
 constexpr std::size_t kMostWaiting = 65536;
 
 std::int64_t NowUs() {
@@ -133,9 +133,12 @@ void QtSerialPort::Arrived() {
   if (bytes.empty()) return;
   {
     const std::lock_guard lock(mutex_);
-    if (waitingBytes_ + bytes.size() > kMostWaiting) return;
     waitingBytes_ += bytes.size();
     waiting_.push_back({std::move(bytes), at});
+    while (waitingBytes_ > kMostWaiting && waiting_.size() > 1) {
+      waitingBytes_ -= waiting_.front().Bytes.size();
+      waiting_.pop_front();
+    }
   }
   Tell(SerialEvent::Received);
 }

@@ -218,6 +218,7 @@ void WindowMonkey::CountProgress() {
 
 // Whatever came to the program: a hand's click, a key, a timer, a press by radio or wire.
 void WindowMonkey::CheckEvent() {
+  if (AfterEach) AfterEach();
   if (!up_ || ended_) return;
   ++came_.Events;
   const std::string fault = event_.Broken(show_);

@@ -7,6 +7,7 @@
 #include <QObject>
 #include <QPointer>
 #include <deque>
+#include <functional>
 
 #include "monkey/chance.h"
 #include "monkey/desktop/heartbeat.h"
@@ -30,6 +31,8 @@ class WindowMonkey : public QObject {
   // Hardly anything but keys.
   void StrikeKeys() { hand_.StrikeKeys(); }
   const std::deque<QString>& LastActions() const { return last_; }
+  // Called after each event that came to the program.
+  std::function<void()> AfterEach;
   // How far he came: checks, events checked, questions asked, squares claimed and games won.
   struct Progress {
     int Checks = 0, Events = 0, Questions = 0, Claims = 0, Winners = 0;
