@@ -98,9 +98,18 @@ def incorrect_sting():
     return reverb(track, 0.14, 0.15)
 
 
+def pips(count):
+    """So many short tones, for the check before the show: one hears which of the channels plays."""
+    track = []
+    for i in range(count):
+        add(track, partials(pitch("A5"), 0.11, MUSIC_BOX, 0.003, 0.08), i * 0.19, 0.9)
+    return track
+
+
 SOUNDS = {"RingsIn.mp3": rings_in, "Correct.mp3": correct, "Incorrect.mp3": incorrect, "DDouble.wav": double,
           "Question Appears.wav": question_appears, "Skip.Wav": skip, "TimeUp.Wav": time_up,
           "Pawn.Wav": pawn, "Correct4swf.mp3": correct_sting, "Incorrect4swf.mp3": incorrect_sting}
+SOUNDS |= {f"Check{count}.Wav": lambda count=count: pips(count) for count in range(1, 6)}
 
 
 def main():

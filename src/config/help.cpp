@@ -23,6 +23,7 @@ const char* HelpPageOf(const std::string& form) {
                                                             {"frmSetInterface", "pads-remotes.html"},
                                                             {"frmConnectToProjector", "two-screens.html"},
                                                             {"frmGameTypeHelp", "game-types.html"},
+                                                            {"frmShowCheck", "before-the-doors-open.html"},
                                                             {"frmGameInProgress", "game-types.html"},
                                                             {"frmHelpAbout", "documentation.html"}};
   for (const auto& [name, page] : kPages) {

@@ -16,6 +16,8 @@ inline constexpr HelpPage kManualPage{"", "index.html"};
 inline constexpr HelpPage kDocumentationPage{"", "documentation.html"};
 inline constexpr HelpPage kSupportPage{"", "messages.html"};
 inline constexpr HelpPage kLicencePage{"", "licence.html"};
+inline constexpr HelpPage kEmergencyPage{"", "emergency.html"};
+inline constexpr HelpPage kTroublePage{"", "when-something-goes-wrong.html"};
 
 // What F1 opens in the window of that form; the contents for a form that has no page of its own, and the messages for a
 // window that is none of the forms'.

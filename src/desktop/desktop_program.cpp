@@ -28,6 +28,7 @@
 #include "desktop/windows/player_names_window.h"
 #include "desktop/windows/press_windows.h"
 #include "desktop/windows/results_window.h"
+#include "desktop/windows/show_check_window.h"
 #include "desktop/windows/show_speaker.h"
 #include "desktop/windows/small_windows.h"
 #include "desktop/windows/sound_effects_window.h"
@@ -46,6 +47,7 @@
 #include "forms/press_forms.h"
 #include "forms/results_form.h"
 #include "forms/second_screen_form.h"
+#include "forms/show_check_form.h"
 #include "forms/small_forms.h"
 #include "forms/sound_effects_form.h"
 #include "program/handlers.h"
@@ -87,6 +89,7 @@ struct DesktopProgram::AllWindows {
   OptionsWindow Options;
   PagesWindow Pages;
   ResultsWindow Results;
+  ShowCheckWindow ShowCheck;
   MapMFWindow MapMF;
   SetInterfaceWindow SetInterface;
   HelpKey Help;
@@ -115,6 +118,7 @@ DesktopProgram::AllWindows::AllWindows(DesktopPlatform& desktop, Show& show)
       Options(show.frmOptions, desktop.windows),
       Pages(show.frmPages, desktop.windows),
       Results(show.frmResults, desktop.windows),
+      ShowCheck(show.frmShowCheck, desktop.windows),
       MapMF(show.frmMapMF, desktop.windows),
       SetInterface(show.frmSetInterface, desktop.windows),
       Help(show),
@@ -158,7 +162,7 @@ std::vector<FormWindow*> DesktopProgram::Windows() {
           &all.PlayerNames, &all.HelpAbout,    &all.ConfigKeys,         &all.Editor,
           &all.EditChoice,  &all.MissingMedia, &all.SoundEffects,       &all.OptionalHeaders,
           &all.Options,     &all.MapMF,        &all.SetInterface,       &all.Pages,
-          &all.Import};
+          &all.Import,      &all.ShowCheck};
 }
 
 void NameApplication() {

@@ -63,7 +63,6 @@ void MainForm::SetCaptions() {
   mnuFileInterface.Caption = "&Interface Wizard...";
   mnuFilePages.Caption = "&Phones and pages...";
   mnuFileShowCheck.Caption = "Show &check...";
-  mnuFileShowCheck.Visible = false;
   mnuFileResults.Caption = "&Results...";
   mnuFileBringBack.Caption = "&Bring back the last game";
   mnuFileExit.Caption = "E&xit";

@@ -7,6 +7,8 @@
 #include "forms/main_form.h"
 #include "forms/second_screen_form.h"
 #include "presentation/monitors.h"
+#include "program/mending.h"
+#include "program/show_check.h"
 #include "show/page_state.h"
 #include "show/phase.h"
 #include "show/show.h"
@@ -78,30 +80,6 @@ void ShowBuzzersChip(Show& show) {
   }
 }
 
-void OpenBuzzers(Show& show) {
-  MainForm& form = show.frmMain;
-  if (show.presses.ZR610Present) {
-    form.mnuMapMF.Click();
-  } else if (show.dgTransceiver && show.dgTransceiver->Ready()) {
-    form.mnuFileOptions.Click();
-  } else {
-    form.mnuFileInterface.Click();
-  }
-}
-
-bool AnyIsSilent(const Show& show) {
-  const MediaChannels& media = show.platform.media;
-  const std::array<const MediaChannel*, 6> players{&media.EventPlayer,      &media.KeyPressPlayer,
-                                                   &media.SoundClipPlayer,  &media.CorrectIncorrectPlayer,
-                                                   &media.BackgroundPlayer, &media.MediaPlayer1};
-  return std::any_of(players.begin(), players.end(), [](const MediaChannel* player) { return player->IsSilent(); });
-}
-
-void LookForSound(Show& show) {
-  show.SoundFound = !AnyIsSilent(show) && show.platform.mediaFiles.HasSoundDevice();
-  show.SoundOnceFound = show.SoundOnceFound || show.SoundFound;
-}
-
 void ShowSoundChip(Show& show) {
   Chip& chip = show.frmMain.chpSound;
   if (show.SoundFound) {
@@ -139,9 +117,13 @@ void ShowPhonesChip(Show& show) {
         "Pages on the local network are on. Click for the address, the PIN and the seats.");
 }
 
-void OpenSound(Show& show) {
-  LookForSound(show);
-  if (show.SoundFound) show.frmMain.btnCues.Click();
+// Before a game a chip leads to the check, and in one to what mends it at once.
+void OpenCheckOr(Show& show, CheckRow row, void (*mend)(Show&)) {
+  if (MayCheck(show)) {
+    OpenShowCheckAt(show, row);
+  } else {
+    mend(show);
+  }
 }
 
 }  // namespace
@@ -160,10 +142,14 @@ void ShowChips(Show& show) {
 
 void AttachChips(Show& show) {
   MainForm& form = show.frmMain;
-  form.chpAudience.OnClick = [&form] { form.mnuHelpProjector.Click(); };
-  form.chpBuzzers.OnClick = [&show] { OpenBuzzers(show); };
-  form.chpSound.OnClick = [&show] { OpenSound(show); };
-  form.chpRecord.OnClick = [&form] { form.mnuHelpManual.Click(); };
+  form.chpAudience.OnClick = [&show] {
+    OpenCheckOr(show, CheckRow::Audience, [](Show& inGame) { inGame.frmMain.mnuHelpProjector.Click(); });
+  };
+  form.chpBuzzers.OnClick = [&show] { OpenCheckOr(show, CheckRow::Buzzers, OpenBuzzers); };
+  form.chpSound.OnClick = [&show] { OpenCheckOr(show, CheckRow::Sound, OpenSound); };
+  form.chpRecord.OnClick = [&show] {
+    OpenCheckOr(show, CheckRow::Disk, [](Show& inGame) { inGame.frmMain.mnuHelpManual.Click(); });
+  };
   form.chpPhones.OnClick = [&form] { form.mnuFilePages.Click(); };
   const MediaChannels& media = show.platform.media;
   for (MediaChannel* player : {&media.EventPlayer, &media.KeyPressPlayer, &media.SoundClipPlayer,

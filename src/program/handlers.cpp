@@ -22,7 +22,6 @@
 #include "forms/fs_main_form.h"
 #include "forms/main_form.h"
 #include "forms/press_forms.h"
-#include "forms/show_check_form.h"
 #include "forms/small_forms.h"
 #include "media/media_handlers.h"
 #include "media/sound_channels.h"
@@ -36,6 +35,7 @@
 #include "program/console_chips.h"
 #include "program/detection.h"
 #include "program/interface_wizard.h"
+#include "program/show_check.h"
 #include "program/start_up.h"
 #include "program/wireless.h"
 #include "record/history.h"
@@ -164,11 +164,12 @@ void ShowWhereWeAre(Show& show) {
   WriteShowLine(show);
   show.frmMain.lblUndoNote.Caption = show.frmMain.btnUndo.Enabled ? UndoText(show) : "";
   ShowChips(show);
+  FollowShowCheck(show);
   ShowSoundPanel(show);
 }
 
 void AttachWhereWeAre(Show& show) {
-  show.frmMain.mnuFileShowCheck.OnClick = [&show] { show.frmShowCheck.Visible = true; };
+  AttachShowCheck(show);
   AttachChips(show);
   AttachSoundPanel(show);
   show.frmMain.WhyNot = [&show](const Control& control) { return WhyNot(show, control); };

@@ -116,6 +116,7 @@ std::vector<Form*> AllForms(Show& show) {
           &show.frmOptions,
           &show.frmPages,
           &show.frmResults,
+          &show.frmShowCheck,
           &show.frmMapMF,
           &show.frmSetInterface};
 }

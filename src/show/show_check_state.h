@@ -30,6 +30,8 @@ struct PressTrial {
   // What was wrong with the last press that was not what was asked for, and all that was so.
   std::string Note;
   std::vector<std::string> Faults;
+  // The presses of the last second.
+  std::vector<TriedPress> Last;
 };
 
 struct ShowCheckState {
@@ -41,7 +43,11 @@ struct ShowCheckState {
   // Which of the five channels sounds, 1 to 5, and 0 for none; whether all have.
   int Channel = 0;
   bool SoundsPlayed = false;
+  // Seconds into the track of music that a trial has cut, below 0 for none, and whether the music's timer ran.
+  double MusicAt = -1;
+  bool MusicTimer = false;
   bool TestPictureShown = false;
+  int TestLineSize = 0;
   // What was found about the game's set, and which set that was.
   std::vector<SetFinding> Findings;
   TriviaSet Checked;

@@ -7,6 +7,7 @@
 #include <QScrollBar>
 #include <QTest>
 #include <QTextBrowser>
+#include <QTextDocument>
 #include <QTimer>
 
 #include "config/help_pages.h"
@@ -47,6 +48,16 @@ TEST(Manual, OpensThePagesOfTheMenuAndFollowsTheirLinks) {
   EXPECT_EQ(browser->source().fileName(), "index.html");
   QTest::keyClick(browser, Qt::Key_Escape);
   EXPECT_FALSE(pages.Window()->isVisible());
+}
+
+// What the check before the show offers to print is black on white, and one page.
+TEST(Manual, TheEmergencyPageIsOnePageOfPaper) {
+  const auto page = PaperPage(QUrl::fromLocalFile(ManualFolder() + "/emergency.html"));
+  page->setPageSize(QSizeF(595 - 2 * 57, 842 - 2 * 57));
+  page->setDocumentMargin(0);
+  EXPECT_TRUE(page->toPlainText().contains("Bring It Back"));
+  EXPECT_EQ(page->pageCount(), 1);
+  EXPECT_FALSE(page->toHtml().contains("#e6eaf2", Qt::CaseInsensitive));
 }
 
 TEST(Manual, EachWindowsPageOfF1IsThere) {

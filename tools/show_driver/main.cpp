@@ -233,6 +233,7 @@ void ShowForms(ShowDriver& driver, Script& script) {
     picture("frmOptions", form.mnuFileOptions);
   }
   picture("frmMapMF", form.mnuMapMF);
+  picture("frmShowCheck", form.mnuFileShowCheck);
   picture("frmSetInterface", form.mnuFileInterface);
 }
 

@@ -13,6 +13,7 @@
 #include "desktop/media/mpv_video.h"
 #include "desktop/painting/ground.h"
 #include "desktop/painting/player_card.h"
+#include "desktop/painting/test_card.h"
 #include "desktop/painting/text_layout.h"
 
 namespace pawnfield {
@@ -304,7 +305,9 @@ void Canvas::PaintItem(QPainter& painter, Item& item) {
     const bool hasFile = !static_cast<MediaPlayer&>(item.control).URL->empty();
     PaintFilm(painter, rect, hasFile ? video_->Frame() : QImage());
   }
-  if (item.style.IsResult) {
+  if (item.style.IsTestCard) {
+    PaintTestCard(painter, rect);
+  } else if (item.style.IsResult) {
     PaintResultGround(painter, rect.toAlignedRect());
   } else if (item.style.Card != 0) {
     PaintCard(painter, item, rect);

@@ -49,6 +49,8 @@ struct ItemStyle {
   bool IsOneLine = false;
   // Letters with a dark edge.
   bool IsOutlined = false;
+  // The ground of the test picture, to the display's very edges.
+  bool IsTestCard = false;
   // Grows from small to its size when its panel comes up.
   bool Rises = false;
 };

@@ -85,6 +85,9 @@ ItemStyles AudienceWindow::Styles(FSMainForm& form) {
     if (control->Kind() == ControlKind::PictureBox && !styles.contains(control)) styles[control].PaintsGround = true;
   }
   for (Image* image : {&form.picImageResize[0], &form.picImageResize[1]}) styles[image].Grows = true;
+  styles[&form.picTest].IsTestCard = true;
+  // As large as the picture says its letters are.
+  styles[&form.lblTestLine].ShrinkToFit = false;
   styles.merge(FittedTextStyles(form));
   styles[&form.lblRightWrong].IsVerdict = styles[&form.lblRightWrong].IsOutlined = true;
   return styles;

@@ -2,9 +2,13 @@
 
 #include <QAction>
 #include <QDesktopServices>
+#include <QFile>
 #include <QFileInfo>
 #include <QGuiApplication>
 #include <QKeyEvent>
+#include <QPrintDialog>
+#include <QPrinter>
+#include <QRegularExpression>
 #include <QScreen>
 #include <QTextBrowser>
 #include <QToolBar>
@@ -29,6 +33,9 @@ ManualWindow::ManualWindow(const QString& folder)
   contents->setShortcut(Qt::ALT | Qt::Key_Home);
   back->setShortcut(Qt::ALT | Qt::Key_Left);
   back->setEnabled(false);
+  QAction* print = bar->addAction("Print...");
+  print->setShortcut(QKeySequence::Print);
+  connect(print, &QAction::triggered, this, &ManualWindow::Print);
   connect(contents, &QAction::triggered, this, [this] { ShowPage("index.html"); });
   connect(back, &QAction::triggered, browser_, &QTextBrowser::backward);
   connect(browser_, &QTextBrowser::backwardAvailable, back, &QAction::setEnabled);
@@ -57,6 +64,26 @@ void ManualWindow::Follow(const QUrl& link) {
   } else {
     QDesktopServices::openUrl(target);
   }
+}
+
+// The pages are light on dark, which no paper is.
+std::unique_ptr<QTextDocument> PaperPage(const QUrl& page) {
+  static const QRegularExpression style("<style>.*</style>", QRegularExpression::DotMatchesEverythingOption);
+  QFile file(page.toLocalFile());
+  auto document = std::make_unique<QTextDocument>();
+  if (!file.open(QIODevice::ReadOnly)) return document;
+  document->setDefaultFont(QFont("Liberation Sans", 9));
+  document->setDefaultStyleSheet("td, th { padding: 2px 8px 2px 0; } th { text-align: left; }");
+  document->setBaseUrl(page);
+  document->setHtml(QString::fromUtf8(file.readAll()).remove(style));
+  return document;
+}
+
+void ManualWindow::Print() {
+  QPrinter printer(QPrinter::HighResolution);
+  printer.setDocName(browser_->documentTitle());
+  QPrintDialog dialog(&printer, this);
+  if (dialog.exec() == QDialog::Accepted) PaperPage(browser_->source())->print(&printer);
 }
 
 void ManualWindow::keyPressEvent(QKeyEvent* event) {

@@ -2,11 +2,17 @@
 #pragma once
 
 #include <QMainWindow>
+#include <memory>
 
 class QAction;
 class QTextBrowser;
+class QTextDocument;
+class QUrl;
 
 namespace pawnfield {
+
+// The page as it goes to paper, black on white.
+std::unique_ptr<QTextDocument> PaperPage(const QUrl& page);
 
 class ManualWindow : public QMainWindow {
  public:
@@ -20,6 +26,8 @@ class ManualWindow : public QMainWindow {
  private:
   // Links lead to other pages here, and to the system's browser for what isn't a file.
   void Follow(const QUrl& link);
+  // The page that is shown, on paper.
+  void Print();
 
   QString folder_;
   QTextBrowser* browser_;

@@ -1,0 +1,265 @@
+// The check before the show in the real windows, on a machine of the test's own: two monitors, a sound server, a bus
+// with the desktop's services, and a disk that can be said to be full. All is right, and then each thing wrong in turn.
+
+#include <dlfcn.h>
+#include <fcntl.h>
+#include <sys/statvfs.h>
+#include <unistd.h>
+
+#include <QCheckBox>
+#include <QDBusConnection>
+#include <QDBusMessage>
+#include <QDBusUnixFileDescriptor>
+#include <QDBusVirtualObject>
+#include <QPushButton>
+#include <QTreeWidget>
+
+#include "desktop/painting/canvas.h"
+#include "desktop/windows/audience_window.h"
+#include "desktop/windows/console_window.h"
+#include "desktop/windows/form_window.h"
+#include "forms/editor_form.h"
+#include "forms/fs_main_form.h"
+#include "forms/main_form.h"
+#include "forms/show_check_form.h"
+#include "handed_transceiver.h"
+#include "program/check_rows.h"
+#include "show_suite.h"
+#include "sound_rig.h"
+
+namespace {
+bool diskIsFull = false;
+}
+
+// The system's word on a disk's room, which the test can have say that there is none.
+extern "C" int statvfs(const char* path, struct statvfs* room) noexcept {
+  using Real = int (*)(const char*, struct statvfs*);
+  static const auto real = reinterpret_cast<Real>(dlsym(RTLD_NEXT, "statvfs"));
+  const int result = real(path, room);
+  if (diskIsFull) room->f_bavail = 0;
+  return result;
+}
+
+namespace pawnfield {
+namespace {
+
+// Grants whatever is asked, as the desktop's and the system's services do.
+class Granting : public QDBusVirtualObject {
+ public:
+  QString introspect(const QString&) const override { return {}; }
+  bool handleMessage(const QDBusMessage& message, const QDBusConnection& bus) override {
+    if (!Grants) {
+      bus.send(message.createErrorReply(QDBusError::AccessDenied, "no"));
+    } else if (message.interface() == "org.freedesktop.login1.Manager") {
+      const int handle = ::open("/dev/null", O_RDONLY | O_CLOEXEC);
+      bus.send(message.createReply(QVariant::fromValue(QDBusUnixFileDescriptor(handle))));
+      ::close(handle);
+    } else {
+      bus.send(message.createReply(1U));
+    }
+    return true;
+  }
+  bool Grants = true;
+};
+
+class ShowCheckWindowTest : public ShowSuite {
+ protected:
+  static void SetUpTestSuite() {
+    const QByteArray bus = qgetenv("DBUS_SESSION_BUS_ADDRESS");
+    if (bus.isEmpty() || !SoundRig::IsPossible()) return;
+    qputenv("DBUS_SYSTEM_BUS_ADDRESS", bus);
+    rig_ = new SoundRig;
+    desktop_ = new Granting;
+    QDBusConnection services = QDBusConnection::connectToBus(bus, "services");
+    for (const char* path : {"/org/freedesktop/ScreenSaver", "/org/freedesktop/login1"})
+      services.registerVirtualObject(path, desktop_);
+    for (const char* name : {"org.freedesktop.ScreenSaver", "org.freedesktop.login1"}) services.registerService(name);
+    const bool heard = rig_->StartServer();
+    Begin(kTwoMonitors);
+    ready_ = ready_ && heard && Press({"optGameType_4"}) && driver_->Choose("cboList", "General Knowledge 1") &&
+             Wait([] { return Main().btnStart.Enabled && TheShow().mediaCheck.Left == 0; });
+    remotes_ = new HandedTransceiver(TheShow());
+  }
+  static void TearDownTestSuite() {
+    delete remotes_;
+    ShowSuite::TearDownTestSuite();
+    QDBusConnection::disconnectFromBus("services");
+    delete desktop_;
+    delete rig_;
+  }
+  void SetUp() override {
+    if (rig_ == nullptr) GTEST_SKIP() << "no bus or no sound server";
+    ShowSuite::SetUp();
+    Main().mnuFileShowCheck.Click();
+    ASSERT_TRUE(Wait([this] { return Window()->isVisible() && NotReady().isEmpty(); })) << NotReady().toStdString();
+  }
+
+  FormWindow* Window() { return driver_->Form("frmShowCheck"); }
+  template <typename Widget>
+  Widget* Part(const char* name, CheckRow row) {
+    return Window()->findChild<Widget*>(QString("%1_%2").arg(name).arg(static_cast<int>(row)));
+  }
+  void Push(const char* name, CheckRow row) {
+    auto* button = Part<QPushButton>(name, row);
+    ASSERT_TRUE(button->isVisible()) << name;
+    QTest::mouseClick(button, Qt::LeftButton);
+  }
+  static ShowCheckForm& Form() { return TheShow().frmShowCheck; }
+  static ChipState Light(CheckRow row) { return ShowCheckForm::Of(Form().chpLight, row).State; }
+  // What isn't ready, with its sentence.
+  static QString NotReady() {
+    QString rows;
+    for (std::size_t i = 0; i < kCheckRows; ++i) {
+      if (Form().chpLight[i].State.Get() == ChipState::Good) continue;
+      rows +=
+          QString::fromStdString(Form().lblThing[i].Caption.Get() + ": " + Form().lblSentence[i].Caption.Get() + "\n");
+    }
+    return rows;
+  }
+  // That row alone turns, and a picture is taken of it.
+  void GoesWrong(CheckRow row, ChipState light, const QString& says, const char* picture) {
+    EXPECT_TRUE(Wait([&] { return Light(row) == light; })) << says.toStdString();
+    EXPECT_EQ(NotReady().count('\n'), 1) << NotReady().toStdString();
+    EXPECT_TRUE(NotReady().contains(says)) << NotReady().toStdString();
+    driver_->TakePicture(*Window(), picture);
+  }
+  void IsRightAgain() {
+    EXPECT_TRUE(Wait([] { return NotReady().isEmpty(); })) << NotReady().toStdString();
+  }
+
+  static inline SoundRig* rig_ = nullptr;
+  static inline Granting* desktop_ = nullptr;
+  static inline HandedTransceiver* remotes_ = nullptr;
+};
+
+TEST_F(ShowCheckWindowTest, EverythingRightIsSmallAndReadyAndShowsTheRoomNothing) {
+  EXPECT_LE(Window()->width(), 900);
+  EXPECT_LE(Window()->height(), 680);
+  EXPECT_FALSE(Audience().picTest.Visible);
+  driver_->TakePicture(*Window(), "show-check");
+}
+
+TEST_F(ShowCheckWindowTest, EachThingThatGoesWrongTurnsItsRowAndComesBack) {
+  ASSERT_TRUE(Xrandr(kOneMonitor));
+  GoesWrong(CheckRow::Audience, ChipState::Red, "the room sees nothing", "no-second-monitor");
+  ASSERT_TRUE(Xrandr(kTwoMonitors));
+  IsRightAgain();
+  remotes_->Pull();
+  GoesWrong(CheckRow::Buzzers, ChipState::Red, "transceiver is gone", "pulled-remote");
+  delete remotes_;
+  remotes_ = new HandedTransceiver(TheShow());
+  TheShow().presses.TransceiverLost = false;
+  IsRightAgain();
+  rig_->StopServer();
+  GoesWrong(CheckRow::Sound, ChipState::Red, "sounds come back by themselves", "dead-sound-server");
+  ASSERT_TRUE(rig_->StartServer());
+  IsRightAgain();
+  diskIsFull = true;
+  GoesWrong(CheckRow::Disk, ChipState::Red, "The disk is full: 0 MB free", "full-disk");
+  diskIsFull = false;
+  IsRightAgain();
+  desktop_->Grants = false;
+  Push("btnTry", CheckRow::Awake);
+  GoesWrong(CheckRow::Awake, ChipState::Amber, "its screen saver and sleep", "no-inhibitor");
+  desktop_->Grants = true;
+  Push("btnTry", CheckRow::Awake);
+  IsRightAgain();
+}
+
+TEST_F(ShowCheckWindowTest, AFileThatCannotBeShownIsNamedAndAClickOpensTheEditorThere) {
+  const std::string sets = TheShow().AppPath("\\Trivia Sets\\");
+  TheShow().platform.files.Write(sets + "Media\\torn.jpg", "no picture");
+  std::string bytes = "Who was first?\r\nAnn\r\nT#Courier New#28#True#True#16777215#\r\n";
+  bytes += sets + "Media\\torn.jpg\r\nA dog\r\nP\r\n";
+  for (int i = 0; i < 28; ++i)
+    bytes += "Who was number " + std::to_string(i) + "?\r\nBen\r\nT#Courier New#28#True#True#16777215#\r\n";
+  TheShow().platform.files.Write(sets + "Torn.txt", bytes);
+  ASSERT_TRUE(driver_->Choose("cboList", "Torn"));
+  GoesWrong(CheckRow::Set, ChipState::Red, "Torn: 1 file can't be shown (question 2)", "missing-file");
+  auto* list = Window()->findChild<QTreeWidget*>("lstFindings");
+  ASSERT_TRUE(list->isVisible());
+  int opened = 0;
+  QTimer::singleShot(1500, Window(), [&] {
+    opened = TheShow().frmEditor.EditQuestionNumber;
+    TheShow().frmEditor.Unload();
+  });
+  QTest::mouseClick(list->viewport(), Qt::LeftButton, {}, list->visualItemRect(list->topLevelItem(0)).center());
+  EXPECT_TRUE(Wait([&] { return opened == 2; }));
+  ASSERT_TRUE(driver_->Choose("cboList", "General Knowledge 1"));
+  IsRightAgain();
+}
+
+TEST_F(ShowCheckWindowTest, TheTestPictureReachesAllEdgesAndGoesByASecondPress) {
+  Push("btnTry", CheckRow::Audience);
+  ASSERT_TRUE(Wait([] { return Audience().picTest.Visible.Get(); }));
+  driver_->Pause(500);
+  const QImage seen = Screen().Screen().grab().toImage();
+  const QPoint middle = seen.rect().center();
+  for (const QPoint& edge : {QPoint(middle.x(), 0), QPoint(middle.x(), seen.height() - 1), QPoint(0, middle.y()),
+                             QPoint(seen.width() - 1, middle.y())}) {
+    EXPECT_EQ(seen.pixelColor(edge), QColor(Qt::white)) << edge.x() << ", " << edge.y();
+  }
+  EXPECT_EQ(Audience().lblTestName.Caption.Get(), "DUMMY1");
+  driver_->TakePictures("test-picture");
+  Push("btnTry", CheckRow::Audience);
+  EXPECT_FALSE(Audience().picTest.Visible);
+  EXPECT_FALSE(TheShow().state.GameStarted);
+}
+
+TEST_F(ShowCheckWindowTest, EachPressesOnceByRemotesAndKeys) {
+  Push("btnTry", CheckRow::Buzzers);
+  remotes_->Press(1);
+  ASSERT_TRUE(Wait([] { return Form().lblPress[0].BackColor == kGreen; }));
+  QTest::keyClick(Window()->focusWidget(), Qt::Key_2);
+  EXPECT_TRUE(Form().lblPress[1].BackColor == kGreen);
+  remotes_->Press(1);
+  ASSERT_TRUE(Wait([] { return Form().lblPressNote.Visible.Get(); }));
+  driver_->TakePicture(*Window(), "presses");
+  remotes_->Press(3);
+  EXPECT_TRUE(Wait([] { return Form().lblPress[2].BackColor == kGreen; }));
+  EXPECT_EQ(TheShow().state.CurrentPlayer, 0);
+  Push("btnTry", CheckRow::Buzzers);
+}
+
+// The pips are of 880 Hz; the five channels take a second and a half each.
+TEST_F(ShowCheckWindowTest, TheFiveChannelsAreHeardInTurn) {
+  Push("btnTry", CheckRow::Sound);
+  const Recording heard = rig_->Record(8500);
+  for (int channel = 0; channel < 5; ++channel) {
+    double loudest = 0;
+    for (double at = channel * 1.5; at < (channel + 1) * 1.5; at += 0.05)
+      loudest = std::max(loudest, heard.Level(880, at, at + 0.1));
+    EXPECT_GT(loudest, 0.01) << "channel " << channel + 1;
+  }
+  EXPECT_TRUE(Wait([] { return TheShow().frmShowCheck.lblSentence[2].Caption->ends_with("All five were played."); }));
+}
+
+TEST_F(ShowCheckWindowTest, EveryControlIsReachedByTabAndEscapeCloses) {
+  Window()->activateWindow();
+  ASSERT_TRUE(Wait([this] { return Window()->isActiveWindow(); }));
+  QSet<QString> reached;
+  for (int i = 0; i < 40; ++i) {
+    driver_->Type({"Tab"});
+    if (Window()->focusWidget() != nullptr) reached.insert(Window()->focusWidget()->objectName());
+  }
+  for (const QPushButton* button : Window()->findChildren<QPushButton*>()) {
+    if (!button->isVisible()) continue;
+    EXPECT_TRUE(reached.contains(button->objectName())) << button->objectName().toStdString();
+    EXPECT_FALSE(button->text().isEmpty());
+  }
+  EXPECT_TRUE(reached.contains("chkInFront"));
+  driver_->Type({"Escape"});
+  EXPECT_TRUE(Wait([this] { return !Window()->isVisible(); }));
+}
+
+// The last one: it starts the game.
+TEST_F(ShowCheckWindowTest, StartEndsItWithWhatRunsInIt) {
+  Push("btnTry", CheckRow::Audience);
+  ASSERT_TRUE(driver_->Press("btnStart"));
+  EXPECT_TRUE(Wait([this] { return !Window()->isVisible(); }));
+  EXPECT_FALSE(Audience().picTest.Visible);
+  EXPECT_TRUE(Audience().picQuestion.Visible);
+}
+
+}  // namespace
+}  // namespace pawnfield
