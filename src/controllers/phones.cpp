@@ -261,7 +261,8 @@ void tmrPing_Timer(Show& show) {
   const std::int64_t now = show.platform.webPages.NowUs();
   for (auto& [number, page] : pages.Pages) {
     if (page.Kind == PageKind::None) continue;
-    const bool phone = page.Kind == PageKind::Phone;
+    // Only the clock of a phone that has a seat is needed; the others are asked whether they are still there.
+    const bool phone = page.Kind == PageKind::Phone && page.Seat != 0;
     often = often || (phone && (show.state.GameInProgress || !page.Clock.Known()));
     if (!phone && page.LastPingUs != 0 && now - page.LastPingUs < kOthersUs) continue;
     page.LastPingUs = now;

@@ -34,11 +34,14 @@
     byId('floor').textContent = told.floor;
     byId('floor').className = told.holder > 0 ? 'p' + told.holder : '';
     byId('clock').textContent = told.clock || '';
-    byId('order').textContent = told.order.map(function (place, index) {
-      let text = (index + 1) + ' ' + place.name;
-      if (index > 0) text += ' ' + place.margin;
-      return text;
-    }).join('   ');
+    const order = byId('order');
+    order.textContent = '';
+    (told.winner ? [] : told.order).forEach(function (place, index) {
+      const part = document.createElement('span');
+      part.textContent = (index + 1) + ' ' + place.name + (index > 0 ? ' ' + place.margin : '');
+      if (index > 0) order.appendChild(document.createTextNode('   '));
+      order.appendChild(part);
+    });
     byId('next').textContent = told.next ? 'Next: ' + told.next : '';
     const box = byId('players');
     box.textContent = '';
