@@ -63,7 +63,8 @@ TEST_F(ConsoleLooks, TheLineHasNoGapWhereItHasNothingToSay) {
     form_.lblLineCount.Caption = form_.lblLineWho.Caption = form_.lblLineNext.Caption = "";
     form_.lblLineExpected.Caption = "Choose a set";
     form_.btnAnswerClock.Enabled = false;
-    QTest::qWait(50);
+    // A window that has just been resized settles within some turns of the loop.
+    QTest::qWait(500);
     const int alone = left("lblLineExpected");
     const QRect board = Widget<QWidget>("pnlBoard").geometry();
     form_.lblLineCount.Caption = "Question 1 of 30";

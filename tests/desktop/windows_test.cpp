@@ -210,6 +210,8 @@ TEST_F(WindowsTest, NamesAndScoresAreLegibleFromTheBackRow) {
   }
   audience.txtOptionalHeading.Text = "Tonight's prizes are given by the Corner Bakery and by Smith & Daughters, Ltd.";
   EXPECT_GE(program_.Audience().Screen().LetterHeight(audience.txtOptionalHeading), audience.Height / 40);
+  audience.lblAnswerClock.Caption = "10";
+  EXPECT_GE(program_.Audience().Screen().LetterHeight(audience.lblAnswerClock), audience.Height / 40);
 }
 
 TEST_F(WindowsTest, TheResultIsLegibleFromTheBackRow) {

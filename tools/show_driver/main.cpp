@@ -6,8 +6,11 @@
 // show.
 
 #include <QApplication>
+#include <QColorDialog>
 #include <QFile>
+#include <QFileDialog>
 #include <QFileInfo>
+#include <QFontDialog>
 #include <QProcess>
 #include <QTabWidget>
 #include <QTextStream>
@@ -213,6 +216,24 @@ void ImportSheet(ShowDriver& driver, Script& script, const QString& folder) {
   script.Do("edit", editor.WithNewSet(work));
 }
 
+// The toolkit's own, which wear the house's look too.
+void ShowToolkitDialogs(ShowDriver& driver) {
+  QFileDialog files(nullptr, "Open", driver.AppFolder() + "/Trivia Sets");
+  files.setOption(QFileDialog::DontUseNativeDialog);
+  QFontDialog fonts;
+  fonts.setOption(QFontDialog::DontUseNativeDialog);
+  QColorDialog colors;
+  colors.setOption(QColorDialog::DontUseNativeDialog);
+  const std::pair<QDialog*, const char*> dialogs[] = {
+      {&files, "file-dialog"}, {&fonts, "font-dialog"}, {&colors, "color-dialog"}};
+  for (const auto& [dialog, name] : dialogs) {
+    dialog->show();
+    driver.Pause(400);
+    driver.TakePicture(*dialog, name);
+    dialog->close();
+  }
+}
+
 // Every form that the console opens, once.
 void ShowForms(ShowDriver& driver, Script& script) {
   MainForm& form = driver.TheShow().frmMain;
@@ -235,6 +256,9 @@ void ShowForms(ShowDriver& driver, Script& script) {
   picture("frmMapMF", form.mnuMapMF);
   picture("frmShowCheck", form.mnuFileShowCheck);
   picture("frmSetInterface", form.mnuFileInterface);
+  driver.TheShow().platform.dialogs.Ask(
+      {"Are you sure you want to exit?", BoxKind::YesNoCancel, BoxAnswer::No, "Exit", "Stay"}, kAppTitle);
+  ShowToolkitDialogs(driver);
 }
 
 // A few questions with presses of remotes, their results, and the question about a show that was interrupted.

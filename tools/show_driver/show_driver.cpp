@@ -92,6 +92,7 @@ void ShowDriver::AnswerBox() {
   auto* box = qobject_cast<QMessageBox*>(QApplication::activeModalWidget());
   if (box == nullptr) return;
   boxTexts_.append(box->text());
+  SaveWindow(*box, "box");
   QAbstractButton* button = box->button(QMessageBox::Ok);
   if (button == nullptr) button = box->button(QMessageBox::Yes);
   if (button != nullptr) button->click();
@@ -176,10 +177,9 @@ FormWindow* ShowDriver::Form(const QString& name) {
   return nullptr;
 }
 
-void ShowDriver::SaveForm(FormWindow& window) {
+void ShowDriver::SaveWindow(QWidget& window, const QString& name) {
   QDir().mkpath(folder_);
-  const QString path =
-      QString("%1/%2-%3.png").arg(folder_).arg(++pictureCount_, 2, 10, QChar('0')).arg(window.objectName());
+  const QString path = QString("%1/%2-%3.png").arg(folder_).arg(++pictureCount_, 2, 10, QChar('0')).arg(name);
   if (window.grab().save(path)) QTextStream(stdout) << path << '\n';
 }
 
@@ -192,7 +192,7 @@ bool ShowDriver::PictureOfForm(const QString& form, const std::function<void()>&
   QTimer::singleShot(kSettledMs, window, [&] {
     opened = window->isVisible();
     if (!opened) return;
-    SaveForm(*window);
+    SaveWindow(*window, window->objectName());
     window->close();
   });
   open();
@@ -237,9 +237,7 @@ void ShowDriver::TakePicturesAsSeen(const QString& name) {
 
 void ShowDriver::TakePicture(QWidget& window, const QString& name) {
   Pause(120);
-  QDir().mkpath(folder_);
-  const QString file = QString("%1/%2-%3.png").arg(folder_).arg(++pictureCount_, 2, 10, QChar('0')).arg(name);
-  if (window.grab().save(file)) QTextStream(stdout) << file << '\n';
+  SaveWindow(window, name);
 }
 
 }  // namespace pawnfield

@@ -58,7 +58,7 @@ class ShowDriver {
 
  private:
   void AnswerBox();
-  void SaveForm(FormWindow& window);
+  void SaveWindow(QWidget& window, const QString& name);
   bool ClickCanvas(Canvas& canvas, const Control* square);
 
   QString folder_;
