@@ -297,7 +297,9 @@ TEST_F(EditorShow, ASheetOfAHundredQuestionsIsImportedSavedPlayedAndExported) {
   });
   ASSERT_TRUE(written);
   EXPECT_EQ(ReadTable(BytesIn(out).toStdString()), ReadTable(HundredRows().toStdString()));
-  ASSERT_TRUE(Press({"optGameType_2", "optGridControl_0", "optGameEnds_0"}) && driver_->Choose("cboList", "Hundred"));
+  // The game before has to be over: its winner is in view for a while.
+  ASSERT_TRUE(Wait([] { return Press({"optGameType_2", "optGridControl_0", "optGameEnds_0"}); }));
+  ASSERT_TRUE(Wait([] { return driver_->Choose("cboList", "Hundred"); }));
   EXPECT_EQ(TheShow().NumGameQuestions, 100);
   ASSERT_TRUE(Press({"btnStart"}));
   EXPECT_TRUE(PlayedToTheWinner());

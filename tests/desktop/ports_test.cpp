@@ -8,6 +8,7 @@
 
 #include <QElapsedTimer>
 #include <QImage>
+#include <QPainter>
 #include <QProcess>
 #include <QSysInfo>
 #include <QTest>
@@ -17,6 +18,7 @@
 #include "desktop/files/user_copy.h"
 #include "desktop/files/whole_file.h"
 #include "desktop/files/windows_1252.h"
+#include "desktop/painting/text_layout.h"
 #include "desktop/system/bus_finder.h"
 #include "places.h"
 #include "sound_rig.h"
@@ -32,6 +34,39 @@ int ErrorOf(F&& action) {
     return error.Number();
   }
   return 0;
+}
+
+// The full stop of a text: where its row of ink begins, as a share of the ink's width.
+double PlaceOfFullStop(const char* text) {
+  constexpr double kTwips = 8000;
+  const TextBlock block({"Liberation Sans", 28, false, false}, Escape(QString::fromUtf8(text)), kTwips, Qt::AlignLeft,
+                        Breaks::AtWords);
+  QImage paper(800, 80, QImage::Format_RGB32);
+  paper.fill(Qt::white);
+  QPainter painter(&paper);
+  painter.scale(0.1, 0.1);
+  block.Draw(painter, {});
+  painter.end();
+  // Letters stand high on the line and a full stop low, so that its columns are white above.
+  int first = -1, last = -1, stop = -1;
+  for (int x = 0; x < paper.width(); ++x) {
+    int highest = paper.height(), ink = 0;
+    for (int y = paper.height() - 1; y >= 0; --y) {
+      if (qGray(paper.pixel(x, y)) > 128) continue;
+      ++ink;
+      highest = y;
+    }
+    if (ink == 0) continue;
+    if (first < 0) first = x;
+    last = x;
+    if (ink <= 8 && highest > 35) stop = x;
+  }
+  return last > first ? double(stop - first) / (last - first) : -1;
+}
+
+TEST(TextBlockTest, ATextGoesTheWayOfItsOwnLetters) {
+  EXPECT_GT(PlaceOfFullStop("HHHHH."), 0.8);
+  EXPECT_LT(PlaceOfFullStop("\u05DD\u05DD\u05DD\u05DD\u05DD."), 0.2) << "Hebrew ends on the left";
 }
 
 TEST(Windows1252Test, EachOfThe256BytesIsTheCodePagesCharacter) {

@@ -68,6 +68,8 @@ TextBlock::TextBlock(const Font& font, const std::string& text, double wrapWidth
                      : atWords               ? QTextOption::WordWrap
                                              : QTextOption::WrapAtWordBoundaryOrAnywhere);
   option.setUseDesignMetrics(true);
+  // By the text's own letters, and not by the desktop's.
+  option.setTextDirection(Qt::LayoutDirectionAuto);
   layout_.setTextOption(option);
   layout_.setCacheEnabled(true);
   // A hair more than the widest word, so that rounding within the layout never breaks a word in two.
