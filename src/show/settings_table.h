@@ -27,8 +27,9 @@ inline constexpr Range kGridSizes{3, 5};
 inline constexpr Range kPlayerCounts{2, kPlayers};
 inline constexpr Range kAutoContinues{3, kUserAdvances};
 inline constexpr Range kPointChoices{0, 10};
-inline constexpr std::array kTimedResponses{0, 3, 5, 7, 10};
-inline constexpr std::array kPenaltyChoices{0, 1, 2, 3, 4, 5, 6, 7, 8, 9, 10, 20};
+// Each source has its own: GCC for Windows can't link an inline one, which it puts now among the constants and now not.
+[[maybe_unused]] constexpr std::array kTimedResponses{0, 3, 5, 7, 10};
+[[maybe_unused]] constexpr std::array kPenaltyChoices{0, 1, 2, 3, 4, 5, 6, 7, 8, 9, 10, 20};
 
 // Keys that are saved by name, at the moment of their choice.
 inline constexpr const char* kSerialCommKey = "SerialComm";
