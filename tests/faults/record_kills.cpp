@@ -220,7 +220,6 @@ int TryDisk(Rig& rig, const std::function<void()>& spoil, const std::function<vo
 
 int RunRecordDisks(const QString& root) {
   int faults = 0;
-  const QString shows = root + "/full/data/Pawnfield/Shows";
   {
     Rig rig(root + "/full");
     BeginShow(rig, 0);

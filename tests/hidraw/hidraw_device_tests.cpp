@@ -144,7 +144,7 @@ TEST_F(Hidraw, TwoPresses5MsApartKeepTheirOrderAndMargin) {
   UhidDevice device(3, 0x1003, 32, 32);
   ASSERT_TRUE(Says("Wireless transceiver found"));
   MainForm& form = fixture_.form();
-  const std::vector<Press>& presses = fixture_.show().record->Presses;
+  const auto& presses = fixture_.show().record->Presses;
   int right = 0, off = 0;
   double worst = 0;
   for (int round = 0; round < kRounds; ++round) {

@@ -161,11 +161,11 @@ TEST_F(Interrupted, ASetThatWasEditedLaterChangesNothing) {
 }
 
 TEST_F(Interrupted, AQuestionThatWasEditedWhileItStoodComesBackAsItWasAsked) {
-  Play("5 3 5 full", "r2 + 00 >");
+  Play("player 2 rings in, correct, claim A1, wait 3 s", "Trivia C, 5x5");
   Show& played = played_->show();
   played.GameSet[1].QuestionText = "Another wording of quite another length?";
   played.GameSet[1].AnswerText = "Another";
-  played_->Play("r3");
+  played_->Do("player 3 rings in");
   played_->fixture().sim.clock.Advance(60);
   StartAgain(BoxAnswer::Yes);
   MainForm& form = again_->form();
@@ -177,8 +177,7 @@ TEST_F(Interrupted, AQuestionThatWasEditedWhileItStoodComesBackAsItWasAsked) {
 }
 
 TEST_F(Interrupted, ARecordBeginsWithItsSetOnceAndTheBoardThatIsReady) {
-  Play("5 3 5 full i", "");
-  played_->Play("set btnStart >60");
+  Play("choose the set, start, wait 60 ms", "Trivia C, 5x5, not started");
   const std::string& file = Disk().begin()->second;
   EXPECT_EQ(file.find("{\"set\""), file.rfind("{\"set\""));
   const auto record = ParseRecord(file);

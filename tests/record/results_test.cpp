@@ -14,7 +14,8 @@
 #include "presentation/both_screens.h"
 #include "record/results_window.h"
 #include "show/show_record.h"
-#include "support/operator_words.h"
+#include "support/game_player.h"
+#include "support/show_fixture.h"
 
 namespace pawnfield {
 namespace {
