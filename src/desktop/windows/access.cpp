@@ -93,17 +93,14 @@ class PartAccess : public QAccessibleInterface, public QAccessibleActionInterfac
 
 class CanvasAccess : public QAccessibleWidget {
  public:
-  explicit CanvasAccess(Canvas& canvas) : QAccessibleWidget(&canvas, QAccessible::Canvas, canvas.accessibleName()) {
-    for (const SpokenPart& part : canvas.Spoken()) {
-      ids_.push_back(QAccessible::registerAccessibleInterface(new PartAccess(canvas, part)));
-    }
-  }
+  explicit CanvasAccess(Canvas& canvas) : QAccessibleWidget(&canvas, QAccessible::Canvas), canvas_(canvas) {}
   ~CanvasAccess() override {
     for (const QAccessible::Id id : ids_) QAccessible::deleteAccessibleInterface(id);
   }
 
   int childCount() const override { return Parts() + QAccessibleWidget::childCount(); }
   QAccessibleInterface* child(int index) const override {
+    if (index < 0) return nullptr;
     return index < Parts() ? Part(index) : QAccessibleWidget::child(index - Parts());
   }
   int indexOfChild(const QAccessibleInterface* child) const override {
@@ -122,12 +119,19 @@ class CanvasAccess : public QAccessibleWidget {
   }
 
  private:
-  int Parts() const { return static_cast<int>(ids_.size()); }
+  // The canvas may have been asked for before it knew what it tells.
+  int Parts() const {
+    for (std::size_t i = ids_.size(); i < canvas_.Spoken().size(); ++i) {
+      ids_.push_back(QAccessible::registerAccessibleInterface(new PartAccess(canvas_, canvas_.Spoken()[i])));
+    }
+    return static_cast<int>(ids_.size());
+  }
   QAccessibleInterface* Part(int index) const {
     return QAccessible::accessibleInterface(ids_[static_cast<std::size_t>(index)]);
   }
 
-  std::vector<QAccessible::Id> ids_;
+  Canvas& canvas_;
+  mutable std::vector<QAccessible::Id> ids_;
 };
 
 QAccessibleInterface* AccessOf(const QString& className, QObject* object) {
