@@ -142,6 +142,14 @@ void Canvas::Embed(Control& control, QWidget& widget) {
   PlaceEmbedded();
 }
 
+void Canvas::SetSpoken(const QString& name, std::vector<SpokenPart> parts) {
+  setAccessibleName(name);
+  spoken_ = std::move(parts);
+  // One that was made while the canvas was no more than a widget is made anew.
+  QAccessibleInterface* known = QAccessible::queryAccessibleInterface(this);
+  if (known != nullptr) QAccessible::deleteAccessibleInterface(QAccessible::uniqueId(known));
+}
+
 void Canvas::ItemChanged(Item& item, PropertyId id) {
   if (id == PropertyId::Picture) {
     if (const auto* image = dynamic_cast<Image*>(&item.control)) item.picture = image->Picture;

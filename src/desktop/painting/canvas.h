@@ -80,11 +80,8 @@ class Canvas : public QWidget {
   // Shows the film at the control's place while it has a file.
   void AddVideo(MediaPlayer& control, MpvVideo& video);
   bool Holds(const Control& control) const { return items_.count(&control) != 0; }
-  // What the canvas is called and tells, from back to front; before anything asks for it.
-  void SetSpoken(const QString& name, std::vector<SpokenPart> parts) {
-    setAccessibleName(name);
-    spoken_ = std::move(parts);
-  }
+  // What the canvas is called and tells, from back to front.
+  void SetSpoken(const QString& name, std::vector<SpokenPart> parts);
   const std::vector<SpokenPart>& Spoken() const { return spoken_; }
   // A widget that stands on the canvas at its control's place.
   void Embed(Control& control, QWidget& widget);

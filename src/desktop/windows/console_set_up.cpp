@@ -140,7 +140,7 @@ void AddCues(QBoxLayout& column) {
   QVBoxLayout* group = nullptr;
   AddGroup(*groups, "pnlCues", "LETTERS", group);
   groups->setStretch(1, 1);
-  Add<CueView>(*group, "lstCues", 1);
+  Add<CueView>(*group, "lstCues", 1)->setAccessibleName("Letters and what they play");
 }
 
 }  // namespace

@@ -28,6 +28,7 @@ SoundEffectsWindow::SoundEffectsWindow(SoundEffectsForm& form, FormWindows& wind
   note->setProperty("role", "note");
   column->addWidget(note);
   auto* grid = new GridView(this);
+  grid->setAccessibleName("Sounds");
   grid->setObjectName("Grid1");
   grid->setMinimumSize(kGridSize);
   grid->setItemDelegate(new SoundCells(form, *grid));
