@@ -32,18 +32,6 @@ QStringList Told(QAccessibleInterface& node) {
   return texts;
 }
 
-// The texts of the notifications that were told to be read out.
-QStringList& Announced() {
-  static QStringList texts;
-  return texts;
-}
-
-void TakeUpdate(QAccessibleEvent* event) {
-  QAccessibleInterface* told = event->accessibleInterface();
-  const bool comesUp = event->type() == QAccessible::ObjectShow && told != nullptr;
-  if (comesUp && told->role() == QAccessible::Notification) Announced() += told->text(QAccessible::Name);
-}
-
 class AccessTest : public ProgramTest {
  protected:
   void SetUp() override {
@@ -57,10 +45,6 @@ class AccessTest : public ProgramTest {
     }
     form_.picQuestion.Visible = show_.frmFSMain.picQuestion.Visible = true;
     form_.lblAnswer.Caption = "Oslo";
-  }
-  QStringList TakeAnnounced() {
-    QTest::qWait(50);
-    return std::exchange(Announced(), {});
   }
 };
 
@@ -85,43 +69,6 @@ TEST_F(AccessTest, TheCanvasesTellWhatTheyShowAndOnlyTheConsoleTellsTheAnswer) {
   EXPECT_TRUE(Told(Of(program_.Console().Board())).contains("Correct!"));
   form_.picStandby.Visible = true;
   EXPECT_TRUE(Told(Of(program_.Console().Board())).contains("Standby"));
-}
-
-TEST_F(AccessTest, WhatChangesIsReadOutInWords) {
-  QAccessible::setActive(true);
-  const auto before = QAccessible::installUpdateHandler(TakeUpdate);
-  form_.picStandby.Visible = false;
-  TakeAnnounced();
-  ShowQuestion();
-  EXPECT_EQ(TakeAnnounced(), QStringList{"What is the capital of Norway?"});
-  form_.lblRightWrong.Caption = "Incorrect";
-  form_.picCorrect.Visible = true;
-  EXPECT_EQ(TakeAnnounced(), QStringList{"Incorrect"});
-  form_.picQuestion.Visible = form_.picCorrect.Visible = false;
-  TakeAnnounced();
-  show_.state.Board[0][0] = 1;
-  form_.img.At(0, 0)->Picture = "taken";
-  form_.ScoreCopy(1).Caption = "100";
-  EXPECT_EQ(TakeAnnounced(), QStringList{"A1: PLAYER 1. PLAYER 1: 100"});
-  form_.picStandby.Visible = true;
-  EXPECT_EQ(TakeAnnounced(), QStringList{"Standby"});
-  QAccessible::installUpdateHandler(before);
-  QAccessible::setActive(false);
-}
-
-TEST_F(AccessTest, ASquareIsPressedAsByAClickAndNotThroughWhatCoversIt) {
-  int clicks = 0;
-  form_.img.At(1, 2)->OnClick = [&clicks] { ++clicks; };
-  form_.img.At(1, 2)->Visible = true;
-  for (PictureBox* panel : {&form_.picStandby, &form_.picQuestion, &form_.picWinner}) panel->Visible = false;
-  QAccessibleInterface* square = Of(program_.Console().Board()).child(1 * 5 + 2);
-  ASSERT_EQ(square->text(QAccessible::Name), "C2: free");
-  EXPECT_EQ(square->role(), QAccessible::Cell);
-  square->actionInterface()->doAction(QAccessibleActionInterface::pressAction());
-  EXPECT_EQ(clicks, 1);
-  form_.picStandby.Visible = true;
-  square->actionInterface()->doAction(QAccessibleActionInterface::pressAction());
-  EXPECT_EQ(clicks, 1) << "standby lies over it";
 }
 
 TEST_F(AccessTest, AToggleIsAClickAndLeavesOneOptionOfEachGroupChecked) {
