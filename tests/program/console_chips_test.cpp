@@ -13,6 +13,11 @@ const MonitorInfo kRooms{1280, 0, 3200, 1080};
 
 class Chips : public ShowFixture, public testing::Test {
  protected:
+  void BeginGame() {
+    form().optGameType[0].Click();
+    form().btnStart.Click();
+    ASSERT_TRUE(show().state.GameStarted);
+  }
   void Expect(const Chip& chip, const std::string& caption, ChipState light) {
     ShowChips(show());
     EXPECT_EQ(chip.Caption.Get(), caption);
@@ -53,6 +58,7 @@ TEST_F(Chips, TellThatThereNeverWasASoundDevice) {
   Start();
   Expect(form().chpSound, "NO SOUND DEVICE", ChipState::Amber);
   EXPECT_FALSE(form().fraCues.Visible);
+  BeginGame();
   form().chpSound.Click();
   EXPECT_FALSE(form().fraCues.Visible) << "there is nothing to set";
   sim.media.BackgroundPlayer.FallSilent(false);
@@ -82,8 +88,9 @@ TEST_F(Chips, TellHowManyPadsAreKnown) {
   Expect(form().chpBuzzers, "BUZZERS 2 of 2", ChipState::Good);
 }
 
-TEST_F(Chips, OpenWhatMendsWhatTheyTell) {
+TEST_F(Chips, OpenInAGameWhatMendsWhatTheyTell) {
   Start();
+  BeginGame();
   std::string opened;
   form().mnuHelpProjector.OnClick = [&] { opened += "projector "; };
   form().mnuFileInterface.OnClick = [&] { opened += "interface "; };

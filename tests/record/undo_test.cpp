@@ -106,15 +106,14 @@ TEST(Undo, GoesToTheGamesBeginningAndWhatIsNewEndsTheWayForward) {
 TEST(Undo, GoesBackOverWholeGamesAndForwardAgainEqualAtEachStep) {
   const std::pair<const char*, const char*> games[] = {
       {"Challenge A",
-       "claim A1, claim B2, player 2 gains 100, claim C3, claim B1, claim C1, claim A2, claim C2, claim A3, claim B3, "
-       "wait 12 s"},
-      {"Challenge B, Finish Row", "claim A1, claim B2, claim C3, claim B1, claim A2, claim A3, claim C1, wait 12 s"},
+       "claim A1, claim B2, player 2 gains 100, claim C3, claim B1, claim C1, claim A2, claim C2, claim A3, claim B3"},
+      {"Challenge B, Finish Row", "claim A1, claim B2, claim B1, claim A3, claim C1"},
       {"Trivia A, user advances",
        "correct, claim A1, continue, correct, claim B2, continue, player 2 gains 100, correct, claim C1, continue, "
        "skip, "
        "end game"},
       {"Trivia B, Finish Row, user advances",
-       "correct, claim A1, continue, correct, claim B1, continue, correct, claim C1, wait 12 s"},
+       "correct, claim A1, continue, correct, claim B1, continue, correct, claim C1"},
       {"Trivia C, penalty, user advances",
        "player 1 rings in, correct, claim A1, continue, player 2 rings in, incorrect, player 3 rings in, correct, "
        "claim B2, continue, skip, end game"},

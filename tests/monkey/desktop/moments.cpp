@@ -66,8 +66,8 @@ int TellWhatComesBack(const QString& folder) {
   answer.start(20);
   QTimer::singleShot(0, [&show] { Main(show); });
   const bool up = QTest::qWaitFor([&] { return program.Console().isVisible(); }, kLongestStartMs);
-  if (up) QTest::qWaitFor([&] { return show.state.GameStarted; }, kUnansweredMs);
-  std::printf("%s\n", answered ? JsonOf(Capture(show)).Text().c_str() : "none");
+  const bool back = up && QTest::qWaitFor([&] { return show.state.GameStarted; }, kUnansweredMs);
+  std::printf("%s\n", answered && back ? JsonOf(Capture(show)).Text().c_str() : "none");
   std::fflush(stdout);
   // The game stays open for who looks again.
   std::_Exit(0);
