@@ -24,7 +24,7 @@ KNOWN_PROPERTIES = set("""align-items animation background border border-color b
 color display flex flex-direction font font-family font-size font-variant-numeric font-weight height justify-content left
 letter-spacing line-height margin margin-bottom margin-left margin-right margin-top max-width min-height min-width opacity
 outline outline-offset overflow overflow-wrap padding padding-bottom padding-left padding-top position right text-align
-text-overflow top touch-action transform transition user-select white-space width""".split())
+text-overflow top touch-action transform transition unicode-bidi user-select white-space width""".split())
 # A browser that doesn't know these leaves them out, and nothing is missed.
 HARMLESS_PROPERTIES = {"overscroll-behavior"}
 KNOWN_FUNCTIONS = {"var", "env", "rgba", "translateY", "scale"}
