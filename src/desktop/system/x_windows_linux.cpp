@@ -46,6 +46,13 @@ void Ask(xcb_connection_t* connection, xcb_window_t window, xcb_atom_t what,
                  reinterpret_cast<const char*>(&message));
 }
 
+void WriteClass(xcb_connection_t* connection, xcb_window_t window) {
+  // Two texts, each with its end: the program's own name and its class.
+  const std::string name = std::string("pawnfield") + '\0' + kAppId + '\0';
+  xcb_change_property(connection, XCB_PROP_MODE_REPLACE, window, XCB_ATOM_WM_CLASS, XCB_ATOM_STRING, 8,
+                      static_cast<std::uint32_t>(name.size()), name.data());
+}
+
 // The properties that a window manager reads when it is given the window.
 void Write(xcb_connection_t* connection, xcb_window_t window) {
   xcb_change_property(connection, XCB_PROP_MODE_REPLACE, window, Atom(connection, "_NET_WM_DESKTOP"), XCB_ATOM_CARDINAL,
@@ -63,6 +70,8 @@ void StandOnEveryWorkspace(QWindow& window) {
   xcb_connection_t* connection = Connection();
   if (connection == nullptr) return;
   const auto id = static_cast<xcb_window_t>(window.winId());
+  // The toolkit may have made the window before it told of it.
+  WriteClass(connection, id);
   if (!window.isVisible()) {
     Write(connection, id);
     return;
@@ -84,10 +93,7 @@ bool WindowClass::eventFilter(QObject* watched, QEvent* event) {
   const auto made = static_cast<QPlatformSurfaceEvent*>(event)->surfaceEventType();
   auto* window = qobject_cast<QWindow*>(watched);
   if (window == nullptr || made != QPlatformSurfaceEvent::SurfaceCreated || !window->isTopLevel()) return false;
-  // Two texts, each with its end: the program's own name and its class.
-  const std::string name = std::string("pawnfield") + '\0' + kAppId + '\0';
-  xcb_change_property(Connection(), XCB_PROP_MODE_REPLACE, static_cast<xcb_window_t>(window->winId()),
-                      XCB_ATOM_WM_CLASS, XCB_ATOM_STRING, 8, static_cast<std::uint32_t>(name.size()), name.data());
+  WriteClass(Connection(), static_cast<xcb_window_t>(window->winId()));
   return false;
 }
 
