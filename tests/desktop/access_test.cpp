@@ -115,6 +115,14 @@ TEST_F(AccessTest, AToggleIsAClickAndLeavesOneOptionOfEachGroupChecked) {
   }
 }
 
+TEST_F(AccessTest, AListIsNamedByItsLabelAndToldWithWhatIsChosenInIt) {
+  form_.cbxScore[1].List = std::vector<std::string>{"50", "100"};
+  form_.cbxScore[1].Select(0);
+  QAccessibleInterface& list = Of(Widget<QWidget>("cbxScore_1"));
+  EXPECT_EQ(list.text(QAccessible::Name), "Line bonus");
+  EXPECT_EQ(list.text(QAccessible::Value), "50");
+}
+
 // Whatever is worked has a name, and a list's is not what is chosen in it.
 TEST_F(AccessTest, EveryControlOfEveryFormHasAName) {
   const std::set<QAccessible::Role> worked{QAccessible::RadioButton,  QAccessible::CheckBox, QAccessible::ComboBox,
@@ -130,7 +138,7 @@ TEST_F(AccessTest, EveryControlOfEveryFormHasAName) {
       }
       // Written when its form comes up.
       const auto* button = qobject_cast<QAbstractButton*>(widget);
-      if (window->objectName() == "frmPages" && button != nullptr && button->text().isEmpty()) continue;
+      if (window != &program_.Console() && button != nullptr && button->text().isEmpty()) continue;
       ++looked;
       const QString name = access->text(QAccessible::Name);
       const std::string where = (window->objectName() + " " + widget->objectName()).toStdString();

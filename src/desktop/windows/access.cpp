@@ -1,8 +1,10 @@
 #include "desktop/windows/access.h"
 
+#include <QAbstractItemView>
 #include <QAccessible>
 #include <QAccessibleWidget>
 #include <QCheckBox>
+#include <QComboBox>
 #include <QRadioButton>
 #include <memory>
 #include <vector>
@@ -46,6 +48,36 @@ class OptionAccess : public QAccessibleWidget {
 
  private:
   QAbstractButton& button_;
+};
+
+// The toolkit names a list by what is chosen in it, where it knows a label of its own.
+class ListAccess : public QAccessibleWidget {
+ public:
+  explicit ListAccess(QComboBox& list) : QAccessibleWidget(&list, QAccessible::ComboBox), list_(list) {}
+
+  QString text(QAccessible::Text kind) const override {
+    if (kind == QAccessible::Value) return list_.currentText();
+    return QAccessibleWidget::text(kind);
+  }
+  QAccessible::State state() const override {
+    QAccessible::State state = QAccessibleWidget::state();
+    state.expandable = true;
+    state.expanded = list_.view()->isVisible();
+    return state;
+  }
+  QStringList actionNames() const override {
+    return QStringList{showMenuAction(), pressAction()} + QAccessibleWidget::actionNames();
+  }
+  void doAction(const QString& action) override {
+    if (action != showMenuAction() && action != pressAction()) {
+      QAccessibleWidget::doAction(action);
+    } else if (list_.isEnabled() && list_.isVisible()) {
+      list_.view()->isVisible() ? list_.hidePopup() : list_.showPopup();
+    }
+  }
+
+ private:
+  QComboBox& list_;
 };
 
 // One of the things on a canvas.
@@ -139,6 +171,8 @@ QAccessibleInterface* AccessOf(const QString& className, QObject* object) {
     auto* button = qobject_cast<QAbstractButton*>(object);
     return button == nullptr ? nullptr : new OptionAccess(*button);
   }
+  auto* list = className == "QComboBox" ? qobject_cast<QComboBox*>(object) : nullptr;
+  if (list != nullptr && !list->accessibleName().isEmpty()) return new ListAccess(*list);
   // A canvas has no class of its own in the toolkit's eyes.
   auto* canvas = className == "QWidget" ? dynamic_cast<Canvas*>(object) : nullptr;
   return canvas == nullptr ? nullptr : new CanvasAccess(*canvas);
