@@ -23,11 +23,11 @@ void FitQuestion(Show& show) {
   SetQuestion(show, source.Caption, show.frmFSMain.lblQuestion);
 }
 
+// The result is written on both, so that they agree on scores that were changed since.
 void FitWinner(Show& show) {
+  if (!show.frmMain.Winner.lblWinnerHead.Caption->empty()) ShowResult(show);
   const std::string text = show.frmMain.lblWinner.Caption;
-  if (text.empty()) return;
-  SetWinner(show, text, show.frmFSMain.lblWinner);
-  if (PanelVisible(show, Panel::Winner)) WriteResult(show, show.frmFSMain.Winner);
+  if (!text.empty()) SetWinner(show, text, show.frmFSMain.lblWinner);
 }
 
 }  // namespace

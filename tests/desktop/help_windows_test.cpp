@@ -3,7 +3,9 @@
 #include <gtest/gtest.h>
 
 #include <QDir>
+#include <QGuiApplication>
 #include <QRegularExpression>
+#include <QScreen>
 #include <QScrollBar>
 #include <QTest>
 #include <QTextBrowser>
@@ -53,7 +55,8 @@ TEST(Manual, OpensThePagesOfTheMenuAndFollowsTheirLinks) {
 // What the check before the show offers to print is black on white, and one page.
 TEST(Manual, TheEmergencyPageIsOnePageOfPaper) {
   const auto page = PaperPage(QUrl::fromLocalFile(ManualFolder() + "/emergency.html"));
-  page->setPageSize(QSizeF(595 - 2 * 57, 842 - 2 * 57));
+  // A4 less the printer's margins of 2 cm, in the pixels in which fonts are measured without a printer.
+  page->setPageSize(QSizeF(595 - 2 * 57, 842 - 2 * 57) * QGuiApplication::primaryScreen()->logicalDotsPerInch() / 72);
   page->setDocumentMargin(0);
   EXPECT_TRUE(page->toPlainText().contains("Bring It Back"));
   EXPECT_EQ(page->pageCount(), 1);

@@ -15,7 +15,8 @@ HandedTransceiver::HandedTransceiver(Show& show) : show_(show), hid_(show.platfo
       hid_, show.platform.clock, [&show](const TransceiverData& data) { dgTransceiver_OnButtonPressed(show, data); },
       [&show](const std::function<void()>& poll, const std::string&, const std::string&) {
         RunGuarded(show.platform.dialogs, poll, show.frmMain.Name(), "dgTransceiver_OnButtonPressed");
-      });
+      },
+      [&show] { show.presses.TransceiverLost = true; });
 }
 
 HandedTransceiver::~HandedTransceiver() { show_.dgTransceiver.reset(); }

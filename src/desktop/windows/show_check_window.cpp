@@ -17,7 +17,9 @@ namespace pawnfield {
 
 namespace {
 
-constexpr int kLightWidth = 104, kThingWidth = 118, kSentenceWidth = 330, kButtonWidth = 118, kButtonHeight = 28;
+constexpr int kLightWidth = 122, kThingWidth = 118, kSentenceWidth = 330, kButtonWidth = 118, kButtonHeight = 28;
+// Three lines.
+constexpr int kSentenceHeight = 48;
 constexpr int kLongestList = 150;
 
 QLabel* MakeText(const QString& name, const char* role) {
@@ -44,7 +46,7 @@ QFrame* MakeRow(std::size_t index) {
   row->setObjectName(Numbered("pnlRow", index));
   row->setProperty("role", "group");
   auto* across = new QHBoxLayout(row);
-  across->setContentsMargins(10, 6, 10, 6);
+  across->setContentsMargins(10, 4, 10, 4);
   across->setSpacing(8);
   auto* place = new QWidget;
   place->setFixedWidth(kLightWidth);
@@ -58,7 +60,7 @@ QFrame* MakeRow(std::size_t index) {
   QLabel* sentence = MakeText(Numbered("lblSentence", index), "note");
   sentence->setWordWrap(true);
   sentence->setMinimumWidth(kSentenceWidth);
-  sentence->setMinimumHeight(34);
+  sentence->setMinimumHeight(kSentenceHeight);
   across->addWidget(sentence, 1);
   for (const char* name : {"btnMend", "btnTry"}) {
     QPushButton* button = MakeButton(Numbered(name, index), {kButtonWidth, kButtonHeight});
