@@ -162,7 +162,7 @@ std::vector<FormWindow*> DesktopProgram::Windows() {
           &all.PlayerNames, &all.HelpAbout,    &all.ConfigKeys,         &all.Editor,
           &all.EditChoice,  &all.MissingMedia, &all.SoundEffects,       &all.OptionalHeaders,
           &all.Options,     &all.MapMF,        &all.SetInterface,       &all.Pages,
-          &all.Import,      &all.ShowCheck};
+          &all.Import,      &all.ShowCheck,    &all.Results};
 }
 
 void NameApplication() {
