@@ -157,12 +157,14 @@ AudienceWindow& DesktopProgram::Audience() { return windows_->Audience; }
 
 std::vector<FormWindow*> DesktopProgram::Windows() {
   AllWindows& all = *windows_;
-  return {&all.Console,     &all.Audience,     &all.ConnectToProjector, &all.Loading,
-          &all.Splash,      &all.GameLoading,  &all.GameInProgress,     &all.GameTypeHelp,
-          &all.PlayerNames, &all.HelpAbout,    &all.ConfigKeys,         &all.Editor,
-          &all.EditChoice,  &all.MissingMedia, &all.SoundEffects,       &all.OptionalHeaders,
-          &all.Options,     &all.MapMF,        &all.SetInterface,       &all.Pages,
-          &all.Import,      &all.ShowCheck,    &all.Results};
+  return {&all.Console,         &all.Audience,     &all.ConnectToProjector,
+          &all.Loading,         &all.Splash,       &all.GameLoading,
+          &all.GameInProgress,  &all.GameTypeHelp, &all.PlayerNames,
+          &all.HelpAbout,       &all.ConfigKeys,   &all.Editor,
+          &all.EditChoice,      &all.MissingMedia, &all.SoundEffects,
+          &all.OptionalHeaders, &all.Options,      &all.MapMF,
+          &all.SetInterface,    &all.Pages,        &all.Import,
+          &all.ShowCheck,       &all.Results};
 }
 
 void NameApplication() {

@@ -110,6 +110,8 @@ void StepTo(Show& show, std::size_t place, EventKind kind, const std::string& wh
   ++show.record->Steps;
   Restore(Current(game).After, show);
   show.record->Noted.clear();
+  // A ring-in that was taken back may come again.
+  if (IsPhase(show, PhaseKind::QuestionOpen)) BeginRingInOrder(show, Opening::Again);
   RecordedEvent step = EventOf(show, {kind, 0}, Current(game).After, Current(game).After);
   step.What = (kind == EventKind::Undone ? "Undone: " : "Done again: ") + what;
   show.frmMain.lblStatusBar.Caption = step.What;

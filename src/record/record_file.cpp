@@ -83,8 +83,11 @@ void RecordIsBack(Show& show) {
 void AttachRecord(Show& show) {
   // A show that runs asks no disk which records there are.
   show.record->FilesAtStart = show.platform.records.List();
-  show.platform.records.OnFailed = [&show](const RuntimeError& error) { RecordFails(show, error); };
-  show.platform.records.OnBack = [&show] { RecordIsBack(show); };
+  // Events of the console, so that its chip follows at once.
+  show.platform.records.OnFailed = [&show](const RuntimeError& error) {
+    show.frmMain.Dispatch([&] { RecordFails(show, error); }, "OnRecordFailed");
+  };
+  show.platform.records.OnBack = [&show] { show.frmMain.Dispatch([&] { RecordIsBack(show); }, "OnRecordBack"); };
 }
 
 void AppendEvent(Show& show, const RecordedEvent& event) {

@@ -44,10 +44,10 @@ Rig::Rig(const QString& root)
     : places(root),
       settings(places.Config()),
       records(places.Data() + "/Pawnfield/Shows"),
-      platform{
-          sim.clock,    dialogs,       sim.media.Channels(), settings, files,       sim.text, pictures,  mediaFiles,
-          sim.displays, sim.processes, sim.random,           sim.hid,  sim.devices, printing, sim.pages, sim.serial,
-          sim.network,  records,       FoldersOf(places)},
+      platform{sim.clock,        dialogs,      sim.media.Channels(), settings,   files,      sim.text,    pictures,
+               mediaFiles,       sim.displays, sim.processes,        sim.random, sim.hid,    sim.devices, printing,
+               sim.pages,        sim.serial,   sim.network,          records,    sim.sheets, sim.bundles, sim.spelling,
+               FoldersOf(places)},
       show(platform) {
   AttachHandlers(show);
 }

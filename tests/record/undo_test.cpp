@@ -152,6 +152,15 @@ TEST(Undo, GoesBackOverWholeGamesAndForwardAgainEqualAtEachStep) {
   }
 }
 
+TEST(Undo, OfARingInBeginsTheOrderAnew) {
+  GamePlayer player("Trivia C, remotes");
+  player.Do("remote 2, turn 2, wait 60 ms, undo, turn nobody, wait 500 ms, remote 1, wait 200 ms, remote 2, turn 1");
+  const auto rows = RingInRows(player.show());
+  ASSERT_EQ(rows.size(), 2U);
+  EXPECT_EQ(rows[0].Name + " " + rows[0].When, "PLAYER 1 first");
+  EXPECT_EQ(rows[1].Name, "PLAYER 2");
+}
+
 struct EndOfAGame {
   const char* name;
   const char* setup;

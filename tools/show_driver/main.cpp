@@ -265,9 +265,9 @@ void ShowForms(ShowDriver& driver, Script& script) {
 void ShowRecordOfAGame(ShowDriver& driver, Script& script, const QString& folder) {
   Show& show = driver.TheShow();
   MainForm& form = show.frmMain;
-  for (const auto& [player, name] : {std::pair{1, "ANNA"}, {2, "BEN"}, {3, "CHLOE"}}) SetPlayerName(show, player, name);
   script.Press("optGameType_4");
   script.Do("choose a set", driver.Choose("cboList", "General Knowledge 1"));
+  for (const auto& [player, name] : {std::pair{1, "ANNA"}, {2, "BEN"}, {3, "CHLOE"}}) SetPlayerName(show, player, name);
   script.Press("btnStart");
   for (int question = 0; question < 6; ++question) {
     script.Do("question", driver.WaitFor([&] { return form.picQuestion.Visible.Get(); }));

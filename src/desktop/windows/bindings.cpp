@@ -327,7 +327,10 @@ class ListViewBinding : public Binding<ListView, QTreeWidget> {
   static void ShowRow(QTreeWidgetItem& item, const std::vector<ListView::Row>& rows, int row) {
     const ListView::Row& texts = rows[static_cast<std::size_t>(row)];
     for (std::size_t column = 0; column < texts.size(); ++column) {
-      item.setText(static_cast<int>(column), Unescape(texts[column]));
+      const QString text = Unescape(texts[column]);
+      item.setText(static_cast<int>(column), text);
+      // What the column has no room for is read there.
+      item.setToolTip(static_cast<int>(column), text);
     }
   }
   bool showing_ = false;

@@ -45,14 +45,13 @@ ResultsWindow::ResultsWindow(ResultsForm& form, FormWindows& windows) : FormWind
   left->addWidget(MakeLabel("lblShows", "title"));
   QTreeWidget* shows = MakeList("lstShows", "Shows on record");
   shows->setHeaderHidden(true);
-  shows->setFixedWidth(230);
+  shows->setFixedWidth(220);
   left->addWidget(shows, 1);
   halves->addLayout(left);
   auto* right = new QVBoxLayout;
   right->addWidget(MakeLabel("lblShown", "title"));
   QTreeWidget* questions = MakeList("lstQuestions", "Questions");
-  questions->setMinimumSize(860, 300);
-  questions->setWordWrap(true);
+  questions->setMinimumSize(1000, 380);
   right->addWidget(questions, 1);
   right->addSpacing(6);
   right->addWidget(MakeLabel("lblTotals", "title"));
@@ -69,7 +68,7 @@ ResultsWindow::ResultsWindow(ResultsForm& form, FormWindows& windows) : FormWind
   row->addWidget(MakeButton("btnClose", kButtonSize));
   column->addLayout(row);
   BindForm();
-  SetWidths(*questions, {74, 40, 240, 120, 170, 170, 130});
+  SetWidths(*questions, {78, 40, 230, 120, 180, 150, 190});
   SetWidths(*totals, {200, 80, 80, 100, 120, 90});
 }
 
