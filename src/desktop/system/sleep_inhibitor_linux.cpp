@@ -36,6 +36,8 @@ void SleepInhibitor::Hold() {
 void SleepInhibitor::Try(std::function<void(bool saver, bool sleep)> then) {
   tried_ = std::move(then);
   if (!held_) onlyTries_ = true;
+  // What is held is asked for anew: the desktop may have changed its mind.
+  held_ = false;
   Begin();
   Answered();
 }
