@@ -13,6 +13,7 @@
 #include <QDBusVirtualObject>
 #include <QPushButton>
 #include <QTreeWidget>
+#include <algorithm>
 
 #include "desktop/painting/canvas.h"
 #include "desktop/windows/audience_window.h"
@@ -139,6 +140,25 @@ TEST_F(ShowCheckWindowTest, EverythingRightIsSmallAndReadyAndShowsTheRoomNothing
   driver_->TakePicture(*Window(), "show-check");
 }
 
+// The pips are of 880 Hz, and stand close together: one for the first channel, five for the last.
+TEST_F(ShowCheckWindowTest, TheFiveChannelsAreHeardInTurn) {
+  QTimer::singleShot(1500, Window(), [this] { Push("btnTry", CheckRow::Sound); });
+  const Recording heard = rig_->Record(11500);
+  constexpr double kStep = 0.05, kBetweenChannels = 0.4;
+  std::vector<double> lengths;
+  double last = -1;
+  for (double at = 0; at < 11.4; at += kStep) {
+    if (heard.Level(880, at, at + kStep) < 0.01) continue;
+    if (lengths.empty() || at - last > kBetweenChannels) lengths.push_back(0);
+    lengths.back() += lengths.back() > 0 ? at - last : kStep;
+    last = at;
+  }
+  ASSERT_EQ(lengths.size(), 5U);
+  EXPECT_TRUE(std::is_sorted(lengths.begin(), lengths.end()));
+  EXPECT_GT(lengths[4], lengths[0] + 0.4);
+  EXPECT_TRUE(Wait([] { return TheShow().frmShowCheck.lblSentence[2].Caption->ends_with("All five were played."); }));
+}
+
 TEST_F(ShowCheckWindowTest, EachThingThatGoesWrongTurnsItsRowAndComesBack) {
   ASSERT_TRUE(Xrandr(kOneMonitor));
   GoesWrong(CheckRow::Audience, ChipState::Red, "the room sees nothing", "no-second-monitor");
@@ -221,25 +241,11 @@ TEST_F(ShowCheckWindowTest, EachPressesOnceByRemotesAndKeys) {
   Push("btnTry", CheckRow::Buzzers);
 }
 
-// The pips are of 880 Hz; the five channels take a second and a half each.
-TEST_F(ShowCheckWindowTest, TheFiveChannelsAreHeardInTurn) {
-  Push("btnTry", CheckRow::Sound);
-  const Recording heard = rig_->Record(8500);
-  for (int channel = 0; channel < 5; ++channel) {
-    double loudest = 0;
-    for (double at = channel * 1.5; at < (channel + 1) * 1.5; at += 0.05)
-      loudest = std::max(loudest, heard.Level(880, at, at + 0.1));
-    EXPECT_GT(loudest, 0.01) << "channel " << channel + 1;
-  }
-  EXPECT_TRUE(Wait([] { return TheShow().frmShowCheck.lblSentence[2].Caption->ends_with("All five were played."); }));
-}
-
 TEST_F(ShowCheckWindowTest, EveryControlIsReachedByTabAndEscapeCloses) {
-  Window()->activateWindow();
-  ASSERT_TRUE(Wait([this] { return Window()->isActiveWindow(); }));
   QSet<QString> reached;
   for (int i = 0; i < 40; ++i) {
-    driver_->Type({"Tab"});
+    QWidget* focus = Window()->focusWidget();
+    QTest::keyClick(focus != nullptr ? focus : Window(), Qt::Key_Tab);
     if (Window()->focusWidget() != nullptr) reached.insert(Window()->focusWidget()->objectName());
   }
   for (const QPushButton* button : Window()->findChildren<QPushButton*>()) {
@@ -248,7 +254,7 @@ TEST_F(ShowCheckWindowTest, EveryControlIsReachedByTabAndEscapeCloses) {
     EXPECT_FALSE(button->text().isEmpty());
   }
   EXPECT_TRUE(reached.contains("chkInFront"));
-  driver_->Type({"Escape"});
+  QTest::keyClick(Window(), Qt::Key_Escape);
   EXPECT_TRUE(Wait([this] { return !Window()->isVisible(); }));
 }
 
