@@ -95,6 +95,12 @@ class ShowCheckWindowTest : public ShowSuite {
     ASSERT_TRUE(Wait([this] { return Window()->isVisible() && NotReady().isEmpty(); })) << NotReady().toStdString();
   }
 
+  // What was pressed is forgotten when the window closes.
+  void TearDown() override {
+    if (rig_ != nullptr && Form().Visible) Form().btnClose.Click();
+    ShowSuite::TearDown();
+  }
+
   FormWindow* Window() { return driver_->Form("frmShowCheck"); }
   template <typename Widget>
   Widget* Part(const char* name, CheckRow row) {
