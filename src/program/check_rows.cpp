@@ -157,6 +157,7 @@ RowFacts SoundFacts(const Show& show) {
 
 std::string NumbersOf(const std::map<int, std::string>& errors) {
   std::vector<std::string> numbers;
+  numbers.reserve(errors.size());
   for (const auto& [number, error] : errors) numbers.push_back(std::to_string(number));
   constexpr std::size_t kMost = 8;
   const bool more = numbers.size() > kMost;

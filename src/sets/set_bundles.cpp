@@ -61,7 +61,7 @@ class PackedMedia {
   std::string Add(const std::string& path) {
     const auto known = names_.find(ToLower(path));
     if (known != names_.end()) return known->second;
-    const std::string name = FreeName(PlainName(ExtractFileName("\\" + path)));
+    std::string name = FreeName(PlainName(ExtractFileName("\\" + path)));
     if (FileExists(show_, path)) {
       taken_.insert(ToLower(name));
       Files.push_back({path, name});
@@ -79,7 +79,10 @@ class PackedMedia {
   std::string FreeName(const std::string& name) const {
     const std::string ending = Ending(name), base = name.substr(0, name.size() - ending.size());
     std::string free = name;
-    for (int n = 2; taken_.contains(ToLower(free)); ++n) free = base + " (" + std::to_string(n) + ")" + ending;
+    for (int n = 2; taken_.contains(ToLower(free)); ++n) {
+      free = base;
+      free.append(" (").append(std::to_string(n)).append(")").append(ending);
+    }
     return free;
   }
 

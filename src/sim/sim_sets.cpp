@@ -32,7 +32,8 @@ BundleContents SimBundles::Look(const std::string& path) const {
 bool SimBundles::Unpack(const std::string& path, const std::string& folder) {
   if (Stopped) return false;
   files_.PutFolder(folder);
-  for (const auto& [name, bytes] : All.at(path).Files) files_.Put(folder + "\\" + name, bytes);
+  const std::string inside = folder + "\\";
+  for (const auto& [name, bytes] : All.at(path).Files) files_.Put(std::string(inside).append(name), bytes);
   return true;
 }
 

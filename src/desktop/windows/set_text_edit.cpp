@@ -178,10 +178,11 @@ void SetTextEdit::SetSpeller(Speller* speller) {
 void SetTextEdit::contextMenuEvent(QContextMenuEvent* event) {
   const std::unique_ptr<QMenu> menu(createStandardContextMenu());
   if (marks_)
-    marks_->AddSuggestions(*menu, cursorForPosition(event->pos()), [this](QTextCursor word, QString with) {
-      setTextCursor(word);
-      Insert(with);
-    });
+    marks_->AddSuggestions(*menu, cursorForPosition(event->pos()),
+                           [this](const QTextCursor& word, const QString& with) {
+                             setTextCursor(word);
+                             Insert(with);
+                           });
   menu->exec(event->globalPos());
 }
 

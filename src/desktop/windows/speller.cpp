@@ -15,7 +15,7 @@ namespace {
 QString FindDictionary(const QStringList& folders, const QString& pattern) {
   for (const QString& folder : folders) {
     for (const QFileInfo& file : QDir(folder).entryInfoList({pattern + ".aff"}, QDir::Files, QDir::Name)) {
-      const QString base = file.path() + '/' + file.completeBaseName();
+      QString base = file.path() + '/' + file.completeBaseName();
       if (QFileInfo::exists(base + ".dic")) return base;
     }
   }
@@ -28,7 +28,7 @@ QString ChooseDictionary(const QStringList& folders, const QStringList& language
   for (const QString& language : languages) patterns.append(language.section('-', 0, 0) + "_*");
   patterns.append({"en_US", "en_*", "*"});
   for (const QString& pattern : patterns) {
-    const QString found = FindDictionary(folders, pattern);
+    QString found = FindDictionary(folders, pattern);
     if (!found.isEmpty()) return found;
   }
   return {};
