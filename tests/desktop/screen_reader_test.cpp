@@ -75,6 +75,7 @@ class ScreenReader {
       child.path = path.path();
       children.append(child);
     }
+    list.endArray();
     return children;
   }
   QString Name(const Node& node) const {

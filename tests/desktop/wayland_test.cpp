@@ -59,7 +59,7 @@ class WaylandTest : public testing::TestWithParam<const char*> {
   static bool Unplug(const QString& output) { return Sway("output " + output + " subpixel vbgr"); }
   static bool Plug(const QString& output) { return Sway("output " + output + " subpixel none; create_output"); }
 
-  bool Wait(const std::function<bool()>& condition) { return driver_->WaitFor(condition, 10000); }
+  bool Wait(const std::function<bool()>& condition) { return driver_->WaitFor(condition, 120000); }
   // What the output shows at this moment.
   QImage Seen(const QString& output) const {
     const QString file = folder_.filePath("seen.png");
