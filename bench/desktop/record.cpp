@@ -20,6 +20,7 @@
 #include "desktop/windows/console_window.h"
 #include "figures.h"
 #include "forms/main_form.h"
+#include "program/detection.h"
 #include "program/handlers.h"
 #include "program/program.h"
 #include "record/history.h"
@@ -29,7 +30,7 @@ namespace pawnfield {
 
 namespace {
 
-using Clock = std::chrono::steady_clock;
+using Ticks = std::chrono::steady_clock;
 
 constexpr std::size_t kEvents = 1000;
 constexpr int kSteps = 100;
@@ -37,7 +38,7 @@ constexpr int kStarts = 5;
 // A question each 20 seconds: asked, rung in for, judged and claimed.
 constexpr double kEventsOfEightHours = 8 * 3600 / 20 * 4;
 
-double Ms(Clock::time_point from) { return std::chrono::duration<double, std::milli>(Clock::now() - from).count(); }
+double Ms(Ticks::time_point from) { return std::chrono::duration<double, std::milli>(Ticks::now() - from).count(); }
 
 DesktopPlaces PlacesBelow(const QString& folder) {
   DesktopPlaces places;
@@ -89,7 +90,7 @@ std::vector<double> TakeEvents(Show& show) {
   std::vector<double> times;
   for (std::size_t i = 0; i < kEvents; ++i) {
     show.frmMain.ScoreUp(1 + static_cast<int>(i % 3))[i % 5].Click();
-    const auto begun = Clock::now();
+    const auto begun = Ticks::now();
     TakeSnapshot(show);
     times.push_back(Ms(begun));
     if (i % 50 == 0) QTest::qWait(1);
@@ -105,7 +106,7 @@ std::vector<double> TakeSteps(DesktopProgram& program) {
   for (int i = 0; i < kSteps; ++i) {
     QTest::qWait(20);
     painted.Console = painted.Audience = false;
-    const auto begun = Clock::now();
+    const auto begun = Ticks::now();
     i < kSteps / 2 ? show.frmMain.btnUndo.Click() : show.frmMain.KeyPress('Y' - '@');
     const bool both =
         QTest::qWaitFor([&] { return painted.Console && (painted.Audience || !show.state.DualScreen); }, 500);
@@ -125,7 +126,7 @@ double FileSize(const QString& folder) {
 bool StartOverInterrupted(const QString& folder, std::vector<double>& toQuestion, std::vector<double>& toGame) {
   QProcess process;
   process.setProcessChannelMode(QProcess::ForwardedErrorChannel);
-  const auto now = std::chrono::duration_cast<std::chrono::nanoseconds>(Clock::now().time_since_epoch()).count();
+  const auto now = std::chrono::duration_cast<std::chrono::nanoseconds>(Ticks::now().time_since_epoch()).count();
   process.start(QCoreApplication::applicationFilePath(), {QString::number(now), "interrupted", folder});
   if (!process.waitForFinished(30000)) {
     process.kill();
@@ -145,8 +146,8 @@ int RunInterrupted(long long startedNs, const QString& folder) {
   DesktopProgram program(PlacesBelow(folder));
   Show& show = program.TheShow();
   show.platform.settings.SaveSetting("Pawnfield", "Settings", "NoHardwareTold", "True");
-  const Clock::time_point started{std::chrono::nanoseconds(startedNs)};
-  Clock::time_point answered;
+  const Ticks::time_point started{std::chrono::nanoseconds(startedNs)};
+  Ticks::time_point answered;
   bool asked = false;
   QTimer look;
   QObject::connect(&look, &QTimer::timeout, &look, [&] {
@@ -154,7 +155,7 @@ int RunInterrupted(long long startedNs, const QString& folder) {
     if (!asked && box != nullptr && box->text().startsWith("A show was interrupted")) {
       asked = true;
       std::printf("%f ", Ms(started));
-      answered = Clock::now();
+      answered = Ticks::now();
       box->button(QMessageBox::Yes)->click();
     } else if (asked && program.Console().isVisible() && show.state.GameStarted) {
       std::printf("%f\n", Ms(answered));
