@@ -26,15 +26,20 @@ std::int64_t Milliseconds(std::int64_t us) { return (us + (us < 0 ? -kMsUs / 2 :
 
 void SortPresses(std::vector<Press>& presses) { std::stable_sort(presses.begin(), presses.end(), ComesBefore); }
 
+const Press* FirstOf(const std::vector<Press>& presses) {
+  const auto first =
+      std::find_if(presses.begin(), presses.end(), [](const Press& p) { return p.Place == PressPlace::First; });
+  return first == presses.end() ? nullptr : &*first;
+}
+
 std::vector<PlacedPress> PlacePresses(const std::vector<Press>& presses) {
-  const auto isFirst = [](const Press& press) { return press.Place == PressPlace::First; };
-  const auto first = std::find_if(presses.begin(), presses.end(), isFirst);
+  const Press* first = FirstOf(presses);
   std::vector<PlacedPress> placed;
-  if (first == presses.end()) return placed;
+  if (first == nullptr) return placed;
   for (const Press& press : presses) {
     if (press.Place == PressPlace::Early) continue;
     PlacedPress place{press};
-    if (&press != &*first) {
+    if (&press != first) {
       place.MarginUs = press.TimeUs - first->TimeUs;
       place.ErrorUs = press.ErrorUs + first->ErrorUs;
       place.TooClose = std::abs(place.MarginUs) < place.ErrorUs;

@@ -21,6 +21,8 @@ struct PlacedPress {
 
 // Who was early, then the first, then the later ones by their times.
 void SortPresses(std::vector<Press>& presses);
+// The first of them; null where nobody rang in.
+const Press* FirstOf(const std::vector<Press>& presses);
 // Those that are no early ones, in their order; empty while nobody was first.
 std::vector<PlacedPress> PlacePresses(const std::vector<Press>& presses);
 // "first", "+12 ms (+-4)", "+1 ms (+-4), too close to call", with the sign of plus or minus as one character.

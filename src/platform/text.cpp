@@ -173,4 +173,11 @@ std::string NumberText(double value) {
 
 std::string BooleanText(bool value) { return value ? "True" : "False"; }
 
+std::string FirstLines(const std::vector<std::string>& lines, std::size_t most) {
+  std::string text;
+  for (std::size_t i = 0; i < lines.size() && i < most; ++i) text += "\r\n" + lines[i];
+  if (lines.size() > most) text += "\r\nand " + std::to_string(lines.size() - most) + " more";
+  return text;
+}
+
 }  // namespace pawnfield

@@ -3,6 +3,7 @@
 
 #include <optional>
 #include <string>
+#include <vector>
 
 namespace pawnfield {
 
@@ -30,5 +31,8 @@ std::optional<bool> ParseBoolean(const std::string& text);
 // Shortest decimal text: whole numbers without a point.
 std::string NumberText(double value);
 std::string BooleanText(bool value);
+
+// For a box: at most so many of the lines, each behind a line's end, and "and 3 more" for what is left out.
+std::string FirstLines(const std::vector<std::string>& lines, std::size_t most);
 
 }  // namespace pawnfield

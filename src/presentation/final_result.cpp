@@ -37,8 +37,7 @@ bool Holds(const std::vector<int>& players, int player) {
 
 std::string WordFor(const std::vector<int>& winners) { return winners.size() > 1 ? "Tie!" : "Wins!"; }
 
-}  // namespace
-
+// Names and scores as they stand now.
 void WriteResult(Show& show, WinnerPanel& winner) {
   const std::vector<int> winners = Winners(show);
   winner.lblWinnerHead.Caption = "Game Over!";
@@ -55,6 +54,8 @@ void WriteResult(Show& show, WinnerPanel& winner) {
   winner.PlaceTexts(winners.size());
   winner.PlaceCards(ByScore(show));
 }
+
+}  // namespace
 
 void ShowResult(Show& show) {
   WriteResult(show, show.frmMain.Winner);

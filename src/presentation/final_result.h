@@ -3,12 +3,10 @@
 
 namespace pawnfield {
 
-class WinnerPanel;
 struct Show;
 
-// Writes names and scores as they stand now to the panel.
-void WriteResult(Show& show, WinnerPanel& winner);
-// On the console, and on the audience's screen where there is one.
+// Writes names and scores as they stand now to the winner's panel: on the console, and on the audience's screen where
+// there is one.
 void ShowResult(Show& show);
 // What the console says of the last game, from the scores as they stand now; then kept in view, or taken out of it.
 void KeepLastResult(Show& show);

@@ -15,6 +15,10 @@ MonitorInfo MonitorRect(const Show& show, int index) {
   return show.Monitors[static_cast<std::size_t>(index - 1)];
 }
 
+std::string SizeText(const MonitorInfo& monitor) {
+  return std::to_string(monitor.Right - monitor.Left) + " x " + std::to_string(monitor.Bottom - monitor.Top);
+}
+
 void FindAudiencePlace(Show& show) {
   EnumMonitors(show);
   const MonitorInfo first = MonitorRect(show, 1);

@@ -14,10 +14,6 @@ constexpr const char* kLine = "The quick brown fox jumps over the lazy dog; 0123
 static_assert(std::char_traits<char>::length(kLine) == kTestLineLetters);
 constexpr int kLargest = 60;
 
-std::string SizeText(const MonitorInfo& monitor) {
-  return std::to_string(monitor.Right - monitor.Left) + " x " + std::to_string(monitor.Bottom - monitor.Top);
-}
-
 bool IsOneLine(const Show& show, const Font& font) {
   const TextMeasurer& measurer = show.platform.text;
   const double width = show.frmFSMain.lblTestLine.Width;

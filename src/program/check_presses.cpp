@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <utility>
 
+#include "data/press_order.h"
 #include "forms/main_form.h"
 #include "show/show.h"
 #include "show/show_check_state.h"
@@ -77,7 +78,7 @@ std::string NobodysText(const TriedPress& press) {
   }
 }
 
-std::string MillisecondsText(std::int64_t us) { return std::to_string((us + 500) / 1000) + " ms"; }
+std::string MillisecondsText(std::int64_t us) { return std::to_string(Milliseconds(us)) + " ms"; }
 
 void TakeTwice(PressTrial& trial, const Show& show, const TriedPress& before, const TriedPress& press) {
   Say(trial, Named(show, press.What.Player) + "'s press came twice within " +

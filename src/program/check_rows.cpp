@@ -56,9 +56,7 @@ RowFacts AudienceFacts(const Show& show) {
             "How to connect"};
   }
   const MonitorInfo console = MonitorRect(show, 1), other = MonitorRect(show, kSecond);
-  std::string sentence = (other.Name.empty() ? "Second monitor" : other.Name) + ", " +
-                         std::to_string(other.Right - other.Left) + " x " + std::to_string(other.Bottom - other.Top) +
-                         ", ";
+  std::string sentence = (other.Name.empty() ? "Second monitor" : other.Name) + ", " + SizeText(other) + ", ";
   const std::string tryIt = show.check->TestPictureShown ? "Stop" : "Test picture";
   if (IsSamePlace(console, other)) {
     return {ChipState::Red,
@@ -295,11 +293,11 @@ std::string SignOf(ChipState light) {
   return "?";
 }
 
-std::string ReadyText(const Show& show) {
+std::string ReadyText(const ControlArray<Chip, kCheckRows>& lights) {
   constexpr std::size_t kCounted = kCheckRows - 1;
   std::size_t ready = 0;
   for (std::size_t i = 0; i < kCounted; ++i)
-    if (FactsOf(show, static_cast<CheckRow>(i)).Light == ChipState::Good) ++ready;
+    if (lights[i].State == ChipState::Good) ++ready;
   return std::to_string(ready) + " of " + std::to_string(kCounted) +
          " ready. The room sees and hears nothing of this, unless a button says so.";
 }

@@ -24,6 +24,6 @@ std::string WordOf(ChipState light);
 // The same as a sign: a check, an exclamation mark, a cross.
 std::string SignOf(ChipState light);
 // "5 of 7 ready.", over the rows that can be ready or not.
-std::string ReadyText(const Show& show);
+std::string ReadyText(const ControlArray<Chip, kCheckRows>& lights);
 
 }  // namespace pawnfield

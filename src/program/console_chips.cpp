@@ -151,9 +151,7 @@ void AttachChips(Show& show) {
     OpenCheckOr(show, CheckRow::Disk, [](Show& inGame) { inGame.frmMain.mnuHelpManual.Click(); });
   };
   form.chpPhones.OnClick = [&form] { form.mnuFilePages.Click(); };
-  const MediaChannels& media = show.platform.media;
-  for (MediaChannel* player : {&media.EventPlayer, &media.KeyPressPlayer, &media.SoundClipPlayer,
-                               &media.CorrectIncorrectPlayer, &media.BackgroundPlayer, &media.MediaPlayer1}) {
+  for (MediaChannel* player : Players(show)) {
     player->OnSilenceChange = [&show] { show.frmMain.Dispatch([&show] { LookForSound(show); }, "SoundDevice"); };
   }
 }

@@ -1,7 +1,6 @@
 #include "program/mending.h"
 
 #include <algorithm>
-#include <array>
 
 #include "devices/transceiver.h"
 #include "forms/main_form.h"
@@ -9,20 +8,16 @@
 
 namespace pawnfield {
 
-namespace {
-
-bool AnyIsSilent(const Show& show) {
+std::array<MediaChannel*, 6> Players(const Show& show) {
   const MediaChannels& media = show.platform.media;
-  const std::array<const MediaChannel*, 6> players{&media.EventPlayer,      &media.KeyPressPlayer,
-                                                   &media.SoundClipPlayer,  &media.CorrectIncorrectPlayer,
-                                                   &media.BackgroundPlayer, &media.MediaPlayer1};
-  return std::any_of(players.begin(), players.end(), [](const MediaChannel* player) { return player->IsSilent(); });
+  return {&media.EventPlayer,      &media.KeyPressPlayer,         &media.SoundClipPlayer,
+          &media.BackgroundPlayer, &media.CorrectIncorrectPlayer, &media.MediaPlayer1};
 }
 
-}  // namespace
-
 void LookForSound(Show& show) {
-  show.SoundFound = !AnyIsSilent(show) && show.platform.mediaFiles.HasSoundDevice();
+  const auto players = Players(show);
+  const bool silent = std::any_of(players.begin(), players.end(), [](auto* player) { return player->IsSilent(); });
+  show.SoundFound = !silent && show.platform.mediaFiles.HasSoundDevice();
   show.SoundOnceFound = show.SoundOnceFound || show.SoundFound;
 }
 

@@ -123,7 +123,7 @@ void ShowRows(Show& show) {
   CheckSetAnew(show);
   FollowTestPicture(show);
   for (std::size_t i = 0; i < kCheckRows; ++i) ShowRow(show, static_cast<CheckRow>(i));
-  show.frmShowCheck.lblReady.Caption = ReadyText(show);
+  show.frmShowCheck.lblReady.Caption = ReadyText(show.frmShowCheck.chpLight);
   ShowPressBoxes(show);
   ShowFindings(show);
 }

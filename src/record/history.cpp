@@ -33,11 +33,6 @@ bool IsSameGame(Snapshot a, const Snapshot& b) {
   return a == b;
 }
 
-bool WasPlayed(const GameHistory& game) {
-  return std::any_of(game.Events.begin(), game.Events.end(),
-                     [](const RecordedEvent& event) { return event.After.Started; });
-}
-
 std::string SetNameOf(const Show& show) { return SetName(ExtractFileName(show.state.LoadedSetPath)); }
 
 RecordedEvent EventOf(const Show& show, const Happening& cause, const Snapshot& before, Snapshot after) {

@@ -199,12 +199,12 @@ std::string FormatCheck(const std::vector<CheckedRow>& rows) {
 
 std::string FormatEnd() { return FormatLine({{"end", true}}); }
 
-namespace {
-
 bool WasPlayed(const GameHistory& game) {
   return std::any_of(game.Events.begin(), game.Events.end(),
                      [](const RecordedEvent& event) { return event.After.Started; });
 }
+
+namespace {
 
 // A game that was brought back stands in the record once more, and counts once.
 void LeaveGame(ReadRecord& record, const RecordedEvent& next) {

@@ -31,6 +31,9 @@ std::string FormatEvent(const RecordedEvent& event);
 std::string FormatCheck(const std::vector<CheckedRow>& rows);
 std::string FormatEnd();
 
+// False for a game that was made ready and never begun.
+bool WasPlayed(const GameHistory& game);
+
 // Nothing when the bytes don't begin as a record of this version does. A line whose sum is wrong is passed over.
 std::optional<ReadRecord> ParseRecord(std::string_view bytes);
 

@@ -5,7 +5,9 @@
 #include <utility>
 
 #include "data/game_types.h"
+#include "data/press_order.h"
 #include "platform/text.h"
+#include "record/record_lines.h"
 #include "record/ring_in_order.h"
 #include "sets/set_file.h"
 #include "sets/set_parser.h"
@@ -26,13 +28,6 @@ std::string DayText(const LocalTime& at) {
   return text;
 }
 
-// A picture or sound goes by its file's name: the folders above it are nothing to read.
-std::string WordingOf(const TriviaQuestion& question) {
-  const std::string text = Trim(question.QuestionText);
-  const std::string name = ExtractFileName(text);
-  return KindOfQuestion(text) == QuestionKind::Text || name.empty() ? text : name;
-}
-
 // What is summed up of a player while the games are read.
 struct Tally {
   PlayerTotal Total;
@@ -48,15 +43,13 @@ Tally& TallyOf(std::vector<Tally>& tallies, const std::string& name) {
   return tallies.back();
 }
 
-std::int64_t InMs(std::int64_t us) { return (us + 500) / 1000; }
-
 // By how much the first was ahead; nothing where nobody came second.
 std::optional<std::int64_t> LeadOf(const std::vector<Press>& presses) {
   const Press* first = FirstOf(presses);
   std::optional<std::int64_t> lead;
   for (const Press& press : presses) {
     if (first == nullptr || press.Place != PressPlace::Later) continue;
-    const std::int64_t margin = InMs(press.TimeUs - first->TimeUs);
+    const std::int64_t margin = Milliseconds(press.TimeUs - first->TimeUs);
     if (!lead || margin < *lead) lead = margin;
   }
   return lead;
@@ -152,7 +145,7 @@ class GameReader {
 
   void TakeTimes(const Press& first, const std::optional<std::int64_t>& lead) {
     Tally& tally = TallyOf(tallies_, presses_.After.Names[PlayerIndex(first.Player)]);
-    const std::int64_t took = InMs(first.TimeUs - presses_.OpenedUs);
+    const std::int64_t took = Milliseconds(first.TimeUs - presses_.OpenedUs);
     if (presses_.OpenedUs != 0 && took >= 0)
       tally.Total.FastestMs = std::min(tally.Total.FastestMs.value_or(took), took);
     if (!lead) return;
@@ -181,11 +174,6 @@ class GameReader {
   RecordedEvent presses_;
   std::int64_t lastFirstUs_ = 0;
 };
-
-bool WasPlayed(const GameHistory& game) {
-  return std::any_of(game.Events.begin(), game.Events.end(),
-                     [](const RecordedEvent& event) { return event.After.Started; });
-}
 
 TableRow RowOf(const std::string& game, const ResultRow& row) {
   TableRow cells{game,       row.Time,   row.Question > 0 ? std::to_string(row.Question) : "", row.Wording,

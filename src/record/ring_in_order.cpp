@@ -32,12 +32,6 @@ bool IsListed(const std::vector<Press>& presses, int player, bool early) {
 
 }  // namespace
 
-const Press* FirstOf(const std::vector<Press>& presses) {
-  const auto first =
-      std::find_if(presses.begin(), presses.end(), [](const Press& p) { return p.Place == PressPlace::First; });
-  return first == presses.end() ? nullptr : &*first;
-}
-
 Press PressOf(const Show& show, int player, PressWay way, std::int64_t atUs) {
   return {player, way, atUs != 0 ? atUs : show.platform.clock.NowUs(), ErrorOfWay(way), PressPlace::First};
 }

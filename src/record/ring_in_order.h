@@ -35,8 +35,6 @@ struct RingInRow {
 
 std::vector<RingInRow> RingInRows(const std::vector<Press>& presses, const std::array<std::string, kPlayers>& names);
 std::vector<RingInRow> RingInRows(const Show& show);
-// The first of them; null where nobody rang in.
-const Press* FirstOf(const std::vector<Press>& presses);
 // Writes the order to the console's list.
 void ShowRingInOrder(Show& show);
 

@@ -226,10 +226,7 @@ void EnableEditorControls(Show& show, bool enabled) {
   }
 }
 
-void UpdateEditorControls(Show& show) {
-  const TriviaQuestion& record = ShownRecord(show);
-  EnableEditorControls(show, !Trim(record.QuestionText).empty() || !Trim(record.AnswerText).empty());
-}
+void UpdateEditorControls(Show& show) { EnableEditorControls(show, !IsBlank(ShownRecord(show))); }
 
 void FocusWording(Show& show) {
   TextBox& wording = show.frmEditor.txtEnterQuestion;

@@ -83,19 +83,12 @@ std::string PrintTitle(const std::string& fileName) {
   return Trim(fileName).empty() ? "Untitled" : SetName(ExtractFileName(fileName));
 }
 
-// A medium goes by its file's name: the folders above it are nothing to read out.
-std::string PrintedText(const TriviaQuestion& question) {
-  const std::string text = Trim(question.QuestionText);
-  const std::string name = ExtractFileName(text);
-  return KindOfQuestion(text) == QuestionKind::Text || name.empty() ? text : name;
-}
-
 PrintDocument DocumentOf(const Show& show) {
   PrintDocument document{PrintTitle(show.frmEditor.EditFileName), {}};
   document.Blocks.push_back({document.Title, " "});
   for (int i = 0; i < show.NumEditQuestions; ++i) {
     const TriviaQuestion& question = show.EditSet[static_cast<std::size_t>(i)];
-    document.Blocks.push_back({std::to_string(i + 1) + ". " + PrintedText(question), Trim(question.AnswerText), " "});
+    document.Blocks.push_back({std::to_string(i + 1) + ". " + WordingOf(question), Trim(question.AnswerText), " "});
   }
   return document;
 }

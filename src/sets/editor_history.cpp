@@ -40,24 +40,6 @@ void NoteEdit(Show& show, const std::string& what, const EditState& before) {
   if (!form.EditDirty) form.History.MarkSaved();
 }
 
-std::string KindText(const TriviaQuestion& question) {
-  switch (KindOfQuestion(Trim(question.QuestionText))) {
-    case QuestionKind::Picture:
-      return "Picture";
-    case QuestionKind::Sound:
-      return "Sound";
-    default:
-      return "Text";
-  }
-}
-
-// A medium goes by its file's name.
-std::string FirstWords(const TriviaQuestion& question) {
-  const std::string text = Trim(question.QuestionText);
-  const std::string name = ExtractFileName(text);
-  return FirstLetters(KindOfQuestion(text) == QuestionKind::Text || name.empty() ? text : name, kFirstWords);
-}
-
 // Takes some tens of milliseconds for a full set, and nothing where the set is the one that was checked last.
 void CheckRecords(Show& show) {
   EditorForm& form = show.frmEditor;
@@ -74,7 +56,7 @@ void CheckRecords(Show& show) {
 
 ListView::Row RowOf(const EditorForm& form, const TriviaSet& set, std::size_t i) {
   const TriviaQuestion& question = set[i];
-  return {std::to_string(i + 1), KindText(question), FirstWords(question),
+  return {std::to_string(i + 1), KindWord(question), FirstLetters(WordingOf(question), kFirstWords),
           FirstLetters(Trim(question.AnswerText), kFirstWords), i < form.Findings.size() ? form.Findings[i] : ""};
 }
 
@@ -90,7 +72,7 @@ bool CanDuplicate(Show& show) {
   const int number = show.frmEditor.EditQuestionNumber;
   if (number < 1 || number > kSetCapacity || show.NumEditQuestions >= kSetCapacity - 1) return false;
   const TriviaQuestion& shown = show.EditSet[static_cast<std::size_t>(number) - 1];
-  return !Trim(shown.QuestionText).empty() || !Trim(shown.AnswerText).empty();
+  return !IsBlank(shown);
 }
 
 void ShowList(Show& show) {
@@ -109,6 +91,19 @@ void ShowList(Show& show) {
   ShowStep(form.btnRedo, form.mnuEditRedo, "Redo", form.History.RedoText());
 }
 
+// Behind a fault the list follows too.
+void RunNoted(Show& show, const std::string& what, const std::function<void()>& routine) {
+  const EditState before = StateOf(show);
+  try {
+    routine();
+  } catch (...) {
+    NoteEdit(show, what, before);
+    ShowList(show);
+    throw;
+  }
+  NoteEdit(show, what, before);
+}
+
 }  // namespace
 
 void BeginHistory(Show& show) {
@@ -117,32 +112,16 @@ void BeginHistory(Show& show) {
 }
 
 void RunTyping(Show& show, const std::string& what, const std::function<void()>& routine) {
-  const EditState before = StateOf(show);
-  const auto note = [&] {
-    NoteEdit(show, what, before);
-    ShowList(show);
-  };
-  try {
-    routine();
-  } catch (...) {
-    note();
-    throw;
-  }
-  note();
+  RunNoted(show, what, routine);
+  ShowList(show);
 }
 
 void RunEdit(Show& show, const std::string& what, const std::function<void()>& routine) {
-  RunTyping(show, what, routine);
+  RunNoted(show, what, routine);
   ShowEditorLists(show);
 }
 
-std::string UnsavedLines(Show& show, std::size_t most) {
-  const auto lines = show.frmEditor.History.Unsaved();
-  std::string text;
-  for (std::size_t i = 0; i < lines.size() && i < most; ++i) text += "\r\n" + lines[i];
-  if (lines.size() > most) text += "\r\nand " + std::to_string(lines.size() - most) + " more";
-  return text;
-}
+std::string UnsavedLines(Show& show, std::size_t most) { return FirstLines(show.frmEditor.History.Unsaved(), most); }
 
 void ShowEditorLists(Show& show) {
   CheckRecords(show);

@@ -43,11 +43,6 @@ std::vector<ImportRow> PreviewedRows(Show& show) {
                        [&show](const std::string& name) { return MediumPath(show, name); });
 }
 
-std::string KindWord(const TriviaQuestion& question) {
-  if (question.QuestionType == "P") return "Picture";
-  return question.QuestionType == "S" ? "Sound" : "Text";
-}
-
 std::string Questions(std::size_t count) { return std::to_string(count) + (count == 1 ? " Question" : " Questions"); }
 
 void ShowPreview(Show& show) {
@@ -56,9 +51,8 @@ void ShowPreview(Show& show) {
   std::vector<ListView::Row> lines;
   std::size_t fit = 0;
   for (const ImportRow& row : rows) {
-    const std::string text = row.Question.QuestionText;
     lines.push_back({std::to_string(row.Row), KindWord(row.Question),
-                     FirstLetters(row.Question.QuestionType == "T" ? text : ExtractFileName("\\" + text), kFirstWords),
+                     FirstLetters(WordingOf(row.Question), kFirstWords),
                      FirstLetters(row.Question.AnswerText, kFirstWords), row.Problem});
     fit += row.Problem.empty() ? 1 : 0;
   }

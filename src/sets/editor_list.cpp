@@ -8,21 +8,18 @@
 #include "sets/editor.h"
 #include "sets/editor_navigation.h"
 #include "sets/set_file.h"
+#include "sets/set_parser.h"
 #include "show/show.h"
 
 namespace pawnfield::editor {
 
 namespace {
 
-constexpr int kLastNumber = 100;
-
 // Also where the boxes show the same text as before, so that typing brings nothing about.
 void ShowQuestion(Show& show, int number) {
   show.frmEditor.EditQuestionNumber = number;
   DisplayEditQuestion(show);
-  const TriviaQuestion& record = ShownRecord(show);
-  const bool blank = Trim(record.QuestionText).empty() && Trim(record.AnswerText).empty();
-  if (!blank || show.NumEditQuestions == 0) EnableEditorControls(show, true);
+  if (!IsBlank(ShownRecord(show)) || show.NumEditQuestions == 0) EnableEditorControls(show, true);
 }
 
 void TakeState(Show& show, const EditState& state) {
@@ -35,15 +32,10 @@ void TakeState(Show& show, const EditState& state) {
   ShowQuestion(show, std::clamp(state.Number, 1, std::max(state.Count, 1)));
 }
 
-bool IsBlank(Show& show, int number) {
-  const TriviaQuestion& record = RecordAt(show.EditSet, number);
-  return Trim(record.QuestionText).empty() && Trim(record.AnswerText).empty();
-}
-
 // A question that nobody has written a word of is no gap in the set once it is left.
 int DropUnwritten(Show& show, int target) {
   const int left = show.frmEditor.EditQuestionNumber;
-  if (left == target || left > show.NumEditQuestions || !IsBlank(show, left)) return target;
+  if (left == target || left > show.NumEditQuestions || !IsBlank(RecordAt(show.EditSet, left))) return target;
   ShiftDown(show, left);
   SetNumEditQuestions(show, show.NumEditQuestions - 1);
   return target > left ? target - 1 : target;
@@ -119,7 +111,7 @@ void RemoveQuestion(Show& show) {
 
 void btnDuplicateQuestion_Click(Show& show) {
   const int number = show.frmEditor.EditQuestionNumber;
-  if (IsBlank(show, number)) return;
+  if (IsBlank(RecordAt(show.EditSet, number))) return;
   // The only question of a new set isn't counted before Next.
   if (number == show.NumEditQuestions + 1) SetNumEditQuestions(show, number);
   if (number > show.NumEditQuestions || show.NumEditQuestions >= kLastNumber) return;

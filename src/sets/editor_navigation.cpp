@@ -5,13 +5,13 @@
 #include "forms/editor_form.h"
 #include "platform/text.h"
 #include "sets/editor.h"
+#include "sets/set_parser.h"
 #include "show/show.h"
 
 namespace pawnfield::editor {
 
 namespace {
 
-constexpr int kLastNumber = 100;
 constexpr int kStride = 10;
 
 bool IsShownBlank(Show& show) { return Trim(ShownRecord(show).QuestionText).empty(); }
@@ -22,7 +22,7 @@ void DropBlank(Show& show) {
 }
 
 bool MayDelete(Show& show) {
-  if (IsShownBlank(show) && Trim(ShownRecord(show).AnswerText).empty()) return true;
+  if (IsBlank(ShownRecord(show))) return true;
   const std::string number = std::to_string(show.frmEditor.EditQuestionNumber);
   return show.platform.dialogs.Ask(
              {"Would you like to delete question " + number + "?", BoxKind::YesNo, BoxAnswer::No, "Delete", "Keep It"},

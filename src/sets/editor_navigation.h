@@ -7,6 +7,9 @@ struct Show;
 
 namespace editor {
 
+// The last question that can be gone to and added.
+inline constexpr int kLastNumber = 100;
+
 // Each ends with the question it leads to on screen; what a press does at the ends of the set stands at its routine.
 void btnBack_Click(Show& show);
 void btnBack10_Click(Show& show);

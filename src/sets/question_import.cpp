@@ -114,8 +114,7 @@ TriviaQuestion QuestionOf(const std::vector<std::string>& row, const ImportColum
 ImportColumns GuessColumns(const Sheet& sheet, const std::string& remembered) {
   if (const auto named = ByHeading(sheet)) return *named;
   const int columns = ColumnsOf(sheet);
-  ImportColumns chosen = Remembered(remembered, columns).value_or(ImportColumns{0, columns > 1 ? 1 : -1, false});
-  return chosen;
+  return Remembered(remembered, columns).value_or(ImportColumns{0, columns > 1 ? 1 : -1, false});
 }
 
 std::string ColumnsText(const ImportColumns& columns) {

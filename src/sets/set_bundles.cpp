@@ -93,9 +93,7 @@ class PackedMedia {
 
 bool PackWithout(Show& show, const std::vector<std::string>& missing) {
   if (missing.empty()) return true;
-  std::string text = "These files are missing:\r\n";
-  for (std::size_t i = 0; i < missing.size() && i < kMissingNamed; ++i) text += "\r\n" + missing[i];
-  if (missing.size() > kMissingNamed) text += "\r\nand " + std::to_string(missing.size() - kMissingNamed) + " more";
+  const std::string text = "These files are missing:\r\n" + FirstLines(missing, kMissingNamed);
   return show.platform.dialogs.Ask({text + "\r\n\r\nWould you like to pack the set without them?", BoxKind::YesNo,
                                     BoxAnswer::No, "Pack Without", "Don't Pack"},
                                    kAppTitle) == BoxAnswer::Yes;

@@ -161,7 +161,7 @@ std::string FormatQuestions(const TriviaSet& set) {
 // One pass only: of two blank records side by side, one stays as a gap.
 void CompactSet(TriviaSet& set) {
   for (std::size_t i = 0; i + 2 < set.size(); ++i) {
-    if (!Trim(set[i].QuestionText).empty() || !Trim(set[i].AnswerText).empty()) continue;
+    if (!IsBlank(set[i])) continue;
     set[i] = set[i + 1];
     set[i + 1].QuestionText.clear();
     set[i + 1].AnswerText.clear();
@@ -177,6 +177,28 @@ QuestionKind KindOfQuestion(const std::string& questionText) {
     default:
       return QuestionKind::Text;
   }
+}
+
+std::string KindWord(const TriviaQuestion& question) {
+  switch (KindOfQuestion(Trim(question.QuestionText))) {
+    case QuestionKind::Picture:
+      return "Picture";
+    case QuestionKind::Sound:
+      return "Sound";
+    case QuestionKind::Text:
+      break;
+  }
+  return "Text";
+}
+
+std::string WordingOf(const TriviaQuestion& question) {
+  const std::string text = Trim(question.QuestionText);
+  const std::string name = ExtractFileName(text);
+  return KindOfQuestion(text) == QuestionKind::Text || name.empty() ? text : name;
+}
+
+bool IsBlank(const TriviaQuestion& question) {
+  return Trim(question.QuestionText).empty() && Trim(question.AnswerText).empty();
 }
 
 }  // namespace pawnfield

@@ -38,5 +38,11 @@ Font QuestionFont(const TriviaQuestion& question);
 enum class QuestionKind { Text, Picture, Sound };
 // By the last four characters of the trimmed text.
 QuestionKind KindOfQuestion(const std::string& questionText);
+// "Text", "Picture" or "Sound".
+std::string KindWord(const TriviaQuestion& question);
+// What people read of a question: its wording, or the file's name of a picture or sound, without the folders above it.
+std::string WordingOf(const TriviaQuestion& question);
+// Neither a wording nor an answer.
+bool IsBlank(const TriviaQuestion& question);
 
 }  // namespace pawnfield

@@ -355,9 +355,7 @@ class ChipBinding : public Binding<Chip, ChipView> {
  public:
   ChipBinding(Chip& chip, ChipView& view) : Binding(chip, view) {
     // A chip that has nothing to tell leaves its room to the others.
-    QSizePolicy policy = widget.sizePolicy();
-    policy.setRetainSizeWhenHidden(false);
-    widget.setSizePolicy(policy);
+    LeavePlace(widget);
     ShowOwn(PropertyId::Caption);
     QObject::connect(&widget, &QAbstractButton::clicked, &widget, [this] { model.Click(); });
   }

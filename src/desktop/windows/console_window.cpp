@@ -139,10 +139,7 @@ void ConsoleWindow::FollowModels(MainForm& form) {
        {"fraCues", "lblLineCount", "lblLineWho", "lblLineClock", "lblLineSet", "lblLineContinue", "lblLineNext",
         "chkAnimation", "lblShowAnimation", "chkHideQuestion", "lblHidequestionOption", "chkIncorrectPenalty",
         "lblLose100Points", "cboTimedResponse", "lblTimedResponse", "cboAutoContinue", "lblAutoContinuePrompt"}) {
-    auto* widget = findChild<QWidget*>(name);
-    QSizePolicy policy = widget->sizePolicy();
-    policy.setRetainSizeWhenHidden(false);
-    widget->setSizePolicy(policy);
+    LeavePlace(*findChild<QWidget*>(name));
   }
   for (Label* part : LineParts()) {
     part->AddObserver(*this);

@@ -87,4 +87,10 @@ void PictureFrame::mousePressEvent(QMouseEvent* event) {
   if (event->button() == Qt::LeftButton) emit Clicked();
 }
 
+void LeavePlace(QWidget& widget) {
+  QSizePolicy policy = widget.sizePolicy();
+  policy.setRetainSizeWhenHidden(false);
+  widget.setSizePolicy(policy);
+}
+
 }  // namespace pawnfield

@@ -61,4 +61,7 @@ class PictureFrame : public QFrame {
   bool lit_ = false;
 };
 
+// Hidden, the widget leaves its place to what stands beside or below it, which those of a form else keep.
+void LeavePlace(QWidget& widget);
+
 }  // namespace pawnfield

@@ -93,13 +93,6 @@ QTreeWidget* MakeList() {
   return list;
 }
 
-// What stands there only at times leaves its place to the others.
-void LeavePlace(QWidget& widget) {
-  QSizePolicy policy = widget.sizePolicy();
-  policy.setRetainSizeWhenHidden(false);
-  widget.setSizePolicy(policy);
-}
-
 class PressedBox : public Observer {
  public:
   PressedBox(Label& label, QWidget& box) : label_(label), box_(box) { label.AddObserver(*this); }
