@@ -31,6 +31,8 @@ void PrintPercentiles(const std::string& name, const std::vector<double>& millis
 // Usage: pawnfield_desktop_bench [MEASURE...], each of fits, paints, presses, pages, record, sound, film,
 // standby and start; all without one.
 int main(int argc, char** argv) {
+  // A figure is seen when it is measured, and is there when a later one fails.
+  std::setvbuf(stdout, nullptr, _IOLBF, 0);
   QApplication application(argc, argv);
   pawnfield::PrepareApplication();
   const QStringList words = QApplication::arguments().mid(1);

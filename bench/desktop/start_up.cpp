@@ -24,7 +24,7 @@ namespace {
 constexpr int kStarts = 7;
 constexpr int kLongestStartMs = 30000;
 // To come to rest, and to count in.
-constexpr int kRestMs = 3000;
+constexpr int kRestMs = 5000;
 
 long long NowNs() {
   return std::chrono::duration_cast<std::chrono::nanoseconds>(std::chrono::steady_clock::now().time_since_epoch())
