@@ -79,6 +79,14 @@ std::string ExpectedIn(const Show& show, PhaseKind kind) {
   return "";
 }
 
+// Why a press doesn't count while the strips of the ring-in are lit; empty when it does.
+std::string WhyClosed(const Show& show, const GamePhase& phase) {
+  if (ScreenCovered(show)) return "Closed while the room sees standby";
+  if (phase.Kind == PhaseKind::QuestionOpen) return "";
+  if (phase.Kind == PhaseKind::Answering) return "Closed: " + show.frmMain.PlayerName(phase.Player) + " answers";
+  return "Closed until the next question is up";
+}
+
 // A game that runs on beneath standby waits for the operator to uncover it.
 bool WaitsBeneathStandby(const Show& show, PhaseKind kind) {
   return ScreenCovered(show) && kind != PhaseKind::Idle && kind != PhaseKind::Ready && kind != PhaseKind::Winner;
@@ -166,6 +174,8 @@ void WriteShowLine(Show& show) {
   form.lblLineContinue.Caption = line.Continue;
   form.lblLineNext.Caption = line.Next;
   form.lblInPlay.Caption = !show.state.GameStarted ? "" : form.optGameType[0].Enabled ? "IN PLAY" : "LOCKED IN PLAY";
+  const std::string closed = WhyClosed(show, Phase(show));
+  for (std::size_t i = 0; i < kPlayers; ++i) form.btnBuzzer[i].ToolTipText = form.btnBuzzer[i].Enabled ? closed : "";
   form.tmrShowLine.Enabled = !line.Continue.empty();
 }
 

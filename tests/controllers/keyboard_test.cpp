@@ -178,7 +178,8 @@ INSTANTIATE_TEST_SUITE_P(Keyboard, TypedSquare, testing::ValuesIn(kEntries), Wor
 
 const WordStory kPieces[] = {
     {"Enter in a challenge puts the next piece at both hands", "Challenge A",
-     "cursor is CursorX.png, key enter, cursor is CursorO.png, room cursor is CursorO.png"},
+     "cursor is CursorX.png, key enter, cursor is CursorO.png, room cursor is CursorO.png, says Enter passed the turn "
+     "to player 2."},
     {"Ctrl N in a challenge puts the next piece at the hand", "Challenge A", "key ctrl n, cursor is CursorO.png"},
 };
 

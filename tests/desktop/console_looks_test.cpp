@@ -1,5 +1,6 @@
 // What the console draws of its models beyond their texts, as pictures and by real keys.
 #include <QHelpEvent>
+#include <QLabel>
 #include <QLineEdit>
 #include <QTest>
 #include <QToolTip>
@@ -9,6 +10,7 @@
 #include "desktop/windows/line_views.h"
 #include "forms/main_form.h"
 #include "places.h"
+#include "presentation/board_layout.h"
 #include "program/handlers.h"
 #include "show/phase.h"
 
@@ -77,6 +79,32 @@ TEST_F(ConsoleLooks, TheLineHasNoGapWhereItHasNothingToSay) {
   }
 }
 
+TEST_F(ConsoleLooks, WhatIsExpectedHasItsWholeSizeAndTheNextQuestionGivesWay) {
+  form_.lblLineCount.Caption = "Question 1 of 10";
+  form_.lblLineWho.Caption = "PLAYER 2";
+  form_.lblLineExpected.Caption = "answers: judge with Y or N";
+  form_.lblLineClock.Caption = "TIME IS UP";
+  form_.btnAnswerClock.Enabled = true;
+  form_.lblLineSet.Caption = "General Knowledge 1";
+  form_.lblLineNext.Caption = "Next: " + std::string(200, 'w');
+  for (const QSize size : {QSize(1280, 680), QSize(1600, 900), QSize(1920, 1080), QSize(3840, 2160)}) {
+    program_.Console().resize(size);
+    QTest::qWait(500);
+    const auto& expected = Widget<QLabel>("lblLineExpected");
+    EXPECT_GE(expected.width(), expected.fontMetrics().horizontalAdvance(expected.text())) << size.width();
+    EXPECT_GT(Widget<QWidget>("lblLineNext").width(), 100) << size.width();
+  }
+}
+
+TEST_F(ConsoleLooks, TheKeyboardsOptionHasTwoLinesAtAnySize) {
+  for (const QSize size : {QSize(1280, 680), QSize(1366, 860), QSize(1920, 1080), QSize(3840, 2160)}) {
+    program_.Console().resize(size);
+    QTest::qWait(500);
+    const auto& words = Widget<QLabel>("lblExtKeyboardCtrl");
+    EXPECT_LT(words.height(), 3 * words.fontMetrics().height()) << size.width();
+  }
+}
+
 TEST_F(ConsoleLooks, AnEmptyListOfLettersSaysHowItIsFilled) {
   form_.fraCues.Visible = true;
   QTest::qWait(30);
@@ -96,6 +124,49 @@ TEST_F(ConsoleLooks, WhatWantsAHoldSaysSo) {
     EXPECT_NE(said, button.grab().toImage()) << name;
     button.SetKey("hold");
     EXPECT_EQ(said, button.grab().toImage()) << name;
+  }
+}
+
+TEST_F(ConsoleLooks, RingInAndScoresBearTheNamesAndTheStripsSayWhenTheyAreOpen) {
+  form_.lblPlayer1[1].Caption = "ANNA";
+  EXPECT_EQ(Widget<QLabel>("pnlScoreName2").text(), "ANNA");
+  const auto says = [&](const char* name, const char* words) {
+    auto& button = Widget<KeyButton>(name);
+    const QImage said = button.grab().toImage();
+    button.SetFace("something else");
+    EXPECT_NE(said, button.grab().toImage());
+    button.SetFace(words);
+    EXPECT_EQ(said, button.grab().toImage()) << name;
+  };
+  says("btnSelectPlayer_1", "2 ANNA");
+  form_.btnBuzzer[0].Enabled = true;
+  says("btnBuzzer_0", "open to ring in");
+  form_.btnBuzzer[0].ToolTipText = "Closed until the next question is up";
+  says("btnBuzzer_0", " ");
+  EXPECT_EQ(Widget<QWidget>("btnBuzzer_0").toolTip(), "Closed until the next question is up");
+  form_.btnBuzzer[0].ToolTipText = "";
+  says("btnBuzzer_0", "open to ring in");
+  form_.btnBuzzer[0].Enabled = false;
+  says("btnBuzzer_0", " ");
+  form_.ScoreCopy(3).Visible = false;
+  EXPECT_FALSE(Widget<QWidget>("pnlScoreRow3").isVisible()) << "with two players";
+}
+
+TEST_F(ConsoleLooks, TheTurnsMarkerHasNoCornersOfItsOwn) {
+  MakeGameBoard(show_, 885, 750, 5);
+  form_.picStandby.Visible = false;
+  form_.imgDJEntry.Visible = false;
+  Canvas& board = program_.Console().Board();
+  const QRect place = board.PixelRect(form_.imgDJEntry).toRect();
+  const QImage without = board.grab().toImage();
+  form_.imgDJEntry.Picture = show_.AppPath("\\Images\\X-100a.bmp");
+  form_.imgDJEntry.Visible = true;
+  // Decoded beside.
+  ASSERT_TRUE(QTest::qWaitFor(
+      [&] { return board.grab().toImage().pixelColor(place.center()) != without.pixelColor(place.center()); }));
+  const QImage with = board.grab().toImage();
+  for (const QPoint corner : {place.topLeft(), place.topRight(), place.bottomLeft(), place.bottomRight()}) {
+    EXPECT_EQ(with.pixelColor(corner), without.pixelColor(corner));
   }
 }
 

@@ -11,10 +11,12 @@
 #include <QListView>
 #include <QMenu>
 #include <QMessageBox>
+#include <QPointingDevice>
 #include <QPushButton>
 #include <QTest>
 #include <QThread>
 #include <QTimer>
+#include <QWindow>
 #include <algorithm>
 #include <cmath>
 #include <map>
@@ -82,6 +84,31 @@ TEST_F(GuardsTest, AControlThatGreysOrGoesHandsTheFocusToTheSquaresBoxAndTheNext
       EXPECT_EQ(TakePressed(), "") << button->Name();
       *property = true;
     }
+  }
+}
+
+TEST_F(GuardsTest, WhatGreysOrGoesBehindAnotherWindowLeavesNoNeighbourTheFocusWhenTheConsoleIsBack) {
+  form_.fraGridControl.Enabled = true;
+  const std::pair<const char*, Property<bool>*> cases[] = {
+      {"btnUndo", &form_.btnUndo.Enabled},
+      {"btnQuestionCorrect", &form_.btnQuestionCorrect.Enabled},
+      {"btnQuestionCorrect", &form_.btnQuestionCorrect.Visible},
+      {"cboAutoContinue", &form_.cboAutoContinue.Visible},
+      {"optGridControl_1", &form_.fraGridControl.Enabled},
+  };
+  for (const auto& [name, property] : cases) {
+    QWidget other;
+    other.show();
+    other.activateWindow();
+    ASSERT_TRUE(QTest::qWaitForWindowActive(&other));
+    Widget<QWidget>(name).setFocus(Qt::TabFocusReason);
+    ASSERT_EQ(Focus(), name);
+    *property = false;
+    other.hide();
+    program_.Console().activateWindow();
+    ASSERT_TRUE(QTest::qWaitForWindowActive(&program_.Console()));
+    EXPECT_EQ(Focus(), "txtDJCommand") << name;
+    *property = true;
   }
 }
 
@@ -196,6 +223,16 @@ const Gesture kGestures[] = {
        QTest::mouseRelease(&b, Qt::LeftButton, {}, QPoint(-20, -20));
      },
      false, false},
+    {"AHeldFinger",
+     [](HoldButton& b) {
+       static QPointingDevice* const screen = QTest::createTouchDevice();
+       QWindow* window = b.window()->windowHandle();
+       const QPoint at = b.mapTo(b.window(), b.rect().center());
+       QTest::touchEvent(window, screen).press(0, at, window).commit();
+       Wait(b, 5000);
+       QTest::touchEvent(window, screen).release(0, at, window).commit();
+     },
+     true, false},
     {"ASpace", [](HoldButton& b) { Space(b, 0); }, false, true},
     {"AHeldSpace", [](HoldButton& b) { Space(b, 5000); }, true, false},
     {"AnEnter",

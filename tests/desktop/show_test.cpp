@@ -83,6 +83,26 @@ TEST_F(ShowTest, WindowsStandOnTheirMonitorsAndArePaintedBeforeAPause) {
   }
 }
 
+// What the window manager offers on the window's frame and by its keys.
+QString OfferedBy(const QWidget& window) {
+  QProcess xprop;
+  xprop.start("xprop", {"-id", QString::number(window.winId()), "_NET_WM_ALLOWED_ACTIONS"});
+  xprop.waitForFinished();
+  return xprop.readAllStandardOutput();
+}
+
+TEST_F(ShowTest, AMessageBoxCanNotBeMinimised) {
+  QString offered;
+  driver_->LetBoxesStand(2000);
+  QTimer::singleShot(1000, [&] {
+    if (const QWidget* box = QApplication::activeModalWidget()) offered = OfferedBy(*box);
+  });
+  TheShow().platform.dialogs.Ask({"Are you sure?", BoxKind::YesNoCancel, BoxAnswer::Cancel}, kAppTitle);
+  driver_->LetBoxesStand(0);
+  EXPECT_TRUE(OfferedBy(Console()).contains("_MINIMIZE"));
+  EXPECT_TRUE(offered.contains("_MOVE") && !offered.contains("_MINIMIZE")) << offered.toStdString();
+}
+
 // Whether the display itself shows the pointer's amber there.
 bool IsLit(const QWidget& pointer) {
   const QPoint place = pointer.mapTo(pointer.window(), QPoint());

@@ -4,6 +4,8 @@
 #include <QAbstractButton>
 #include <QLineEdit>
 #include <QMimeData>
+#include <QPainter>
+#include <QStyleOptionViewItem>
 #include <QTabWidget>
 #include <QTableWidget>
 #include <QTest>
@@ -130,6 +132,38 @@ TEST_F(WindowsTest, FilesDroppedOnTheSoundTableTakeACellEachAndTheRestIsTold) {
   QToolTip::hideText();
 }
 
+TEST_F(WindowsTest, TheSoundTableDrawsADashAPlusUnderTheMouseAndATriangle) {
+  SoundEffectsForm& sounds = show_.frmSoundEffects;
+  sounds.Visible = true;
+  auto& table = *Window(sounds).findChild<QTableWidget*>("Grid1");
+  const auto drawn = [&](QStyle::State state) {
+    QImage picture(200, 30, QImage::Format_RGB32);
+    picture.fill(Qt::black);
+    QPainter painter(&picture);
+    QStyleOptionViewItem option;
+    option.rect = picture.rect();
+    option.state = state;
+    table.itemDelegate()->paint(&painter, option, table.model()->index(8, 2));
+    return picture;
+  };
+  const auto rowsInk = [](const QImage& picture) {
+    int rows = 0;
+    for (int y = 0; y < picture.height(); ++y) {
+      for (int x = 0, ink = 0; x < picture.width() && ink == 0; ++x) {
+        ink = picture.pixelColor(x, y).lightness() > 60 ? 1 : 0;
+        rows += ink;
+      }
+    }
+    return rows;
+  };
+  ASSERT_TRUE(sounds.Grid1.Cell(9, 3).empty() || sounds.Grid1.Cell(9, 3) == sounds.Grid1.Placeholder);
+  EXPECT_LE(rowsInk(drawn(QStyle::State_Enabled)), 3) << "a dash";
+  EXPECT_GE(rowsInk(drawn(QStyle::State_Enabled | QStyle::State_MouseOver)), 8) << "a plus";
+  sounds.Grid1.SetCell(9, 3, "applause.mp3");
+  const QImage filled = drawn(QStyle::State_Enabled);
+  EXPECT_GT(filled.pixelColor(12, 15).lightness(), 100) << "a triangle at the left";
+}
+
 TEST_F(WindowsTest, ListsFillBeforeTheyOpenAndPickThroughTheModel) {
   form_.cboList.OnDropDown = [&] { form_.cboList.List = {"One", "Two"}; };
   std::string picked;
@@ -163,6 +197,7 @@ TEST_F(WindowsTest, AClickAnywhereOnTheSplashAndAnyKeyReachIt) {
   show_.frmSplash.OnClick = [&] { ++ends; };
   show_.frmSplash.Visible = true;
   FormWindow& splash = Window(show_.frmSplash);
+  EXPECT_FALSE(splash.mask().contains(QPoint(0, 0))) << "the picture's corners are round";
   for (const QPoint place : {splash.rect().center(), QPoint(5, 5), QPoint(splash.width() / 2, splash.height() - 3)}) {
     QTest::mouseClick(splash.windowHandle(), Qt::LeftButton, {}, place);
   }
@@ -263,6 +298,21 @@ TEST_F(WindowsTest, TheTurnIsLightInThePlayersOwnColourAndTheOthersAreDim) {
   EXPECT_EQ(box.accessibleDescription(), "PLAYER 3");
   LightScoreBox(show_, 0);
   EXPECT_EQ(box.accessibleDescription(), "") << "nobody has the turn";
+}
+
+TEST_F(WindowsTest, TheBandHidesWhatIsBeneathItToTheLastPixel) {
+  FSMainForm& audience = show_.frmFSMain;
+  audience.picStandby.Visible = false;
+  audience.picQuestion.Visible = true;
+  audience.SetBand(true);
+  Canvas& room = program_.Audience().Screen();
+  for (const QSize size : {QSize(1280, 720), QSize(1366, 768), QSize(1920, 1080), QSize(1920, 1200)}) {
+    room.resize(size);
+    audience.lblPlayer[1].Caption = "I";
+    const QImage before = room.grab().toImage();
+    audience.lblPlayer[1].Caption = "MAGNIFICENT";
+    EXPECT_EQ(before, room.grab().toImage()) << size.width() << 'x' << size.height();
+  }
 }
 
 TEST_F(WindowsTest, TheOptionsTabsTurnByKeyFromAnywhere) {

@@ -69,6 +69,7 @@ class Gallery {
     Do(driver_.Choose("cboList", kSet));
     show_.state.HideQuestion = true;
     show_.state.Animation = true;
+    Do(driver_.Choose("cboTimedResponse", "10"));
     Do(driver_.Press("btnStart"));
     driver_.TakePictures("question-text");
     driver_.TakePicturesAsSeen("eyes-question");
@@ -77,6 +78,7 @@ class Gallery {
     driver_.TakePictures("cover");
     ReportLetters("a name in the band", show_.frmFSMain.lblBandName[0]);
     ReportLetters("a score in the band", show_.frmFSMain.lblBandScore[0]);
+    ReportLetters("the seconds to answer", show_.frmFSMain.lblAnswerClock);
     Do(driver_.Press("btnQuestionIncorrect"));
     Verdict("verdict-incorrect");
     Next();

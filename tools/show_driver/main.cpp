@@ -1,16 +1,13 @@
 // Plays two short games in the real program on the present display and saves pictures of both screens at each phase.
-// Usage: pawnfield_show [FOLDER [forms|gallery|phases|media|sheet|record]]; with "forms" it opens every form instead
-// and saves a picture of each, with "gallery" it brings up everything that the two screens can show, with "phases" it
-// plays a game of each type at each size of the console, with "media" headers, a picture and a film on demand, with
-// "sheet" questions that come from a spreadsheet, with "record" a game's results and the question about an interrupted
-// show.
+// Usage: pawnfield_show [FOLDER [forms|dialogs|gallery|phases|media|sheet|record]]; with "forms" it opens every form
+// instead and saves a picture of each, with "dialogs" boxes and dialogs with their frames, with "gallery" it brings up
+// everything that the two screens can show, with "phases" it plays a game of each type at each size of the console,
+// with "media" headers, a picture and a film on demand, with "sheet" questions that come from a spreadsheet, with
+// "record" a game's results and the question about an interrupted show.
 
 #include <QApplication>
-#include <QColorDialog>
 #include <QFile>
-#include <QFileDialog>
 #include <QFileInfo>
-#include <QFontDialog>
 #include <QProcess>
 #include <QTabWidget>
 #include <QTextStream>
@@ -20,6 +17,7 @@
 #include "desktop/files/native_path.h"
 #include "desktop/windows/fitting_scale.h"
 #include "desktop/windows/form_window.h"
+#include "dialogs.h"
 #include "editor_driver.h"
 #include "forms/fs_main_form.h"
 #include "forms/main_form.h"
@@ -216,24 +214,6 @@ void ImportSheet(ShowDriver& driver, Script& script, const QString& folder) {
   script.Do("edit", editor.WithNewSet(work));
 }
 
-// The toolkit's own, which wear the house's look too.
-void ShowToolkitDialogs(ShowDriver& driver) {
-  QFileDialog files(nullptr, "Open", driver.AppFolder() + "/Trivia Sets");
-  files.setOption(QFileDialog::DontUseNativeDialog);
-  QFontDialog fonts;
-  fonts.setOption(QFontDialog::DontUseNativeDialog);
-  QColorDialog colors;
-  colors.setOption(QColorDialog::DontUseNativeDialog);
-  const std::pair<QDialog*, const char*> dialogs[] = {
-      {&files, "file-dialog"}, {&fonts, "font-dialog"}, {&colors, "color-dialog"}};
-  for (const auto& [dialog, name] : dialogs) {
-    dialog->show();
-    driver.Pause(400);
-    driver.TakePicture(*dialog, name);
-    dialog->close();
-  }
-}
-
 // Every form that the console opens, once.
 void ShowForms(ShowDriver& driver, Script& script) {
   MainForm& form = driver.TheShow().frmMain;
@@ -256,9 +236,6 @@ void ShowForms(ShowDriver& driver, Script& script) {
   picture("frmMapMF", form.mnuMapMF);
   picture("frmShowCheck", form.mnuFileShowCheck);
   picture("frmSetInterface", form.mnuFileInterface);
-  driver.TheShow().platform.dialogs.Ask(
-      {"Are you sure you want to exit?", BoxKind::YesNoCancel, BoxAnswer::No, "Exit", "Stay"}, kAppTitle);
-  ShowToolkitDialogs(driver);
 }
 
 // A few questions with presses of remotes, their results, and the question about a show that was interrupted.
@@ -319,6 +296,8 @@ int main(int argc, char** argv) {
   const QString what = argc > 2 ? argv[2] : "";
   if (what == "forms") {
     pawnfield::ShowForms(driver, script);
+  } else if (what == "dialogs") {
+    pawnfield::ShowDialogs(driver);
   } else if (what == "gallery") {
     script.Do("gallery", pawnfield::ShowGallery(driver));
   } else if (what == "phases") {

@@ -3,11 +3,10 @@
 #include <QAbstractItemView>
 #include <QApplication>
 #include <QDir>
-#include <QElapsedTimer>
 #include <QKeyEvent>
-#include <QMessageBox>
 #include <QProcess>
 #include <QPushButton>
+#include <QScreen>
 #include <QTest>
 #include <QTextStream>
 #include <QTimer>
@@ -51,6 +50,12 @@ constexpr int kStartMs = 120000;
 // A key whose window closes at its press may never be seen to go up.
 constexpr int kKeyMs = 5000;
 
+// With frames and what else is in front.
+QPixmap AsDisplayed(QScreen& screen, const QRect& area) {
+  const QPoint corner = area.topLeft() - screen.geometry().topLeft();
+  return screen.grabWindow(0, corner.x(), corner.y(), area.width(), area.height());
+}
+
 // Waits for a key that the display server was given: it has come through when it is seen to go up.
 class KeyUp : public QObject {
  public:
@@ -91,8 +96,11 @@ ShowDriver::ShowDriver(const QString& workFolder)
 void ShowDriver::AnswerBox() {
   auto* box = qobject_cast<QMessageBox*>(QApplication::activeModalWidget());
   if (box == nullptr) return;
+  if (box != box_) boxStands_.start();
+  box_ = box;
+  if (boxStands_.elapsed() < boxStandsMs_) return;
   boxTexts_.append(box->text());
-  SaveWindow(*box, "box");
+  boxStandsMs_ > 0 ? Save(AsDisplayed(*box->screen(), box->frameGeometry()), "box") : SaveWindow(*box, "box");
   QAbstractButton* button = box->button(QMessageBox::Ok);
   if (button == nullptr) button = box->button(QMessageBox::Yes);
   if (button != nullptr) button->click();
@@ -177,10 +185,17 @@ FormWindow* ShowDriver::Form(const QString& name) {
   return nullptr;
 }
 
-void ShowDriver::SaveWindow(QWidget& window, const QString& name) {
+void ShowDriver::SaveWindow(QWidget& window, const QString& name) { Save(window.grab(), name); }
+
+void ShowDriver::Save(const QPixmap& picture, const QString& name) {
   QDir().mkpath(folder_);
   const QString path = QString("%1/%2-%3.png").arg(folder_).arg(++pictureCount_, 2, 10, QChar('0')).arg(name);
-  if (window.grab().save(path)) QTextStream(stdout) << path << '\n';
+  if (picture.save(path)) QTextStream(stdout) << path << '\n';
+}
+
+void ShowDriver::TakeDisplay(const QString& name) {
+  QScreen& screen = *QGuiApplication::primaryScreen();
+  Save(AsDisplayed(screen, screen.geometry()), name);
 }
 
 bool ShowDriver::PictureOfForm(const QString& form, const std::function<void()>& open) {

@@ -2,6 +2,10 @@
 // pictures of both screens.
 #pragma once
 
+#include <QElapsedTimer>
+#include <QMessageBox>
+#include <QPixmap>
+#include <QPointer>
 #include <QString>
 #include <functional>
 
@@ -35,6 +39,8 @@ class ShowDriver {
   bool Type(const QStringList& keys);
   // Answers each message box that comes up while the driver waits, and keeps its text.
   QStringList BoxTexts() const { return boxTexts_; }
+  // From now on each box stands so long before it is answered, and is saved with the frame that it has on the display.
+  void LetBoxesStand(int milliseconds) { boxStandsMs_ = milliseconds; }
 
   // Saves NN-name-console.png and NN-name-audience.png, and prints where they are.
   void TakePictures(const QString& name);
@@ -50,6 +56,8 @@ class ShowDriver {
 
   // Saves NN-name.png of one window, and prints where it is.
   void TakePicture(QWidget& window, const QString& name);
+  // Saves NN-name.png of the whole first display as it is seen, with windows of other programs.
+  void TakeDisplay(const QString& name);
   // Where the program's own files are, with the sets.
   QString AppFolder() const { return folder_ + "/home" + "/app"; }
 
@@ -59,11 +67,15 @@ class ShowDriver {
  private:
   void AnswerBox();
   void SaveWindow(QWidget& window, const QString& name);
+  void Save(const QPixmap& picture, const QString& name);
   bool ClickCanvas(Canvas& canvas, const Control* square);
 
   QString folder_;
   DesktopProgram program_;
   QStringList boxTexts_;
+  QPointer<QMessageBox> box_;
+  QElapsedTimer boxStands_;
+  int boxStandsMs_ = 0;
   int pictureCount_ = 0;
 };
 

@@ -231,12 +231,15 @@ QRectF Canvas::Grown(const QRectF& rect, const QRectF& room) {
   return place;
 }
 
-// A panel as wide as the layout takes the display's whole width, and its height at each edge that it reaches.
+// A panel as wide as the layout takes the display's whole width, and its height at each edge that it reaches. Its other
+// edges lie between whole pixels: what it covers would show through a part of one.
 QRectF Canvas::Filled(const QRectF& rect) const {
   constexpr double kRounding = 0.5;
+  const double pixels = devicePixelRatioF();
   const double layoutBottom = origin_.y() + logicalHeight_ * scale_;
-  const double top = rect.top() <= origin_.y() + kRounding ? 0 : rect.top();
-  const double bottom = rect.bottom() >= layoutBottom - kRounding ? height() : rect.bottom();
+  const double top = rect.top() <= origin_.y() + kRounding ? 0 : std::floor(rect.top() * pixels) / pixels;
+  const double bottom =
+      rect.bottom() >= layoutBottom - kRounding ? height() : std::ceil(rect.bottom() * pixels) / pixels;
   return {0, top, static_cast<double>(width()), bottom - top};
 }
 

@@ -71,13 +71,17 @@ class Binding : public Observer {
       widget.setVisible(model.Visible);
     }
     widget.setEnabled(model.Enabled);
-    if (!model.ToolTipText->empty()) ShowTip(Unescape(model.ToolTipText));
+    const QString tip = Unescape(model.ToolTipText);
+    if (tip != tip_) ShowTip(tip.isEmpty() ? ownTip_ : tip);
+    tip_ = tip;
   }
 
   // A tip that is but a key is in the widget's own, which also says what the key does.
   void ShowTip(const QString& tip) { widget.setToolTip(ownTip_.endsWith('(' + tip + ')') ? ownTip_ : tip); }
 
   QString ownTip_;
+  // The model's.
+  QString tip_;
   // For what blinks all the time that nobody plays.
   std::unique_ptr<Blinker> blinker_;
 };

@@ -21,14 +21,14 @@ void AddLine(QBoxLayout& column) {
   both->setSpacing(2);
   auto* now = new QHBoxLayout;
   now->setSpacing(10);
-  both->addLayout(now, 5);
+  both->addLayout(now);
   Add<QLabel>(*now, "lblLineCount");
   auto* who = new QHBoxLayout;
   who->setSpacing(5);
   now->addLayout(who, 1);
   Add<ElidedLabel>(*who, "lblLineWho");
   auto* expected = Add<ModelLabel>(*who, "lblLineExpected", 1);
-  expected->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Preferred);
+  expected->setSizePolicy(QSizePolicy::Preferred, QSizePolicy::Preferred);
   Add<QLabel>(*now, "lblLineClock");
   auto* start = Add<QWidget>(*now, "pnlAnswerClock");
   auto* place = new QHBoxLayout(start);
@@ -37,7 +37,7 @@ void AddLine(QBoxLayout& column) {
       ->setMinimumWidth(78);
   auto* next = new QHBoxLayout;
   next->setSpacing(14);
-  both->addLayout(next, 4);
+  both->addLayout(next, 1);
   Add<ElidedLabel>(*next, "lblLineSet");
   Add<QLabel>(*next, "lblLineContinue");
   auto* question = Add<ElidedLabel>(*next, "lblLineNext", 1);

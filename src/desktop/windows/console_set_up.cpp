@@ -90,6 +90,8 @@ void AddOptions(QBoxLayout& column) {
   auto* text = static_cast<QLabel*>(keys->itemAt(1)->widget());
   text->setWordWrap(true);
   text->setMinimumHeight(30);
+  // Two lines: where the second doesn't hold the rest, the letters shrink.
+  text->setMaximumHeight(36);
   text->setToolTip("Control keys work the buttons, letters judge, a square can be typed");
   AddButton(*keys, {"btnEditKeyboardCtrl", kRowHeight, "Show the keys and choose the judging letters", "", "", "small"},
             0)

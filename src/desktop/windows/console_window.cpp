@@ -176,7 +176,8 @@ void ConsoleWindow::Changed(Control& control, PropertyId id) {
   }
   for (int strip = 0; strip < kPlayers; ++strip) {
     if (&control != &main_.btnBuzzer[static_cast<std::size_t>(strip)]) continue;
-    findChild<KeyButton*>(Member("btnBuzzer", strip))->SetFace(control.Enabled ? "open to ring in" : " ");
+    const bool open = control.Enabled && control.ToolTipText->empty();
+    findChild<KeyButton*>(Member("btnBuzzer", strip))->SetFace(open ? "open to ring in" : " ");
   }
   for (Label* part : LineParts()) {
     if (&control == part) findChild<QWidget*>(QString::fromStdString(part->Name()))->setHidden(part->Caption->empty());

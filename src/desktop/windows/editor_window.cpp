@@ -300,9 +300,10 @@ MissingMediaWindow::MissingMediaWindow(MissingMediaForm& form, FormWindows& wind
   QVBoxLayout& column = *MakeContent(*this, 24);
   column.addWidget(MakeLabel("lblMissingMedia"));
   QHBoxLayout& numbers = *AddRow(column);
-  numbers.addWidget(MakeLabel("lblQuestionNum"));
-  numbers.addSpacing(kGap);
+  // The question goes when no file is missing any more; the count begins the line.
   numbers.addWidget(MakeLabel("lblCatNum"));
+  numbers.addSpacing(kGap);
+  numbers.addWidget(MakeLabel("lblQuestionNum"));
   numbers.addStretch();
   column.addWidget(MakeLabel("Label2", "quiet"));
   auto* location = MakePath("txtLocation", "Location of the missing file");

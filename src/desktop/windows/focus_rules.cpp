@@ -17,11 +17,14 @@ FocusRules::FocusRules(QWidget& console, QWidget& squareBox, QWidget& board)
     list->setFocusPolicy(Qt::StrongFocus);
     list->installEventFilter(this);
   }
+  console.installEventFilter(this);
   connect(qApp, &QApplication::focusChanged, this, [this](QWidget*, QWidget* now) { Moved(now); });
 }
 
-bool FocusRules::eventFilter(QObject*, QEvent* event) {
-  if (event->type() != QEvent::Wheel) return false;
+bool FocusRules::eventFilter(QObject* watched, QEvent* event) {
+  // What had the focus may have gone or greyed behind another window; the toolkit would give it to a neighbour now.
+  if (event->type() == QEvent::WindowActivate && watched == &console_) Rescue();
+  if (event->type() != QEvent::Wheel || watched == &console_) return false;
   event->ignore();
   return true;
 }

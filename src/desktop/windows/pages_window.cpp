@@ -150,7 +150,7 @@ PagesWindow::PagesWindow(PagesForm& form, FormWindows& windows) : FormWindow(for
   list->setRootIsDecorated(false);
   list->setSelectionMode(QAbstractItemView::NoSelection);
   list->setAccessibleName("Who is connected");
-  list->setMinimumHeight(130);
+  list->setMinimumHeight(84);
   column->addWidget(list, 1);
   auto* row = new QHBoxLayout;
   row->addStretch(1);

@@ -51,7 +51,7 @@ ResultsWindow::ResultsWindow(ResultsForm& form, FormWindows& windows) : FormWind
   auto* right = new QVBoxLayout;
   right->addWidget(MakeLabel("lblShown", "title"));
   QTreeWidget* questions = MakeList("lstQuestions", "Questions");
-  questions->setMinimumSize(1000, 380);
+  questions->setMinimumSize(1000, 366);
   right->addWidget(questions, 1);
   right->addSpacing(6);
   right->addWidget(MakeLabel("lblTotals", "title"));

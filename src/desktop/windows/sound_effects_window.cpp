@@ -15,7 +15,7 @@ namespace pawnfield {
 
 namespace {
 
-constexpr QSize kGridSize(860, 520);
+constexpr QSize kGridSize(860, 512);
 constexpr QSize kButtonSize(140, 34);
 
 }  // namespace

@@ -16,7 +16,6 @@ namespace {
 
 // A little less than the button asks for: the clocks differ.
 constexpr int kHeldMs = 750;
-constexpr int kAtOnceMs = 300;
 
 bool MovesFocus(int key) {
   return key == Qt::Key_Tab || key == Qt::Key_Backtab || (key >= Qt::Key_Left && key <= Qt::Key_Down);
@@ -44,8 +43,7 @@ void Slips::WatchControl(Control& control, const char* name) {
 }
 
 bool Slips::MayAct() const {
-  return (held_.isValid() && held_.elapsed() >= kHeldMs) ||
-         (sinceAnswer_.isValid() && sinceAnswer_.elapsed() < kAtOnceMs);
+  return answered_ || (held_.isValid() && held_.elapsed() >= kHeldMs);
 }
 
 bool Slips::eventFilter(QObject* watched, QEvent* event) {
@@ -53,6 +51,7 @@ bool Slips::eventFilter(QObject* watched, QEvent* event) {
   const bool guarded = name == "btnReset" || name == "btnEndGame";
   switch (event->type()) {
     case QEvent::MouseButtonPress:
+      focusKeyDown_ = answered_ = false;
       if (guarded) held_.start();
       break;
     case QEvent::MouseButtonRelease:
@@ -63,7 +62,7 @@ bool Slips::eventFilter(QObject* watched, QEvent* event) {
       NoteKey(*static_cast<const QKeyEvent*>(event), guarded);
       break;
     case QEvent::Hide:
-      if (qobject_cast<QMessageBox*>(watched) != nullptr) sinceAnswer_.start();
+      answered_ = answered_ || qobject_cast<QMessageBox*>(watched) != nullptr;
       break;
     default:
       break;
@@ -72,11 +71,11 @@ bool Slips::eventFilter(QObject* watched, QEvent* event) {
 }
 
 void Slips::NoteKey(const QKeyEvent& key, bool guarded) {
-  if (MovesFocus(key.key())) {
-    sinceFocusKey_.start();
-    // A window behind another one is told of no focus before it comes back to the front.
-    if (key.type() == QEvent::KeyRelease) goneTo_ = program_.Console().focusWidget();
-  }
+  if (key.type() == QEvent::KeyPress) answered_ = false;
+  // Between its press and its release, however long the machine takes for them.
+  focusKeyDown_ = MovesFocus(key.key()) && key.type() == QEvent::KeyPress;
+  // A window behind another one is told of no focus before it comes back to the front.
+  if (MovesFocus(key.key()) && key.type() == QEvent::KeyRelease) goneTo_ = program_.Console().focusWidget();
   if (!guarded || key.key() != Qt::Key_Space || key.isAutoRepeat()) return;
   if (key.type() == QEvent::KeyPress) {
     held_.start();
@@ -89,8 +88,7 @@ void Slips::NoteFocus(QWidget* now) {
   const auto* button = qobject_cast<const QPushButton*>(now);
   if (button == nullptr || button->window() != &program_.Console()) return;
   // A window that comes back to the front has the focus where it was.
-  const bool byKey = sinceFocusKey_.isValid() && sinceFocusKey_.elapsed() < kAtOnceMs;
-  if (byKey) goneTo_ = button;
+  if (focusKeyDown_) goneTo_ = button;
   if (button == goneTo_) return;
   seen_ = "the focus came to " + button->objectName() + " by itself";
 }

@@ -34,8 +34,10 @@ class Slips : public QObject {
   DesktopProgram& program_;
   // Since a hand began to hold a button; invalid while none does.
   QElapsedTimer held_;
-  QElapsedTimer sinceAnswer_;
-  QElapsedTimer sinceFocusKey_;
+  // A question was answered, and nothing was pressed since.
+  bool answered_ = false;
+  // A key that moves the focus is being struck.
+  bool focusKeyDown_ = false;
   // The button that was gone to last.
   QPointer<const QWidget> goneTo_;
   QString seen_;
