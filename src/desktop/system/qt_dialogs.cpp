@@ -11,6 +11,7 @@
 #include <QMessageBox>
 #include <QPainter>
 #include <QPixmap>
+#include <QTimer>
 #include <tuple>
 
 #include "desktop/files/native_path.h"
@@ -93,6 +94,28 @@ QString StartFolder(const std::string& spelled) {
   return folder;
 }
 
+// Some window managers minimise any window, whatever it asks for. A question that is out of sight would hold the show,
+// so it is back at once.
+class StaysInSight : public QObject {
+ public:
+  explicit StaysInSight(QWidget& box) : QObject(&box), box_(box) { box.installEventFilter(this); }
+  bool eventFilter(QObject*, QEvent* event) override {
+    if (event->type() == QEvent::WindowStateChange && box_.isMinimized()) {
+      QTimer::singleShot(0, this, &StaysInSight::ComeBack);
+    }
+    return false;
+  }
+
+ private:
+  void ComeBack() {
+    box_.setWindowState(box_.windowState() & ~Qt::WindowMinimized);
+    box_.raise();
+    box_.activateWindow();
+  }
+
+  QWidget& box_;
+};
+
 // Ends a modal form's message loop with the form.
 class FormEnd : public Observer {
  public:
@@ -125,7 +148,7 @@ BoxAnswer QtDialogs::MessageBox(const std::string& text, const std::string& titl
 
 BoxAnswer QtDialogs::Ask(const BoxQuestion& question, const std::string& title) {
   QMessageBox box(QApplication::activeWindow());
-  // Nothing to minimise: a question that is out of sight would hold the show.
+  // Nothing to minimise.
   box.setWindowFlags(Qt::Dialog | Qt::CustomizeWindowHint | Qt::WindowTitleHint | Qt::WindowCloseButtonHint |
                      Qt::WindowStaysOnTopHint);
   box.setWindowTitle(Unescape(title));
@@ -134,6 +157,7 @@ BoxAnswer QtDialogs::Ask(const BoxQuestion& question, const std::string& title) 
   box.setIconPixmap(SignOf(question.Kind, box));
   box.setStandardButtons(ButtonsOf(question.Kind));
   WriteButtons(box, question);
+  new StaysInSight(box);
   return AnswerOf(box.exec(), question.Kind);
 }
 

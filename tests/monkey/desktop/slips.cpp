@@ -16,6 +16,9 @@ namespace {
 
 // A little less than the button asks for: the clocks differ.
 constexpr int kHeldMs = 750;
+// What hangs on an answer may be done a press or two later: the loop that waited for it ends behind what is due
+// already. A press comes to several that it may be for.
+constexpr int kForgotten = 20;
 
 bool MovesFocus(int key) {
   return key == Qt::Key_Tab || key == Qt::Key_Backtab || (key >= Qt::Key_Left && key <= Qt::Key_Down);
@@ -38,20 +41,20 @@ void Slips::WatchControl(Control& control, const char* name) {
     const bool running = program_.TheShow().state.GameInProgress;
     if (running && !MayAct()) seen_ = QString("the game was %1 by a slip").arg(name);
     if (running && MayAct()) ++allowed_;
+    pressesSinceYes_ = kForgotten;
     handler();
   };
 }
 
-bool Slips::MayAct() const {
-  return answered_ || (held_.isValid() && held_.elapsed() >= kHeldMs);
-}
+bool Slips::MayAct() const { return pressesSinceYes_ < kForgotten || (held_.isValid() && held_.elapsed() >= kHeldMs); }
 
 bool Slips::eventFilter(QObject* watched, QEvent* event) {
   const QString name = watched->objectName();
   const bool guarded = name == "btnReset" || name == "btnEndGame";
   switch (event->type()) {
     case QEvent::MouseButtonPress:
-      focusKeyDown_ = answered_ = false;
+      focusKeyDown_ = false;
+      ++pressesSinceYes_;
       if (guarded) held_.start();
       break;
     case QEvent::MouseButtonRelease:
@@ -62,7 +65,7 @@ bool Slips::eventFilter(QObject* watched, QEvent* event) {
       NoteKey(*static_cast<const QKeyEvent*>(event), guarded);
       break;
     case QEvent::Hide:
-      answered_ = answered_ || qobject_cast<QMessageBox*>(watched) != nullptr;
+      if (const auto* box = qobject_cast<QMessageBox*>(watched)) NoteAnswer(*box);
       break;
     default:
       break;
@@ -71,7 +74,7 @@ bool Slips::eventFilter(QObject* watched, QEvent* event) {
 }
 
 void Slips::NoteKey(const QKeyEvent& key, bool guarded) {
-  if (key.type() == QEvent::KeyPress) answered_ = false;
+  if (key.type() == QEvent::KeyPress) ++pressesSinceYes_;
   // Between its press and its release, however long the machine takes for them.
   focusKeyDown_ = MovesFocus(key.key()) && key.type() == QEvent::KeyPress;
   // A window behind another one is told of no focus before it comes back to the front.
@@ -82,6 +85,11 @@ void Slips::NoteKey(const QKeyEvent& key, bool guarded) {
   } else {
     held_.invalidate();
   }
+}
+
+void Slips::NoteAnswer(const QMessageBox& box) {
+  const bool yes = box.clickedButton() != nullptr && box.standardButton(box.clickedButton()) == QMessageBox::Yes;
+  pressesSinceYes_ = yes ? 0 : kForgotten;
 }
 
 void Slips::NoteFocus(QWidget* now) {

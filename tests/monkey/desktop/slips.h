@@ -4,6 +4,7 @@
 
 #include <QElapsedTimer>
 #include <QKeyEvent>
+#include <QMessageBox>
 #include <QObject>
 #include <QPointer>
 #include <QString>
@@ -30,12 +31,13 @@ class Slips : public QObject {
   bool MayAct() const;
   void NoteKey(const QKeyEvent& key, bool guarded);
   void NoteFocus(QWidget* now);
+  void NoteAnswer(const QMessageBox& box);
 
   DesktopProgram& program_;
   // Since a hand began to hold a button; invalid while none does.
   QElapsedTimer held_;
-  // A question was answered, and nothing was pressed since.
-  bool answered_ = false;
+  // Of keys and buttons, since a question was answered with Yes.
+  int pressesSinceYes_ = 1000;
   // A key that moves the focus is being struck.
   bool focusKeyDown_ = false;
   // The button that was gone to last.
