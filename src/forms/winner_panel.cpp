@@ -80,7 +80,7 @@ void WinnerPanel::PlaceCards(const std::vector<int>& order) {
     lblFinalName[i].MoveTo(left + height * 0.62, top, width * 0.62 - height * 0.62, height);
     lblFinalScore[i].MoveTo(left + width * 0.62, top, width * 0.33, height);
     lblFinalName[i].Font = LetteringFor(height, 0.28);
-    lblFinalScore[i].Font = LetteringFor(height, 0.46);
+    lblFinalScore[i].Font = LetteringFor(height, 0.42);
     picFinal[i].Visible = lblFinalName[i].Visible = lblFinalScore[i].Visible = true;
     left += width + gap;
   }
