@@ -2,7 +2,9 @@
 
 #include <QTimer>
 #include <algorithm>
+#include <cstdlib>
 #include <fstream>
+#include <string>
 #include <utility>
 
 namespace pawnfield {
@@ -11,13 +13,19 @@ namespace {
 
 constexpr int kBeatMs = 50;
 
-// How long this thread has been ready to run without a processor, in milliseconds.
+// How long this thread, or any other of the machine, has been ready to run without a processor, in milliseconds. The
+// display server that a thread waits for waits too.
 qint64 WaitedForProcessor() {
   std::ifstream statistics("/proc/thread-self/schedstat");
   qint64 ran = 0;
   qint64 waited = 0;
   statistics >> ran >> waited;
-  return waited / 1000000;
+  std::ifstream pressure("/proc/pressure/cpu");
+  std::string line;
+  std::getline(pressure, line);
+  const std::size_t total = line.find("total=");
+  const qint64 others = total == std::string::npos ? 0 : std::atoll(line.c_str() + total + 6) / 1000;
+  return std::max(waited / 1000000, others);
 }
 
 }  // namespace
