@@ -77,10 +77,10 @@ void WinnerPanel::PlaceCards(const std::vector<int>& order) {
   for (const int player : order) {
     const std::size_t i = PlayerIndex(player);
     picFinal[i].MoveTo(left, top, width, height);
-    lblFinalName[i].MoveTo(left + height * 0.62, top, width * 0.62 - height * 0.62, height);
-    lblFinalScore[i].MoveTo(left + width * 0.62, top, width * 0.33, height);
+    lblFinalName[i].MoveTo(left + height * 0.58, top, width * 0.66 - height * 0.58, height);
+    lblFinalScore[i].MoveTo(left + width * 0.66, top, width * 0.3, height);
     lblFinalName[i].Font = LetteringFor(height, 0.28);
-    lblFinalScore[i].Font = LetteringFor(height, 0.42);
+    lblFinalScore[i].Font = LetteringFor(height, 0.4);
     picFinal[i].Visible = lblFinalName[i].Visible = lblFinalScore[i].Visible = true;
     left += width + gap;
   }
