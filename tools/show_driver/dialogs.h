@@ -1,5 +1,5 @@
-// Brings up a box of each kind and the dialogs for a file, a font and a colour, and saves them as the display shows them,
-// with their frames.
+// Brings up a box of each kind and the dialogs for a file, a font and a colour, and saves them as the display shows
+// them, with their frames.
 #pragma once
 
 #include "show_driver.h"
