@@ -162,18 +162,13 @@ void ShowQuestionAgain(Show& show) {
   const TriviaQuestion& question = show.Asked;
   const std::string text = Trim(question.QuestionText);
   show.state.QuestionUp = true;
-  SetQuestion(show, text, show.frmMain.lblQuestion);
-  switch (KindOfQuestion(text)) {
-    case QuestionKind::Picture:
-      ShowPic(show);
-      break;
-    case QuestionKind::Sound:
-      ShowPanel(show, Panel::Sound);
-      break;
-    case QuestionKind::Text:
-      WriteTextQuestion(show, question, text);
-      break;
+  const QuestionKind kind = KindOfQuestion(text);
+  if (kind == QuestionKind::Text) {
+    WriteTextQuestion(show, question, text);
+    return;
   }
+  SetQuestion(show, text, show.frmMain.lblQuestion);
+  kind == QuestionKind::Picture ? ShowPic(show) : ShowPanel(show, Panel::Sound);
 }
 
 void HoldPicture(Show& show, int number) {

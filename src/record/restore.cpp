@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <array>
+#include <optional>
 
 #include "engine/answer_clock.h"
 #include "engine/game_flow.h"
@@ -21,6 +22,7 @@
 #include "presentation/text_fitting.h"
 #include "record/capture.h"
 #include "sets/set_file.h"
+#include "sets/set_parser.h"
 #include "show/phase.h"
 #include "show/settings_table.h"
 #include "show/show.h"
@@ -29,8 +31,30 @@ namespace pawnfield {
 
 namespace {
 
-// Ends whatever runs over the board or follows of itself.
-void StopAll(Show& show) {
+// The panel that the question stands in, if one is up.
+std::optional<Panel> PanelOf(const Snapshot& snapshot) {
+  if (!snapshot.QuestionUp) return std::nullopt;
+  switch (KindOfQuestion(Trim(snapshot.Asked.QuestionText))) {
+    case QuestionKind::Picture:
+      return Panel::QuestionPicture;
+    case QuestionKind::Sound:
+      return Panel::Sound;
+    case QuestionKind::Text:
+      break;
+  }
+  return Panel::Question;
+}
+
+// The text that is up is the very one that is to stand. Fitting it anew would cost both screens more than all else.
+bool StandsAlready(const Snapshot& snapshot, const Show& show) {
+  const bool text = PanelOf(snapshot) == Panel::Question && PanelVisible(show, Panel::Question);
+  return text && QuestionIsUp(show) && show.Asked == snapshot.Asked &&
+         show.frmMain.lblQuestion[0].Caption == Trim(snapshot.Asked.QuestionText);
+}
+
+// Ends whatever runs over the board or follows of itself. The panel of the question that is to stand isn't taken down
+// for the moment until it does, as both screens would be painted whole.
+void StopAll(const Snapshot& snapshot, Show& show) {
   MainForm& form = show.frmMain;
   EndQuestionClip(show);
   ForgetClaimedSquare(show);
@@ -48,8 +72,10 @@ void StopAll(Show& show) {
   form.tmrAnswerClock.Enabled = false;
   form.lblAnswerClock.Visible = false;
   form.lblRightWrong.Visible = true;
-  for (const Panel panel : {Panel::Bonus, Panel::Correct, Panel::Winner}) HidePanel(show, panel);
-  CloseQuestion(show);
+  for (const Panel panel :
+       {Panel::Bonus, Panel::Correct, Panel::Winner, Panel::Question, Panel::QuestionPicture, Panel::Sound}) {
+    if (panel != PanelOf(snapshot)) HidePanel(show, panel);
+  }
 }
 
 void RestoreBoard(const Snapshot& snapshot, Show& show) {
@@ -140,14 +166,14 @@ void RestoreFlow(const Snapshot& snapshot, Show& show) {
 }
 
 // The question that is up, or the answer of the one that was; before the first there is none.
-void RestoreQuestion(const Snapshot& snapshot, Show& show) {
+void RestoreQuestion(const Snapshot& snapshot, bool stands, Show& show) {
   if (!snapshot.Background.empty()) {
     show.DrawnBackground = snapshot.Background;
     show.frmMain.imgQuestionBackground.Picture = snapshot.Background;
   }
   const bool asked = snapshot.Started && show.state.Nature().Trivia;
   if (asked) show.Asked = snapshot.Asked;
-  if (snapshot.QuestionUp) ShowQuestionAgain(show);
+  if (snapshot.QuestionUp && !stands) ShowQuestionAgain(show);
   if (asked) {
     SetAnswer(show, Trim(show.Asked.AnswerText));
   } else {
@@ -185,11 +211,12 @@ int IndexOf(const std::array<int, N>& choices, int value) {
 
 void Restore(const Snapshot& snapshot, Show& show) {
   const Snapshot before = Capture(show);
-  StopAll(show);
+  const bool stands = StandsAlready(snapshot, show);
+  StopAll(snapshot, show);
   RestoreState(snapshot, show);
   RestorePlayers(snapshot, show);
   RestoreBoard(snapshot, show);
-  RestoreQuestion(snapshot, show);
+  RestoreQuestion(snapshot, stands, show);
   RestoreFlow(snapshot, show);
   RestoreTurn(snapshot, show);
   RestoreLights(snapshot, show);

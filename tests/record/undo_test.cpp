@@ -2,6 +2,7 @@
 
 #include <algorithm>
 
+#include "forms/fs_main_form.h"
 #include "forms/main_form.h"
 #include "platform/ports.h"
 #include "record/capture.h"
@@ -150,6 +151,25 @@ TEST(Undo, GoesBackOverWholeGamesAndForwardAgainEqualAtEachStep) {
       }
     }
   }
+}
+
+// Counts what is announced of the controls that it observes.
+struct Changes : Observer {
+  void Changed(Control&, PropertyId) override { ++Count; }
+  int Count = 0;
+};
+
+TEST(Undo, LeavesTheQuestionUntouchedThatStays) {
+  GamePlayer player("Trivia C");
+  player.Do("player 2 rings in, wait 60 ms");
+  Changes changes;
+  for (Control* control :
+       {static_cast<Control*>(&player.form().picQuestion), static_cast<Control*>(&player.form().lblQuestion[0]),
+        static_cast<Control*>(&player.fixture().audience().picQuestion)}) {
+    control->AddObserver(changes);
+  }
+  player.Do("undo, turn nobody");
+  EXPECT_EQ(changes.Count, 0) << "both screens would be painted whole";
 }
 
 TEST(Undo, OfARingInBeginsTheOrderAnew) {

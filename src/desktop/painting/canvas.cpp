@@ -120,8 +120,8 @@ void Canvas::Add(Control& control, const ItemStyle& style) {
   Item& added = *item;
   items_[&control] = std::move(item);
   control.AddObserver(added);
+  order_.clear();
   ItemChanged(added, PropertyId::Picture);
-  Order();
 }
 
 void Canvas::AddVideo(MediaPlayer& control, MpvVideo& video) {
@@ -156,9 +156,13 @@ void Canvas::ItemChanged(Item& item, PropertyId id) {
     if (const auto* box = dynamic_cast<PictureBox*>(&item.control)) item.picture = box->Picture;
   }
   if (id == PropertyId::Caption || id == PropertyId::Text || id == PropertyId::Font) item.text.reset();
-  if (id == PropertyId::ZOrder) Order();
+  if (id == PropertyId::ZOrder) order_.clear();
   if (id == PropertyId::Visible && item.control.IsShown()) StartRising(item.control);
-  if (item.control.Kind() == ControlKind::PictureBox || item.control.Kind() == ControlKind::Frame) PlaceEmbedded();
+  if (item.control.Kind() == ControlKind::PictureBox || item.control.Kind() == ControlKind::Frame) {
+    PlaceEmbedded();
+    // What stands in it comes to the front with it.
+    if (id == PropertyId::ZOrder) update();
+  }
   Refresh(item);
 }
 
@@ -191,7 +195,8 @@ void Canvas::Refresh(Item& item) {
   update(item.covered);
 }
 
-void Canvas::Order() {
+const std::vector<Canvas::Item*>& Canvas::InOrder() const {
+  if (!order_.empty()) return order_;
   const auto depthKey = [](const Item* item) {
     // Containers from the outside in, each by its place among its neighbours.
     std::vector<std::pair<int, std::size_t>> key;
@@ -206,9 +211,8 @@ void Canvas::Order() {
   std::vector<std::pair<std::vector<std::pair<int, std::size_t>>, Item*>> keyed;
   for (const auto& [control, item] : items_) keyed.emplace_back(depthKey(item.get()), item.get());
   std::sort(keyed.begin(), keyed.end());
-  order_.clear();
   for (const auto& [key, item] : keyed) order_.push_back(item);
-  update();
+  return order_;
 }
 
 QRectF Canvas::PixelRect(const Control& control) const {
@@ -258,12 +262,13 @@ QRectF Canvas::FillRect(const Item& item) const {
 }
 
 Control* Canvas::At(const QPoint& point) const {
-  const auto touched = std::find_if(order_.rbegin(), order_.rend(), [&](const Item* item) {
+  const std::vector<Item*>& order = InOrder();
+  const auto touched = std::find_if(order.rbegin(), order.rend(), [&](const Item* item) {
     const Control& control = item->control;
     const bool touchable = control.Kind() != ControlKind::Label || control.OnDblClick || control.OnClick;
     return touchable && control.IsShown() && PixelRect(control).contains(point);
   });
-  return touched == order_.rend() ? nullptr : &(*touched)->control;
+  return touched == order.rend() ? nullptr : &(*touched)->control;
 }
 
 void Canvas::paintEvent(QPaintEvent* event) {
@@ -276,16 +281,18 @@ void Canvas::paintEvent(QPaintEvent* event) {
   } else if (lowest == 0) {
     painter.fillRect(area, Qt::black);
   }
-  for (std::size_t i = lowest; i < order_.size(); ++i) {
-    Item& item = *order_[i];
+  const std::vector<Item*>& order = InOrder();
+  for (std::size_t i = lowest; i < order.size(); ++i) {
+    Item& item = *order[i];
     if (item.control.IsShown() && event->region().intersects(FillRect(item).toAlignedRect())) PaintItem(painter, item);
   }
 }
 
 // What lies beneath a ground that covers the whole area isn't painted: a film's frame would cost the board with it.
 std::size_t Canvas::LowestSeen(const QRectF& area) const {
-  for (std::size_t i = order_.size(); i > 0; --i) {
-    const Item& item = *order_[i - 1];
+  const std::vector<Item*>& order = InOrder();
+  for (std::size_t i = order.size(); i > 0; --i) {
+    const Item& item = *order[i - 1];
     const bool opaque = item.style.PaintsGround || item.control.Kind() == ControlKind::MediaPlayer;
     if (opaque && item.control.IsShown() && FillRect(item).contains(area)) return i - 1;
   }
@@ -467,7 +474,8 @@ bool Canvas::IsCovered(const Control& control) const {
   };
   const Control* outer = &control;
   while (outer->Container != nullptr) outer = outer->Container;
-  return std::any_of(order_.begin(), order_.end(), [&](const Item* item) {
+  return std::any_of(items_.begin(), items_.end(), [&](const auto& held) {
+    const Item* item = held.second.get();
     const Control& panel = item->control;
     return item->style.PaintsGround && panel.ZOrder > outer->ZOrder && panel.IsShown() && !stands(panel);
   });

@@ -105,7 +105,7 @@ class Canvas : public QWidget {
   void StartRising(const Control& panel);
   void PictureDecoded(const std::string& path);
   void Refresh(Item& item);
-  void Order();
+  const std::vector<Item*>& InOrder() const;
   QRectF FillRect(const Item& item) const;
   static QRectF Grown(const QRectF& rect, const QRectF& room);
   QRectF Filled(const QRectF& rect) const;
@@ -128,8 +128,9 @@ class Canvas : public QWidget {
   QPointF origin_;
   bool fillsDisplay_ = false;
   std::map<const Control*, std::unique_ptr<Item>> items_;
-  // Back to front, containers before what stands in them.
-  std::vector<Item*> order_;
+  // Back to front, containers before what stands in them. Empty when it has changed, until it is asked for: a
+  // question's letters come to the front five times over.
+  mutable std::vector<Item*> order_;
   std::vector<std::pair<Control*, QWidget*>> embedded_;
   MpvVideo* video_ = nullptr;
   std::vector<SpokenPart> spoken_;
