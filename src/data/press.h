@@ -30,7 +30,7 @@ constexpr std::int64_t ErrorOfWay(PressWay way) {
       // An interval of USB, in which the device is asked once, and its own radio's.
       return 2000;
     case PressWay::Pad:
-      // The nine bytes of a frame at 9600 baud, and the adapter's latency timer.
+      // The eight bytes of a frame at 9600 baud, which another's frame may hold up, and the adapter's interval.
       return 10500;
     case PressWay::Phone:
       return 30000;
@@ -41,5 +41,8 @@ constexpr std::int64_t ErrorOfWay(PressWay way) {
   // A keyboard's interval and the way through the display server.
   return 8000;
 }
+
+// What a report that no thread has stamped adds to that: it is found by the poll.
+inline constexpr std::int64_t kPollErrorUs = 30000;
 
 }  // namespace pawnfield

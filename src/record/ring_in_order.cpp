@@ -33,7 +33,9 @@ bool IsListed(const std::vector<Press>& presses, int player, bool early) {
 }  // namespace
 
 Press PressOf(const Show& show, int player, PressWay way, std::int64_t atUs) {
-  return {player, way, atUs != 0 ? atUs : show.platform.clock.NowUs(), ErrorOfWay(way), PressPlace::First};
+  const bool polled = way == PressWay::Remote && atUs == 0;
+  const std::int64_t error = ErrorOfWay(way) + (polled ? kPollErrorUs : 0);
+  return {player, way, atUs != 0 ? atUs : show.platform.clock.NowUs(), error, PressPlace::First};
 }
 
 void AddPress(Show& show, Press press) {
