@@ -118,6 +118,7 @@ void EndWithoutAsking(Show& show) {
 
 void SaveSettingsAtDeath(Show& show) {
   if (!show.frmMain.Visible) return;
+  show.platform.records.Flush();
   for (const auto save : {SaveAllSettings, SaveInterfaceFile}) {
     try {
       save(show);

@@ -12,8 +12,11 @@
 #include <cstdlib>
 #include <string_view>
 
+#include "desktop/system/end_signals.h"
+#include "forms/main_form.h"
 #include "monkey/desktop/moments.h"
 #include "monkey/desktop/window_monkey.h"
+#include "program/start_up.h"
 
 namespace {
 
@@ -33,6 +36,10 @@ int Work(WatchedApplication& application, std::uint32_t seed, int actions, QFile
   WindowMonkey monkey(application, program, world, chance, log);
   if (onlyKeys) monkey.StrikeKeys();
   Moments moments(program.TheShow(), log);
+  // As the real program ends by a signal and with the display.
+  Show& show = program.TheShow();
+  const EndSignals endSignals([&show] { EndWithoutAsking(show); });
+  const LastWords lastWords(show.frmMain, [&show] { SaveSettingsAtDeath(show); });
   if (recorded) {
     log.write("FOLDER " + QDir::currentPath().toLocal8Bit() + '\n');
     monkey.AfterEach = [&moments] { moments.Look(); };
