@@ -32,10 +32,18 @@ bool MeasurePaints();
 // lost.
 bool MeasurePresses();
 
-// Phones, the host's page and strangers at the server of the pages, beside the real windows: touches until both screens
-// are painted, pairs of presses over a poor network, sixty idle pages, and wired presses beside an attack. Takes eight
-// minutes. False when a press or a page got lost.
-bool MeasurePages();
+// How far each way's time of a press is from the press itself, as far as a machine without devices can tell: a remote's
+// report and its poll, two pads on a line of 9600 baud, a key. False when a press got lost.
+bool MeasureWays();
+
+// Phones, the host's page and strangers at the server of the pages, beside the real windows. Touches until both screens
+// are painted, on three networks (four minutes); pairs of presses over a poor one (seven, and after each 250 pairs what
+// they came to so far); sixty idle pages; and wired presses beside an attack (one each). False when a press or a page
+// got lost.
+bool MeasureTouches();
+bool MeasurePairs();
+bool MeasureIdlePages();
+bool MeasureAttack();
 
 // Fits a long question into both boxes with the desktop's own measurer, quickly and plainly.
 void MeasureFits();

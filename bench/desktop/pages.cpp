@@ -1,6 +1,7 @@
 // What phones and pages cost and how fair they are, with the real server and the real windows, over the loopback and
 // through a relay with the ways of a quiet and of a poor network.
 
+#include <array>
 #include <cmath>
 #include <cstdlib>
 #include <ctime>
@@ -15,18 +16,20 @@
 #include "show/page_state.h"
 #include "show/phase.h"
 #include "show/show.h"
+#include "show/show_record.h"
 
 namespace pawnfield {
 
 namespace {
-
-constexpr int kPairs = 1000;
 
 struct Network {
   const char* Name;
   double LeastMs, MostMs;
   int Touches;
 };
+constexpr Network kPoorNetwork{"40ms", 10, 70, 200};
+
+double MsOf(std::int64_t us) { return static_cast<double>(us) / 1000; }
 
 // The show with its pages switched on at the loopback, and callers that reach it directly or through a relay.
 class PagesShow {
@@ -71,6 +74,16 @@ class PagesShow {
   }
   const PhoneSeat& SeatOf(int player) { return TheShow().pages->Seats[player]; }
   const ClockOffset& ClockOf(int player) { return TheShow().pages->Pages.at(SeatOf(player).Page).Clock; }
+  // By how many milliseconds the second came after the first, as the order of presses has it, and the error it says.
+  std::pair<double, double> MarginOf(int first, int second) {
+    double margin = 0, error = 0;
+    for (const Press& press : TheShow().record->Presses) {
+      if (press.Player == first) margin -= MsOf(press.TimeUs);
+      if (press.Player == second) margin += MsOf(press.TimeUs);
+      error += MsOf(press.ErrorUs);
+    }
+    return {margin, error};
+  }
   std::int64_t CameUs(int player) { return came_[SeatOf(player).Page]; }
   // What a press of this player may have to wait for.
   std::int64_t LongestWaitUs(int player) {
@@ -90,8 +103,6 @@ class PagesShow {
   std::unique_ptr<PageCallers> callers_;
 };
 
-double MsOf(std::int64_t us) { return static_cast<double>(us) / 1000; }
-
 std::int64_t MicrosecondsOf(Moment moment) {
   return std::chrono::duration_cast<std::chrono::microseconds>(moment.time_since_epoch()).count();
 }
@@ -102,7 +113,7 @@ struct Touches {
 };
 
 // Three phones by turns, and a host whose page is on the loopback.
-bool MeasureTouches(PagesShow& show, const Network& network, const std::vector<int>& phones) {
+bool Touch(PagesShow& show, const Network& network, const std::vector<int>& phones) {
   const int host = show.Callers().Join({.Hello = "hello host " + show.TheShow().pages->HostPin, .From = "127.0.0.9"});
   if (!show.Hears(host, "\"t\":\"host\"")) return false;
   Touches times;
@@ -131,44 +142,45 @@ bool MeasureTouches(PagesShow& show, const Network& network, const std::vector<i
   return true;
 }
 
-// Pairs of presses of two phones, 10 to 40 ms apart, once their clocks are known by 300 exchanges.
-bool MeasurePairs(PagesShow& show, const std::vector<int>& phones) {
-  std::mt19937 chance(11);
-  std::uniform_int_distribution<std::int64_t> apart(10000, 40000);
-  int rightByTime = 0, rightByArrival = 0;
-  std::vector<double> errors;
-  for (int pair = 0; pair < kPairs; ++pair) {
-    const int first = 1 + static_cast<int>(chance() % 2), second = 3 - first;
-    const std::int64_t at = SteadyUs() + 20000;
-    show.Callers().PressAt(phones[static_cast<std::size_t>(first - 1)], at);
-    show.Callers().PressAt(phones[static_cast<std::size_t>(second - 1)], at + apart(chance));
-    PlayedShow::Stand(300);
-    if (show.Holder() == 0 || show.CameUs(first) < at || show.CameUs(second) < at) return false;
-    rightByTime += show.Holder() == first ? 1 : 0;
-    rightByArrival += show.CameUs(first) < show.CameUs(second) ? 1 : 0;
-    for (const int player : {first, second}) {
-      const int phone = phones[static_cast<std::size_t>(player - 1)];
-      const std::int64_t now = SteadyUs();
-      const double error =
-          static_cast<double>(show.ClockOf(player).ToOurs(std::llround(show.Callers().ClockOf(phone, now))) - now);
-      errors.push_back(std::abs(error) / 1000);
-    }
-    show.Played().JudgeIncorrect();
-  }
-  PrintMedian("Pages/pairs_right_by_time", {rightByTime / (kPairs / 100.0)});
-  PrintMedian("Pages/pairs_right_by_arrival", {rightByArrival / (kPairs / 100.0)});
-  PrintPercentiles("Pages/offset_error", errors);
-  return true;
-}
+// What came of the pairs so far.
+struct Pairs {
+  int Count = 0, RightByTime = 0, RightByArrival = 0, AsSaid = 0;
+  std::vector<double> Errors, Margins;
 
-bool MeasureNetwork(const Network& network, bool pairs) {
-  PagesShow show(network);
-  std::vector<int> phones;
-  for (int player = 1; player <= (pairs ? 2 : 3); ++player) phones.push_back(show.Seat(player));
-  if (std::count(phones.begin(), phones.end(), -1) > 0) return false;
-  constexpr int kExchangesMs = 62000, kFewMs = 3000;
-  PlayedShow::Stand(pairs ? kExchangesMs : kFewMs);
-  return MeasureTouches(show, network, phones) && (!pairs || MeasurePairs(show, phones));
+  void Print() const {
+    PrintMedian("Pages/pairs", {static_cast<double>(Count)});
+    PrintMedian("Pages/pairs_right_by_time", {RightByTime * 100.0 / Count});
+    PrintMedian("Pages/pairs_right_by_arrival", {RightByArrival * 100.0 / Count});
+    PrintPercentiles("Pages/offset_error", Errors);
+    PrintPercentiles("Pages/margin_error", Margins);
+    PrintMedian("Pages/margins_as_said", {AsSaid * 100.0 / Count});
+  }
+};
+
+// One of two phones presses so much before the other.
+bool PressPair(PagesShow& show, const std::array<int, kPlayers + 1>& phones, int first, std::int64_t apartUs,
+               Pairs& pairs) {
+  const int second = 3 - first;
+  const auto phone = [&phones](int player) { return phones[static_cast<std::size_t>(player)]; };
+  const std::int64_t at = SteadyUs() + 20000;
+  show.Callers().PressAt(phone(first), at);
+  show.Callers().PressAt(phone(second), at + apartUs);
+  PlayedShow::Stand(300);
+  if (show.Holder() == 0 || show.CameUs(first) < at || show.CameUs(second) < at) return false;
+  ++pairs.Count;
+  pairs.RightByTime += show.Holder() == first ? 1 : 0;
+  pairs.RightByArrival += show.CameUs(first) < show.CameUs(second) ? 1 : 0;
+  for (const int player : {first, second}) {
+    const std::int64_t now = SteadyUs(),
+                       told = show.ClockOf(player).ToOurs(std::llround(show.Callers().ClockOf(phone(player), now)));
+    pairs.Errors.push_back(std::abs(MsOf(told - now)));
+  }
+  const double truly = MsOf(show.Callers().PressedUs(phone(second)) - show.Callers().PressedUs(phone(first)));
+  const auto [margin, said] = show.MarginOf(first, second);
+  pairs.Margins.push_back(std::abs(margin - truly));
+  pairs.AsSaid += pairs.Margins.back() <= said ? 1 : 0;
+  show.Played().JudgeIncorrect();
+  return true;
 }
 
 double ProcessorSeconds() {
@@ -186,7 +198,53 @@ double IdlePercent(PagesShow& show) {
   return (ProcessorSeconds() - show.Callers().ProcessorSeconds() - before) * 100 / (kMs / 1000.0);
 }
 
-bool MeasureIdle() {
+// Wireless presses, from their report to both screens.
+bool PressRemotes(PagesShow& show, const std::string& name) {
+  constexpr int kPresses = 300;
+  std::vector<double> screens;
+  for (int i = 0; i < kPresses; ++i) {
+    PlayedShow::Stand(i * 7 % 31);
+    if (!show.Played().PressRemote(1 + i % PlayedShow::kRemotes)) return false;
+    screens.push_back(Milliseconds(show.Played().Port.HandedAt, show.Played().Port.WrittenAt));
+    show.Played().JudgeIncorrect();
+  }
+  PrintPercentiles(name, screens);
+  return true;
+}
+
+}  // namespace
+
+bool MeasureTouches() {
+  for (const Network& network : {Network{"loopback", 0, 0, 300}, Network{"5ms", 2, 8, 200}, kPoorNetwork}) {
+    PagesShow show(network);
+    std::vector<int> phones;
+    for (int player = 1; player <= kPlayers; ++player) phones.push_back(show.Seat(player));
+    if (std::count(phones.begin(), phones.end(), -1) > 0) return false;
+    // A few exchanges.
+    PlayedShow::Stand(3000);
+    if (!Touch(show, network, phones)) return false;
+  }
+  return true;
+}
+
+bool MeasurePairs() {
+  constexpr int kPairs = 1000, kPrintedAfter = 250;
+  PagesShow show(kPoorNetwork);
+  const std::array phones{-1, show.Seat(1), show.Seat(2), -1};
+  if (phones[1] < 0 || phones[2] < 0) return false;
+  // Some 300 exchanges.
+  PlayedShow::Stand(62000);
+  std::mt19937 chance(11);
+  std::uniform_int_distribution<std::int64_t> apartUs(10000, 40000);
+  Pairs pairs;
+  while (pairs.Count < kPairs) {
+    if (!PressPair(show, phones, 1 + static_cast<int>(chance() % 2), apartUs(chance), pairs)) return false;
+    if (pairs.Count % kPrintedAfter == 0) pairs.Print();
+  }
+  return true;
+}
+
+bool MeasureIdlePages() {
   constexpr int kPages = 60, kOfAddress = 8;
   PagesShow show;
   PrintMedian("Pages/idle_without_pages", {IdlePercent(show)});
@@ -208,20 +266,6 @@ bool MeasureIdle() {
   return pages.Pages.size() == kPages;
 }
 
-// Wireless presses, from their report to both screens.
-bool PressRemotes(PagesShow& show, const std::string& name) {
-  constexpr int kPresses = 300;
-  std::vector<double> screens;
-  for (int i = 0; i < kPresses; ++i) {
-    PlayedShow::Stand(i * 7 % 31);
-    if (!show.Played().PressRemote(1 + i % PlayedShow::kRemotes)) return false;
-    screens.push_back(Milliseconds(show.Played().Port.ReadAt, show.Played().Port.WrittenAt));
-    show.Played().JudgeIncorrect();
-  }
-  PrintPercentiles(name, screens);
-  return true;
-}
-
 bool MeasureAttack() {
   PagesShow show;
   // One who sits, whose clock runs wild, and who presses all the time; the operator has locked that seat.
@@ -240,18 +284,6 @@ bool MeasureAttack() {
   const bool pressed = PressRemotes(show, "Pages/wired_beside_attack");
   PrintMedian("Pages/tries_of_the_attack", {static_cast<double>(attack.Tries())});
   return pressed && attack.Tries() > 1000 && show.Callers().Connected(liar);
-}
-
-}  // namespace
-
-bool MeasurePages() {
-  bool all = true;
-  for (const Network& network :
-       {Network{"loopback", 0, 0, 300}, Network{"5ms", 2, 8, 200}, Network{"40ms", 10, 70, 200}}) {
-    all = MeasureNetwork(network, network.MostMs > 50) && all;
-  }
-  all = MeasureIdle() && all;
-  return MeasureAttack() && all;
 }
 
 }  // namespace pawnfield

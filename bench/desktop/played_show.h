@@ -13,6 +13,7 @@
 #include <string>
 
 #include "desktop/desktop_program.h"
+#include "desktop/devices/hid_reader.h"
 #include "platform/ports.h"
 
 namespace pawnfield {
@@ -21,25 +22,34 @@ using Moment = std::chrono::steady_clock::time_point;
 
 double Milliseconds(Moment from, Moment to);
 
-// A transceiver that is handed one report at a time. Its light's packet is written when all else is done.
+// A transceiver that is handed one report at a time, which the program's own thread reads from a pipe as it reads a
+// device. Its light's packet is written when all else is done.
 class HandedReports : public HidPort {
  public:
+  // Makes the pipe there.
+  explicit HandedReports(const QString& pipe);
+  ~HandedReports() override;
   std::vector<HidDevice> Enumerate() const override { return {}; }
   std::optional<int> Open(int vendor, const std::vector<int>& products) override;
   HidLengths Lengths() const override { return {33, 33}; }
   HidRead Read(std::string& report) override;
   std::size_t Write(const std::string& report) override;
-  void Close() override {}
+  std::int64_t ArrivedUs() const override { return arrivedUs_; }
+  void Close() override { reader_.reset(); }
 
   void Hand(int remote);
 
   Moment HandedAt, ReadAt, WrittenAt;
   bool Written = false;
+  std::function<void()> OnWritten;
 
  private:
-  std::string waiting_;
-  // What tells of a report on the main thread, as the reading thread's does.
+  const std::string pipe_;
+  int device_ = -1;
+  std::int64_t arrivedUs_ = 0;
+  // Takes what the reading thread posts to the main one.
   QObject home_;
+  std::unique_ptr<HidReader> reader_;
 };
 
 // When the console's indicators went out (the player is set at once after it), when the judging buttons came up (the
@@ -91,7 +101,7 @@ class PlayedShow {
   QTimer answer_;
 
  public:
-  HandedReports Port;
+  HandedReports Port{folder_.path() + "/reports"};
 
  private:
   DesktopProgram program_;
