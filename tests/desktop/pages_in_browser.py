@@ -5,6 +5,7 @@ open NAME URL WIDTH HEIGHT    a window of that size with touch, whose storage is
 pin NAME DIGITS               types the PIN and sends the form
 seat NAME N                   taps the seat
 press NAME                    touches the middle of the button
+key NAME KEY                  strikes a key, SPACE or what a clicker sends, as PAGE_DOWN
 resize NAME WIDTH HEIGHT      turns the phone, or puts the page on a larger one
 look NAME                     what the page shows, as JSON
 picture NAME FILE             saves what it shows as PNG
@@ -15,10 +16,14 @@ import sys
 from selenium import webdriver
 from selenium.webdriver.chrome.options import Options
 from selenium.webdriver.chrome.service import Service
+from selenium.webdriver.common.action_chains import ActionChains
 from selenium.webdriver.common.by import By
+from selenium.webdriver.common.keys import Keys
 
 # Windows of one browser share its storage; each is to be a phone of its own.
 OWN_STORAGE = "Object.defineProperty(window, 'localStorage', { get: () => window.sessionStorage });"
+# What makes a phone buzz is counted.
+BUZZES = "window.buzzes = 0; Object.defineProperty(navigator, 'vibrate', { value: () => ++window.buzzes > 0 });"
 LOOK = """
 const text = id => { const e = document.getElementById(id); return e ? e.textContent : ''; };
 const shown = id => { const e = document.getElementById(id); return !!e && !e.hidden; };
@@ -30,7 +35,7 @@ const cut = id => { const e = document.getElementById(id); if (!e || !e.offsetPa
 return { title: document.title, images: document.images.length, cut: ['name', 'buzzer', 'word', 'line'].filter(cut).join(),
   state: document.body.className, join: shown('join'), note: text('joinNote'), seats: shown('seats'),
   name: text('name'), word: text('word'), line: text('line'), question: text('question'), answer: text('answer'),
-  floor: text('floor'), order: text('order'), players: text('players'), winner: text('winner'),
+  floor: text('floor'), order: text('order'), players: text('players'), winner: text('winner'), buzzes: window.buzzes,
   wide: document.documentElement.scrollWidth > window.innerWidth };
 """
 
@@ -53,7 +58,7 @@ class Browser:
             self.driver.switch_to.new_window("window")
         self.windows[name] = self.driver.current_window_handle
         command = self.driver.execute_cdp_cmd
-        command("Page.addScriptToEvaluateOnNewDocument", {"source": OWN_STORAGE})
+        command("Page.addScriptToEvaluateOnNewDocument", {"source": OWN_STORAGE + BUZZES})
         self.resize(name, width, height)
         command("Emulation.setTouchEmulationEnabled", {"enabled": True})
         if url.endswith("/scores"):
@@ -83,6 +88,10 @@ class Browser:
         point = {"x": place[0], "y": place[1]}
         self.driver.execute_cdp_cmd("Input.dispatchTouchEvent", {"type": "touchStart", "touchPoints": [point]})
         self.driver.execute_cdp_cmd("Input.dispatchTouchEvent", {"type": "touchEnd", "touchPoints": []})
+
+    def key(self, name, key):
+        self.to(name)
+        ActionChains(self.driver).send_keys(getattr(Keys, key)).perform()
 
     def look(self, name):
         self.to(name)
