@@ -49,8 +49,16 @@ int OwnerOf(const Show& show, BoardSquare square) {
 // By the square's name, which ends in the row and the column.
 BoardSquare SquareNamed(const std::string& name) { return {name[name.size() - 2] - '0', name[name.size() - 1] - '0'}; }
 
-void PrepareFlip(Flip& flip, Timer& timer, Image* square) {
+std::string FaceAtRest(Show& show, BoardSquare square) {
+  const int owner = OwnerOf(show, square);
+  return (IsPlayer(owner) ? show.frmMain.FaceA(owner) : show.frmMain.imgBkgnd).Picture;
+}
+
+// A turn that is cut off, where ticks come late, leaves its square as it rests.
+void PrepareFlip(Show& show, Flip& flip, Timer& timer, Image* square) {
+  const bool turns = flip.Square != nullptr && timer.Enabled;
   StopTurning(flip, timer);
+  if (turns) flip.Square->Picture = FaceAtRest(show, SquareNamed(flip.Square->Name()));
   flip.Square = square;
   flip.RestTop = square->Top;
   flip.RestHeight = square->Height;
@@ -60,9 +68,7 @@ void PrepareFlip(Flip& flip, Timer& timer, Image* square) {
 void RestFlashingSquares(Show& show) {
   if (!show.frmMain.tmrAnswer.Enabled) return;
   for (const BoardSquare& square : show.FlashSquares) {
-    const int owner = OwnerOf(show, square);
-    const Image& face = IsPlayer(owner) ? show.frmMain.FaceA(owner) : show.frmMain.imgBkgnd;
-    SetSquarePicture(show, square.Row, square.Column, face.Picture);
+    SetSquarePicture(show, square.Row, square.Column, FaceAtRest(show, square));
   }
 }
 
@@ -72,8 +78,8 @@ void StartFlip(Show& show, int r, int c) {
   Timer& timer = show.frmMain.tmrFlipPlayerPiece;
   Timer& fsTimer = show.frmFSMain.tmrFSFlipPlayerPiece;
   if (square != nullptr) {
-    PrepareFlip(show.flip, timer, square);
-    if (show.state.DualScreen) PrepareFlip(show.fsFlip, fsTimer, show.frmFSMain.img.At(r, c));
+    PrepareFlip(show, show.flip, timer, square);
+    if (show.state.DualScreen) PrepareFlip(show, show.fsFlip, fsTimer, show.frmFSMain.img.At(r, c));
   }
   if (!constants) return;
   show.flip.Step = constants->Step;
@@ -117,9 +123,14 @@ void CloseTurnOfRingIn(Show& show) {
   TakeTurn(show);
 }
 
+// The flash of the claim may have ended meanwhile and forgotten the player.
+int PlayerOnSquare(const Show& show, const Image& square) {
+  return IsPlayer(show.state.FlipPlayer) ? show.state.FlipPlayer : OwnerOf(show, SquareNamed(square.Name()));
+}
+
 // The face of the turning piece at the edge. The O piece has no change of face.
-std::string EdgeFace(Show& show) {
-  switch (show.state.FlipPlayer) {
+std::string EdgeFace(const Show& show, int player) {
+  switch (player) {
     case 1:
       return show.frmMain.imgXb.Picture;
     case 2:
@@ -127,7 +138,7 @@ std::string EdgeFace(Show& show) {
     case 3:
       return show.frmMain.imgTb.Picture;
     default:
-      return "";
+      return show.frmMain.imgBkgnd.Picture;
   }
 }
 
@@ -143,7 +154,7 @@ bool TurnSquare(Show& show, Flip& flip) {
     return false;
   }
   if (flip.AtEdge) {
-    if (!flashes) square.Picture = EdgeFace(show);
+    if (!flashes) square.Picture = EdgeFace(show, PlayerOnSquare(show, square));
     flip.AtEdge = false;
   }
   flip.Larger = true;
@@ -152,9 +163,7 @@ bool TurnSquare(Show& show, Flip& flip) {
   if (square.Height <= flip.FullHeight) return false;
   flip.Larger = false;
   if (flashes) return true;
-  // The flash of a claim before this one may have ended meanwhile and forgotten the player.
-  const int player =
-      IsPlayer(show.state.FlipPlayer) ? show.state.FlipPlayer : OwnerOf(show, SquareNamed(square.Name()));
+  const int player = PlayerOnSquare(show, square);
   // Nobody's square rests as an empty one, which it is.
   square.Picture = (IsPlayer(player) ? show.frmMain.FaceA(player) : show.frmMain.imgBkgnd).Picture;
   return true;

@@ -204,6 +204,19 @@ TEST_F(ConsoleLooks, ATipSaysWhyAButtonCanNotBePressed) {
   QToolTip::hideText();
 }
 
+TEST_F(ConsoleLooks, NoTipWearsTheFrameOfWhatItIsAbout) {
+  form_.PlayerBox(2).Picture = "scoreboxred.bmp";
+  int styled = 0;
+  for (const QWidget* widget : program_.Console().findChildren<QWidget*>()) {
+    if (widget->styleSheet().isEmpty()) continue;
+    ++styled;
+    // What is said without a selector holds for the widget's tip too.
+    EXPECT_TRUE(widget->styleSheet().startsWith(QString(widget->metaObject()->className()).section("::", -1) + " {"))
+        << widget->objectName().toStdString() << ": " << widget->styleSheet().toStdString();
+  }
+  EXPECT_GT(styled, 0) << "the square's box wears the turn";
+}
+
 TEST_F(ConsoleLooks, F9StartsTheSecondsOnceForEachStroke) {
   int started = 0;
   form_.btnAnswerClock.OnClick = [&] { ++started; };

@@ -2,6 +2,7 @@
 #include "data/game_state.h"
 #include "forms/fs_main_form.h"
 #include "forms/main_form.h"
+#include "outward/page_views.h"
 #include "show/phase.h"
 #include "support/game_player.h"
 
@@ -62,6 +63,25 @@ TEST(AnswerClock, IsTheAnsweringPlayersAndHasHisColour) {
     player.Do("incorrect");
     EXPECT_EQ(RunningAnswerClock(player.show()), AnswerClock{});
   }
+}
+
+TEST(AnswerClock, RunsOnTheHostsPageAndTheScoresToo) {
+  GamePlayer player("Trivia C, user advances, 5 s to answer");
+  const auto clocks = [&] {
+    std::string seen;
+    for (const std::string& view : {HostView(player.show()), ScoresView(player.show())}) {
+      const std::size_t at = view.find("\"clock\":\"") + 9;
+      seen += view.substr(at, view.find('"', at) - at) + " ";
+    }
+    return seen;
+  };
+  EXPECT_EQ(clocks(), "  ");
+  player.Do("player 1 rings in, wait 3 s");
+  EXPECT_EQ(clocks(), "0:02 0:02 ");
+  player.Do("wait 2 s");
+  EXPECT_EQ(clocks(), "0:00 0:00 ");
+  player.Do("incorrect");
+  EXPECT_EQ(clocks(), "  ");
 }
 
 }  // namespace

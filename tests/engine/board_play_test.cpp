@@ -121,6 +121,28 @@ using BoardPlayStory = WordStoryTest;
 TEST_P(BoardPlayStory, GoesTickByTick) { Play(); }
 INSTANTIATE_TEST_SUITE_P(BoardPlay, BoardPlayStory, testing::ValuesIn(kBoardPlay), WordStoryTest::Name);
 
+// A busy machine serves one screen's turn and not the other's.
+TEST(BoardPlay, ATurnThatIsLateOnTheRoomsScreenShowsItsPieceAndRestsWithTheNextClaim) {
+  GamePlayer game("Challenge A, 2 players");
+  FSMainForm& room = game.fixture().audience();
+  const Image& square = *room.img.At(0, 0);
+  for (const bool atEdge : {false, true}) {
+    game.Do(atEdge ? "click B2" : "click A1");
+    const Image& turning = *room.img.At(atEdge ? 1 : 0, atEdge ? 1 : 0);
+    const std::string piece = atEdge ? "O-100" : "X-100";
+    room.tmrFSFlipPlayerPiece.Interval = 60000;
+    game.Do("wait 0.9");
+    for (int tick = 0; tick < (atEdge ? 4 : 6); ++tick) {
+      tmrFSFlipPlayerPiece_Timer(game.show());
+      EXPECT_NE(turning.Picture->find(piece), std::string::npos) << tick << ": " << turning.Picture.Get();
+    }
+    EXPECT_TRUE(room.tmrFSFlipPlayerPiece.Enabled);
+  }
+  room.tmrFSFlipPlayerPiece.Interval = 1;
+  game.Do("click C3, A1 shows X-100a, room A1 shows X-100a, B2 shows O-100a, room B2 shows O-100a, wait 0.9");
+  EXPECT_NE(square.Picture->find("X-100a"), std::string::npos);
+}
+
 // The room's label had neither place nor size before the first question in words.
 TEST(BoardPlay, AMachineThatSleptWhileAPieceTurnedShowsTheFlashAlikeOnBothScreens) {
   for (const char* turned : {"20 ms", "60 ms", "80 ms", "90 ms", "99 ms"}) {
