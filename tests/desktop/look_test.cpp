@@ -113,7 +113,9 @@ TEST(StyleSheet, EveryTextCanBeReadOnItsGround) {
   int pairs = 0;
   for (const Rule& rule : sheet.Rules()) {
     const Color text = sheet.Of(rule.selector, "color");
-    if (text < 0 || !rule.selector.part.isEmpty() && sheet.Of(rule.selector, "background") < 0) continue;
+    // A line between two groups is nothing that is read.
+    if (rule.selector.type == "QFrame" && !rule.selector.isWithin) continue;
+    if (text < 0 || (!rule.selector.part.isEmpty() && sheet.Of(rule.selector, "background") < 0)) continue;
     const double least = rule.selector.states.contains("disabled") ? kDisabledText : kText;
     for (const Color ground : Grounds(sheet, rule.selector)) {
       ++pairs;
