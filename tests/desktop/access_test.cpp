@@ -71,6 +71,28 @@ TEST_F(AccessTest, TheCanvasesTellWhatTheyShowAndOnlyTheConsoleTellsTheAnswer) {
   EXPECT_TRUE(Told(Of(program_.Console().Board())).contains("Standby"));
 }
 
+TEST_F(AccessTest, WhoBeginsToListenInAShowIsToldWhatChangesFromThen) {
+  // What was read out last.
+  const auto announced = [this] {
+    QTest::qWait(50);
+    QAccessibleInterface& board = Of(program_.Console().Board());
+    for (int i = 0; i < board.childCount(); ++i) {
+      if (board.child(i)->role() == QAccessible::Notification) return board.child(i)->text(QAccessible::Name);
+    }
+    return QString("nothing announces");
+  };
+  form_.picStandby.Visible = false;
+  ShowQuestion();
+  EXPECT_EQ(announced(), "");
+  QAccessible::setActive(true);
+  show_.lastVerdict = {1, 2, false};
+  form_.lblLineExpected.Caption = "rings in";
+  EXPECT_EQ(announced(), "Incorrect");
+  QAccessible::setActive(false);
+  form_.picStandby.Visible = true;
+  EXPECT_EQ(announced(), "Incorrect") << "nobody listens any more";
+}
+
 TEST_F(AccessTest, AToggleIsAClickAndLeavesOneOptionOfEachGroupChecked) {
   const auto expectOne = [this](auto& group, std::size_t chosen) {
     for (std::size_t i = 0; i < group.Size(); ++i) {

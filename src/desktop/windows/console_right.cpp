@@ -62,8 +62,8 @@ void AddMoves(QBoxLayout& column) {
   inside->setContentsMargins(4, 4, 4, 4);
   AddButton(*inside, {"btnContinue", 46, "Show the next question (C)", "C"});
   row = AddRow(column);
-  AddButton(*row, {"btnPlayMode", 34, "Take the standby picture away"});
-  AddButton(*row, {"btnStandbyMode", 34, "Show the standby picture"});
+  AddButton(*row, {"btnPlayMode", 34, "Take the standby picture away", "", "Show the board"});
+  AddButton(*row, {"btnStandbyMode", 34, "Show the standby picture", "", "Hide the board behind standby"});
   row = AddRow(column);
   AddButton(*row, {"btnNextPlayer", 40, "Give the turn to the next player (Ctrl+N)", "Ctrl N"});
   AddButton(*row, {"btnSkipQuestion", 40, "Go on to the next question (Ctrl+S)", "Ctrl S"});

@@ -95,27 +95,34 @@ ShowSpeaker::ShowSpeaker(Show& show, ConsoleWindow& console, AudienceWindow& aud
   }
   for (int player = 1; player <= kPlayers; ++player) form.ScoreCopy(player).AddObserver(*this);
   form.img.ForEach([this](Image& square) { square.AddObserver(*this); });
-  told_ = Now();
+  QAccessible::installActivationObserver(this);
+  accessibilityActiveChanged(QAccessible::isActive());
 }
 
 ShowSpeaker::~ShowSpeaker() {
+  QAccessible::removeActivationObserver(this);
   // Who asks later hears nothing of a show that is gone.
   soon_.stop();
 }
 
 // One event changes much; it is looked at when it is over.
 void ShowSpeaker::Changed(Control&, PropertyId) {
-  if (!soon_.isActive()) soon_.start(0);
+  if (isHeard_ && !soon_.isActive()) soon_.start(0);
+}
+
+void ShowSpeaker::accessibilityActiveChanged(bool active) {
+  isHeard_ = active;
+  active ? static_cast<void>(told_ = Now()) : soon_.stop();
 }
 
 ShowSpeaker::Told ShowSpeaker::Now() const {
   MainForm& form = show_.frmMain;
   Told now;
   now.question = QuestionTold(form);
-  if (form.picCorrect.IsShown()) now.verdict = Unescape(form.lblRightWrong.Caption);
   if (form.picWinner.IsShown()) now.winner = Unescape(form.lblWinner.Caption).replace("\r\n", " ");
   const GamePhase phase = Phase(show_);
   now.answers = phase.Kind == PhaseKind::Answering ? phase.Player : 0;
+  now.verdicts = show_.lastVerdict.Count;
   now.standby = form.picStandby.IsShown();
   now.board = show_.state.Board;
   for (int player = 1; player <= kPlayers; ++player) {
@@ -130,7 +137,8 @@ void ShowSpeaker::Announce() {
   if (now.standby != told_.standby) news += now.standby ? "Standby" : "The show is on the screen";
   if (now.question != told_.question) news += now.question;
   if (now.answers != told_.answers && now.answers != 0) news += NameOf(show_, now.answers) + " answers";
-  if (now.verdict != told_.verdict) news += now.verdict;
+  // Without animation there is no picture of it. Undo takes one away, which is no news.
+  if (now.verdicts > told_.verdicts) news += show_.lastVerdict.Correct ? "Correct!" : "Incorrect";
   for (int row = 0; row < show_.state.GridRows; ++row) {
     for (int column = 0; column < show_.state.GridCols; ++column) {
       const auto r = static_cast<std::size_t>(row), c = static_cast<std::size_t>(column);
@@ -144,7 +152,7 @@ void ShowSpeaker::Announce() {
   if (now.winner != told_.winner) news += now.winner;
   told_ = now;
   news.removeAll(QString());
-  if (news.isEmpty() || !QAccessible::isActive()) return;
+  if (news.isEmpty()) return;
   *announcement_ = news.join(". ");
   QAccessibleInterface* board = QAccessible::queryAccessibleInterface(&console_);
   QAccessibleInterface* line =
