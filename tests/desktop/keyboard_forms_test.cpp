@@ -4,17 +4,23 @@
 #include <QLineEdit>
 #include <QTabWidget>
 #include <QTest>
+#include <algorithm>
+#include <array>
 
 #include "desktop/windows/volume_slider_view.h"
 #include "forms/config_keys_form.h"
 #include "forms/connect_to_projector_form.h"
 #include "forms/editor_form.h"
 #include "forms/help_about_form.h"
+#include "forms/import_form.h"
 #include "forms/missing_media_form.h"
 #include "forms/optional_headers_form.h"
 #include "forms/options_form.h"
+#include "forms/pages_form.h"
 #include "forms/player_names_form.h"
 #include "forms/press_forms.h"
+#include "forms/results_form.h"
+#include "forms/show_check_form.h"
 #include "forms/small_forms.h"
 #include "forms/sound_effects_form.h"
 #include "places.h"
@@ -30,13 +36,16 @@ class KeyboardForms : public ProgramTest {
     EXPECT_TRUE(QTest::qWaitForWindowActive(&window, 30000)) << form.Name();
     return window;
   }
+  static constexpr std::array kActing{"QAbstractButton",   "QComboBox",      "QLineEdit", "QAbstractSlider",
+                                      "QAbstractItemView", "QPlainTextEdit", "QTextEdit"};
   // Those that act and can be seen, each option group counting as its chosen one.
   static QWidgetList Acting(QWidget& window) {
     QWidgetList acting;
     for (QWidget* widget : window.findChildren<QWidget*>()) {
-      const bool acts = widget->inherits("QAbstractButton") || widget->inherits("QComboBox") ||
-                        widget->inherits("QLineEdit") || widget->inherits("QAbstractSlider");
+      const bool acts = std::any_of(kActing.begin(), kActing.end(), [=](const char* kind) { return widget->inherits(kind); });
       const bool named = !widget->objectName().isEmpty() && !widget->objectName().startsWith("qt_");
+      // A light that only shows.
+      if (widget->testAttribute(Qt::WA_TransparentForMouseEvents)) continue;
       if (acts && named && widget->isVisible() && widget->isEnabled()) acting.append(widget);
     }
     return acting;
@@ -65,7 +74,8 @@ TEST_F(KeyboardForms, TabReachesEveryControlOfTheDialogsAndItsFocusIsSeen) {
                                                  &show_.frmGameInProgress, &show_.frmConfigKeys, &show_.frmEditor,
                                                  &show_.frmEditChoice, &show_.frmDialog2, &show_.frmSoundEffects,
                                                  &show_.frmOptionalHeaders, &show_.frmOptions, &show_.frmMapMF,
-                                                 &show_.frmSetInterface, &show_.frmConnectToProjector}) {
+                                                 &show_.frmSetInterface, &show_.frmConnectToProjector, &show_.frmPages,
+                                                 &show_.frmImport, &show_.frmResults, &show_.frmShowCheck}) {
     FormWindow& window = Open(*form);
     auto* tabs = window.findChild<QTabWidget*>();
     for (int tab = 0; tab < (tabs != nullptr ? tabs->count() : 1); ++tab) {

@@ -13,7 +13,6 @@
 namespace pawnfield {
 namespace {
 
-// Gives out cookies and counts what is held.
 // The desktop portal's: each hold is a request, which is closed.
 class Portal : public QDBusVirtualObject {
  public:
@@ -33,6 +32,7 @@ class Portal : public QDBusVirtualObject {
   int held = 0;
 };
 
+// Gives out cookies and counts what is held.
 class SaverService : public QDBusVirtualObject {
  public:
   QString introspect(const QString&) const override { return {}; }

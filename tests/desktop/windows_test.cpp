@@ -63,6 +63,15 @@ TEST(FittingScale, LowersOnlyWhatMakesTheConsoleLargerThanItsMonitor) {
   }
 }
 
+TEST(FittingScale, MonitorsAreKnownAgainOnlyWhereEachHasANameOfItsOwn) {
+  const std::pair<QStringList, bool> cases[] = {{{"eDP-1", "HDMI-A-1"}, true},
+                                                {{"eDP-1"}, true},
+                                                {{"eDP-1", "Screen1"}, false},
+                                                {{"", "HDMI-A-1"}, false},
+                                                {{"DP-1", "DP-1"}, false}};
+  for (const auto& [names, tell] : cases) EXPECT_EQ(NamesTell(names), tell) << names.join(',').toStdString();
+}
+
 TEST_F(WindowsTest, ButtonsClickTheirModelsOnlyWhenReachable) {
   int clicks = 0;
   form_.btnUndo.OnClick = [&] { ++clicks; };
