@@ -42,7 +42,8 @@ class KeyboardForms : public ProgramTest {
   static QWidgetList Acting(QWidget& window) {
     QWidgetList acting;
     for (QWidget* widget : window.findChildren<QWidget*>()) {
-      const bool acts = std::any_of(kActing.begin(), kActing.end(), [=](const char* kind) { return widget->inherits(kind); });
+      const bool acts =
+          std::any_of(kActing.begin(), kActing.end(), [=](const char* kind) { return widget->inherits(kind); });
       const bool named = !widget->objectName().isEmpty() && !widget->objectName().startsWith("qt_");
       // A light that only shows.
       if (widget->testAttribute(Qt::WA_TransparentForMouseEvents)) continue;
@@ -70,12 +71,11 @@ class KeyboardForms : public ProgramTest {
 
 TEST_F(KeyboardForms, TabReachesEveryControlOfTheDialogsAndItsFocusIsSeen) {
   show_.frmOptions.btnApply.Enabled = true;
-  for (Form* form : std::initializer_list<Form*>{&show_.frmPlayerNames, &show_.frmHelpAbout, &show_.frmGameTypeHelp,
-                                                 &show_.frmGameInProgress, &show_.frmConfigKeys, &show_.frmEditor,
-                                                 &show_.frmEditChoice, &show_.frmDialog2, &show_.frmSoundEffects,
-                                                 &show_.frmOptionalHeaders, &show_.frmOptions, &show_.frmMapMF,
-                                                 &show_.frmSetInterface, &show_.frmConnectToProjector, &show_.frmPages,
-                                                 &show_.frmImport, &show_.frmResults, &show_.frmShowCheck}) {
+  for (Form* form : std::initializer_list<Form*>{
+           &show_.frmPlayerNames, &show_.frmHelpAbout, &show_.frmGameTypeHelp, &show_.frmGameInProgress,
+           &show_.frmConfigKeys, &show_.frmEditor, &show_.frmEditChoice, &show_.frmDialog2, &show_.frmSoundEffects,
+           &show_.frmOptionalHeaders, &show_.frmOptions, &show_.frmMapMF, &show_.frmSetInterface,
+           &show_.frmConnectToProjector, &show_.frmPages, &show_.frmImport, &show_.frmResults, &show_.frmShowCheck}) {
     FormWindow& window = Open(*form);
     auto* tabs = window.findChild<QTabWidget*>();
     for (int tab = 0; tab < (tabs != nullptr ? tabs->count() : 1); ++tab) {

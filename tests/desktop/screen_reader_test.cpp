@@ -149,8 +149,7 @@ class ScreenReader : public QObject {
     const QDBusMessage answer = Call(registry, "org.a11y.atspi.Registry", "RegisterEvent",
                                      {QString("object:state-changed:showing"), QStringList(), QString()});
     return answer.type() == QDBusMessage::ReplyMessage &&
-           Bus().connect({}, {}, "org.a11y.atspi.Event.Object", "StateChanged", this,
-                         SLOT(StateChanged(QDBusMessage)));
+           Bus().connect({}, {}, "org.a11y.atspi.Event.Object", "StateChanged", this, SLOT(StateChanged(QDBusMessage)));
   }
   static QDBusConnection Bus() { return QDBusConnection("reader"); }
   static QDBusMessage Call(const Node& node, const QString& interface, const QString& method,

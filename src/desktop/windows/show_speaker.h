@@ -1,6 +1,6 @@
 // Tells assistive devices what the two canvases show, and announces what changes in a show: a question, who rings in,
-// the verdict, a claim, the scores, standby. The answer is told on the console and nowhere else. While no assistive device
-// listens a change costs nothing.
+// the verdict, a claim, the scores, standby. The answer is told on the console and nowhere else. While no assistive
+// device listens a change costs nothing.
 #pragma once
 
 #include <QAccessible>
