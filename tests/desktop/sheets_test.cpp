@@ -1,21 +1,47 @@
 // Sheets of spreadsheet programs and packed sets as files of the disk: what is read of them, and what is refused.
 
+#include <dlfcn.h>
+#include <sys/wait.h>
+#include <unistd.h>
 #include <zip.h>
 
+#include <QCoreApplication>
 #include <QProcess>
 #include <filesystem>
 
+#include "desktop/files/bundle_file.h"
 #include "desktop/files/bundle_rules.h"
 #include "desktop/files/sheet_reader.h"
 #include "desktop/files/sheet_xml.h"
+#include "desktop/files/whole_file.h"
 #include "desktop/files/windows_1252.h"
 #include "desktop/system/zip_bundles.h"
 #include "places.h"
 #include "platform/escapes.h"
 #include "sets/question_import.h"
 
+namespace {
+// The files that were brought to the disk, by the names that they had then.
+std::vector<std::string> synced;
+}  // namespace
+
+extern "C" int fsync(int file) {
+  using Real = int (*)(int);
+  static const auto real = reinterpret_cast<Real>(dlsym(RTLD_NEXT, "fsync"));
+  synced.push_back(QFile::symLinkTarget("/proc/self/fd/" + QString::number(file)).toStdString());
+  return real(file);
+}
+
 namespace pawnfield {
 namespace {
+
+bool Goes(double) { return true; }
+
+void WriteZipFile(const QString& path, const std::vector<ZipContent>& contents) {
+  std::FILE* file = std::fopen(QFile::encodeName(path), "wb");
+  WriteZip(file, contents, Goes);
+  std::fclose(file);
+}
 
 // Writes a table of UTF-8 as files of other kinds, each by the library that its own programs use.
 constexpr const char* kWriter = R"(
@@ -149,7 +175,7 @@ TEST_F(SheetsTest, BombsAndWhatIsNoSheetAreRefused) {
   EXPECT_EQ(Refusal([] { ParseWorksheet("<worksheet><row>", {}); }), "It is broken");
   // 80 MB of blanks in some kilobytes.
   const QString bomb = Native("bomb.xlsx");
-  WriteZip(bomb.toStdString(), {{"content.xml", "", std::string(80U << 20U, ' ')}}, [](double) { return true; });
+  WriteZipFile(bomb, {{"content.xml", "", std::string(80U << 20U, ' ')}});
   EXPECT_EQ(Refusal([&] { Read(bomb); }), "\"content.xml\" is too large");
   Make("film.xlsx", QByteArray("PK\x03\x04 and no more", 16));
   EXPECT_EQ(Refusal([&] { Read(Native("film.xlsx")); }), "It is no zip file, or a broken one");
@@ -164,8 +190,7 @@ class BundleTest : public SheetsTest {
   std::string Path(const char* name = "quiz.pawnset") const { return Spelled(std::string("\\") + name); }
   QString Write(const std::vector<ZipContent>& contents) {
     const QString path = Native("quiz.pawnset");
-    QFile::remove(path);
-    WriteZip(path.toStdString(), contents, [](double) { return true; });
+    WriteZipFile(path, contents);
     return path;
   }
   // All files below the test's folder, sorted.
@@ -196,6 +221,40 @@ TEST_F(BundleTest, WhatIsPackedIsUnpackedWithNamesOfAnyAlphabet) {
   EXPECT_EQ(Refusal([&] { bundles.Pack(Path("none\\b.pawnset"), "Quiz", kSet, {}); }),
             "The folder can't be written to");
   EXPECT_EQ(Tree().find(".part"), std::string::npos);
+}
+
+// A cut of the power after the new name is there finds the bytes there too.
+TEST_F(BundleTest, AllOfABundleIsOnTheDiskBeforeItHasItsName) {
+  const PackedFile dog{SpelledPath(Make("dog.jpg", QByteArray(300000, 'd'))), "Dog.jpg"};
+  const auto hasSynced = [](const std::string& beginning, const std::string& ending) {
+    return std::any_of(synced.begin(), synced.end(), [&](const std::string& name) {
+      return name.find(beginning) != std::string::npos && name.ends_with(ending);
+    });
+  };
+  synced.clear();
+  ASSERT_TRUE(ZipBundles().Pack(Path(), "Quiz", kSet, {dog}));
+  EXPECT_TRUE(hasSynced("/.quiz.pawnset.", ".part"));
+  ASSERT_TRUE(ZipBundles().Unpack(Path(), Spelled("\\Media\\Quiz")));
+  EXPECT_TRUE(hasSynced("/.pawnset-", "/Dog.jpg"));
+}
+
+TEST_F(BundleTest, WhatIsStoppedLeavesTheOldOneAndADeadProcessLeavesNothing) {
+  const QString bundle = Make("quiz.pawnset", "old"), dog = Make("dog.jpg", QByteArray(300000, 'd'));
+  const PackedFile medium{SpelledPath(dog), "Dog.jpg"};
+  const auto stops = [](double) { return false; };
+  EXPECT_FALSE(WriteBundle(bundle, "Quiz", kSet, {medium}, stops));
+  EXPECT_EQ(ReadFile(bundle), "old");
+  ASSERT_TRUE(WriteBundle(bundle, "Quiz", kSet, {medium}, Goes));
+  EXPECT_FALSE(UnpackBundle(bundle, Native("Media/Quiz"), stops));
+  EXPECT_EQ(Tree(), "Media|dog.jpg|quiz.pawnset|");
+  const pid_t dead = fork();
+  if (dead == 0) _exit(0);
+  waitpid(dead, nullptr, 0);
+  const QString aside = Native("Media/.pawnset-"), own = QString::number(QCoreApplication::applicationPid());
+  for (const QString& owner : {QString::number(dead), own}) QDir().mkpath(aside + owner + "-abcdef/half");
+  ASSERT_TRUE(UnpackBundle(bundle, Native("Media/Quiz"), Goes));
+  EXPECT_EQ(QDir(Native("Media")).entryList(QDir::Dirs | QDir::Hidden | QDir::NoDotAndDotDot),
+            QStringList({".pawnset-" + own + "-abcdef", "Quiz"}));
 }
 
 TEST_F(BundleTest, WhatNoBundleShouldHoldIsRefusedAndNothingIsWritten) {

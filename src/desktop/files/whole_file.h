@@ -2,6 +2,8 @@
 #pragma once
 
 #include <QString>
+#include <cstdio>
+#include <functional>
 #include <string_view>
 
 #include "platform/ports.h"
@@ -24,5 +26,14 @@ void MakeFolder(const QString& path);
 // the old file is there unharmed and nothing beside it. What a process left that was killed amid a write goes with the
 // next write of the same file. Where another file is named, that one gives owner, group and rights.
 void ReplaceFile(const QString& path, std::string_view bytes, const QString& like = {});
+// The same for bytes that come piece by piece: the routine puts them into the file that it is given, and says whether
+// they are wanted. False when they aren't; the old file is there then.
+bool ReplaceFileBy(const QString& path, const std::function<bool(std::FILE* file)>& write);
+// Returns when the file's bytes are on the disk. A RuntimeError where the disk can't take them.
+void KeepOnDisk(const QString& path);
+// The same for the names in a folder; a disk that can't sync a folder keeps them in its own time.
+void SyncFolder(const QString& path);
+// No process of that number runs.
+bool HasEnded(qint64 process);
 
 }  // namespace pawnfield

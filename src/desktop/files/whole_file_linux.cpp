@@ -62,6 +62,9 @@ RuntimeError ReadError(const QString& path) {
 
 [[noreturn]] void Fail() { throw FileError(errno); }
 
+// A disk that can't be told to keep its bytes keeps them in its own time.
+bool Sync(int file) { return fsync(file) == 0 || errno == EINVAL || errno == ENOSYS || errno == ENOTSUP; }
+
 // The new bytes on their way: a hidden file beside the target, which goes with the object unless it has been moved.
 class Part {
  public:
@@ -93,10 +96,23 @@ class Part {
     }
   }
 
+  bool WriteBy(const std::function<bool(std::FILE*)>& write) {
+    std::FILE* stream = fdopen(fcntl(file_, F_DUPFD_CLOEXEC, 0), "w");
+    if (stream == nullptr) Fail();
+    bool wanted = false;
+    try {
+      wanted = write(stream);
+    } catch (...) {
+      std::fclose(stream);
+      throw;
+    }
+    if (std::fclose(stream) != 0 && wanted) Fail();
+    return wanted;
+  }
+
   // A disk across a network may report only now, or at the close, that it is full.
   void Finish() {
-    const bool cannotSync = fsync(file_) != 0 && errno != EINVAL && errno != ENOSYS && errno != ENOTSUP;
-    if (cannotSync) Fail();
+    if (!Sync(file_)) Fail();
     if (close(std::exchange(file_, -1)) != 0) Fail();
   }
 
@@ -130,8 +146,8 @@ void RemoveParts(const QFileInfo& target) {
   const QString beginning = PartBeginning(target);
   for (const QString& name : QDir(target.absolutePath()).entryList(QDir::Files | QDir::Hidden)) {
     if (!name.startsWith(beginning) || !name.endsWith(kPartEnding)) continue;
-    const pid_t owner = name.mid(beginning.size()).chopped(static_cast<qsizetype>(qstrlen(kPartEnding))).toInt();
-    if (owner > 0 && kill(owner, 0) != 0 && errno == ESRCH) QFile::remove(target.absolutePath() + '/' + name);
+    const QString owner = name.mid(beginning.size()).chopped(static_cast<qsizetype>(qstrlen(kPartEnding)));
+    if (HasEnded(owner.toLongLong())) QFile::remove(target.absolutePath() + '/' + name);
   }
 }
 
@@ -146,12 +162,25 @@ QFileInfo Target(const QString& path) {
   return target;
 }
 
-// The new name is in place by now; a disk that can't sync a folder keeps it in its own time.
-void SyncFolder(const QString& path) {
-  const int folder = open(QFile::encodeName(path).constData(), O_RDONLY | O_DIRECTORY | O_CLOEXEC);
-  if (folder < 0) return;
-  fsync(folder);
-  close(folder);
+bool Replace(const QString& path, const QString& like, const std::function<bool(Part&)>& write) {
+  const QFileInfo target = Target(path);
+  const QByteArray name = QFile::encodeName(target.absoluteFilePath());
+  struct stat old {};
+  const bool exists = stat(name.constData(), &old) == 0;
+  if (exists && !S_ISREG(old.st_mode)) throw FileError(EISDIR);
+  if (exists && access(name.constData(), W_OK) != 0) Fail();
+  if (!like.isEmpty() && stat(QFile::encodeName(like).constData(), &old) != 0) Fail();
+  const bool hasModel = exists || !like.isEmpty();
+  RemoveParts(target);
+  // Nobody reads the part who may not read the file.
+  Part part(target.absolutePath() + '/' + PartBeginning(target) + QString::number(getpid()) + kPartEnding,
+            hasModel ? 0600 : 0666);
+  if (hasModel) part.TakeAfter(old);
+  if (!write(part)) return false;
+  part.Finish();
+  part.MoveTo(name);
+  SyncFolder(target.absolutePath());
+  return true;
 }
 
 }  // namespace
@@ -173,24 +202,33 @@ void MakeFolder(const QString& path) {
   if (mkdir(QFile::encodeName(path).constData(), 0777) != 0) Fail();
 }
 
+void KeepOnDisk(const QString& path) {
+  const int file = open(QFile::encodeName(path).constData(), O_RDONLY | O_CLOEXEC);
+  if (file < 0) Fail();
+  const bool kept = Sync(file);
+  const int error = errno;
+  close(file);
+  if (!kept) throw FileError(error);
+}
+
+void SyncFolder(const QString& path) {
+  const int folder = open(QFile::encodeName(path).constData(), O_RDONLY | O_DIRECTORY | O_CLOEXEC);
+  if (folder < 0) return;
+  fsync(folder);
+  close(folder);
+}
+
+bool HasEnded(qint64 process) { return process > 0 && kill(static_cast<pid_t>(process), 0) != 0 && errno == ESRCH; }
+
 void ReplaceFile(const QString& path, std::string_view bytes, const QString& like) {
-  const QFileInfo target = Target(path);
-  const QByteArray name = QFile::encodeName(target.absoluteFilePath());
-  struct stat old {};
-  const bool exists = stat(name.constData(), &old) == 0;
-  if (exists && !S_ISREG(old.st_mode)) throw FileError(EISDIR);
-  if (exists && access(name.constData(), W_OK) != 0) Fail();
-  if (!like.isEmpty() && stat(QFile::encodeName(like).constData(), &old) != 0) Fail();
-  const bool hasModel = exists || !like.isEmpty();
-  RemoveParts(target);
-  // Nobody reads the part who may not read the file.
-  Part part(target.absolutePath() + '/' + PartBeginning(target) + QString::number(getpid()) + kPartEnding,
-            hasModel ? 0600 : 0666);
-  if (hasModel) part.TakeAfter(old);
-  part.Write(bytes);
-  part.Finish();
-  part.MoveTo(name);
-  SyncFolder(target.absolutePath());
+  Replace(path, like, [bytes](Part& part) {
+    part.Write(bytes);
+    return true;
+  });
+}
+
+bool ReplaceFileBy(const QString& path, const std::function<bool(std::FILE*)>& write) {
+  return Replace(path, {}, [&write](Part& part) { return part.WriteBy(write); });
 }
 
 }  // namespace pawnfield

@@ -3,6 +3,7 @@
 #include <zip.h>
 
 #include <array>
+#include <cerrno>
 #include <utility>
 
 #include "platform/ports.h"
@@ -56,6 +57,62 @@ void Add(zip* archive, const ZipContent& content) {
   }
   // Pictures and sounds are pressed together already.
   if (isFile) zip_set_file_compression(archive, static_cast<zip_uint64_t>(index), ZIP_CM_STORE, 0);
+}
+
+// The file that a zip is written into, for the library that asks for each step.
+struct Target {
+  std::FILE* File;
+  zip_error_t Error;
+};
+
+zip_int64_t Failed(Target& target, int code, int systemError) {
+  zip_error_set(&target.Error, code, systemError);
+  return -1;
+}
+
+zip_int64_t Seek(Target& target, void* data, zip_uint64_t length) {
+  const auto* to = ZIP_SOURCE_GET_ARGS(zip_source_args_seek_t, data, length, &target.Error);
+  if (to == nullptr) return -1;
+  return std::fseek(target.File, static_cast<long>(to->offset), to->whence) == 0 ? 0
+                                                                                 : Failed(target, ZIP_ER_SEEK, errno);
+}
+
+zip_int64_t Stat(void* data) {
+  zip_stat_t& facts = *static_cast<zip_stat_t*>(data);
+  zip_stat_init(&facts);
+  facts.valid = ZIP_STAT_SIZE;
+  facts.size = 0;
+  return sizeof facts;
+}
+
+zip_int64_t Serve(void* state, void* data, zip_uint64_t length, zip_source_cmd_t command) {
+  auto& target = *static_cast<Target*>(state);
+  switch (command) {
+    case ZIP_SOURCE_SUPPORTS:
+      return ZIP_SOURCE_SUPPORTS_WRITABLE;
+    case ZIP_SOURCE_STAT:
+      return Stat(data);
+    case ZIP_SOURCE_ERROR:
+      return zip_error_to_data(&target.Error, data, length);
+    case ZIP_SOURCE_WRITE:
+      return std::fwrite(data, 1, length, target.File) == length ? static_cast<zip_int64_t>(length)
+                                                                 : Failed(target, ZIP_ER_WRITE, errno);
+    case ZIP_SOURCE_SEEK_WRITE:
+      return Seek(target, data, length);
+    case ZIP_SOURCE_TELL_WRITE:
+      return std::ftell(target.File);
+    case ZIP_SOURCE_COMMIT_WRITE:
+      return std::fflush(target.File) == 0 ? 0 : Failed(target, ZIP_ER_WRITE, errno);
+    default:
+      // Nothing is read from it, and whoever opened the file closes or removes it.
+      return 0;
+  }
+}
+
+[[noreturn]] void FailToWrite(zip_error_t& error) {
+  const int number = zip_error_system_type(&error) == ZIP_ET_SYS ? zip_error_code_system(&error) : 0;
+  if (number == ENOSPC || number == EDQUOT) throw RuntimeError(kErrorDiskFull, "Disk full");
+  throw RuntimeError(kErrorDeviceIo, zip_error_strerror(&error));
 }
 
 }  // namespace
@@ -118,11 +175,15 @@ std::string ZipReader::Read(std::size_t entry, std::uint64_t limit) const {
   return bytes;
 }
 
-bool WriteZip(const std::string& path, const std::vector<ZipContent>& contents,
-              const std::function<bool(double)>& progress) {
-  int error = 0;
-  zip* archive = zip_open(path.c_str(), ZIP_CREATE | ZIP_TRUNCATE, &error);
-  if (archive == nullptr) throw RuntimeError(kErrorPathAccess, "The folder can't be written to");
+bool WriteZip(std::FILE* file, const std::vector<ZipContent>& contents, const std::function<bool(double)>& progress) {
+  Target target{file, {}};
+  zip_error_t error;
+  zip_error_init(&error);
+  zip_source_t* source = zip_source_function_create(Serve, &target, &error);
+  zip* archive = source == nullptr ? nullptr : zip_open_from_source(source, ZIP_CREATE | ZIP_TRUNCATE, &error);
+  if (archive == nullptr && source != nullptr) zip_source_free(source);
+  const std::unique_ptr<zip_error_t, void (*)(zip_error_t*)> ended(&error, zip_error_fini);
+  if (archive == nullptr) FailToWrite(error);
   Progress state{progress};
   try {
     for (const ZipContent& content : contents) Add(archive, content);
@@ -133,10 +194,11 @@ bool WriteZip(const std::string& path, const std::vector<ZipContent>& contents,
   zip_register_progress_callback_with_state(archive, 0.01, Tell, nullptr, &state);
   zip_register_cancel_callback_with_state(archive, IsStopped, nullptr, &state);
   if (zip_close(archive) == 0) return true;
-  const std::string words = zip_error_strerror(zip_get_error(archive));
+  const zip_error_t* why = zip_get_error(archive);
+  zip_error_set(&error, zip_error_code_zip(why), zip_error_code_system(why));
   zip_discard(archive);
   if (state.Stopped) return false;
-  throw RuntimeError(kErrorDeviceIo, words);
+  FailToWrite(error);
 }
 
 }  // namespace pawnfield

@@ -2,6 +2,7 @@
 #pragma once
 
 #include <cstdint>
+#include <cstdio>
 #include <functional>
 #include <memory>
 #include <string>
@@ -52,9 +53,9 @@ struct ZipContent {
   std::string Bytes;
 };
 
-// Writes the file anew. `progress` is told the done share of 1 and says whether to go on; false when it didn't, and the
-// file is not there then.
-bool WriteZip(const std::string& path, const std::vector<ZipContent>& contents,
+// Writes the zip into the file, which is open and empty. `progress` is told the done share of 1 and says whether to go
+// on; false when it didn't, and what the file holds is worth nothing then, nor after a RuntimeError.
+bool WriteZip(std::FILE* file, const std::vector<ZipContent>& contents,
               const std::function<bool(double done)>& progress);
 
 }  // namespace pawnfield
