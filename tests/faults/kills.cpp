@@ -3,7 +3,9 @@
 #include <sys/wait.h>
 #include <unistd.h>
 
+#include <QDir>
 #include <QElapsedTimer>
+#include <QFile>
 #include <QTemporaryDir>
 #include <algorithm>
 #include <atomic>
@@ -11,8 +13,10 @@
 #include <cstdio>
 #include <random>
 
+#include "desktop/files/native_path.h"
 #include "desktop/system/desktop_processes.h"
 #include "modes.h"
+#include "sets/set_bundles.h"
 #include "writers.h"
 
 namespace pawnfield::faults {
@@ -135,6 +139,66 @@ int KillMark(const QString& root, int kills) {
   return wrong;
 }
 
+// A bundle of a set and its pictures, each of one byte over and over.
+std::string MakeBundle(Rig& rig, int pictures) {
+  const std::string path = SpelledPath(rig.places.Root + "/Quiz.pawnset");
+  std::string set;
+  std::vector<PackedFile> media;
+  for (int i = 1; i <= pictures; ++i) {
+    const QString name = QString("picture %1.jpg").arg(i);
+    QFile file(rig.places.Root + '/' + name);
+    if (file.open(QFile::WriteOnly)) file.write(QByteArray(30000 * i, static_cast<char>('a' + i)));
+    set += name.toStdString() + "\r\nA\r\nP\r\n";
+    media.push_back({SpelledPath(rig.places.Root + '/' + name), name.toStdString()});
+  }
+  rig.bundles.Pack(path, "Quiz", set, media);
+  return path;
+}
+
+// Whether each folder of media is whole, and each set has one. Takes them all away, for the next look.
+bool AllAreWhole(const QString& sets, int pictures) {
+  bool whole = true;
+  for (const QString& name : QDir(sets).entryList({"Quiz*.txt"}, QDir::Files)) {
+    whole = whole && QDir(sets + "/Media/" + name.chopped(4)).exists();
+    QFile::remove(sets + '/' + name);
+  }
+  for (const QString& name : QDir(sets + "/Media").entryList(QDir::Dirs | QDir::NoDotAndDotDot)) {
+    QDir folder(sets + "/Media/" + name);
+    for (int i = 1; i <= pictures; ++i) {
+      QFile file(folder.filePath(QString("picture %1.jpg").arg(i)));
+      whole =
+          whole && file.open(QFile::ReadOnly) && file.readAll() == QByteArray(30000 * i, static_cast<char>('a' + i));
+    }
+    folder.removeRecursively();
+  }
+  return whole;
+}
+
+// The opening of a bundle: a set is there with all its media or not at all, and what was cut off goes with the next.
+int KillUnpacking(const QString& root, int kills) {
+  constexpr int kPictures = 6;
+  constexpr useconds_t kLongest = 30000;
+  Rig rig(root);
+  rig.places.MakeFolders();
+  const std::string bundle = MakeBundle(rig, kPictures);
+  const QString sets = rig.places.App() + "/Trivia Sets";
+  std::mt19937 chance(3);
+  int torn = 0;
+  qsizetype most = 0;
+  for (int i = 0; i < kills; ++i) {
+    KillAmid([&] { OfferBundle(rig.show, bundle); }, chance, kLongest);
+    most = std::max(most, QDir(sets + "/Media").entryList({".pawnset-*"}, QDir::Dirs | QDir::Hidden).size());
+    if (!AllAreWhole(sets, kPictures)) ++torn;
+  }
+  OfferBundle(rig.show, bundle);
+  const auto stays = Strays(sets + "/Media", {}).size() - kPictures;
+  if (!AllAreWhole(sets, kPictures)) ++torn;
+  std::printf("%-24s %6d: %d not whole, %lld half ones at once, %lld files stay\n", "bundle, opened", kills, torn, most,
+              stays);
+  for (const std::string& text : rig.dialogs.Messages) std::printf("  told: %s\n", text.c_str());
+  return torn + static_cast<int>(stays + (most > 1 ? most : 0)) + static_cast<int>(rig.dialogs.Messages.size());
+}
+
 }  // namespace
 
 int RunKills(const QString& root, int kills) {
@@ -146,7 +210,7 @@ int RunKills(const QString& root, int kills) {
   for (const Writer& writer : AllWriters()) {
     faults += KillWriter(writer, root + '/' + QString::fromStdString(writer.Kind), kills, *progress);
   }
-  return faults + KillMark(root, kills);
+  return faults + KillMark(root, kills) + KillUnpacking(root + "/bundle", kills);
 }
 
 }  // namespace pawnfield::faults

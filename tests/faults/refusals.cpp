@@ -113,6 +113,10 @@ class Trial {
   }
 
   bool Fits(const std::string& text) const {
+    if (!writer_.Refusal.empty()) {
+      const bool hasReason = number_ != kErrorDiskFull || text.find("Disk full") != std::string::npos;
+      return hasReason && text.find(writer_.Refusal) != std::string::npos;
+    }
     if (number_ == kErrorPathAccess && !writer_.NoAccessText.empty()) {
       return text.find(writer_.NoAccessText) != std::string::npos;
     }

@@ -5,6 +5,8 @@
 #include <QPrinter>
 #include <optional>
 
+#include "desktop/files/bundle_file.h"
+#include "desktop/files/bundle_rules.h"
 #include "desktop/files/native_path.h"
 #include "desktop/files/whole_file.h"
 #include "desktop/system/qt_printing.h"
@@ -15,6 +17,8 @@
 namespace pawnfield::faults {
 
 namespace {
+
+bool Goes(double) { return true; }
 
 Folders FoldersOf(const Places& places) { return {SpelledPath(places.App()), SpelledPath(places.Data())}; }
 
@@ -33,6 +37,19 @@ void FilePrinting::Print(const PrintDocument& document, int copies) {
   PrintOn(printer, document, copies);
 }
 
+bool PlainBundles::Pack(const std::string& path, const std::string& setName, const std::string& setBytes,
+                        const std::vector<PackedFile>& media) {
+  return WriteBundle(NativePath(path), setName, setBytes, media, Goes);
+}
+
+BundleContents PlainBundles::Look(const std::string& path) const {
+  return LookInto(ZipReader::OfFile(NativePath(path).toStdString()));
+}
+
+bool PlainBundles::Unpack(const std::string& path, const std::string& folder) {
+  return UnpackBundle(NativePath(path), NativePath(folder), Goes);
+}
+
 void Places::MakeFolders() const {
   for (const QString& folder : {App() + "/Trivia Sets", App() + "/Sounds", Data(), Config(), Runtime(), Copy()}) {
     QDir().mkpath(folder);
@@ -44,9 +61,9 @@ Rig::Rig(const QString& root)
     : places(root),
       settings(places.Config()),
       records(places.Data() + "/Pawnfield/Shows"),
-      platform{sim.clock,        dialogs,      sim.media.Channels(), settings,   files,      sim.text,    pictures,
-               mediaFiles,       sim.displays, sim.processes,        sim.random, sim.hid,    sim.devices, printing,
-               sim.pages,        sim.serial,   sim.network,          records,    sim.sheets, sim.bundles, sim.spelling,
+      platform{sim.clock,        dialogs,      sim.media.Channels(), settings,   files,   sim.text,    pictures,
+               mediaFiles,       sim.displays, sim.processes,        sim.random, sim.hid, sim.devices, printing,
+               sim.pages,        sim.serial,   sim.network,          records,    sheets,  bundles,     sim.spelling,
                FoldersOf(places)},
       show(platform) {
   AttachHandlers(show);

@@ -7,6 +7,7 @@
 #include "desktop/files/qt_file_system.h"
 #include "desktop/files/qt_settings_store.h"
 #include "desktop/files/record_writer.h"
+#include "desktop/files/sheet_reader.h"
 #include "desktop/media/media_files.h"
 #include "desktop/painting/picture_cache.h"
 #include "show/show.h"
@@ -37,6 +38,15 @@ class FilePrinting : public Printing {
   QString File;
 };
 
+// Packs and unpacks without a bar beside it.
+class PlainBundles : public Bundles {
+ public:
+  bool Pack(const std::string& path, const std::string& setName, const std::string& setBytes,
+            const std::vector<PackedFile>& media) override;
+  BundleContents Look(const std::string& path) const override;
+  bool Unpack(const std::string& path, const std::string& folder) override;
+};
+
 // Where things lie below the folder; MakeFolders makes these.
 struct Places {
   explicit Places(QString root) : Root(std::move(root)) {}
@@ -64,6 +74,8 @@ struct Rig {
   MediaFiles mediaFiles;
   FilePrinting printing;
   RecordWriter records;
+  SheetReader sheets;
+  PlainBundles bundles;
   Platform platform;
   Show show;
 };

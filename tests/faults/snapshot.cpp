@@ -4,6 +4,9 @@
 #include <QDirIterator>
 #include <QFile>
 
+#include "desktop/files/zip_file.h"
+#include "platform/ports.h"
+
 namespace pawnfield::faults {
 
 namespace {
@@ -15,6 +18,19 @@ bool IsWholePage(const QByteArray& bytes) {
   const auto from = place + mark.size();
   const auto table = bytes.mid(from, bytes.indexOf('\n', from) - from).toLongLong();
   return bytes.mid(table, 4) == "xref";
+}
+
+// The files in a snapshot's one bundle, none where there is no bundle; a RuntimeError for a broken one.
+Snapshot Packed(const Snapshot& bundle) {
+  constexpr std::uint64_t kLimit = 64U << 20U;
+  Snapshot files;
+  if (bundle.isEmpty()) return files;
+  const QByteArray& bytes = bundle.first();
+  const ZipReader zip = ZipReader::OfBytes({bytes.constData(), static_cast<std::size_t>(bytes.size())});
+  for (std::size_t i = 0; i < zip.Entries().size(); ++i) {
+    files[QString::fromStdString(zip.Entries()[i].Name)] = QByteArray::fromStdString(zip.Read(i, kLimit));
+  }
+  return files;
 }
 
 }  // namespace
@@ -65,6 +81,16 @@ Verdict JudgeSet(const Snapshot& now, const Snapshot& before, const Snapshot& af
   }
   const bool known = before.isEmpty() || kept[0].isEmpty() || kept[0] == kept[1] || sets[1].values().contains(kept[0]);
   return known ? JudgeFiles(sets[0], sets[1], sets[2]) : Verdict::Torn;
+}
+
+Verdict JudgeBundle(const Snapshot& now, const Snapshot& before, const Snapshot& after) {
+  try {
+    const Snapshot files = Packed(now);
+    if (files == Packed(after)) return Verdict::New;
+    return files == Packed(before) ? Verdict::Old : Verdict::Torn;
+  } catch (const RuntimeError&) {
+    return Verdict::Torn;
+  }
 }
 
 Verdict JudgePages(const Snapshot& now, const Snapshot& before, const Snapshot& after) {

@@ -24,6 +24,8 @@ Verdict JudgeFiles(const Snapshot& now, const Snapshot& before, const Snapshot& 
 Verdict JudgeCopy(const Snapshot& now, const Snapshot& before, const Snapshot& after);
 // The set is the old one or the new one, and beside it lies what it replaced, or still what the old one replaced.
 Verdict JudgeSet(const Snapshot& now, const Snapshot& before, const Snapshot& after);
+// A bundle carries its own time too, and is judged by what is in it.
+Verdict JudgeBundle(const Snapshot& now, const Snapshot& before, const Snapshot& after);
 // A page carries its own time, so that it is judged by its frame: head, table of places and end.
 Verdict JudgePages(const Snapshot& now, const Snapshot& before, const Snapshot& after);
 

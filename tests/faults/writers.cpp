@@ -67,6 +67,26 @@ void RepairSet(Rig& rig, int variant) {
   Press(rig.show.frmDialog2, rig.show.frmDialog2.btnFinished);
 }
 
+void ExportSet(Rig& rig, int variant) {
+  FillSet(rig.show.EditSet, variant);
+  rig.dialogs.Chosen = Spelled(rig.places.Data() + "/Questions.csv");
+  Press(rig.show.frmEditor, rig.show.frmEditor.mnuExport);
+}
+
+// With one of the pictures that are shipped, each time another.
+void PackSet(Rig& rig, int variant) {
+  constexpr const char* kPictures[] = {"Correct.jpg", "Cover.jpg", "FiveLeft.jpg"};
+  FillSet(rig.show.EditSet, variant);
+  TriviaQuestion& picture = rig.show.EditSet[0];
+  picture.QuestionType = "P";
+  picture.QuestionText = Spelled(QString(PAWNFIELD_IMAGES_DIR "/") + kPictures[variant % std::size(kPictures)]);
+  rig.dialogs.Chosen = Spelled(rig.places.Data() + "/Packed.pawnset");
+  Press(rig.show.frmEditor, rig.show.frmEditor.mnuPackSet);
+  // That it worked is no refusal.
+  std::erase_if(rig.dialogs.Messages,
+                [](const std::string& text) { return text.find("holds the set and") != std::string::npos; });
+}
+
 void PrintSet(Rig& rig, int variant) {
   FillSet(rig.show.EditSet, variant);
   rig.show.NumEditQuestions = QuestionsOf(variant);
@@ -210,6 +230,8 @@ std::vector<Writer> AllWriters() {
        "",
        JudgeSet},
       {"set, printed to a file", "data", {"Printed.pdf"}, PrintSet, "mnuFilePrint", "", JudgePages},
+      {"set, exported", "data", {"Questions.csv"}, ExportSet, "", "", JudgeFiles, false, "was not written"},
+      {"set, packed", "data", {"Packed.pawnset"}, PackSet, "", "", JudgeBundle, false, "was not packed"},
       {"sounds", "data", {"Sounds.dat"}, SaveSounds, "Form_Unload"},
       {"sounds, exported", "data", {"Exported.dat"}, ExportSounds, "btnExportSoundFiles"},
       {"headers", "data", {"Headers.txt"}, SaveHeaders, "SaveToOSKD"},

@@ -24,6 +24,8 @@ struct Writer {
   Judge JudgedBy = JudgeFiles;
   // A folder that has gone is made again, so that this is no refusal.
   bool RemakesFolder = false;
+  // What a refusal says in words of its own, with the reason instead of a number; empty for the usual box.
+  std::string Refusal{};
 };
 
 inline constexpr int kVariants = 16;
