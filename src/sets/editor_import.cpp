@@ -11,6 +11,7 @@
 #include "sets/editor.h"
 #include "sets/editor_history.h"
 #include "sets/file_dialogs.h"
+#include "sets/media_paths.h"
 #include "sets/question_import.h"
 #include "sets/set_file.h"
 #include "sets/set_parser.h"
@@ -23,11 +24,13 @@ namespace {
 constexpr std::size_t kFirstWords = 80;
 constexpr const char* kSheetFilter = "Sheets(*.csv;*.tsv;*.ods;*.xlsx)|*.csv;*.tsv;*.ods;*.xlsx|All files(*.*)|*.*";
 
-// A name alone is a file beside the sheet, where there is one.
-std::string MediumPath(Show& show, const std::string& name) {
+// A name alone is a file beside the sheet, or else among the sets' media, where there is one.
+std::string MediumPath(Show& show, const std::string& sheet, const std::string& name) {
   if (name.find_first_of("\\/") != std::string::npos) return name;
-  const std::string beside = ExtractFolder(show.frmImport.Path) + name;
-  return FileExists(show, beside) ? beside : name;
+  for (const std::string& folder : {ExtractFolder(sheet), show.AppPath("\\Trivia Sets\\Media\\")}) {
+    if (FileExists(show, folder + name)) return folder + name;
+  }
+  return name;
 }
 
 ImportColumns ChosenColumns(const ImportForm& form) {
@@ -40,7 +43,7 @@ int KeptQuestions(Show& show) { return show.frmImport.optReplace.Value ? 0 : Cou
 
 std::vector<ImportRow> PreviewedRows(Show& show) {
   return ReadQuestions(show.frmImport.Rows, ChosenColumns(show.frmImport), kSetCapacity - KeptQuestions(show),
-                       [&show](const std::string& name) { return MediumPath(show, name); });
+                       [&show](const std::string& name) { return MediumPath(show, show.frmImport.Path, name); });
 }
 
 std::string Questions(std::size_t count) { return std::to_string(count) + (count == 1 ? " Question" : " Questions"); }
@@ -145,10 +148,10 @@ void mnuExport_Click(Show& show) {
       ShowFileDialog(show, {FileDialogMode::SaveAskingOverwrite, "Export Questions", "Comma-separated(*.csv)|*.csv",
                             "csv", name.empty() ? "" : name + ".csv", ""});
   if (Trim(path).empty()) return;
-  const std::string folder = ExtractFolder(path);
-  // What lies beside the sheet goes by its name, as it came.
-  const auto mediumName = [&folder](const std::string& medium) {
-    return ExtractFolder(medium) == folder ? ExtractFileName(medium) : medium;
+  // What an import would find by its name goes by it, as it came.
+  const auto mediumName = [&](const std::string& medium) {
+    const std::string own = ExtractFileName("\\" + medium);
+    return IsSamePath(MediumPath(show, path, own), WholePath(show, medium)) ? own : medium;
   };
   DoOrSay(show, path, "written", [&] { show.platform.sheets.Write(path, WriteQuestions(show.EditSet, mediumName)); });
 }

@@ -11,6 +11,8 @@
 namespace pawnfield {
 namespace {
 
+using std::string_literals::operator""s;
+
 const std::string kSheet = "C:\\Quizzes\\Quiz.xlsx";
 const std::string kAlpha = EscapeOf(0x3B1), kAlef = EscapeOf(0x5D0), kBreak = EscapeOf('\n'), kBlank = EscapeOf(' ');
 
@@ -158,14 +160,23 @@ TEST_F(ImportPreview, ASetTakesAHundredAndOneAndSaysWhichRowsAreLeft) {
   Import(sheet, [](ImportForm& form) { EXPECT_FALSE(form.btnTake.Enabled); });
 }
 
-TEST_F(ImportPreview, WhatLiesBesideTheSheetIsFoundAndGoesBackByItsName) {
-  sim.files.Put("C:\\Quizzes\\dog.jpg", SimPictures::PictureBytes(9, 9));
-  Import({{"dog.jpg", "A dog"}, {"cat.jpg", "A cat"}}, [](ImportForm& form) { form.btnTake.Click(); });
+TEST_F(ImportPreview, WhatLiesBesideTheSheetOrAmongTheSetsMediaIsFoundAndGoesBackByItsName) {
+  const std::string media = "C:\\Pawnfield\\Trivia Sets\\Media\\";
+  for (const std::string& path : {"C:\\Quizzes\\dog.jpg"s, media + "dog.jpg", media + "owl.jpg"})
+    sim.files.Put(path, SimPictures::PictureBytes(9, 9));
+  const Sheet sheet{{"Question", "Answer"}, {"dog.jpg", "A dog"}, {"cat.jpg", "A cat"}, {"owl.jpg", "An owl"}};
+  Import(sheet, [](ImportForm& form) { form.btnTake.Click(); });
   EXPECT_EQ(record(0).QuestionText + "|" + record(1).QuestionText, "C:\\Quizzes\\dog.jpg|cat.jpg");
+  EXPECT_EQ(record(2).QuestionText, media + "owl.jpg");
   sim.dialogs.ExpectFile("C:\\Quizzes\\Out.csv");
   editor().mnuExport.Click();
-  EXPECT_EQ(sim.sheets.Sheets["C:\\Quizzes\\Out.csv"],
-            (Sheet{{"Question", "Answer"}, {"dog.jpg", "A dog"}, {"cat.jpg", "A cat"}}));
+  EXPECT_EQ(sim.sheets.Sheets["C:\\Quizzes\\Out.csv"], sheet);
+  // Where the name alone would lead to another file, the path goes with it.
+  sim.files.Put("D:\\Stick\\owl.jpg", SimPictures::PictureBytes(9, 9));
+  sim.dialogs.ExpectFile("D:\\Stick\\Out.csv");
+  editor().mnuExport.Click();
+  const Sheet& moved = sim.sheets.Sheets["D:\\Stick\\Out.csv"];
+  EXPECT_EQ(moved[1][0] + "|" + moved[3][0], "C:\\Quizzes\\dog.jpg|" + media + "owl.jpg");
 }
 
 TEST_F(ImportPreview, AFileThatIsNoSheetIsRefusedAndTheSetStays) {
