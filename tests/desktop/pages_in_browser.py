@@ -32,10 +32,29 @@ const cut = id => { const e = document.getElementById(id); if (!e || !e.offsetPa
   const r = e.getBoundingClientRect();
   return r.bottom > window.innerHeight + 1 || r.right > window.innerWidth + 1 || e.scrollHeight > e.clientHeight + 8 &&
     e.clientHeight > 0 && id === 'buzzer'; };
+// A number, a name that goes from right to left and a margin stand beside one another in that order.
+const inTurn = () => Array.from(document.querySelectorAll('#order > span')).every(span => {
+  const places = { number: [], name: [], margin: [] }, walk = document.createTreeWalker(span, NodeFilter.SHOW_TEXT);
+  let behind = false;
+  for (let node = walk.nextNode(); node; node = walk.nextNode()) {
+    for (let i = 0; i < node.length; i += 1) {
+      const letter = node.data[i], range = document.createRange();
+      if (letter === ' ') continue;
+      const isName = letter >= '\u0590' && letter <= '\u05ff';
+      behind = behind || isName;
+      range.setStart(node, i);
+      range.setEnd(node, i + 1);
+      places[isName ? 'name' : behind ? 'margin' : 'number'].push(range.getBoundingClientRect());
+    }
+  }
+  const left = of => Math.min(...of.map(r => r.left)), right = of => Math.max(...of.map(r => r.right));
+  return !behind || right(places.number) <= left(places.name) + 1 && right(places.name) <= left(places.margin) + 1;
+});
 return { title: document.title, images: document.images.length, cut: ['name', 'buzzer', 'word', 'line'].filter(cut).join(),
   state: document.body.className, join: shown('join'), note: text('joinNote'), seats: shown('seats'),
   name: text('name'), word: text('word'), line: text('line'), question: text('question'), answer: text('answer'),
-  floor: text('floor'), order: text('order'), players: text('players'), winner: text('winner'), buzzes: window.buzzes,
+  floor: text('floor'), order: text('order'), inTurn: inTurn(), next: text('next'), players: text('players'),
+  winner: text('winner'), buzzes: window.buzzes,
   wide: document.documentElement.scrollWidth > window.innerWidth };
 """
 

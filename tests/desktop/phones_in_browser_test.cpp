@@ -6,6 +6,7 @@
 #include <QProcess>
 #include <QStandardPaths>
 
+#include "desktop/files/windows_1252.h"
 #include "desktop/windows/form_window.h"
 #include "forms/main_form.h"
 #include "forms/pages_form.h"
@@ -73,7 +74,7 @@ class PhonesInBrowser : public ShowSuite {
     const QString folder = qEnvironmentVariable("PAWNFIELD_PICTURES");
     if (!folder.isEmpty()) Do("picture scores " + folder + "/" + name + ".png");
   }
-  static QString Text(const Label& label) { return QString::fromStdString(label.Caption); }
+  static QString Text(const Label& label) { return Unescape(label.Caption); }
   static PagesForm& Form() { return TheShow().frmPages; }
   static int Turn() { return Phase(TheShow()).Player; }
 
@@ -107,10 +108,18 @@ class PhonesInBrowser : public ShowSuite {
     QStringList rows;
     for (const ListView::Row& row : Main().lstRingInOrder.ListItems.Get()) {
       const QString when = row[0] == "1" ? QString() : " " + QString::fromLatin1(row[2]);
-      rows.append(QString::fromLatin1(row[0] + " " + row[1]) + when);
+      rows.append(Unescape(row[0] + " " + row[1]) + when);
     }
     return rows.join("   ");
   }
+
+  // "Hannah", "What is the capital of Greece?" and the same in Greek.
+  static inline const QString kHannah = QString::fromUtf8("\u05D7\u05E0\u05D4");
+  static inline const QString kHebrewQuestion =
+      QString::fromUtf8("\u05DE\u05D4 \u05D1\u05D9\u05E8\u05EA \u05D9\u05D5\u05D5\u05DF?");
+  static inline const QString kGreekQuestion = QString::fromUtf8(
+      "\u03A0\u03BF\u03B9\u03B1 \u03B5\u03AF\u03BD\u03B1\u03B9 \u03B7 "
+      "\u03C0\u03C1\u03C9\u03C4\u03B5\u03CD\u03BF\u03C5\u03C3\u03B1;");
 
   // The system's own, for which the driver's library is installed.
   static constexpr const char* kPython = "/usr/bin/python3";
@@ -118,8 +127,8 @@ class PhonesInBrowser : public ShowSuite {
 };
 
 TEST_F(PhonesInBrowser, PlayAGameOnRealWindows) {
-  // A name and a set with markup in them stay the texts they are.
-  const char* const names[] = {"ANNA", "BEN <i>", "CHLOE"};
+  // A name and a set with markup in them stay the texts they are, and such of other alphabets go their own way.
+  const std::string names[] = {"ANNA", "BEN <i>", Escape(kHannah)};
   ASSERT_TRUE(Press({"optGameType_4"}));
   ASSERT_TRUE(Wait([] { return Main().optGridControl[0].IsShown(); }));
   ASSERT_TRUE(Press({"optGridControl_0"}));
@@ -131,6 +140,9 @@ TEST_F(PhonesInBrowser, PlayAGameOnRealWindows) {
   TheShow().GameSet[0].QuestionText =
       "Which <b>planet</b> is the largest? <img src=x onerror=\"document.title='taken'\">";
   TheShow().GameSet[0].AnswerText = "<script>document.title='taken'</script> Jupiter";
+  TheShow().GameSet[1].QuestionText = Escape(kHebrewQuestion);
+  TheShow().GameSet[1].AnswerText = Escape(kHannah);
+  TheShow().GameSet[2].QuestionText = Escape(kGreekQuestion);
   Main().mnuFilePages.Click();
   Form().cboAddress.Select(
       static_cast<int>(std::find(Form().cboAddress.List->begin(), Form().cboAddress.List->end(), "127.0.0.1") -
@@ -166,6 +178,9 @@ TEST_F(PhonesInBrowser, PlayAGameOnRealWindows) {
   EXPECT_TRUE(Shows("anna", "line", "has the floor; you were"));
   EXPECT_TRUE(Shows("host", "floor", "BEN <i> answers"));
   EXPECT_TRUE(Shows("host", "order", "2 ANNA +"));
+  EXPECT_TRUE(Shows("host", "order", "3 " + kHannah + " +"));
+  EXPECT_TRUE(Look("host")["inTurn"].toBool()) << "a name from right to left turns its margin round";
+  EXPECT_TRUE(Shows("host", "next", kHebrewQuestion));
   EXPECT_TRUE(Shows("host", "answer", "<script>document.title='taken'</script> Jupiter"));
   EXPECT_TRUE(Shows("host", "question", "<b>planet</b>"));
   for (const char* page : {"host", "anna", "ben", "scores"}) {
@@ -214,6 +229,11 @@ TEST_F(PhonesInBrowser, PlayAGameOnRealWindows) {
     ASSERT_TRUE(Press({"btnContinue"}));
     const int player = square % 3;
     EXPECT_TRUE(Shows(phones[player], "word", "PRESS"));
+    if (square <= 2) {
+      EXPECT_TRUE(Shows("host", "question", square == 1 ? kHebrewQuestion : kGreekQuestion));
+      Picture("host", square == 1 ? "host-hebrew" : "host-greek");
+      PictureOfScores("scores-hebrew");
+    }
     if (square == 4) {
       const std::string pin = TheShow().pages->Pin, board = Main().Score(1).Caption;
       ASSERT_TRUE(DieAndComeBack());
@@ -223,7 +243,7 @@ TEST_F(PhonesInBrowser, PlayAGameOnRealWindows) {
       // Each is in its seat again, by itself, while the room sees standby.
       for (const char* phone : phones) EXPECT_TRUE(Shows(phone, "word", "WAIT"));
       EXPECT_TRUE(Shows("ben", "name", "BEN <i>"));
-      EXPECT_TRUE(Shows("host", "answer", QString::fromLatin1(TheShow().GameSet[4].AnswerText).trimmed()));
+      EXPECT_TRUE(Shows("host", "answer", Unescape(TheShow().GameSet[4].AnswerText).trimmed()));
       ASSERT_TRUE(Press({"btnPlayMode"}));
       EXPECT_TRUE(Shows(phones[player], "word", "PRESS"));
     }

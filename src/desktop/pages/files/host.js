@@ -25,6 +25,13 @@
     }
   }
 
+  // A name or a wording keeps its own direction, and doesn't turn what stands beside it.
+  function own(text) {
+    const part = document.createElement('bdi');
+    part.textContent = text;
+    return part;
+  }
+
   function paint(told) {
     byId('count').textContent = told.question > 0 ? 'Question ' + told.question + ' of ' + told.of : '';
     byId('set').textContent = told.set;
@@ -38,11 +45,14 @@
     order.textContent = '';
     (told.winner ? [] : told.order).forEach(function (place, index) {
       const part = document.createElement('span');
-      part.textContent = (index + 1) + ' ' + place.name + (index > 0 ? ' ' + place.margin : '');
+      part.appendChild(document.createTextNode((index + 1) + ' '));
+      part.appendChild(own(place.name));
+      if (index > 0) part.appendChild(document.createTextNode(' ' + place.margin));
       if (index > 0) order.appendChild(document.createTextNode('   '));
       order.appendChild(part);
     });
-    byId('next').textContent = told.next ? 'Next: ' + told.next : '';
+    byId('next').textContent = told.next ? 'Next: ' : '';
+    byId('next').appendChild(own(told.next));
     const box = byId('players');
     box.textContent = '';
     told.players.forEach(function (player) {

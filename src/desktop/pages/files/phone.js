@@ -48,7 +48,10 @@
       const button = document.createElement('button');
       button.type = 'button';
       button.className = 'p' + seat.n;
-      button.textContent = seat.name + (seat.free ? '' : ' (taken)');
+      const name = document.createElement('bdi');
+      name.textContent = seat.name;
+      button.appendChild(name);
+      if (!seat.free) button.appendChild(document.createTextNode(' (taken)'));
       button.disabled = !seat.free;
       button.addEventListener('click', function () { link.say('seat ' + seat.n); });
       box.appendChild(button);
