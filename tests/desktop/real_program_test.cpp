@@ -8,11 +8,17 @@
 #include <QCoreApplication>
 #include <QDir>
 #include <QElapsedTimer>
+#include <QGuiApplication>
+#include <QPixmap>
 #include <QProcess>
+#include <QScreen>
+#include <QStandardPaths>
 #include <QTemporaryDir>
 #include <QTest>
 #include <csignal>
 
+#include "desktop/files/bundle_file.h"
+#include "desktop/files/whole_file.h"
 #include "places.h"
 
 namespace pawnfield {
@@ -164,6 +170,105 @@ TEST_F(RealProgramTest, RunsWithAHomeOfAnyAlphabetAndASetNamedSoAtTheStart) {
     ASSERT_NO_FATAL_FAILURE(Signal(SIGTERM));
     ASSERT_TRUE(process_.waitForFinished(60000)) << "waits in a box: " << folder.toStdString();
   }
+}
+
+// A desktop of the test's own that knows the program and its kind of file as the package tells it. The program stands
+// in a folder that may be written to, with the sets beside it.
+class DoubleClickTest : public RealProgramTest {
+ protected:
+  void SetUp() override {
+    RealProgramTest::SetUp();
+    for (const char* tool : {"gio", "update-mime-database", "update-desktop-database"}) {
+      if (QStandardPaths::findExecutable(tool).isEmpty()) GTEST_SKIP() << tool << " is not installed";
+    }
+    const QString shared = NativePath(DesktopPlaces().folders.App);
+    QDir().mkpath(Sets());
+    for (const QString& name : QDir(shared).entryList(QDir::AllEntries | QDir::NoDotAndDotDot)) {
+      if (name != "Trivia Sets") QFile::link(shared + '/' + name, Native("program/" + name));
+    }
+    ASSERT_TRUE(QFile::copy(QCoreApplication::applicationDirPath() + "/pawnfield", Program()));
+    environment_.insert("PATH", Native("program") + ':' + environment_.value("PATH"));
+    environment_.insert("XDG_CURRENT_DESKTOP", "GNOME");
+    Install("org.pawnfield.Pawnfield.desktop", "applications/org.pawnfield.Pawnfield.desktop");
+    Install("org.pawnfield.Pawnfield.mime.xml", "mime/packages/org.pawnfield.Pawnfield.xml");
+    Run("update-mime-database", {home_ + "/data/mime"});
+    Run("update-desktop-database", {home_ + "/data/applications"});
+    bundle_ = Native(QString::fromUtf8("My \u05D7\u05D9\u05D3\u05D5\u05DF.pawnset"));
+    ASSERT_TRUE(WriteBundle(bundle_, "Clicked", "Who?\r\nMe\r\nT\r\ntune.mp3\r\nA tune\r\nS\r\n",
+                            {{SpelledPath(Make("tune.mp3", "some sound")), "tune.mp3"}}, [](double) { return true; }));
+  }
+  QString Program() const { return Native("program/pawnfield"); }
+  QString Sets() const { return Native("program/Trivia Sets"); }
+  void Install(const QString& file, const QString& place) {
+    QDir().mkpath(QFileInfo(home_ + "/data/" + place).path());
+    ASSERT_TRUE(QFile::copy(PAWNFIELD_PACKAGING_DIR + QString('/') + file, home_ + "/data/" + place));
+  }
+  QString Run(const QString& tool, const QStringList& arguments) {
+    QProcess process;
+    process.setProcessEnvironment(environment_);
+    process.start(tool, arguments);
+    EXPECT_TRUE(process.waitForFinished(60000)) << tool.toStdString();
+    return QString::fromUtf8(process.readAllStandardOutput());
+  }
+  void StartHere(const QStringList& arguments = {}) {
+    process_.setProcessEnvironment(environment_);
+    process_.start(Program(), arguments);
+    ASSERT_TRUE(process_.waitForStarted());
+  }
+  // The program's box that is in front, as its window's number; empty for none.
+  QString Box() const {
+    const QString front = Xdotool({"getactivewindow"}).trimmed();
+    const bool own = Xdotool({"getwindowpid", front}).trimmed() == QString::number(process_.processId());
+    const QString width = Xdotool({"getwindowgeometry", "--shell", front}).section("WIDTH=", 1).section('\n', 0, 0);
+    return own && width.toInt() > 0 && width.toInt() < 1000 ? front : QString();
+  }
+  // Waits for another box than the one before and presses the button beside the one that stands ready.
+  bool AnswersYes() {
+    const bool up = QTest::qWaitFor([this] { return !Box().isEmpty() && Box() != answered_; }, 30000);
+    answered_ = Box();
+    QTest::qWait(200);
+    const QString pictures = qEnvironmentVariable("PAWNFIELD_PICTURES");
+    if (up && !pictures.isEmpty())
+      QGuiApplication::primaryScreen()->grabWindow(0).save(pictures + "/box-" + answered_ + ".png");
+    if (up) Xdotool({"key", "--clearmodifiers", "Tab", "sleep", "0.1", "key", "space"});
+    return up;
+  }
+  void IsAddedAndLoaded() {
+    ASSERT_TRUE(AnswersYes()) << "the set is offered";
+    EXPECT_TRUE(AnswersYes()) << "its loading is offered";
+    EXPECT_TRUE(QTest::qWaitFor([this] { return Box().isEmpty(); }, 30000));
+    EXPECT_TRUE(ReadFile(Sets() + "/Clicked.txt").contains("\r\n.\\Media\\Clicked\\tune.mp3\r\nA tune\r\n"));
+    EXPECT_EQ(ReadFile(Sets() + "/Media/Clicked/tune.mp3"), "some sound");
+  }
+
+  QString bundle_, answered_;
+};
+
+TEST_F(DoubleClickTest, APackedSetIsOfferedByTheProgramThatRuns) {
+  const QString kind = "application/vnd.pawnfield.set+zip";
+  EXPECT_TRUE(Run("gio", {"info", "-a", "standard::content-type,standard::icon", bundle_}).contains(kind));
+  EXPECT_TRUE(Run("gio", {"mime", kind}).contains("org.pawnfield.Pawnfield.desktop"));
+  ASSERT_NO_FATAL_FAILURE(StartHere());
+  ASSERT_TRUE(ConsoleComesUp());
+  // As a file manager does; the second process hands the path over and ends.
+  Run("gio", {"open", bundle_});
+  ASSERT_NO_FATAL_FAILURE(IsAddedAndLoaded());
+  const auto running = [this] {
+    const QStringList all = QDir("/proc").entryList(QDir::Dirs);
+    return std::count_if(all.begin(), all.end(), [this](const QString& one) {
+      return QFile::symLinkTarget("/proc/" + one + "/exe") == Program();
+    });
+  };
+  EXPECT_TRUE(QTest::qWaitFor([&] { return running() == 1; }, 10000)) << running();
+  EXPECT_EQ(process_.state(), QProcess::Running);
+}
+
+TEST_F(DoubleClickTest, APackedSetStartsTheProgramThatThenOffersIt) {
+  ASSERT_NO_FATAL_FAILURE(StartHere({bundle_}));
+  ASSERT_TRUE(ConsoleComesUp());
+  ASSERT_TRUE(AnswersYes());
+  EXPECT_TRUE(QTest::qWaitFor([this] { return QFile::exists(Sets() + "/Clicked.txt"); }, 30000));
+  EXPECT_EQ(ReadFile(Sets() + "/Media/Clicked/tune.mp3"), "some sound");
 }
 
 TEST_F(RealProgramTest, TellsOfItselfWithoutADisplay) {

@@ -1,12 +1,8 @@
 // The wired pads on a real serial line: a pseudo-terminal whose far side the test works.
-#include <fcntl.h>
-#include <pty.h>
-#include <unistd.h>
-
 #include <QTest>
-#include <array>
 
 #include "forms/main_form.h"
+#include "pad_line.h"
 #include "places.h"
 #include "program/detection.h"
 #include "program/handlers.h"
@@ -17,44 +13,9 @@ namespace {
 
 using std::string_literals::operator""s;
 
-// The near side has a name, as an adapter has; closing the far side is pulling it out.
-class Line {
- public:
-  Line() {
-    std::array<char, 64> name{};
-    if (openpty(&far_, &near_, name.data(), nullptr, nullptr) == 0) location_ = name.data();
-    fcntl(far_, F_SETFL, O_NONBLOCK);
-  }
-  ~Line() { Pull(); }
-  Line(const Line&) = delete;
-  Line& operator=(const Line&) = delete;
-
-  // Writes all of it, with the program running meanwhile.
-  void Write(const std::string& bytes) {
-    for (std::size_t done = 0; done < bytes.size();) {
-      const ssize_t count = write(far_, bytes.data() + done, bytes.size() - done);
-      if (count > 0) done += static_cast<std::size_t>(count);
-      if (count <= 0) QTest::qWait(1);
-    }
-  }
-  void Pull() {
-    for (int* side : {&near_, &far_}) {
-      if (*side >= 0) close(*side);
-      *side = -1;
-    }
-  }
-  SerialAdapter Adapter() const { return {{"USB\\VID_1a86&PID_7523", "USB Serial", "ttyUSB0"}, location_}; }
-
- private:
-  int near_ = -1, far_ = -1;
-  QString location_;
-};
-
-std::string Pad(int id) { return "MF\0\4\xFD\0\0"s + static_cast<char>(id); }
-
 class SerialLineTest : public testing::Test {
  protected:
-  SerialLineTest() : line_(std::make_unique<Line>()) {
+  SerialLineTest() : line_(std::make_unique<PadLine>()) {
     AttachHandlers(show_);
     tmrSplash_Timer(show_);
     show_.presses.MFMap = {101, 102, 103};
@@ -79,7 +40,7 @@ class SerialLineTest : public testing::Test {
   }
 
   QTemporaryDir folder_;
-  std::unique_ptr<Line> line_;
+  std::unique_ptr<PadLine> line_;
   DesktopProgram program_{Places()};
   Show& show_ = program_.TheShow();
   MainForm& form_ = show_.frmMain;
@@ -137,7 +98,7 @@ TEST_F(SerialLineTest, APulledAdapterIsClosedOnceAndComesBackInTheSameQuestion) 
   QTest::qWait(100);
   EXPECT_EQ(lost, 1);
   EXPECT_NE(form_.lblStatusBar.Caption->find("was unplugged"), std::string::npos);
-  line_ = std::make_unique<Line>();
+  line_ = std::make_unique<PadLine>();
   form_.mnuReconnectMF.Click();
   ASSERT_TRUE(show_.platform.serial.PortOpen());
   line_->Write(Pad(102));

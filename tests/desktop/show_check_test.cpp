@@ -11,21 +11,20 @@
 #include <QDBusMessage>
 #include <QDBusUnixFileDescriptor>
 #include <QDBusVirtualObject>
+#include <QProcess>
 #include <QPushButton>
 #include <QTreeWidget>
 #include <algorithm>
 
+#include "check_window.h"
 #include "desktop/painting/canvas.h"
 #include "desktop/windows/audience_window.h"
 #include "desktop/windows/console_window.h"
-#include "desktop/windows/form_window.h"
 #include "forms/editor_form.h"
 #include "forms/fs_main_form.h"
 #include "forms/main_form.h"
-#include "forms/show_check_form.h"
 #include "handed_transceiver.h"
 #include "program/check_rows.h"
-#include "show_suite.h"
 #include "sound_rig.h"
 
 namespace {
@@ -63,7 +62,7 @@ class Granting : public QDBusVirtualObject {
   bool Grants = true;
 };
 
-class ShowCheckWindowTest : public ShowSuite {
+class ShowCheckWindowTest : public CheckWindow {
  protected:
   static void SetUpTestSuite() {
     const QByteArray bus = qgetenv("DBUS_SESSION_BUS_ADDRESS");
@@ -101,18 +100,6 @@ class ShowCheckWindowTest : public ShowSuite {
     ShowSuite::TearDown();
   }
 
-  FormWindow* Window() { return driver_->Form("frmShowCheck"); }
-  template <typename Widget>
-  Widget* Part(const char* name, CheckRow row) {
-    return Window()->findChild<Widget*>(QString("%1_%2").arg(name).arg(static_cast<int>(row)));
-  }
-  void Push(const char* name, CheckRow row) {
-    auto* button = Part<QPushButton>(name, row);
-    ASSERT_TRUE(button->isVisible()) << name;
-    QTest::mouseClick(button, Qt::LeftButton);
-  }
-  static ShowCheckForm& Form() { return TheShow().frmShowCheck; }
-  static ChipState Light(CheckRow row) { return ShowCheckForm::Of(Form().chpLight, row).State; }
   // What isn't ready, with its sentence.
   static QString NotReady() {
     QString rows;
@@ -262,6 +249,24 @@ TEST_F(ShowCheckWindowTest, EveryControlIsReachedByTabAndEscapeCloses) {
   EXPECT_TRUE(reached.contains("chkInFront"));
   QTest::keyClick(Window(), Qt::Key_Escape);
   EXPECT_TRUE(Wait([this] { return !Window()->isVisible(); }));
+}
+
+// While a show is set up it stands in a corner, over whatever is worked meanwhile.
+TEST_F(ShowCheckWindowTest, StaysInFrontInItsCornerWhileItIsWanted) {
+  const auto isOver = [this] {
+    QProcess tool;
+    tool.start("xprop", {"-id", QString::number(Window()->winId()), "_NET_WM_STATE"});
+    tool.waitForFinished();
+    return tool.readAllStandardOutput().contains("_NET_WM_STATE_ABOVE");
+  };
+  auto* box = Window()->findChild<QCheckBox*>("chkInFront");
+  Window()->move(20, 60);
+  for (const bool wanted : {true, false}) {
+    QTest::mouseClick(box, Qt::LeftButton, {}, QPoint(8, box->height() / 2));
+    EXPECT_TRUE(Wait([&] { return isOver() == wanted; }, 30000)) << wanted;
+    Console().activateWindow();
+    EXPECT_TRUE(Window()->isVisible());
+  }
 }
 
 // The last one: it starts the game.

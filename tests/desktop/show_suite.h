@@ -19,13 +19,13 @@ class ShowSuite : public testing::Test {
       "--output DUMMY0 --pos 0x0 --primary --output DUMMY1 --mode 1920x1080 --pos 1280x0";
 
   static void SetUpTestSuite() { Begin(kTwoMonitors); }
-  static void Begin(const char* monitors) {
+  static void Begin(const char* monitors, std::function<std::vector<SerialAdapter>()> adapters = FindSerialAdapters) {
     ready_ = Xrandr(monitors);
     // The toolkit hears of it by an event of its own, and the program is to start on what is there.
     const int count = monitors == kOneMonitor ? 1 : 2;
     ready_ = ready_ && QTest::qWaitFor([count] { return QGuiApplication::screens().size() == count; }, 30000);
     folder_ = new QTemporaryDir;
-    driver_ = new ShowDriver(folder_->path());
+    driver_ = new ShowDriver(folder_->path(), std::move(adapters));
     ready_ = ready_ && driver_->Start();
   }
   static void TearDownTestSuite() {

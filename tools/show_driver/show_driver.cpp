@@ -72,6 +72,11 @@ class KeyUp : public QObject {
   bool seen_ = false;
 };
 
+DesktopPlaces With(std::function<std::vector<SerialAdapter>()> adapters, DesktopPlaces places) {
+  places.serialAdapters = std::move(adapters);
+  return places;
+}
+
 }  // namespace
 
 DesktopPlaces PlacesBelow(const QString& folder) {
@@ -85,8 +90,8 @@ DesktopPlaces PlacesBelow(const QString& folder) {
   return places;
 }
 
-ShowDriver::ShowDriver(const QString& workFolder)
-    : folder_(QDir(workFolder).absolutePath()), program_(PlacesBelow(folder_ + "/home")) {
+ShowDriver::ShowDriver(const QString& workFolder, std::function<std::vector<SerialAdapter>()> adapters)
+    : folder_(QDir(workFolder).absolutePath()), program_(With(std::move(adapters), PlacesBelow(folder_ + "/home"))) {
   // A box stops the caller in a loop of its own, so it is answered from a timer.
   auto* answerer = new QTimer(&program_.Console());
   QObject::connect(answerer, &QTimer::timeout, answerer, [this] { AnswerBox(); });
@@ -213,6 +218,19 @@ bool ShowDriver::PictureOfForm(const QString& form, const std::function<void()>&
   open();
   Pause(kSettledMs + kStepMs);
   return opened;
+}
+
+bool ShowDriver::DragMouse(const QPoint& from, const QPoint& to) {
+  constexpr int kSteps = 10;
+  const auto moved = [](const QPoint& place) {
+    return QStringList{"mousemove", QString::number(place.x()), QString::number(place.y()), "sleep", "0.2"};
+  };
+  // What is dragged runs in a loop of its own, so that all of it is told beforehand, slowly enough for a busy machine.
+  QStringList steps = moved(from) + QStringList{"mousedown", "1", "sleep", "0.3"};
+  for (int i = 0; i <= kSteps; ++i) steps += moved(from + (to - from) * i / kSteps);
+  QProcess mouse;
+  mouse.start("xdotool", steps + QStringList{"sleep", "0.8", "mouseup", "1"});
+  return WaitFor([&mouse] { return mouse.state() == QProcess::NotRunning; }) && mouse.exitCode() == 0;
 }
 
 bool ShowDriver::Type(const QStringList& keys) {

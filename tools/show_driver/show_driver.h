@@ -21,7 +21,9 @@ DesktopPlaces PlacesBelow(const QString& folder);
 class ShowDriver {
  public:
   // All that the program writes goes below the folder; the assets are the ones of the source tree.
-  explicit ShowDriver(const QString& workFolder);
+  // The adapters of wired pads are the machine's, or those that the routine names.
+  explicit ShowDriver(const QString& workFolder,
+                      std::function<std::vector<SerialAdapter>()> adapters = FindSerialAdapters);
 
   // Runs the program's entry up to the console. False when the console did not come up.
   bool Start();
@@ -34,6 +36,9 @@ class ShowDriver {
   // Lets the program run until the condition holds, at most the given time.
   bool WaitFor(const std::function<bool()>& condition, int milliseconds = 60000);
   void Pause(int milliseconds);
+  // Presses the display's own mouse at a place of the desktop, moves it to another and lets go. False when nothing can
+  // move it.
+  bool DragMouse(const QPoint& from, const QPoint& to);
   // Sends keys to whatever window is in front, as a keyboard would: names as in "c", "Return", "ctrl+n". False when
   // nothing can send them.
   bool Type(const QStringList& keys);
