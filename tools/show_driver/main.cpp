@@ -1,9 +1,10 @@
 // Plays two short games in the real program on the present display and saves pictures of both screens at each phase.
-// Usage: pawnfield_show [FOLDER [forms|dialogs|gallery|phases|media|sheet|record]]; with "forms" it opens every form
-// instead and saves a picture of each, with "dialogs" boxes and dialogs with their frames, with "gallery" it brings up
-// everything that the two screens can show, with "phases" it plays a game of each type at each size of the console,
-// with "media" headers, a picture and a film on demand, with "sheet" questions that come from a spreadsheet, with
-// "record" a game's results and the question about an interrupted show.
+// Usage: pawnfield_show [FOLDER [forms|dialogs|gallery|phases|media|newcomer|sheet|record]]; with "forms" it opens
+// every form instead and saves a picture of each, with "dialogs" boxes and dialogs with their frames, with "gallery" it
+// brings up everything that the two screens can show, with "phases" it plays a game of each type at each size of the
+// console, with "media" headers, a picture and a film on demand, with "newcomer" the manual's newcomer's hour, with
+// "sheet" questions that come from a spreadsheet, with "record" a game's results and the question about an interrupted
+// show.
 
 #include <QApplication>
 #include <QFile>
@@ -24,6 +25,7 @@
 #include "forms/results_form.h"
 #include "gallery.h"
 #include "media/media_on_demand.h"
+#include "newcomer.h"
 #include "phases.h"
 #include "presentation/both_screens.h"
 #include "record/come_back.h"
@@ -306,6 +308,8 @@ int main(int argc, char** argv) {
     pawnfield::ShowRecordOfAGame(driver, script, folder);
   } else if (what == "media") {
     pawnfield::ShowMedia(driver, script, folder);
+  } else if (what == "newcomer") {
+    script.Do("newcomer's hour", pawnfield::PlayNewcomersHour(driver, folder));
   } else if (what == "sheet") {
     pawnfield::ImportSheet(driver, script, folder);
   } else {
