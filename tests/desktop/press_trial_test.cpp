@@ -212,11 +212,15 @@ TEST_F(PressTrialTest, PhonesPadsRemotesAndKeysTogether) {
   EXPECT_TRUE(IsSaid("That was the button of 3 PLAYER 3 (the phone of seat 3), but 2 PLAYER 2 was asked."))
       << Note().toStdString();
   EXPECT_FALSE(IsGreen(3));
-  WaitsWhileBusy(2, "the phone of seat 2", [&] { phones[1]->Press(); });
   // What a finger's bounce repeats is passed over in the game too; a second press is not.
-  phones[1]->Press();
-  driver_->Pause(300);
+  WaitsWhileBusy(2, "the phone of seat 2", [&] {
+    phones[1]->Press();
+    phones[1]->Press();
+  });
   EXPECT_FALSE(Form().lblPressNote.Visible) << Note().toStdString();
+  driver_->Pause(1100);
+  phones[1]->Press();
+  QTest::qSleep(300);
   phones[1]->Press();
   EXPECT_TRUE(IsSaid("by the phone of seat 2 and by the phone of seat 2.")) << Note().toStdString();
   driver_->Pause(1100);
@@ -224,7 +228,7 @@ TEST_F(PressTrialTest, PhonesPadsRemotesAndKeysTogether) {
   // One button that is heard by two ways.
   Begin();
   phones[0]->Press();
-  ASSERT_TRUE(TurnsGreen(1));
+  QTest::qSleep(50);
   line_->Write(Pad(101));
   EXPECT_TRUE(IsSaid("by the phone of seat 1 and by pad 101.")) << Note().toStdString();
   HandedTransceiver remotes(TheShow());
