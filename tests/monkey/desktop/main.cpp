@@ -41,6 +41,7 @@ int Work(WatchedApplication& application, std::uint32_t seed, int actions, QFile
   const EndSignals endSignals([&show] { EndWithoutAsking(show); });
   const LastWords lastWords(show.frmMain, [&show] { SaveSettingsAtDeath(show); });
   if (recorded) {
+    world.Keep();
     log.write("FOLDER " + QDir::currentPath().toLocal8Bit() + '\n');
     monkey.AfterEach = [&moments] { moments.Look(); };
   }

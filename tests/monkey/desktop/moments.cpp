@@ -10,6 +10,7 @@
 #include <chrono>
 #include <cstdio>
 #include <cstdlib>
+#include <utility>
 
 #include "desktop/desktop_program.h"
 #include "desktop/windows/console_window.h"
@@ -27,11 +28,14 @@ namespace {
 constexpr int kLongestStartMs = 30000;
 constexpr int kUnansweredMs = 3000;
 
-std::string LastOfRecord(const Show& show) {
+// What the record ends with, and what it held before its last event.
+std::pair<std::string, std::string> EndOfRecord(const Show& show) {
   const auto names = show.platform.records.List();
   const auto record = names.empty() ? std::nullopt : ParseRecord(show.platform.records.Read(names.back()));
-  if (!record || record->Game.Events.empty()) return "none";
-  return JsonOf(record->Game.Events[record->Game.Now].After).Text();
+  if (!record || record->Game.Events.empty()) return {"none", "none"};
+  const std::size_t count = record->Events.size();
+  return {JsonOf(record->Game.Events[record->Game.Now].After).Text(),
+          count < 2 ? "none" : JsonOf(record->Events[count - 2].After).Text()};
 }
 
 }  // namespace
@@ -52,7 +56,8 @@ int TellWhatComesBack(const QString& folder) {
   QDir::setCurrent(folder);
   DesktopProgram program(PlacesBelow(folder));
   Show& show = program.TheShow();
-  std::printf("%s\n", LastOfRecord(show).c_str());
+  const auto [last, before] = EndOfRecord(show);
+  std::printf("%s\n%s\n", last.c_str(), before.c_str());
   bool answered = false;
   QTimer answer;
   QObject::connect(&answer, &QTimer::timeout, &answer, [&] {

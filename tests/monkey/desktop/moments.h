@@ -20,8 +20,8 @@ class Moments {
   QByteArray last_;
 };
 
-// Starts the program below that folder, has it bring back what it finds, and prints two lines: what its newest record
-// ends with, and what came back; "none" for nothing.
+// Starts the program below that folder, has it bring back what it finds, and prints three lines: what its newest record
+// ends with, what it held before that, and what came back; "none" for nothing.
 int TellWhatComesBack(const QString& folder);
 
 }  // namespace pawnfield

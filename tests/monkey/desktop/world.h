@@ -33,6 +33,8 @@ class World {
   // Writes sets and media below a folder of its own and makes that the current one.
   explicit World(Chance& chance);
 
+  // What was written stays for who looks at it behind this process.
+  void Keep() { folder_.setAutoRemove(false); }
   DesktopPlaces Places();
   // Once the console is up: the transceiver, and media behind the letter keys.
   void Join(Show& show);
