@@ -263,7 +263,8 @@ void tmrPing_Timer(Show& show) {
     if (page.Kind == PageKind::None) continue;
     // Only the clock of a phone that has a seat is needed; the others are asked whether they are still there.
     const bool phone = page.Kind == PageKind::Phone && page.Seat != 0;
-    often = often || (phone && (show.state.GameInProgress || !page.Clock.Known()));
+    // A game is in progress from its first square on; presses come from its first question on.
+    often = often || (phone && (show.state.GameStarted || !page.Clock.Known()));
     if (!phone && page.LastPingUs != 0 && now - page.LastPingUs < kOthersUs) continue;
     page.LastPingUs = now;
     if (page.Pings.size() >= kMostOnTheirWay) page.Pings.erase(page.Pings.begin());

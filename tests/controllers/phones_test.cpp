@@ -380,6 +380,14 @@ TEST(Pages, NobodyWaitsForLongerThanHeMust) {
   }
 }
 
+TEST(Pages, AClockIsAskedFiveTimesASecondFromTheFirstQuestionOn) {
+  Room room;
+  room.Seat(1);
+  const int before = room.pages().LastPing;
+  room.Wait(1000);
+  EXPECT_NEAR(room.pages().LastPing - before, 5, 1);
+}
+
 TEST(Pages, AWiredPressNeverWaitsAndIsFinal) {
   Room room;
   const std::uint64_t anna = room.Seat(1, 1);
