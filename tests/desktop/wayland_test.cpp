@@ -139,7 +139,7 @@ class WaylandTest : public testing::TestWithParam<const char*> {
     ASSERT_TRUE(Unplug(own_));
     QElapsedTimer since;
     std::vector<QImage> looks;
-    for (since.start(); since.elapsed() < 2500; driver_->Pause(10)) looks.push_back(Seen(room_));
+    for (since.start(); since.elapsed() < 2500 || looks.size() < 6; driver_->Pause(10)) looks.push_back(Seen(room_));
     ASSERT_NE(Card(), nullptr);
     EXPECT_TRUE(Wait([&] { return Shows(room_, Console()); }));
     Keep("card");
@@ -147,7 +147,6 @@ class WaylandTest : public testing::TestWithParam<const char*> {
       EXPECT_LT(Marks(look), 20) << "picture " << &look - looks.data() + 1 << " of " << looks.size();
       if (Marks(look) >= 20) look.save(QString("wayland-%1-leak.png").arg(own_));
     }
-    EXPECT_GT(looks.size(), 5U);
   }
 
   QString own_, room_;

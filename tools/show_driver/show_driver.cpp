@@ -163,24 +163,33 @@ bool ShowDriver::PressAudienceSquare(int row, int column) {
 bool ShowDriver::Choose(const QString& combo, const QString& item) {
   auto* box = program_.Console().findChild<ModelComboBox*>(combo);
   if (box == nullptr || !box->isEnabled() || !box->isVisible()) return false;
-  QTest::mouseClick(box, Qt::LeftButton);
-  WaitFor([box] { return box->view()->isVisible(); }, kKeyMs);
+  bool chosen = false;
+  const auto link = QObject::connect(box, &QComboBox::activated, box, [&chosen] { chosen = true; });
+  // A slow display may take the list away before it is clicked; an operator opens it anew.
+  for (int tries = 0; tries < 3 && !chosen; ++tries) PickFrom(*box, item, chosen);
+  QObject::disconnect(link);
+  return chosen;
+}
+
+void ShowDriver::PickFrom(QComboBox& box, const QString& item, const bool& chosen) {
+  constexpr int kChosenMs = 3000;
+  QTest::mouseClick(&box, Qt::LeftButton);
+  WaitFor([&box] { return box.view()->isVisible(); }, kKeyMs);
   Pause(200);
-  const int row = box->findText(item);
-  if (row < 0) {
-    box->hidePopup();
-    return false;
-  }
-  QAbstractItemView* view = box->view();
-  const QModelIndex index = box->model()->index(row, 0);
+  // The list may have been filled for this look at it.
+  const int row = box.findText(item);
+  if (row < 0) return box.hidePopup();
+  QAbstractItemView* view = box.view();
+  const QModelIndex index = box.model()->index(row, 0);
   view->scrollTo(index);
   // A list that has just opened takes a press for the end of the click that opened it.
   Pause(QApplication::doubleClickInterval() + 50);
   const QPoint place = view->visualRect(index).center();
   QTest::mouseMove(view->viewport(), place);
   QTest::mouseClick(view->viewport(), Qt::LeftButton, {}, place);
+  WaitFor([&chosen] { return chosen; }, kChosenMs);
   Pause(100);
-  return box->currentText() == item || !box->view()->isVisible();
+  box.hidePopup();
 }
 
 FormWindow* ShowDriver::Form(const QString& name) {

@@ -2,6 +2,7 @@
 // pictures of both screens.
 #pragma once
 
+#include <QComboBox>
 #include <QElapsedTimer>
 #include <QMessageBox>
 #include <QPixmap>
@@ -31,7 +32,7 @@ class ShowDriver {
   bool Press(const QString& widget);
   bool PressSquare(int row, int column);
   bool PressAudienceSquare(int row, int column);
-  // Opens the list and picks the item of that text with the mouse.
+  // Opens the list and picks the item of that text with the mouse. False when it was not picked.
   bool Choose(const QString& combo, const QString& item);
   // Lets the program run until the condition holds, at most the given time.
   bool WaitFor(const std::function<bool()>& condition, int milliseconds = 60000);
@@ -71,6 +72,8 @@ class ShowDriver {
 
  private:
   void AnswerBox();
+  // Opens the list and clicks on the item.
+  void PickFrom(QComboBox& box, const QString& item, const bool& chosen);
   void SaveWindow(QWidget& window, const QString& name);
   void Save(const QPixmap& picture, const QString& name);
   bool ClickCanvas(Canvas& canvas, const Control* square);
