@@ -10,7 +10,6 @@
 #include <tuple>
 
 #include "desktop/desktop_program.h"
-#include "desktop/files/native_path.h"
 #include "desktop/windows/audience_window.h"
 #include "desktop/windows/console_window.h"
 #include "figures.h"
@@ -54,7 +53,7 @@ class PaintCounter : public QObject {
 
 class PaintBench {
  public:
-  PaintBench() : program_(PlacesBelow(folder_.path())), show_(program_.TheShow()), form_(show_.frmMain) {
+  PaintBench() : program_(PlacesIn(folder_.path())), show_(program_.TheShow()), form_(show_.frmMain) {
     Main(show_);
     show_.frmLoading.Visible = false;
     show_.frmAlwaysLoaded.tmrAlwaysLoaded.Enabled = false;
@@ -73,14 +72,6 @@ class PaintBench {
   }
 
  private:
-  static DesktopPlaces PlacesBelow(const QString& folder) {
-    DesktopPlaces places;
-    places.folders.DataRoot = SpelledPath(folder + "/Ostara Show Kit Data");
-    places.configFolder = folder + "/config";
-    places.runtimeFolder = folder + "/run";
-    return places;
-  }
-
   void StartChallenge() {
     form_.optGameType[0].Click();
     form_.optGridControl[2].Click();

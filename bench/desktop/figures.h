@@ -8,6 +8,11 @@
 
 namespace pawnfield {
 
+struct DesktopPlaces;
+
+// Where a measured program writes: all of it below that folder.
+DesktopPlaces PlacesIn(const QString& folder);
+
 void PrintMedian(const std::string& name, std::vector<double> milliseconds);
 // The value that so many in 100 of them do not exceed; as a line under that name.
 void PrintPercentile(const std::string& name, std::vector<double> milliseconds, std::size_t percent);

@@ -5,9 +5,18 @@
 #include <cstdio>
 
 #include "desktop/desktop_program.h"
+#include "desktop/files/native_path.h"
 #include "figures.h"
 
 namespace pawnfield {
+
+DesktopPlaces PlacesIn(const QString& folder) {
+  DesktopPlaces places;
+  places.folders.DataRoot = SpelledPath(folder + "/data");
+  places.configFolder = folder + "/config";
+  places.runtimeFolder = folder + "/run";
+  return places;
+}
 
 void PrintMedian(const std::string& name, std::vector<double> milliseconds) {
   std::sort(milliseconds.begin(), milliseconds.end());

@@ -12,10 +12,10 @@
 #include <cstdlib>
 
 #include "controllers/ring_in.h"
-#include "desktop/files/native_path.h"
 #include "desktop/windows/audience_window.h"
 #include "desktop/windows/console_window.h"
 #include "devices/transceiver.h"
+#include "figures.h"
 #include "forms/main_form.h"
 #include "program/detection.h"
 #include "program/handlers.h"
@@ -27,14 +27,6 @@ namespace pawnfield {
 namespace {
 
 using SteadyClock = std::chrono::steady_clock;
-
-DesktopPlaces PlacesIn(const QTemporaryDir& folder) {
-  DesktopPlaces places;
-  places.folders.DataRoot = SpelledPath(folder.path() + "/data");
-  places.configFolder = folder.path() + "/config";
-  places.runtimeFolder = folder.path() + "/run";
-  return places;
-}
 
 void StartGame(Show& show, HandedReports& port) {
   AttachHandlers(show);
@@ -137,7 +129,7 @@ void Watch::Painted(const QWidget* window) {
       Qt::QueuedConnection);
 }
 
-PlayedShow::PlayedShow() : program_(PlacesIn(folder_)) {
+PlayedShow::PlayedShow() : program_(PlacesIn(folder_.path())) {
   // The manual mode's message is answered from a timer, as it holds its caller.
   QObject::connect(&answer_, &QTimer::timeout, &answer_, [] {
     if (QWidget* box = QApplication::activeModalWidget()) box->close();

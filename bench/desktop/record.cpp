@@ -17,7 +17,6 @@
 #include <optional>
 
 #include "desktop/desktop_program.h"
-#include "desktop/files/native_path.h"
 #include "desktop/windows/audience_window.h"
 #include "desktop/windows/console_window.h"
 #include "figures.h"
@@ -41,14 +40,6 @@ constexpr int kStarts = 5;
 constexpr double kEventsOfEightHours = 8 * 3600 / 20 * 4;
 
 double Ms(Ticks::time_point from) { return std::chrono::duration<double, std::milli>(Ticks::now() - from).count(); }
-
-DesktopPlaces PlacesBelow(const QString& folder) {
-  DesktopPlaces places;
-  places.folders.DataRoot = SpelledPath(folder + "/data");
-  places.configFolder = folder + "/config";
-  places.runtimeFolder = folder + "/run";
-  return places;
-}
 
 // When both windows have painted what was done.
 class Painted : public QObject {
@@ -181,7 +172,7 @@ bool StartOverInterrupted(const QString& folder, std::vector<double>& toQuestion
 }  // namespace
 
 int RunInterrupted(long long startedNs, const QString& folder) {
-  DesktopProgram program(PlacesBelow(folder));
+  DesktopProgram program(PlacesIn(folder));
   Show& show = program.TheShow();
   show.platform.settings.SaveSetting("Pawnfield", "Settings", "NoHardwareTold", "True");
   const Ticks::time_point started{std::chrono::nanoseconds(startedNs)};
@@ -210,7 +201,7 @@ int RunInterrupted(long long startedNs, const QString& folder) {
 bool MeasureRecord() {
   const QTemporaryDir folder;
   {
-    DesktopProgram program(PlacesBelow(folder.path()));
+    DesktopProgram program(PlacesIn(folder.path()));
     QTimer answer;
     QObject::connect(&answer, &QTimer::timeout, &answer, [] {
       if (QWidget* box = QApplication::activeModalWidget()) box->close();

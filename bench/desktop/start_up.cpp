@@ -10,7 +10,6 @@
 #include <optional>
 
 #include "desktop/desktop_program.h"
-#include "desktop/files/native_path.h"
 #include "desktop/windows/console_window.h"
 #include "desktop/windows/form_window.h"
 #include "figures.h"
@@ -56,14 +55,6 @@ QWidget& WindowOf(DesktopProgram& program, const Form& form) {
     if (window->objectName().toStdString() == form.Name()) return *window;
   }
   return program.Console();
-}
-
-DesktopPlaces PlacesBelow(const QString& folder) {
-  DesktopPlaces places;
-  places.folders.DataRoot = SpelledPath(folder + "/Ostara Show Kit Data");
-  places.configFolder = folder + "/config";
-  places.runtimeFolder = folder + "/run";
-  return places;
 }
 
 // What one start took, and what the program holds when it has come to rest.
@@ -134,7 +125,7 @@ int RunPlain(long long startedNs) {
 }
 
 int RunStartUp(long long startedNs, const QString& folder) {
-  DesktopProgram program(PlacesBelow(folder));
+  DesktopProgram program(PlacesIn(folder));
   Show& show = program.TheShow();
   // Missing hardware has been told before; the operator clicks on the splash as soon as it is seen.
   show.platform.settings.SaveSetting("Pawnfield", "Settings", "NoHardwareTold", "True");

@@ -7,7 +7,6 @@
 #include <QTimer>
 
 #include "desktop/desktop_program.h"
-#include "desktop/files/native_path.h"
 #include "figures.h"
 #include "forms/small_forms.h"
 #include "program/main_load.h"
@@ -38,11 +37,7 @@ long long Waits() {
 
 bool MeasureWakeUps() {
   const QTemporaryDir folder;
-  DesktopPlaces places;
-  places.folders.DataRoot = SpelledPath(folder.path() + "/data");
-  places.configFolder = folder.path() + "/config";
-  places.runtimeFolder = folder.path() + "/run";
-  DesktopProgram program(places);
+  DesktopProgram program(PlacesIn(folder.path()));
   Main(program.TheShow());
   LoadMainForm(program.TheShow());
   program.TheShow().frmLoading.Visible = false;
