@@ -159,9 +159,9 @@ bool MeasureKeys() {
   QProcess tool;
   tool.start("xdotool", {"key", "--delay", "25", "--repeat", QString::number(kKeys), "Shift_L"});
   if (!tool.waitForStarted()) return false;
-  QTest::qWaitFor([&] { return tool.state() == QProcess::NotRunning; }, 30000);
+  const bool ended = QTest::qWaitFor([&] { return tool.state() == QProcess::NotRunning; }, 30000);
   QTest::qWait(200);
-  if (keys.Late.size() < kKeys / 2) return false;
+  if (!ended || keys.Late.size() < kKeys / 2) return false;
   PrintPercentiles("Ways/key", keys.Late);
   return true;
 }
