@@ -22,7 +22,8 @@ namespace {
 
 constexpr std::size_t kKept = 40;
 constexpr int kSilenceMs = 2000;
-constexpr int kMonitorsSettleMs = 1500;
+// The display server and its window manager may have little of a busy machine.
+constexpr int kMonitorsSettleMs = 5000;
 constexpr int kMostClosings = 500;
 
 }  // namespace
