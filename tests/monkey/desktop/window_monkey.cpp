@@ -2,6 +2,7 @@
 
 #include <QApplication>
 #include <QCoreApplication>
+#include <QDebug>
 #include <QDialog>
 #include <QMessageBox>
 #include <QScreen>
@@ -189,7 +190,10 @@ QString WindowMonkey::AudienceInTheWay() {
   const QWindow* console = program_.Console().windowHandle();
   if (!audience.isVisible() || console == nullptr || sinceMonitors_.elapsed() < kMonitorsSettleMs) return {};
   const QRect monitor = console->screen()->geometry();
-  return audience.geometry().intersects(monitor) ? "the audience's window lies over the console's monitor" : QString();
+  if (!audience.geometry().intersects(monitor)) return {};
+  QString where;
+  QDebug(&where) << audience.geometry() << monitor << program_.Console().geometry();
+  return "the audience's window lies over the console's monitor: " + where;
 }
 
 QString WindowMonkey::WhatIsBroken() {
