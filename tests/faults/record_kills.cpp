@@ -152,6 +152,8 @@ std::string Judge(const QString& root, const Played& played, std::int64_t killed
   if (!record || record->Game.Events.empty()) return "a record without a game";
   const Snapshot& last = record->Game.Events[record->Game.Now].After;
   const int moment = MomentOf(played, TextOf(last));
+  // Killed before anything was noted there is nothing to hold it against.
+  if (played.Count == 0) return {};
   if (moment < 0) return "what the record ends with was never played";
   const auto next = static_cast<std::size_t>(moment) + 1;
   if (next < played.Count && killedMs - played.Moments[next].AtMs > kMostLostMs) return "more than a second is lost";
