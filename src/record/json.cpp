@@ -42,11 +42,14 @@ struct Writer {
   void operator()(bool value) const { out += value ? "true" : "false"; }
   void operator()(std::int64_t value) const { WriteNumber(out, value); }
   void operator()(double value) const {
-    if (std::isfinite(value)) {
-      WriteNumber(out, value);
-    } else {
+    if (!std::isfinite(value)) {
       out += "null";
+      return;
     }
+    const std::size_t from = out.size();
+    WriteNumber(out, value);
+    // Without a point it would be read as a whole number.
+    if (out.find_first_of(".e", from) == std::string::npos) out += ".0";
   }
   void operator()(const std::string& value) const { WriteText(out, value); }
   void operator()(const Json::List& value) const {

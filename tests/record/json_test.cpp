@@ -10,7 +10,7 @@ TEST(Json, WhatIsWrittenReadsBackTheSame) {
   for (int code = 0; code < 256; ++code) all += static_cast<char>(code);
   const Json json(Json::Members{{"text", all},
                                 {"number", std::int64_t{-9007199254740993}},
-                                {"part", 0.5},
+                                {"parts", Json::List{0.5, 1.0, -0.0, 1e30}},
                                 {"list", Json::List{true, false, Json(), "", Json::List{}}},
                                 {"inner", Json::Members{{"a\"b\\", 1}}}});
   const std::string text = json.Text();
