@@ -9,6 +9,7 @@
 #include <QElapsedTimer>
 #include <QFile>
 #include <QTemporaryDir>
+#include <algorithm>
 #include <array>
 #include <atomic>
 #include <chrono>
@@ -137,6 +138,17 @@ int MomentOf(const Played& played, const std::string& text) {
   return -1;
 }
 
+// What was played last goes to the disk beside the player, who may be killed before he has noted it: what stands before
+// it in the record, as far back as one act reaches, is then the last that he noted.
+bool IsYetToBeNoted(const GameHistory& game, const Played& played) {
+  constexpr std::size_t kOfOneAct = 3;
+  const std::string noted = played.Moments[played.Count - 1].Text.data();
+  for (std::size_t back = 1; back <= std::min(kOfOneAct, game.Now); ++back) {
+    if (TextOf(game.Events[game.Now - back].After) == noted) return true;
+  }
+  return false;
+}
+
 std::string BroughtBack(const QString& root) {
   Rig rig(root);
   Start(rig);
@@ -151,10 +163,10 @@ std::string Judge(const QString& root, const Played& played, std::int64_t killed
   const auto record = ParseRecord(records.Read(names.back()));
   if (!record || record->Game.Events.empty()) return "a record without a game";
   const Snapshot& last = record->Game.Events[record->Game.Now].After;
-  const int moment = MomentOf(played, TextOf(last));
   // Killed before anything was noted there is nothing to hold it against.
   if (played.Count == 0) return {};
-  if (moment < 0) return "what the record ends with was never played";
+  const int moment = MomentOf(played, TextOf(last));
+  if (moment < 0) return IsYetToBeNoted(record->Game, played) ? "" : "what the record ends with was never played";
   const auto next = static_cast<std::size_t>(moment) + 1;
   if (next < played.Count && killedMs - played.Moments[next].AtMs > kMostLostMs) return "more than a second is lost";
   if (last.Loaded && last.Started && BroughtBack(root) != TextOf(last)) return "another game came back";
