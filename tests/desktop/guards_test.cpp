@@ -7,6 +7,7 @@
 #include <QDialogButtonBox>
 #include <QFileDialog>
 #include <QFontDialog>
+#include <QLabel>
 #include <QLineEdit>
 #include <QListView>
 #include <QMenu>
@@ -294,6 +295,7 @@ TEST_F(GuardsTest, TheEdgeFillsWhileItIsHeld) {
 // Answers the next message box once it stands, by that key, and keeps what it looked like.
 struct BoxSeen {
   QStringList Buttons;
+  QString Head;
   QString Focus;
   Qt::WindowFlags Flags;
   bool Came = false;
@@ -306,6 +308,7 @@ struct BoxSeen {
       EXPECT_TRUE(QTest::qWaitForWindowActive(box));
       for (const QAbstractButton* button : box->buttons()) Buttons.append(button->text().remove('&'));
       Buttons.sort();
+      if (const auto* head = box->findChild<QLabel*>("pnlBoxHead")) Head = head->text();
       const auto* focus = qobject_cast<const QAbstractButton*>(box->focusWidget());
       Focus = focus == nullptr ? QString() : focus->text().remove('&');
       Flags = box->windowFlags();
@@ -352,6 +355,7 @@ TEST_F(GuardsTest, AQuestionHasVerbsAndItsSafeAnswerByEnterAndEscape) {
       EXPECT_EQ(show_.platform.dialogs.Ask(c.question, kAppTitle), c.question.Safe);
       EXPECT_EQ(box.Buttons, c.buttons);
       EXPECT_EQ(box.Focus, c.focus);
+      EXPECT_EQ(box.Head, kAppTitle);
       EXPECT_EQ(box.Flags & Qt::WindowMinimizeButtonHint, 0);
     }
   }

@@ -11,11 +11,11 @@
 #include <QMessageBox>
 #include <QPainter>
 #include <QPixmap>
-#include <QTimer>
 #include <tuple>
 
 #include "desktop/files/native_path.h"
 #include "desktop/files/windows_1252.h"
+#include "desktop/system/house_box.h"
 
 namespace pawnfield {
 
@@ -94,28 +94,6 @@ QString StartFolder(const std::string& spelled) {
   return folder;
 }
 
-// Some window managers minimise any window, whatever it asks for. A question that is out of sight would hold the show,
-// so it is back at once.
-class StaysInSight : public QObject {
- public:
-  explicit StaysInSight(QWidget& box) : QObject(&box), box_(box) { box.installEventFilter(this); }
-  bool eventFilter(QObject*, QEvent* event) override {
-    if (event->type() == QEvent::WindowStateChange && box_.isMinimized()) {
-      QTimer::singleShot(0, this, &StaysInSight::ComeBack);
-    }
-    return false;
-  }
-
- private:
-  void ComeBack() {
-    box_.setWindowState(box_.windowState() & ~Qt::WindowMinimized);
-    box_.raise();
-    box_.activateWindow();
-  }
-
-  QWidget& box_;
-};
-
 // Ends a modal form's message loop with the form.
 class FormEnd : public Observer {
  public:
@@ -147,17 +125,13 @@ BoxAnswer QtDialogs::MessageBox(const std::string& text, const std::string& titl
 }
 
 BoxAnswer QtDialogs::Ask(const BoxQuestion& question, const std::string& title) {
-  QMessageBox box(QApplication::activeWindow());
-  // Nothing to minimise.
-  box.setWindowFlags(Qt::Dialog | Qt::CustomizeWindowHint | Qt::WindowTitleHint | Qt::WindowCloseButtonHint |
-                     Qt::WindowStaysOnTopHint);
+  HouseBox box(QApplication::activeWindow());
   box.setWindowTitle(Unescape(title));
   box.setTextFormat(Qt::PlainText);
   box.setText(Unescape(question.Text).replace("\r\n", "\n"));
   box.setIconPixmap(SignOf(question.Kind, box));
   box.setStandardButtons(ButtonsOf(question.Kind));
   WriteButtons(box, question);
-  new StaysInSight(box);
   return AnswerOf(box.exec(), question.Kind);
 }
 

@@ -4,6 +4,7 @@
 #include <QCloseEvent>
 #include <QPushButton>
 #include <QScreen>
+#include <QTimer>
 #include <QVBoxLayout>
 
 #include "desktop/files/windows_1252.h"
@@ -107,6 +108,18 @@ void FormWindow::closeEvent(QCloseEvent* event) {
   bool close = true;
   if (form_.OnQueryUnload) form_.Dispatch([&] { close = form_.OnQueryUnload(); }, "Form_QueryUnload");
   if (close) form_.Unload();
+}
+
+void FormWindow::changeEvent(QEvent* event) {
+  const bool went = event->type() == QEvent::WindowStateChange && isMinimized();
+  if (went && isModal()) QTimer::singleShot(0, this, &FormWindow::ComeBack);
+  QMainWindow::changeEvent(event);
+}
+
+void FormWindow::ComeBack() {
+  setWindowState(windowState() & ~Qt::WindowMinimized);
+  raise();
+  activateWindow();
 }
 
 }  // namespace pawnfield

@@ -48,9 +48,12 @@ class FormWindow : public QMainWindow, public Observer {
   // In a dialog Enter presses the button that has the focus, or else the default one, and Escape closes.
   void keyPressEvent(QKeyEvent* event) override;
   void closeEvent(QCloseEvent* event) override;
+  // A modal form that is minimised would hold the show out of sight; it is back at once.
+  void changeEvent(QEvent* event) override;
   Form& form_;
 
  private:
+  void ComeBack();
   // Null when the form has none.
   QPushButton* DefaultButton() const;
 

@@ -1,0 +1,56 @@
+#include "desktop/system/house_box.h"
+
+#include <QLabel>
+#include <QLayout>
+#include <QMouseEvent>
+#include <QPainter>
+#include <QTimer>
+#include <QWindow>
+
+namespace pawnfield {
+
+namespace {
+
+class Head : public QLabel {
+ public:
+  explicit Head(const QWidget& box) : QLabel(box.windowTitle()) {
+    setObjectName("pnlBoxHead");
+    setTextFormat(Qt::PlainText);
+  }
+
+ protected:
+  void mousePressEvent(QMouseEvent* event) override {
+    if (event->button() == Qt::LeftButton) window()->windowHandle()->startSystemMove();
+  }
+};
+
+}  // namespace
+
+HouseBox::HouseBox(QWidget* parent) : QMessageBox(parent) {
+  setWindowFlags(Qt::Dialog | Qt::FramelessWindowHint | Qt::WindowStaysOnTopHint);
+}
+
+void HouseBox::showEvent(QShowEvent* event) {
+  if (layout()->menuBar() == nullptr) layout()->setMenuBar(new Head(*this));
+  QMessageBox::showEvent(event);
+}
+
+void HouseBox::paintEvent(QPaintEvent* event) {
+  QMessageBox::paintEvent(event);
+  QPainter painter(this);
+  painter.setPen(QColor("#62749F"));
+  painter.drawRect(rect().adjusted(0, 0, -1, -1));
+}
+
+void HouseBox::changeEvent(QEvent* event) {
+  if (event->type() == QEvent::WindowStateChange && isMinimized()) QTimer::singleShot(0, this, &HouseBox::ComeBack);
+  QMessageBox::changeEvent(event);
+}
+
+void HouseBox::ComeBack() {
+  setWindowState(windowState() & ~Qt::WindowMinimized);
+  raise();
+  activateWindow();
+}
+
+}  // namespace pawnfield
