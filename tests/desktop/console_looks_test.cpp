@@ -4,6 +4,7 @@
 #include <QLineEdit>
 #include <QTest>
 #include <QToolTip>
+#include <algorithm>
 
 #include "desktop/windows/console_window.h"
 #include "desktop/windows/hold_button.h"
@@ -11,6 +12,7 @@
 #include "forms/main_form.h"
 #include "places.h"
 #include "presentation/board_layout.h"
+#include "presentation/text_fitting.h"
 #include "program/handlers.h"
 #include "show/phase.h"
 
@@ -38,6 +40,20 @@ class ConsoleLooks : public ProgramTest {
     program_.Console().show();
     ASSERT_TRUE(QTest::qWaitForWindowActive(&program_.Console()));
   }
+  // A window that has just been resized settles within some turns of the loop, however long each takes.
+  void Settle() {
+    constexpr int kQuietTurns = 30;
+    std::vector<QRect> before;
+    int quiet = 0;
+    const auto isQuiet = [&] {
+      std::vector<QRect> now;
+      for (const QWidget* widget : program_.Console().findChildren<QWidget*>()) now.push_back(widget->geometry());
+      quiet = now == before ? quiet + 1 : 0;
+      before = now;
+      return quiet >= kQuietTurns;
+    };
+    EXPECT_TRUE(QTest::qWaitFor(isQuiet, 90000));
+  }
   QImage Picture(const char* name) { return Widget<QWidget>(name).grab().toImage(); }
 };
 
@@ -60,23 +76,69 @@ TEST_F(ConsoleLooks, TheLineHasNoGapWhereItHasNothingToSay) {
     auto& label = Widget<QWidget>(name);
     return label.mapTo(&program_.Console(), QPoint()).x();
   };
+  const auto middle = [this](const char* name) {
+    auto& widget = Widget<QWidget>(name);
+    return widget.mapTo(&program_.Console(), widget.rect().center()).y();
+  };
   for (const QSize size : {QSize(1280, 680), QSize(1366, 768), QSize(1600, 1000), QSize(1920, 1080)}) {
     program_.Console().resize(size);
     form_.lblLineCount.Caption = form_.lblLineWho.Caption = form_.lblLineNext.Caption = "";
     form_.lblLineExpected.Caption = "Choose a set";
     form_.btnAnswerClock.Enabled = false;
-    // A window that has just been resized settles within some turns of the loop.
-    QTest::qWait(500);
+    Settle();
+    EXPECT_NEAR(middle("lblLineExpected"), middle("pnlShowLine"), 2) << size.width();
     const int alone = left("lblLineExpected");
     const QRect board = Widget<QWidget>("pnlBoard").geometry();
     form_.lblLineCount.Caption = "Question 1 of 30";
     form_.lblLineNext.Caption = "Next: Which planet has the shortest day?";
     form_.btnAnswerClock.Enabled = true;
-    QTest::qWait(50);
+    Settle();
     EXPECT_EQ(left("lblLineCount"), alone) << size.width();
     EXPECT_GT(left("lblLineExpected"), alone) << size.width();
     EXPECT_EQ(Widget<QWidget>("pnlBoard").geometry(), board) << "the board stays where it is at " << size.width();
   }
+}
+
+TEST_F(ConsoleLooks, SignsGrowWithTheLettersBesideThem) {
+  const auto isGrown = [this](double growth) {
+    const int side = static_cast<int>(14 * growth);
+    const auto* score = Widget<QLabel>("pnlScoreName1").findChild<QWidget*>();
+    const int sides[] = {Widget<QAbstractButton>("btnSelectPlayer_0").iconSize().width(), score->width()};
+    return std::all_of(std::begin(sides), std::end(sides), [&](int each) { return std::abs(each - side) <= 2; });
+  };
+  for (const auto& [size, growth] :
+       {std::pair(QSize(1280, 680), 1.0), std::pair(QSize(3840, 2160), 1.5), std::pair(QSize(1920, 1080), 1.25)}) {
+    program_.Console().resize(size);
+    EXPECT_TRUE(QTest::qWaitFor([&, grown = growth] { return isGrown(grown); }, 60000)) << size.width();
+  }
+}
+
+TEST_F(ConsoleLooks, TheAnswerStandsBesideTheSquareAndIsAsHigh) {
+  const QWidget& square = Widget<QWidget>("pnlSquare");
+  const QWidget& answer = Widget<QWidget>("fraAnswer");
+  for (const QSize size : {QSize(1280, 680), QSize(1366, 768), QSize(1920, 1080), QSize(3840, 2160)}) {
+    program_.Console().resize(size);
+    Settle();
+    EXPECT_EQ(answer.y(), square.y()) << size.width();
+    EXPECT_EQ(answer.height(), square.height()) << size.width();
+  }
+}
+
+TEST_F(ConsoleLooks, AQuestionStandsInTheMiddleOfTheBoardWhereItNeedsALineLessThanMeasured) {
+  show_.frmMain.picStandby.Visible = false;
+  show_.frmMain.picQuestion.Visible = true;
+  form_.lblQuestion[0].Font = {"Segoe UI", 28, false, false};
+  SetQuestion(show_, "Which planet has the shortest day?", form_.lblQuestion);
+  const QImage board = Picture("pnlBoardCanvas");
+  int first = board.height();
+  int last = 0;
+  for (int y = 0; y < board.height(); ++y) {
+    if (PointsOf(board.copy(0, y, board.width(), 1), Qt::white) == 0) continue;
+    first = std::min(first, y);
+    last = y;
+  }
+  ASSERT_GT(last, first + board.height() / 3);
+  EXPECT_NEAR(first + last, board.height(), board.height() / 12);
 }
 
 TEST_F(ConsoleLooks, WhatIsExpectedHasItsWholeSizeAndTheNextQuestionGivesWay) {
@@ -89,7 +151,7 @@ TEST_F(ConsoleLooks, WhatIsExpectedHasItsWholeSizeAndTheNextQuestionGivesWay) {
   form_.lblLineNext.Caption = "Next: " + std::string(200, 'w');
   for (const QSize size : {QSize(1280, 680), QSize(1600, 900), QSize(1920, 1080), QSize(3840, 2160)}) {
     program_.Console().resize(size);
-    QTest::qWait(500);
+    Settle();
     const auto& expected = Widget<QLabel>("lblLineExpected");
     EXPECT_GE(expected.width(), expected.fontMetrics().horizontalAdvance(expected.text())) << size.width();
     EXPECT_GT(Widget<QWidget>("lblLineNext").width(), 100) << size.width();
@@ -99,7 +161,7 @@ TEST_F(ConsoleLooks, WhatIsExpectedHasItsWholeSizeAndTheNextQuestionGivesWay) {
 TEST_F(ConsoleLooks, TheKeyboardsOptionHasTwoLinesAtAnySize) {
   for (const QSize size : {QSize(1280, 680), QSize(1366, 860), QSize(1920, 1080), QSize(3840, 2160)}) {
     program_.Console().resize(size);
-    QTest::qWait(500);
+    Settle();
     const auto& words = Widget<QLabel>("lblExtKeyboardCtrl");
     EXPECT_LT(words.height(), 3 * words.fontMetrics().height()) << size.width();
   }
@@ -163,7 +225,7 @@ TEST_F(ConsoleLooks, TheTurnsMarkerHasNoCornersOfItsOwn) {
   form_.imgDJEntry.Visible = true;
   // Decoded beside.
   ASSERT_TRUE(QTest::qWaitFor(
-      [&] { return board.grab().toImage().pixelColor(place.center()) != without.pixelColor(place.center()); }));
+      [&] { return board.grab().toImage().pixelColor(place.center()) != without.pixelColor(place.center()); }, 90000));
   const QImage with = board.grab().toImage();
   for (const QPoint corner : {place.topLeft(), place.topRight(), place.bottomLeft(), place.bottomRight()}) {
     EXPECT_EQ(with.pixelColor(corner), without.pixelColor(corner));

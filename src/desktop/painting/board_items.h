@@ -21,12 +21,13 @@ ItemStyles BoardStyles(BoardForm& form) {
   return styles;
 }
 
-// The texts that a rule has fitted are drawn as told.
+// The texts that a rule has fitted are drawn as told. They are measured in a hair less room than they are drawn in and
+// may then need a line less, so they stand in the middle of their label.
 template <typename BoardForm>
 ItemStyles FittedTextStyles(BoardForm& form) {
   ItemStyle fitted;
   fitted.ShrinkToFit = false;
-  fitted.Align = Qt::AlignHCenter;
+  fitted.Align = Qt::AlignCenter;
   ItemStyles styles;
   for (std::size_t i = 0; i < 5; ++i) styles[&form.lblQuestion[i]] = fitted;
   return styles;

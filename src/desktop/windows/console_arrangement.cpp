@@ -8,6 +8,8 @@
 #include <algorithm>
 #include <cmath>
 
+#include "desktop/windows/key_button.h"
+
 namespace pawnfield {
 
 namespace {
@@ -119,6 +121,8 @@ void ConsoleArrangement::Resize(const Plan& plan) {
   }
   if (auto* line = window_.findChild<QBoxLayout*>("pnlShowLineParts")) {
     line->setDirection(plan.Stacked ? QBoxLayout::TopToBottom : QBoxLayout::LeftToRight);
+    // A lower row that has nothing to say would keep its share, and the upper one would not stand in the middle.
+    line->setStretch(1, plan.Stacked ? 0 : 1);
     if (!plan.Stacked) line->setSpacing(Grown(14, growth));
     // As high as with all its parts, so that the board stays where it is when one comes or goes.
     line->parentWidget()->setMinimumHeight(Grown(plan.Stacked ? (plan.Close ? 49 : 54) : 38, growth));
@@ -144,6 +148,7 @@ void ConsoleArrangement::Restyle(const Plan& plan) {
   QString look = plan.Growth > 1 ? LookAt(plan.Growth) : QString();
   if (plan.Close) look += "QRadioButton { min-height: 22px; }";
   window_.setStyleSheet(look);
+  for (KeyButton* button : window_.findChildren<KeyButton*>()) button->SetGrowth(plan.Growth);
 }
 
 }  // namespace pawnfield

@@ -91,7 +91,8 @@ void AddAnswer(QBoxLayout& column) {
   box->setToolTip("Type a column and a row, as in C4, and press Enter");
   auto* answer = Add<QGroupBox>(*row, "fraAnswer", 1);
   answer->setMinimumHeight(72);
-  answer->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Fixed);
+  // As high as the square's box beside it.
+  answer->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Preferred);
   auto* place = new QVBoxLayout(answer);
   place->setContentsMargins(12, 2, 12, 6);
 }

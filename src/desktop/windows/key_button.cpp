@@ -11,6 +11,7 @@ namespace pawnfield {
 
 namespace {
 constexpr double kSmallShare = 0.8;
+constexpr int kLargestSmall = kSmallestPixels + 3;
 constexpr int kEdge = 4;
 constexpr int kKeyPadding = 4;
 }  // namespace
@@ -32,10 +33,17 @@ void KeyButton::SetFace(const QString& face) {
   update();
 }
 
+void KeyButton::SetGrowth(double growth) {
+  if (sign_.isEmpty()) sign_ = iconSize();
+  growth_ = growth;
+  setIconSize(sign_ * growth);
+  update();
+}
+
 QFont KeyButton::SmallFont() const {
   QFont small = font();
-  small.setPixelSize(std::max(kSmallestPixels, static_cast<int>(QFontInfo(font()).pixelSize() * kSmallShare)));
-  small.setPixelSize(std::min(small.pixelSize(), kSmallestPixels + 3));
+  const auto share = static_cast<int>(QFontInfo(font()).pixelSize() / growth_ * kSmallShare);
+  small.setPixelSize(static_cast<int>(std::clamp(share, kSmallestPixels, kLargestSmall) * growth_));
   small.setWeight(QFont::Medium);
   return small;
 }

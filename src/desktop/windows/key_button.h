@@ -16,6 +16,8 @@ class KeyButton : public QPushButton {
   void SetNote(const QString& note);
   // What is drawn in the place of the caption, cut with dots where it is too long; empty for the caption itself.
   void SetFace(const QString& face);
+  // The key, the note and the sign grow as the text does with the window's look.
+  void SetGrowth(double growth);
   // The least width in which neither the text nor the key is cut.
   int NeededWidth() const;
 
@@ -30,6 +32,9 @@ class KeyButton : public QPushButton {
   void PaintFace(QPainter& painter, const QStyleOptionButton& option) const;
 
   QString key_, note_, face_;
+  double growth_ = 1;
+  // As it was given, before any growth.
+  QSize sign_;
 };
 
 }  // namespace pawnfield

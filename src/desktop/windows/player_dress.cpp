@@ -93,11 +93,10 @@ class ThirdCard : public Observer {
   QWidget& frame_;
 };
 
-// A sign that stands at the left edge of a name.
+// A sign that stands at the left edge of a name and grows with its letters.
 class NameSign : public QWidget {
  public:
-  NameSign(QLabel& name, int player) : QWidget(&name), player_(player) {
-    name.setContentsMargins(kSignSide + 4, 0, 0, 0);
+  NameSign(QLabel& name, int player) : QWidget(&name), name_(name), player_(player) {
     name.installEventFilter(this);
     setAttribute(Qt::WA_TransparentForMouseEvents);
     Place();
@@ -105,7 +104,7 @@ class NameSign : public QWidget {
 
  protected:
   bool eventFilter(QObject*, QEvent* event) override {
-    if (event->type() == QEvent::Resize) Place();
+    if (event->type() == QEvent::Resize || event->type() == QEvent::FontChange) Place();
     return false;
   }
   void paintEvent(QPaintEvent*) override {
@@ -114,7 +113,13 @@ class NameSign : public QWidget {
   }
 
  private:
-  void Place() { setGeometry(0, (parentWidget()->height() - kSignSide) / 2, kSignSide, kSignSide); }
+  void Place() {
+    const int side = kSignSide * QFontInfo(name_.font()).pixelSize() / kSmallestPixels;
+    const QMargins beside(side + 4, 0, 0, 0);
+    if (name_.contentsMargins() != beside) name_.setContentsMargins(beside);
+    setGeometry(0, (name_.height() - side) / 2, side, side);
+  }
+  QLabel& name_;
   int player_;
 };
 
