@@ -7,6 +7,7 @@
 #include <QProcess>
 #include <QPushButton>
 #include <QScreen>
+#include <QSignalSpy>
 #include <QTest>
 #include <QTextStream>
 #include <QTimer>
@@ -46,6 +47,8 @@ QImage AsSeen(QImage picture, Sight sight) {
 }
 
 constexpr int kStepMs = 20;
+// A slow display is given that long to show what the program has just let be pressed.
+constexpr int kPressableMs = 60000;
 constexpr int kStartMs = 120000;
 // A key whose window closes at its press may never be seen to go up.
 constexpr int kKeyMs = 5000;
@@ -130,7 +133,7 @@ void ShowDriver::Pause(int milliseconds) { QTest::qWait(milliseconds); }
 
 bool ShowDriver::Press(const QString& widget) {
   auto* target = program_.Console().findChild<QWidget*>(widget);
-  if (target == nullptr || !target->isVisible() || !target->isEnabled()) return false;
+  if (target == nullptr || !BecomesPressable(*target)) return false;
   if (qobject_cast<HoldButton*>(target) != nullptr) {
     QTest::mousePress(target, Qt::LeftButton);
     Pause(kHoldMs + 150);
@@ -144,11 +147,15 @@ bool ShowDriver::Press(const QString& widget) {
   return true;
 }
 
+bool ShowDriver::BecomesPressable(QWidget& widget) {
+  return WaitFor([&widget] { return widget.isVisible() && widget.isEnabled(); }, kPressableMs);
+}
+
 bool ShowDriver::ClickCanvas(Canvas& canvas, const Control* square) {
-  if (square == nullptr || !canvas.isVisible()) return false;
-  const QPoint centre = canvas.PixelRect(*square).center().toPoint();
-  if (canvas.At(centre) != square) return false;
-  QTest::mouseClick(&canvas, Qt::LeftButton, {}, centre);
+  if (square == nullptr) return false;
+  const auto centre = [&] { return canvas.PixelRect(*square).center().toPoint(); };
+  if (!WaitFor([&] { return canvas.isVisible() && canvas.At(centre()) == square; }, kPressableMs)) return false;
+  QTest::mouseClick(&canvas, Qt::LeftButton, {}, centre());
   return true;
 }
 
@@ -162,23 +169,26 @@ bool ShowDriver::PressAudienceSquare(int row, int column) {
 
 bool ShowDriver::Choose(const QString& combo, const QString& item) {
   auto* box = program_.Console().findChild<ModelComboBox*>(combo);
-  if (box == nullptr || !box->isEnabled() || !box->isVisible()) return false;
-  bool chosen = false;
-  const auto link = QObject::connect(box, &QComboBox::activated, box, [&chosen] { chosen = true; });
+  if (box == nullptr || !BecomesPressable(*box)) return false;
   // A slow display may take the list away before it is clicked; an operator opens it anew.
-  for (int tries = 0; tries < 3 && !chosen; ++tries) PickFrom(*box, item, chosen);
-  QObject::disconnect(link);
-  return chosen;
+  for (int tries = 0; tries < 3; ++tries) {
+    if (PickFrom(*box, item)) return true;
+  }
+  return false;
 }
 
-void ShowDriver::PickFrom(QComboBox& box, const QString& item, const bool& chosen) {
+bool ShowDriver::PickFrom(QComboBox& box, const QString& item) {
   constexpr int kChosenMs = 3000;
+  const QSignalSpy chosen(&box, &QComboBox::activated);
   QTest::mouseClick(&box, Qt::LeftButton);
   WaitFor([&box] { return box.view()->isVisible(); }, kKeyMs);
   Pause(200);
   // The list may have been filled for this look at it.
   const int row = box.findText(item);
-  if (row < 0) return box.hidePopup();
+  if (row < 0) {
+    box.hidePopup();
+    return false;
+  }
   QAbstractItemView* view = box.view();
   const QModelIndex index = box.model()->index(row, 0);
   view->scrollTo(index);
@@ -187,9 +197,10 @@ void ShowDriver::PickFrom(QComboBox& box, const QString& item, const bool& chose
   const QPoint place = view->visualRect(index).center();
   QTest::mouseMove(view->viewport(), place);
   QTest::mouseClick(view->viewport(), Qt::LeftButton, {}, place);
-  WaitFor([&chosen] { return chosen; }, kChosenMs);
+  WaitFor([&chosen] { return !chosen.isEmpty(); }, kChosenMs);
   Pause(100);
   box.hidePopup();
+  return !chosen.isEmpty();
 }
 
 FormWindow* ShowDriver::Form(const QString& name) {

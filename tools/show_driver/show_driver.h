@@ -28,7 +28,8 @@ class ShowDriver {
 
   // Runs the program's entry up to the console. False when the console did not come up.
   bool Start();
-  // Presses a button, option, check box or label with the mouse. False when it can't be pressed.
+  // Presses a button, option, check box or label with the mouse as soon as it stands there and is enabled. False when
+  // it still can't be pressed after a minute; so with the squares.
   bool Press(const QString& widget);
   bool PressSquare(int row, int column);
   bool PressAudienceSquare(int row, int column);
@@ -72,8 +73,10 @@ class ShowDriver {
 
  private:
   void AnswerBox();
-  // Opens the list and clicks on the item.
-  void PickFrom(QComboBox& box, const QString& item, const bool& chosen);
+  // True as soon as the widget is seen and enabled.
+  bool BecomesPressable(QWidget& widget);
+  // Opens the list and clicks on the item. False when the click didn't choose it.
+  bool PickFrom(QComboBox& box, const QString& item);
   void SaveWindow(QWidget& window, const QString& name);
   void Save(const QPixmap& picture, const QString& name);
   bool ClickCanvas(Canvas& canvas, const Control* square);
