@@ -91,6 +91,8 @@ TEST_F(MediaShowTest, TheOperatorsControlsAreSeenOnBothScreens) {
   driver_->Pause(300);
   EXPECT_EQ(Seen(), held) << "paused";
   MoveToTheMiddle();
+  // The program has something else to do just when the picture comes.
+  QTest::qSleep(3000);
   const std::pair middle(kMiddle, kMiddle);
   EXPECT_TRUE(Wait([&] { return Seen() == middle; })) << Seen().first << ' ' << Seen().second;
   PressPlayer("pnlPlayerPlay");

@@ -46,7 +46,10 @@ QSize MpvVideo::FrameSize() const {
 }
 
 void MpvVideo::Render() {
-  if (context_ == nullptr || (mpv_render_context_update(context_) & MPV_RENDER_UPDATE_FRAME) == 0) return;
+  if (context_ == nullptr) return;
+  const bool isNew = (mpv_render_context_update(context_) & MPV_RENDER_UPDATE_FRAME) != 0;
+  // A frame that isn't fetched within a fifth of a second is passed over, and a film at rest has no other after it.
+  if (!isNew && !IsPaused()) return;
   const QSize wanted = FrameSize();
   if (!IsPlaying() || wanted.isEmpty()) {
     // The frame has to be taken all the same, or no further one is announced.
