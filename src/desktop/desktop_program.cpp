@@ -184,8 +184,9 @@ void PrepareApplication() {
   QGuiApplication::setDesktopFileName(kAppId);
   QApplication::setWindowIcon(Icon());
   InstallAccess();
-  // Lives as long as the application.
+  // They live as long as the application.
   (new WindowClass)->setParent(qApp);
+  (new ActiveByServer)->setParent(qApp);
   QFile look(":/look/look.qss");
   if (look.open(QIODevice::ReadOnly)) qApp->setStyleSheet(QString::fromUtf8(look.readAll()));
 }

@@ -1,5 +1,7 @@
 // Whole games in the real windows on two monitors, by keys alone, which come from the display server, and by mouse.
 
+#include <xcb/xcb.h>
+
 #include <QApplication>
 #include <QEvent>
 #include <QGuiApplication>
@@ -7,6 +9,8 @@
 #include <QScreen>
 #include <QTimer>
 #include <QWindow>
+#include <cstdlib>
+#include <string_view>
 
 #include "desktop/windows/audience_window.h"
 #include "desktop/windows/console_window.h"
@@ -107,6 +111,34 @@ TEST_F(ShowTest, AMessageBoxHasNoMinimiseButtonAndIsBackAtOnceWhenMinimised) {
   EXPECT_FALSE(isFramed);
   EXPECT_TRUE(went);
   EXPECT_TRUE(isBack);
+}
+
+// The toolkit's own wish to activate a window, as the window manager hands it on.
+void WishActive(const QWidget& window) {
+  xcb_connection_t* connection = qGuiApp->nativeInterface<QNativeInterface::QX11Application>()->connection();
+  constexpr std::string_view kName = "_NET_ACTIVE_WINDOW";
+  xcb_intern_atom_reply_t* atom =
+      xcb_intern_atom_reply(connection, xcb_intern_atom(connection, 0, kName.size(), kName.data()), nullptr);
+  ASSERT_NE(atom, nullptr);
+  xcb_client_message_event_t message{};
+  message.response_type = XCB_CLIENT_MESSAGE;
+  message.format = 32;
+  message.window = static_cast<xcb_window_t>(window.winId());
+  message.type = atom->atom;
+  std::free(atom);
+  xcb_send_event(connection, 0, message.window, XCB_EVENT_MASK_NO_EVENT, reinterpret_cast<const char*>(&message));
+  xcb_flush(connection);
+}
+
+TEST_F(ShowTest, AWishForAWindowThatHasGoneLeavesTheConsoleActiveWithItsShortcuts) {
+  FormWindow* dialog = driver_->Form("frmGameTypeHelp");
+  QTimer::singleShot(500, dialog, [dialog] { dialog->close(); });
+  Main().btnGameTypeHelp.Click();
+  ASSERT_TRUE(Wait([] { return Console().isActiveWindow(); }));
+  WishActive(*dialog);
+  // What the server sent before this key has come through with it.
+  ASSERT_TRUE(driver_->Type({"Pause"}));
+  EXPECT_TRUE(Console().isActiveWindow());
 }
 
 // Whether the display itself shows the pointer's amber there.

@@ -1,7 +1,9 @@
 // What the program tells an X server of its windows beyond what the toolkit does. Elsewhere than on X nothing happens.
 #pragma once
 
+#include <QAbstractNativeEventFilter>
 #include <QObject>
+#include <cstdint>
 
 class QWindow;
 
@@ -19,6 +21,19 @@ class WindowClass : public QObject {
  public:
   WindowClass();
   bool eventFilter(QObject* watched, QEvent* event) override;
+};
+
+// While it lives a window is active when the server gave it the keyboard, and not by the program's own wish: the
+// toolkit hears its wishes too, and one that comes late would leave a window that is closed as the active one,
+// whereupon no shortcut works any more.
+class ActiveByServer : public QObject, public QAbstractNativeEventFilter {
+ public:
+  ActiveByServer();
+
+ private:
+  bool nativeEventFilter(const QByteArray& type, void* message, qintptr* result) override;
+
+  std::uint32_t wish_ = 0;
 };
 
 }  // namespace pawnfield

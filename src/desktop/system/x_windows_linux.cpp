@@ -97,4 +97,19 @@ bool WindowClass::eventFilter(QObject* watched, QEvent* event) {
   return false;
 }
 
+ActiveByServer::ActiveByServer() {
+  xcb_connection_t* connection = Connection();
+  if (connection == nullptr) return;
+  wish_ = Atom(connection, "_NET_ACTIVE_WINDOW");
+  qGuiApp->installNativeEventFilter(this);
+}
+
+bool ActiveByServer::nativeEventFilter(const QByteArray& type, void* message, qintptr*) {
+  if (type != "xcb_generic_event_t") return false;
+  constexpr int kSentByOthers = 0x80;
+  const auto* event = static_cast<const xcb_generic_event_t*>(message);
+  if ((event->response_type & ~kSentByOthers) != XCB_CLIENT_MESSAGE) return false;
+  return static_cast<const xcb_client_message_event_t*>(message)->type == wish_;
+}
+
 }  // namespace pawnfield
