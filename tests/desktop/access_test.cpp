@@ -3,6 +3,7 @@
 #include <QAbstractButton>
 #include <QAccessible>
 #include <QAccessibleActionInterface>
+#include <QTabWidget>
 #include <QTest>
 #include <set>
 
@@ -38,6 +39,13 @@ class AccessTest : public ProgramTest {
     AttachHandlers(show_);
     program_.Console().show();
     ASSERT_TRUE(QTest::qWaitForWindowActive(&program_.Console()));
+  }
+  // The control can be reached, on its tab of its form.
+  void BringUp(Form& form, Control& control, const QWidget& widget) {
+    form.Visible = true;
+    for (Control* part = &control; part != nullptr; part = part->Container) part->Visible = part->Enabled = true;
+    auto* tabs = Window(form).findChild<QTabWidget*>();
+    for (int i = 0; tabs != nullptr && i < tabs->count() && !widget.isVisible(); ++i) tabs->setCurrentIndex(i);
   }
   void ShowQuestion() {
     for (Label* question : {&form_.lblQuestion[0], &show_.frmFSMain.lblQuestion[0]}) {
@@ -135,6 +143,36 @@ TEST_F(AccessTest, AToggleIsAClickAndLeavesOneOptionOfEachGroupChecked) {
     toggle(*box);
     EXPECT_EQ(box->Value.Get(), was) << box->Name();
   }
+}
+
+// Of every form, with nothing behind them: what comes of a click is the forms' own tests.
+TEST_F(AccessTest, AToggleOnEachOptionAndBoxOfEveryFormIsOneClick) {
+  int toggled = 0;
+  for (Form* form : AllForms(show_)) {
+    for (Control* control : form->Controls()) {
+      auto* option = dynamic_cast<OptionButton*>(control);
+      auto* box = dynamic_cast<CheckBox*>(control);
+      if (option == nullptr && box == nullptr) continue;
+      SCOPED_TRACE(form->Name() + " " + control->Name());
+      auto& button = *Window(*form).findChild<QAbstractButton*>(WidgetName(control->Name()));
+      BringUp(*form, *control, button);
+      int clicks = 0;
+      control->OnClick = [&clicks] { ++clicks; };
+      const bool was = button.isChecked();
+      Of(button).actionInterface()->doAction(QAccessibleActionInterface::toggleAction());
+      EXPECT_EQ(clicks, 1);
+      EXPECT_EQ(Of(button).role(), option != nullptr ? QAccessible::RadioButton : QAccessible::CheckBox);
+      EXPECT_EQ(static_cast<bool>(Of(button).state().checked), option != nullptr || !was);
+      for (const OptionButton* other : option != nullptr ? option->Group : std::vector<OptionButton*>()) {
+        const auto* seen = Window(*form).findChild<QAbstractButton*>(WidgetName(other->Name()));
+        EXPECT_EQ(seen->isChecked(), other == option) << other->Name();
+        EXPECT_EQ(other->Value.Get(), other == option) << other->Name();
+      }
+      control->OnClick = {};
+      ++toggled;
+    }
+  }
+  EXPECT_GT(toggled, 40);
 }
 
 TEST_F(AccessTest, AListIsNamedByItsLabelAndToldWithWhatIsChosenInIt) {

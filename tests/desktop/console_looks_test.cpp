@@ -1,4 +1,5 @@
 // What the console draws of its models beyond their texts, as pictures and by real keys.
+#include <QAbstractButton>
 #include <QHelpEvent>
 #include <QLabel>
 #include <QLineEdit>
@@ -6,12 +7,16 @@
 #include <QToolTip>
 #include <algorithm>
 
+#include "desktop/painting/player_card.h"
+#include "desktop/windows/audience_window.h"
 #include "desktop/windows/console_window.h"
 #include "desktop/windows/hold_button.h"
 #include "desktop/windows/line_views.h"
+#include "forms/fs_main_form.h"
 #include "forms/main_form.h"
 #include "places.h"
 #include "presentation/board_layout.h"
+#include "presentation/both_screens.h"
 #include "presentation/text_fitting.h"
 #include "program/handlers.h"
 #include "show/phase.h"
@@ -230,6 +235,81 @@ TEST_F(ConsoleLooks, TheTurnsMarkerHasNoCornersOfItsOwn) {
   for (const QPoint corner : {place.topLeft(), place.topRight(), place.bottomLeft(), place.bottomRight()}) {
     EXPECT_EQ(with.pixelColor(corner), without.pixelColor(corner));
   }
+}
+
+// What is drawn in shades of grey: white for what is nearer to the lightest point than to the darkest, else black.
+QImage Shape(const QImage& grey) {
+  int least = 255, most = 0;
+  for (int y = 0; y < grey.height(); ++y) {
+    const auto [low, high] = std::minmax_element(grey.constScanLine(y), grey.constScanLine(y) + grey.width());
+    least = std::min<int>(least, *low);
+    most = std::max<int>(most, *high);
+  }
+  QImage shape = grey.copy();
+  for (int y = 0; y < grey.height(); ++y) {
+    for (int x = 0; x < grey.width(); ++x) shape.scanLine(y)[x] = 2 * grey.constScanLine(y)[x] > least + most ? 255 : 0;
+  }
+  return shape;
+}
+
+QImage ShapeOf(const QIcon& icon) {
+  QImage drawn = icon.pixmap(28).toImage().convertToFormat(QImage::Format_Alpha8);
+  drawn.reinterpretAsFormat(QImage::Format_Grayscale8);
+  return Shape(drawn);
+}
+
+QImage ShapeIn(const QImage& picture, const QRect& part) {
+  return Shape(picture.copy(part).convertToFormat(QImage::Format_Grayscale8));
+}
+
+// The share of points in which two shapes differ.
+double Apart(const QImage& one, const QImage& other) {
+  EXPECT_EQ(one.size(), other.size());
+  int apart = 0;
+  for (int y = 0; y < one.height(); ++y) {
+    for (int x = 0; x < one.width(); ++x) apart += one.pixel(x, y) != other.pixel(x, y) ? 1 : 0;
+  }
+  return static_cast<double>(apart) / (one.width() * one.height());
+}
+
+// Where a player's sign stands on a card.
+QRect SignOn(const QRectF& card) {
+  const double side = card.height() * kCardSign;
+  return QRectF(card.left() + card.height() * kCardSignLeft, card.center().y() - side / 2, side, side).toAlignedRect();
+}
+
+TEST_F(ConsoleLooks, PlayersAreToldApartByTheirSignsWhereNobodySeesAColour) {
+  const auto icon = [this](const QString& name) { return ShapeOf(Widget<QAbstractButton>(name.toLatin1()).icon()); };
+  LightScoreBox(show_, 0);
+  show_.frmFSMain.picStandby.Visible = false;
+  Canvas& room = program_.Audience().Screen();
+  room.resize(1920, 1080);
+  const QImage cards = room.grab().toImage();
+  show_.frmFSMain.SetBand(true);
+  show_.frmFSMain.picQuestion.Visible = true;
+  const QImage strips = room.grab().toImage();
+  const QLineEdit& box = Widget<QLineEdit>("txtDJCommand");
+  const auto signs = [&](int player) {
+    const QString index = QString::number(player - 1);
+    const QString number = QString::number(player);
+    const QByteArray card = ("picPlayer" + number).toLatin1();
+    LightScoreBox(show_, player);
+    return std::map<std::string, QImage>{
+        {"ring-in", icon("btnSelectPlayer_" + index)},
+        {"strip of light", icon("btnBuzzer_" + index)},
+        {"score row", ShapeIn(Picture(("pnlScoreName" + number).toLatin1()), {0, 0, 18, 40})},
+        {"console's card", ShapeIn(Picture(card), SignOn(Widget<QWidget>(card).rect()).translated(2, 0))},
+        {"square's box", ShapeOf(box.actions().first()->icon())},
+        {"room's card", ShapeIn(cards, SignOn(room.PixelRect(show_.frmFSMain.picPlayer[PlayerIndex(player)])))},
+        {"room's strip", ShapeIn(strips, SignOn(room.PixelRect(show_.frmFSMain.picBandPlayer[PlayerIndex(player)])))}};
+  };
+  const std::map<std::string, QImage> of[] = {signs(1), signs(2), signs(3)};
+  for (const auto& [one, other] : {std::pair{0, 1}, {0, 2}, {1, 2}}) {
+    for (const auto& [place, shape] : of[one]) {
+      EXPECT_GT(Apart(shape, of[other].at(place)), 0.05) << place << " of players " << one + 1 << " and " << other + 1;
+    }
+  }
+  EXPECT_GT(Apart(icon("btnQuestionCorrect"), icon("btnQuestionIncorrect")), 0.1) << "check and cross";
 }
 
 TEST_F(ConsoleLooks, TheNameStandsWholeInTheSquaresBoxUntilSomethingIsTyped) {

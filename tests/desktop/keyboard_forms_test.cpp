@@ -1,7 +1,11 @@
 // Every dialog can be worked by the keyboard alone: Tab reaches all that acts, the focus is seen, Enter and Escape end
 // it.
 
+#include <QColorDialog>
+#include <QFileDialog>
+#include <QFontDialog>
 #include <QLineEdit>
+#include <QMessageBox>
 #include <QTabWidget>
 #include <QTest>
 #include <algorithm>
@@ -51,8 +55,7 @@ class KeyboardForms : public ProgramTest {
     }
     return acting;
   }
-  static void ExpectSeenAndReached(FormWindow& window) {
-    const QWidgetList acting = Acting(window);
+  static void ExpectSeenAndReached(QWidget& window, const QWidgetList& acting) {
     QWidgetList reached;
     for (qsizetype i = 0; i < 2 * acting.size() + 10; ++i) {
       QTest::keyClick(window.focusWidget() != nullptr ? window.focusWidget() : &window, Qt::Key_Tab);
@@ -80,9 +83,33 @@ TEST_F(KeyboardForms, TabReachesEveryControlOfTheDialogsAndItsFocusIsSeen) {
     auto* tabs = window.findChild<QTabWidget*>();
     for (int tab = 0; tab < (tabs != nullptr ? tabs->count() : 1); ++tab) {
       if (tabs != nullptr) tabs->setCurrentIndex(tab);
-      ExpectSeenAndReached(window);
+      ExpectSeenAndReached(window, Acting(window));
     }
     form->Visible = false;
+  }
+}
+
+TEST_F(KeyboardForms, TabReachesAllThatTheToolkitsDialogsHaveAndItsFocusIsSeen) {
+  Make("data/Round 1.txt", "x");
+  QMessageBox question(QMessageBox::Question, "Pawnfield", "Save?", QMessageBox::Yes | QMessageBox::No);
+  QFileDialog files(nullptr, "Open", Native("data"));
+  files.setOption(QFileDialog::DontUseNativeDialog);
+  QFontDialog fonts;
+  fonts.setOption(QFontDialog::DontUseNativeDialog);
+  QColorDialog colors;
+  colors.setOption(QColorDialog::DontUseNativeDialog);
+  for (QDialog* window : std::initializer_list<QDialog*>{&question, &files, &fonts, &colors}) {
+    window->show();
+    window->activateWindow();
+    ASSERT_TRUE(QTest::qWaitForWindowActive(window, 60000));
+    QWidgetList acting;
+    for (QWidget* widget : window->findChildren<QWidget*>()) {
+      const bool byTab = (widget->focusPolicy() & Qt::TabFocus) != 0 && widget->focusProxy() == nullptr;
+      if (byTab && widget->isVisible() && widget->isEnabled()) acting.append(widget);
+    }
+    EXPECT_GT(acting.size(), 1);
+    ExpectSeenAndReached(*window, acting);
+    window->hide();
   }
 }
 

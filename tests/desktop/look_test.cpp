@@ -102,8 +102,8 @@ std::vector<Color> Grounds(const StyleSheet& sheet, const Selector& selector, co
 }
 
 bool MeansSomething(const Selector& selector) {
-  static const QStringList kInputs{"QPushButton",    "QComboBox",   "QLineEdit",
-                                   "QPlainTextEdit", "QTreeWidget", "QTableWidget"};
+  static const QStringList kInputs{"QPushButton", "QComboBox",    "QLineEdit",         "QPlainTextEdit",
+                                   "QTreeWidget", "QTableWidget", "QAbstractItemView", "QAbstractSpinBox"};
   if (selector.isWithin || selector.states.contains("disabled")) return false;
   return kInputs.contains(selector.type) || selector.part == "indicator" || selector.states.contains("focus");
 }

@@ -3,15 +3,18 @@
 
 #include <gtest/gtest.h>
 
+#include <QApplication>
 #include <QElapsedTimer>
 #include <QFile>
-#include <QGuiApplication>
+#include <QLineEdit>
 #include <QProcess>
 #include <QTemporaryDir>
+#include <QTimer>
 #include <QWindow>
 #include <algorithm>
 #include <vector>
 
+#include "desktop/system/screens.h"
 #include "desktop/windows/audience_window.h"
 #include "desktop/windows/console_window.h"
 #include "forms/fs_main_form.h"
@@ -32,6 +35,12 @@ class WaylandTest : public testing::TestWithParam<const char*> {
     // A machine has a keyboard also while nobody types.
     keyboard_.start("wtype", {"-s", "3600000"});
     driver_ = std::make_unique<ShowDriver>(folder_.path());
+    QTimer look;
+    look.callOnTimeout([this] {
+      const FormWindow* splash = driver_->Form("frmSplash");
+      if (splash->isVisible()) splash_ = splash->size();
+    });
+    look.start(20);
     ASSERT_TRUE(driver_->Start());
   }
   // A picture of each output shows what was wrong.
@@ -150,15 +159,18 @@ class WaylandTest : public testing::TestWithParam<const char*> {
   }
 
   QString own_, room_;
+  QSize splash_;
   QTemporaryDir folder_;
   QProcess keyboard_;
   std::unique_ptr<ShowDriver> driver_;
 };
 
 TEST_P(WaylandTest, EachScreenStaysTheConsolesOrTheRoomsWhateverIsUnplugged) {
+  EXPECT_EQ(splash_, driver_->Form("frmSplash")->sizeHint()) << "it was not stretched over the output";
   ASSERT_NO_FATAL_FAILURE(BeginQuestion());
   const std::string question = Main().lblQuestion[0].Caption;
   ExpectEachOnItsOwn("at the start");
+  EXPECT_EQ(Tell({"-t", "get_tree"}).count("\"app_id\": \"org.pawnfield.Pawnfield\""), 2) << "the desktop file's name";
 
   ASSERT_TRUE(Unplug(room_));
   EXPECT_TRUE(Wait([&] { return Main().lblStatusBar.Caption == std::string("Audience screen lost"); }));
@@ -195,6 +207,73 @@ TEST_P(WaylandTest, AChangeOfScaleLeavesEachAScreenOfItsOwn) {
     }
   }
   ExpectEachOnItsOwn("scales are 1 again");
+}
+
+TEST_P(WaylandTest, TheRoomsWindowGoesBackWhenTheDesktopMovesIt) {
+  ASSERT_NO_FATAL_FAILURE(BeginQuestion());
+  ExpectEachOnItsOwn("at the start");
+  for (int times = 0; times < 2; ++times) {
+    ASSERT_TRUE(Sway("[title=\"Second Screen\"] move container to output " + own_));
+    ASSERT_TRUE(Wait([&] { return Screen().windowHandle()->screen()->name() == own_; })) << "it was moved";
+    ExpectEachOnItsOwn("it is back");
+  }
+}
+
+TEST_P(WaylandTest, KeysThatReachTheRoomsWindowUnderADialogAreTheDialogs) {
+  ASSERT_NO_FATAL_FAILURE(BeginQuestion());
+  FormWindow& names = *driver_->Form("frmPlayerNames");
+  auto* box = names.findChild<QLineEdit*>("txtPlayerName_1");
+  for (int times = 0; times < 2; ++times) {
+    // The dialog has a message loop of its own.
+    QTimer::singleShot(0, &names, [&] {
+      EXPECT_TRUE(Wait([&] { return names.isActiveWindow(); }));
+      box->setFocus();
+      for (const QString& output : {own_, room_}) {
+        Sway("focus output " + output);
+        const QString typed = output == own_ ? "zoe" : "amy";
+        box->selectAll();
+        EXPECT_TRUE(Key({typed}));
+        EXPECT_TRUE(Wait([&] { return box->text().toLower() == typed; }))
+            << "the keyboard is given to what is on " << output.toStdString();
+      }
+      EXPECT_TRUE(Key({"-k", "Escape"}));
+      EXPECT_TRUE(Wait([&] { return !names.isVisible(); }));
+      names.close();
+    });
+    Main().mnuFileAddPlayerNames.Click();
+    Sway("focus output " + own_);
+  }
+  EXPECT_TRUE(IsPhase(driver_->TheShow(), PhaseKind::QuestionOpen)) << "no key rang in";
+  ExpectKeys();
+}
+
+TEST_P(WaylandTest, AQuestionStandsOverTheConsoleWhileTheRoomsWindowHasTheKeyboard) {
+  ASSERT_NO_FATAL_FAILURE(BeginQuestion());
+  ASSERT_TRUE(Sway("focus output " + room_));
+  ASSERT_TRUE(Wait([&] { return Screen().isActiveWindow(); }));
+  const QWidget* over = nullptr;
+  QTimer::singleShot(0, &Console(), [&] {
+    EXPECT_TRUE(Wait([] { return QApplication::activeModalWidget() != nullptr; }));
+    over = QApplication::activeModalWidget()->parentWidget();
+    QApplication::activeModalWidget()->close();
+  });
+  driver_->TheShow().platform.dialogs.MessageBox("The disk is full.", "Pawnfield", BoxKind::Critical);
+  EXPECT_EQ(over, &Console());
+}
+
+// On a busy machine the compositor tells a window of its screen after the toolkit's guess has been taken for it.
+TEST(WaylandScreens, TheConsolesOwnIsTheOneThatTheDesktopTellsHoweverLate) {
+  const QList<QScreen*> list = QGuiApplication::screens();
+  ASSERT_EQ(list.size(), 2);
+  for (QScreen* guess : list) {
+    QScreen* told = list[0] == guess ? list[1] : list[0];
+    Screens screens;
+    screens.MoveHome(*guess);
+    EXPECT_EQ(screens.Second(), told);
+    screens.MoveHome(*told);
+    EXPECT_EQ(screens.Home(), told);
+    EXPECT_EQ(screens.Second(), guess);
+  }
 }
 
 INSTANTIATE_TEST_SUITE_P(StartedAt, WaylandTest, testing::Values("HEADLESS-1", "HEADLESS-2"));

@@ -273,7 +273,7 @@ TEST_F(WindowsTest, TheResultIsLegibleFromTheBackRow) {
 }
 
 TEST(RoomsColors, EveryTextStandsOutFromItsGround) {
-  constexpr double kReadable = 4.5;
+  constexpr double kReadable = 4.5, kLarge = 3;
   for (int player = 1; player <= kPlayers; ++player) {
     for (const bool lit : {true, false}) {
       for (const Color text : {kPlayerColors[player], kWhite}) {
@@ -281,11 +281,20 @@ TEST(RoomsColors, EveryTextStandsOutFromItsGround) {
       }
     }
     EXPECT_GE(ContrastRatio(kPlayerColors[player], kResultLight), kReadable) << player;
+    // In the large letters of a name, to whoever lacks a kind of cone.
+    for (const Sight sight : kAllSights) {
+      const Color seen = SeenBy(sight, kPlayerColors[player]);
+      EXPECT_GE(ContrastRatio(seen, SeenBy(sight, CardGround(player, true))), kLarge) << player;
+      EXPECT_GE(ContrastRatio(seen, SeenBy(sight, kResultLight)), kLarge) << player;
+    }
   }
   for (const Color text : {kQuietText, kGold}) EXPECT_GE(ContrastRatio(text, kResultLight), kReadable);
   // The letters and digits of the board's edge, and what is typed.
   for (const Color text : {FromRgb(0x9FB4EC), kWhite, kGold}) EXPECT_GE(ContrastRatio(text, kBoardLight), kReadable);
-  for (const Color words : {kRightWords, kWrongWords}) EXPECT_GE(ContrastRatio(words, kBlack), kReadable);
+  for (const Color words : {kRightWords, kWrongWords}) {
+    EXPECT_GE(ContrastRatio(words, kBlack), kReadable);
+    for (const Sight sight : kAllSights) EXPECT_GE(ContrastRatio(SeenBy(sight, words), kBlack), kLarge);
+  }
 }
 
 TEST_F(WindowsTest, TheTurnIsLightInThePlayersOwnColourAndTheOthersAreDim) {

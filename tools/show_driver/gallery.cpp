@@ -48,6 +48,7 @@ class Gallery {
 
   void Boards() {
     Do(driver_.Press("optGameType_0"));
+    Do(driver_.Press("optPlayers_1"));
     for (int grid = 3; grid <= 5; ++grid) {
       // The grid is offered again by a slow timer.
       Do(driver_.WaitFor([&] { return form_.fraGridControl.Enabled.Get(); }));
@@ -169,6 +170,7 @@ class Gallery {
     form_.lblWinner.Visible = true;
     driver_.Pause(1500);
     driver_.TakePictures(name);
+    if (name == "winner-1" || name == "winner-3") driver_.TakePicturesAsSeen("eyes-" + name);
     ReportLetters("the final name", show_.frmFSMain.Winner.lblFinalName[0]);
     HidePanel(show_, Panel::Winner);
   }

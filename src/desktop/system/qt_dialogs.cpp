@@ -109,6 +109,16 @@ class FormEnd : public Observer {
 
 }  // namespace
 
+QWidget* OperatorsWindow() {
+  QWidget* active = QApplication::activeWindow();
+  if (active != nullptr && !active->windowFlags().testFlag(Qt::WindowDoesNotAcceptFocus)) return active;
+  if (QWidget* modal = QApplication::activeModalWidget()) return modal;
+  for (QWidget* window : QApplication::topLevelWidgets()) {
+    if (window->objectName() == "frmMain" && window->isVisible()) return window;
+  }
+  return nullptr;
+}
+
 QString FilterList(const std::string& filter) {
   const QStringList parts = Unescape(filter).split('|', Qt::SkipEmptyParts);
   QStringList filters;
@@ -125,7 +135,7 @@ BoxAnswer QtDialogs::MessageBox(const std::string& text, const std::string& titl
 }
 
 BoxAnswer QtDialogs::Ask(const BoxQuestion& question, const std::string& title) {
-  HouseBox box(QApplication::activeWindow());
+  HouseBox box(OperatorsWindow());
   box.setWindowTitle(Unescape(title));
   box.setTextFormat(Qt::PlainText);
   box.setText(Unescape(question.Text).replace("\r\n", "\n"));
@@ -136,7 +146,7 @@ BoxAnswer QtDialogs::Ask(const BoxQuestion& question, const std::string& title) 
 }
 
 std::string QtDialogs::ChooseFile(const FileDialogRequest& request) {
-  QFileDialog dialog(QApplication::activeWindow(), Unescape(request.Title), StartFolder(request.InitialFolder));
+  QFileDialog dialog(OperatorsWindow(), Unescape(request.Title), StartFolder(request.InitialFolder));
   dialog.setAcceptMode(request.Save ? QFileDialog::AcceptSave : QFileDialog::AcceptOpen);
   dialog.setFileMode(request.Save ? QFileDialog::AnyFile : QFileDialog::ExistingFile);
   dialog.setOption(QFileDialog::DontConfirmOverwrite, !request.ConfirmsOverwrite);
@@ -157,7 +167,7 @@ std::optional<Font> QtDialogs::ChooseFont(const Font& start) {
   first.setItalic(start.Italic);
   // A face that isn't installed is painted by another; the dialog lists and opens on that one.
   first.setFamily(QFontInfo(first).family());
-  QFontDialog dialog(first, QApplication::activeWindow());
+  QFontDialog dialog(first, OperatorsWindow());
   dialog.setOption(QFontDialog::DontUseNativeDialog);
   const QFont opened = dialog.currentFont();
   if (dialog.exec() != QDialog::Accepted) return std::nullopt;
@@ -172,7 +182,7 @@ std::optional<Font> QtDialogs::ChooseFont(const Font& start) {
 
 std::optional<Color> QtDialogs::ChooseColor(Color start) {
   const QColor first(start & 0xFF, (start >> 8) & 0xFF, (start >> 16) & 0xFF);
-  QColorDialog dialog(first, QApplication::activeWindow());
+  QColorDialog dialog(first, OperatorsWindow());
   if (dialog.exec() != QDialog::Accepted) return std::nullopt;
   const QColor color = dialog.selectedColor();
   return color.red() | color.green() << 8 | color.blue() << 16;

@@ -23,6 +23,10 @@ class QtDialogs : public Dialogs {
   const FormWindows& windows_;
 };
 
+// The window over which a question stands: the one that is worked with, or else the console. Never the room's, also
+// where the desktop has given that the keyboard; null before there is a console.
+QWidget* OperatorsWindow();
+
 // "Game Sets(*.txt)|*.txt|All|*.*" as the toolkit's list of filters.
 QString FilterList(const std::string& filter);
 

@@ -1,6 +1,5 @@
 #include "desktop/system/qt_printing.h"
 
-#include <QApplication>
 #include <QBuffer>
 #include <QPainter>
 #include <QPdfWriter>
@@ -10,6 +9,7 @@
 
 #include "desktop/files/whole_file.h"
 #include "desktop/files/windows_1252.h"
+#include "desktop/system/qt_dialogs.h"
 
 namespace pawnfield {
 
@@ -136,7 +136,7 @@ int PrintCopy(QPagedPaintDevice& device, QPainter& painter, const PrintDocument&
 std::optional<int> QtPrinting::ChoosePrinter() {
   if (!printer_) printer_ = std::make_unique<QPrinter>(QPrinter::HighResolution);
   printer_->setCopyCount(1);
-  QPrintDialog dialog(printer_.get(), QApplication::activeWindow());
+  QPrintDialog dialog(printer_.get(), OperatorsWindow());
   dialog.setOptions(QAbstractPrintDialog::PrintToFile | QAbstractPrintDialog::PrintCollateCopies);
   if (dialog.exec() != QDialog::Accepted) return std::nullopt;
   const int copies = printer_->copyCount();

@@ -30,14 +30,17 @@ Screens::Screens() {
   for (QScreen* screen : QGuiApplication::screens()) Watch(*screen);
   connect(qGuiApp, &QGuiApplication::screenAdded, this, [this](QScreen* screen) {
     Watch(*screen);
-    Change();
+    MonitorsChanged();
   });
-  connect(qGuiApp, &QGuiApplication::screenRemoved, this, [this] { Change(); });
-  connect(qGuiApp, &QGuiApplication::primaryScreenChanged, this, [this] { Change(); });
+  connect(qGuiApp, &QGuiApplication::screenRemoved, this, &Screens::MonitorsChanged);
+  connect(qGuiApp, &QGuiApplication::primaryScreenChanged, this, &Screens::MonitorsChanged);
 }
 
-void Screens::Watch(QScreen& screen) {
-  connect(&screen, &QScreen::geometryChanged, this, [this] { Change(); });
+void Screens::Watch(QScreen& screen) { connect(&screen, &QScreen::geometryChanged, this, &Screens::MonitorsChanged); }
+
+void Screens::MonitorsChanged() {
+  areAsAtFirst_ = false;
+  Change();
 }
 
 void Screens::Change() {
@@ -50,7 +53,8 @@ void Screens::NotifyChanged() {
 }
 
 void Screens::MoveHome(const QScreen& screen) {
-  if (!IsChanging() || !homeIsKnown_) home_ = screen.name();
+  const bool guessed = !homeIsKnown_ || (areAsAtFirst_ && !WindowsHavePlaces());
+  if (!IsChanging() || guessed) home_ = screen.name();
   const bool moved = standing_ != screen.name();
   standing_ = screen.name();
   if (!std::exchange(homeIsKnown_, true) || (moved && !WindowsHavePlaces())) Change();

@@ -33,7 +33,8 @@ class Screens : public QObject {
   QRect Room(const QScreen& screen) const;
   // The screen that shows the point, null when none does.
   QScreen* At(QPoint point) const;
-  // The console is seen on that monitor. Unless the monitors are changing, the operator has put it there.
+  // The console is seen on that monitor. Unless the monitors are changing, the operator has put it there. The first
+  // word of it may be the toolkit's guess, which the desktop's own mends, however late that comes.
   void MoveHome(const QScreen& screen);
   // What is done to the console now is not the operator's doing either.
   void Unsettle() { Change(); }
@@ -47,6 +48,7 @@ class Screens : public QObject {
 
  private:
   void Watch(QScreen& screen);
+  void MonitorsChanged();
   void Change();
   void NotifyChanged();
   bool ConsoleIsOnItsWay() const;
@@ -56,6 +58,8 @@ class Screens : public QObject {
   // Where the console is seen, by name; a Wayland session alone needs it.
   QString standing_;
   bool homeIsKnown_ = WindowsHavePlaces();
+  // No monitor has come, gone or changed yet.
+  bool areAsAtFirst_ = true;
   QTimer soon_, settled_;
   mutable XMonitors server_{[this] { Change(); }};
   std::vector<std::function<void()>> subscribers_;

@@ -1,11 +1,12 @@
 #include "desktop/system/work_beside.h"
 
-#include <QApplication>
 #include <QEventLoop>
 #include <QProgressDialog>
 #include <QTimer>
 #include <exception>
 #include <thread>
+
+#include "desktop/system/qt_dialogs.h"
 
 namespace pawnfield {
 
@@ -21,7 +22,7 @@ bool WorkBeside(const QString& what, const std::function<bool(WorkProgress&)>& w
   std::exception_ptr fault;
   bool done = false;
   std::atomic<bool> finished = false;
-  QProgressDialog bar(what, "Stop", 0, 1000, QApplication::activeWindow());
+  QProgressDialog bar(what, "Stop", 0, 1000, OperatorsWindow());
   bar.setWindowTitle("Pawnfield");
   bar.setWindowModality(Qt::ApplicationModal);
   bar.setMinimumDuration(kShownAfterMs);

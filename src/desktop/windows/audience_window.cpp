@@ -22,6 +22,8 @@ constexpr double kRound = 0.18;
 // In which a compositor has put a window where it belongs; and how often it is asked.
 constexpr int kPlacedMs = 400;
 constexpr int kTries = 3;
+// A window that has stood for so long was where it was to go.
+constexpr int kStoodMs = 2000;
 }  // namespace
 
 AudienceWindow::AudienceWindow(FSMainForm& form, SecondScreenForm& copy, FormWindows& windows, PictureCache& pictures,
@@ -140,8 +142,11 @@ void AudienceWindow::Place() {
 
 // A full-screen window goes to the monitor that it had when it was shown.
 void AudienceWindow::GoTo(QScreen& target) {
+  connect(windowHandle(), &QWindow::screenChanged, this, &AudienceWindow::Moved, Qt::UniqueConnection);
   placed_.start();
   if (isVisible() && windowHandle()->screen() == &target) return;
+  CloseOpenLists();
+  sent_.start();
   hide();
   windowHandle()->setScreen(&target);
   setWindowState(Qt::WindowFullScreen);
@@ -153,6 +158,11 @@ void AudienceWindow::CheckPlace() {
   if (!isVisible() || target == nullptr || windowHandle()->screen() == target) return;
   // Nowhere is better than over the console.
   --triesLeft_ > 0 ? Place() : hide();
+}
+
+void AudienceWindow::Moved() {
+  if (sent_.hasExpired(kStoodMs)) triesLeft_ = kTries;
+  placed_.start();
 }
 
 void AudienceWindow::HandKeysTo(QWidget& console) { relay_ = std::make_unique<KeyRelay>(console); }

@@ -2,6 +2,7 @@
 // monitor while frmSS is loaded, and never takes the focus from the console.
 #pragma once
 
+#include <QElapsedTimer>
 #include <QTimer>
 
 #include "desktop/painting/board_items.h"
@@ -40,6 +41,8 @@ class AudienceWindow : public FormWindow {
   void GoTo(QScreen& target);
   // Looks whether the desktop has put the window where it was to go.
   void CheckPlace();
+  // A compositor has moved it, as for a new scale, which changes no monitor's place.
+  void Moved();
   // Gone before the toolkit would move it over the console.
   void ScreenRemoved(const QScreen* screen);
 
@@ -50,6 +53,8 @@ class AudienceWindow : public FormWindow {
   std::unique_ptr<KeyRelay> relay_;
   QTimer placed_;
   int triesLeft_ = 0;
+  // Since it was last sent to a screen.
+  QElapsedTimer sent_;
 };
 
 }  // namespace pawnfield

@@ -319,6 +319,7 @@ void ConsoleWindow::ReturnByScreen() {
   if (!isVisible() || screens_.IsChanging() || home == nullptr || screen() == home || sentHomeAt_ == count) return;
   sentHomeAt_ = count;
   screens_.Unsettle();
+  CloseOpenLists();
   hide();
   windowHandle()->setScreen(home);
   showFullScreen();

@@ -1,11 +1,12 @@
 // Keys that reach the audience's window do at the console what they would do there: a desktop may give the keyboard to
-// a window that asks for none.
+// a window that asks for none. Under a dialog they are the dialog's.
 #pragma once
 
 #include <QObject>
 
 class QKeyEvent;
 class QWidget;
+class QWindow;
 
 namespace pawnfield {
 
@@ -18,6 +19,8 @@ class KeyRelay : public QObject {
   bool eventFilter(QObject* watched, QEvent* event) override;
 
  private:
+  static void KeepOpen(QWindow& window);
+  bool Hand(QEvent& event);
   // The dialog that the console waits for, or else the console.
   QWidget& Target() const;
   // The console's menus and their keys; the toolkit looks for them in the window in front alone.

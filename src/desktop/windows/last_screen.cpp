@@ -11,6 +11,7 @@
 
 #include "desktop/painting/ground.h"
 #include "desktop/system/screens.h"
+#include "desktop/windows/form_window.h"
 
 namespace pawnfield {
 
@@ -104,7 +105,7 @@ void LastScreen::ScreensChanged() {
 }
 
 void LastScreen::CoverAll() {
-  while (QWidget* popup = QApplication::activePopupWidget()) popup->close();
+  CloseOpenLists();
   covered_.start();
   for (QWidget* window : QApplication::topLevelWidgets()) {
     if (window->isVisible()) Cover(*window);
