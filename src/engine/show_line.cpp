@@ -4,6 +4,7 @@
 
 #include "data/house_colors.h"
 #include "forms/main_form.h"
+#include "platform/escapes.h"
 #include "platform/text.h"
 #include "sets/set_file.h"
 #include "sets/set_parser.h"
@@ -127,7 +128,7 @@ void TellOfSet(const Show& show, ShowLine& line) {
   const int next = show.state.GameStarted ? show.state.CurrentQuestion + 1 : 0;
   if (next >= show.NumGameQuestions) return;
   const std::string text = Trim(show.GameSet[static_cast<std::size_t>(next)].QuestionText);
-  line.Next = (next == 0 ? "First: " : "Next: ") + QuestionInWords(text);
+  line.Next = (next == 0 ? "First: " : "Next: ") + Isolated(QuestionInWords(text));
 }
 
 }  // namespace

@@ -1,5 +1,8 @@
 #include "platform/escapes.h"
 
+#include <algorithm>
+#include <iterator>
+
 #include "platform/nearest_letters.h"
 
 namespace pawnfield {
@@ -8,12 +11,26 @@ namespace {
 
 constexpr char32_t kBase = 36;
 constexpr char32_t kCodes = 0x110000;
+// Between these a text has the direction of its own first letter, and is one neutral sign to what stands around it.
+constexpr char32_t kBeginIsolate = 0x2068, kEndIsolate = 0x2069;
+
+struct CodeRange {
+  char32_t First, Last;
+};
+// Hebrew, Arabic and their kin, the forms that stand for them, and the scripts of old.
+constexpr CodeRange kFromRightToLeft[] = {
+    {0x0590, 0x08FF}, {0xFB1D, 0xFDFF}, {0xFE70, 0xFEFC}, {0x10800, 0x10FFF}, {0x1E800, 0x1EFFF}};
 
 std::optional<char32_t> DigitOf(char c) {
   if (c >= '0' && c <= '9') return c - '0';
   if (c >= 'a' && c <= 'z') return 10 + c - 'a';
   if (c >= 'A' && c <= 'Z') return 10 + c - 'A';
   return std::nullopt;
+}
+
+bool GoesFromRightToLeft(char32_t code) {
+  return std::any_of(std::begin(kFromRightToLeft), std::end(kFromRightToLeft),
+                     [code](const CodeRange& range) { return code >= range.First && code <= range.Last; });
 }
 
 std::size_t LetterLength(std::string_view text, std::size_t at) { return EscapeAt(text, at) ? kEscapeLength : 1; }
@@ -57,6 +74,24 @@ std::string PlainLetters(std::string_view text) {
   for (std::size_t at = 0; at < text.size(); at += LetterLength(text, at)) {
     const auto code = EscapeAt(text, at);
     plain += code ? NearestLetter(*code) : text[at];
+  }
+  return plain;
+}
+
+std::string Isolated(const std::string& text) {
+  for (std::size_t at = 0; at < text.size(); at += LetterLength(text, at)) {
+    const auto code = EscapeAt(text, at);
+    if (code && GoesFromRightToLeft(*code)) return EscapeOf(kBeginIsolate) + text + EscapeOf(kEndIsolate);
+  }
+  return text;
+}
+
+std::string WithoutIsolation(std::string_view text) {
+  std::string plain;
+  for (std::size_t at = 0, length = 0; at < text.size(); at += length) {
+    const auto code = EscapeAt(text, at);
+    length = LetterLength(text, at);
+    if (code != kBeginIsolate && code != kEndIsolate) plain += text.substr(at, length);
   }
   return plain;
 }

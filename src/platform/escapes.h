@@ -25,4 +25,10 @@ std::string FirstLetters(std::string_view text, std::size_t count);
 // With the nearest letter for each escape, for a device whose letters are Windows-1252's.
 std::string PlainLetters(std::string_view text);
 
+// The text as it may stand among others: one that holds letters from right to left keeps to itself there, so that it
+// doesn't take a number or a sign beside it along.
+std::string Isolated(const std::string& text);
+// Without what keeps texts to themselves.
+std::string WithoutIsolation(std::string_view text);
+
 }  // namespace pawnfield

@@ -6,6 +6,7 @@
 
 #include "forms/fs_main_form.h"
 #include "forms/main_form.h"
+#include "platform/escapes.h"
 #include "platform/text.h"
 #include "presentation/both_screens.h"
 #include "show/show.h"
@@ -64,10 +65,11 @@ void ShowResult(Show& show) {
 
 void KeepLastResult(Show& show) {
   std::string names;
-  for (const int player : Winners(show)) names += (names.empty() ? "" : " and ") + NameOf(show, player);
+  for (const int player : Winners(show)) names += (names.empty() ? "" : " and ") + Isolated(NameOf(show, player));
   std::string scores;
   for (const int player : ByScore(show)) {
-    scores += (scores.empty() ? "" : ", ") + NameOf(show, player) + " " + show.frmMain.Score(player).Caption.Get();
+    scores +=
+        (scores.empty() ? "" : ", ") + Isolated(NameOf(show, player)) + " " + show.frmMain.Score(player).Caption.Get();
   }
   show.frmMain.lblLastResult.Caption = "Last game: " + names + " " + WordFor(Winners(show)) + "\r\n" + scores;
   show.frmMain.picLastResult.Visible = true;

@@ -5,6 +5,7 @@
 
 #include "data/press_order.h"
 #include "forms/main_form.h"
+#include "platform/escapes.h"
 #include "show/show.h"
 #include "show/show_check_state.h"
 
@@ -18,7 +19,7 @@ constexpr std::int64_t kTwiceUs = 1000000;
 constexpr std::int64_t kRepeatUs = 200000;
 
 std::string Named(const Show& show, int player) {
-  return std::to_string(player) + " " + show.frmMain.PlayerName(player);
+  return std::to_string(player) + " " + Isolated(show.frmMain.PlayerName(player));
 }
 
 std::string WayText(const TriedPress& press) {

@@ -170,7 +170,7 @@ RowFacts SetFacts(const Show& show) {
   if (!show.state.GameLoaded || show.NumGameQuestions == 0) {
     return {ChipState::Red, "No set is loaded: choose one at the console or here.", "Choose..."};
   }
-  const std::string name = SetName(ExtractFileName(show.state.LoadedSetPath));
+  const std::string name = Isolated(SetName(ExtractFileName(show.state.LoadedSetPath)));
   const MediaCheck& files = show.mediaCheck;
   if (files.Left > 0) {
     return {ChipState::None, name + ": its files are being looked at, " + std::to_string(files.Files - files.Left) +

@@ -5,6 +5,7 @@
 
 #include "engine/game_flow.h"
 #include "forms/main_form.h"
+#include "platform/escapes.h"
 #include "platform/text.h"
 #include "record/history.h"
 #include "record/record_lines.h"
@@ -45,13 +46,13 @@ std::string Describe(const InterruptedShow& interrupted) {
   std::string text = std::string("A show was interrupted at ") + time + ":";
   const GameNature& type = NatureOf(static_cast<GameMode>(last.After.GameType));
   if (type.Trivia && game.Set) {
-    text += " " + SetName(ExtractFileName(game.Set->Path)) + ", question " +
+    text += " " + Isolated(SetName(ExtractFileName(game.Set->Path))) + ", question " +
             std::to_string(last.After.CurrentQuestion + 1) + " of " + std::to_string(game.Set->Count);
   } else {
     text += std::string(" ") + type.Caption;
   }
   for (int player = 1; player <= last.After.Players; ++player)
-    text += ", " + last.After.Names[PlayerIndex(player)] + " " + last.After.Scores[PlayerIndex(player)];
+    text += ", " + Isolated(last.After.Names[PlayerIndex(player)]) + " " + last.After.Scores[PlayerIndex(player)];
   return text + ".";
 }
 

@@ -3,6 +3,7 @@
 #include <cmath>
 
 #include "data/game_types.h"
+#include "platform/escapes.h"
 #include "platform/text.h"
 
 namespace pawnfield {
@@ -21,7 +22,7 @@ std::string ScoreChange(const Snapshot& before, const Snapshot& after, int playe
 }
 
 std::string NameIn(const Snapshot& snapshot, int player) {
-  return IsPlayer(player) ? snapshot.Names[PlayerIndex(player)] : std::string("nobody");
+  return IsPlayer(player) ? Isolated(snapshot.Names[PlayerIndex(player)]) : std::string("nobody");
 }
 
 // The square that only the snapshot after the event has, as the board's labels name it.

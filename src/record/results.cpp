@@ -6,6 +6,7 @@
 
 #include "data/game_types.h"
 #include "data/press_order.h"
+#include "platform/escapes.h"
 #include "platform/text.h"
 #include "record/record_lines.h"
 #include "record/ring_in_order.h"
@@ -58,7 +59,7 @@ std::optional<std::int64_t> LeadOf(const std::vector<Press>& presses) {
 std::string OrderText(const std::vector<Press>& presses, const std::array<std::string, kPlayers>& names) {
   std::string text;
   for (const RingInRow& row : RingInRows(presses, names)) {
-    text += (text.empty() ? "" : ", ") + row.Name;
+    text += (text.empty() ? "" : ", ") + Isolated(row.Name);
     if (row.When != "first") text += " " + row.When;
   }
   return text;
@@ -196,8 +197,8 @@ TableRow RowOf(const PlayerTotal& total) {
 
 PrintBlock BlockOf(const ResultRow& row) {
   const std::string number = row.Question > 0 ? std::to_string(row.Question) + ". " : "";
-  PrintBlock block{row.Time + "  " + number + (row.Question > 0 ? row.Wording : row.Verdict)};
-  if (!row.Answer.empty()) block.push_back("Answer: " + row.Answer);
+  PrintBlock block{row.Time + "  " + number + (row.Question > 0 ? Isolated(row.Wording) : row.Verdict)};
+  if (!row.Answer.empty()) block.push_back("Answer: " + Isolated(row.Answer));
   if (!row.RangIn.empty()) block.push_back("Rang in: " + row.RangIn);
   if (row.Question > 0 && !row.Verdict.empty()) block.push_back(row.Verdict);
   block.push_back(ScoresText(row));
@@ -206,7 +207,7 @@ PrintBlock BlockOf(const ResultRow& row) {
 }
 
 std::string TotalText(const PlayerTotal& total) {
-  std::string text = total.Name + ": " + NumberText(total.Score) + " points, " + std::to_string(total.Right) +
+  std::string text = Isolated(total.Name) + ": " + NumberText(total.Score) + " points, " + std::to_string(total.Right) +
                      " right, " + std::to_string(total.Wrong) + " wrong";
   if (total.FastestMs) text += ", fastest " + SecondsText(total.FastestMs);
   if (total.MeanMarginMs) text += ", ahead by " + LeadText(total.MeanMarginMs).substr(1) + " on average";
@@ -245,7 +246,7 @@ std::string ScoresText(const ResultRow& row) {
   std::string text;
   for (std::size_t i = 0; i < kPlayers; ++i) {
     if (row.Scores[i].empty()) continue;
-    text += (text.empty() ? "" : ", ") + row.Names[i] + " " + row.Scores[i];
+    text += (text.empty() ? "" : ", ") + Isolated(row.Names[i]) + " " + row.Scores[i];
   }
   return text;
 }
@@ -261,7 +262,7 @@ Table TableOf(const ShowResults& results) {
   for (const PlayerTotal& total : results.Totals) table.push_back(RowOf(total));
   for (TableRow& row : table) {
     row.resize(table[0].size());
-    for (std::string& cell : row) cell = CellOf(cell);
+    for (std::string& cell : row) cell = CellOf(WithoutIsolation(cell));
   }
   return table;
 }
@@ -273,7 +274,7 @@ PrintDocument DocumentOf(const ShowResults& results) {
   head.emplace_back(" ");
   document.Blocks.push_back(std::move(head));
   for (const GameResults& game : results.Games) {
-    document.Blocks.push_back({game.Name, " "});
+    document.Blocks.push_back({Isolated(game.Name), " "});
     for (const ResultRow& row : game.Rows) document.Blocks.push_back(BlockOf(row));
   }
   return document;

@@ -17,6 +17,7 @@
 #include <QTest>
 #include <QTimer>
 #include <QTreeWidget>
+#include <map>
 
 #include "desktop/files/native_path.h"
 #include "desktop/system/qt_dialogs.h"
@@ -131,9 +132,15 @@ class ReadEngine : public QPaintEngine {
   bool end() override { return true; }
   void updateState(const QPaintEngineState&) override {}
   void drawPixmap(const QRectF&, const QPixmap&, const QRectF&) override {}
-  void drawTextItem(const QPointF&, const QTextItem& item) override { Words += item.text() + ' '; }
+  void drawTextItem(const QPointF& at, const QTextItem& item) override {
+    Words += item.text() + ' ';
+    double& end = Ends[static_cast<int>(at.y())];
+    end = std::max(end, at.x() + item.width());
+  }
   Type type() const override { return User; }
   QString Words;
+  // By how far down the page a line is, where it ends at the right.
+  std::map<int, double> Ends;
 };
 
 class ReadPrinter : public QPdfWriter {
@@ -144,7 +151,7 @@ class ReadPrinter : public QPdfWriter {
     engine_.Words += "/ ";
     return true;
   }
-  const QString& Words() const { return engine_.Words; }
+  const ReadEngine& Read() const { return engine_; }
 
  private:
   mutable ReadEngine engine_;
@@ -155,9 +162,25 @@ TEST(PrintTest, EachPageOfACopyHasItsNumberAndTheCount) {
   paper.open(QIODevice::WriteOnly);
   ReadPrinter printer(&paper);
   PaintDocument(printer, {"T", {{"T"}, PrintBlock(30, "line"), PrintBlock(30, "line")}}, 2);
-  const QString numbers = QString(printer.Words()).remove("line ").remove("T ").simplified();
+  const QString numbers = QString(printer.Read().Words).remove("line ").remove("T ").simplified();
   EXPECT_EQ(numbers.toStdString(), "Page 1 of 2 / Page 2 of 2 / Page 1 of 2 / Page 2 of 2");
-  EXPECT_EQ(printer.Words().count("line "), 120);
+  EXPECT_EQ(printer.Read().Words.count("line "), 120);
+}
+
+TEST(PrintTest, QuestionsFromRightToLeftStandAtTheRightWithTheirAnswersIndentedThere) {
+  QBuffer paper;
+  paper.open(QIODevice::WriteOnly);
+  ReadPrinter printer(&paper);
+  const std::string letters = EscapeOf(0x5D0) + EscapeOf(0x5D1);
+  PaintDocument(printer, {"T", {{"T"}, {"1. " + letters + "?", letters, " "}, {"2. " + letters + "?", "7", " "}}}, 1);
+  std::vector<double> ends;
+  for (const auto& [down, end] : printer.Read().Ends) ends.push_back(end);
+  ASSERT_EQ(ends.size(), 6U);
+  const double indent = 18.0 * printer.logicalDpiX() / 72;
+  for (const std::size_t question : {1U, 3U}) {
+    EXPECT_NEAR(ends[question], printer.width(), 2);
+    EXPECT_NEAR(ends[question + 1], printer.width() - indent, 2);
+  }
 }
 
 // What the font dialog opens on; OK is pressed then.

@@ -13,7 +13,9 @@
 #include "desktop/windows/line_views.h"
 #include "desktop/windows/model_widgets.h"
 #include "forms/main_form.h"
+#include "forms/show_check_form.h"
 #include "places.h"
+#include "program/check_rows.h"
 
 namespace pawnfield {
 namespace {
@@ -191,6 +193,40 @@ TEST_F(NothingIsCut, OfAnyOtherForm) {
       EXPECT_EQ(Faults(*window), Names{});
       window->hide();
     }
+  }
+}
+
+// Boxes, note and findings come up while the window stands, on the smallest desktop and on a large one.
+TEST_F(NothingIsCut, OfTheShowCheckWithAllThatItCanTell) {
+  ShowCheckForm& check = show_.frmShowCheck;
+  FormWindow& window = Window(check);
+  const auto tell = [&check](const std::string& light, const std::string& sentence, bool more) {
+    for (std::size_t i = 0; i < kCheckRows; ++i) {
+      check.chpLight[i].Caption = light;
+      check.lblSentence[i].Caption = sentence;
+      check.btnMend[i].Visible = check.btnTry[i].Visible = more;
+      check.btnMend[i].Caption = check.btnTry[i].Caption = std::string("Press each once");
+    }
+    for (std::size_t i = 0; i < kPlayers; ++i) {
+      check.lblPress[i].Visible = more;
+      check.lblPress[i].Caption = std::string("1 PLAYER 1: ok, the phone of seat 1, 12 ms");
+    }
+    check.lblPressNote.Visible = check.lstFindings.Visible = more;
+    check.lblPressNote.Caption = std::string("1 PLAYER 1's press came twice within 0 ms: by pad 101 and by pad 101.");
+  };
+  for (const QSize room : {QSize(1280, 648), QSize(3840, 2160)}) {
+    tell("? ...", "", false);
+    window.resize(window.sizeHint().boundedTo(room));
+    window.show();
+    tell(SignOf(ChipState::Red) + " NOT READY",
+         "No sound device: nothing is heard. Plug it in or start the sound server, sounds come back by themselves "
+         "within "
+         "a second or two.",
+         true);
+    (void)QTest::qWaitFor([&] { return Faults(window).empty(); }, 2000);
+    EXPECT_EQ(Faults(window), Names{});
+    EXPECT_LE(window.minimumSizeHint().height(), 648);
+    window.hide();
   }
 }
 

@@ -20,6 +20,7 @@
 #include "desktop/painting/canvas.h"
 #include "desktop/windows/audience_window.h"
 #include "desktop/windows/console_window.h"
+#include "editor_driver.h"
 #include "forms/editor_form.h"
 #include "forms/fs_main_form.h"
 #include "forms/main_form.h"
@@ -121,6 +122,24 @@ class ShowCheckWindowTest : public CheckWindow {
     EXPECT_TRUE(Wait([] { return NotReady().isEmpty(); })) << NotReady().toStdString();
   }
 
+  // How long each of the sounds is that stand apart.
+  static std::vector<double> LengthsOf(const Recording& heard) {
+    constexpr double kStep = 0.05, kBetweenChannels = 0.4;
+    std::vector<double> lengths;
+    double last = -1;
+    for (double at = 0; at + kStep < heard.Seconds(); at += kStep) {
+      if (heard.Level(880, at, at + kStep) < 0.01) continue;
+      if (lengths.empty() || at - last > kBetweenChannels) lengths.push_back(0);
+      lengths.back() += lengths.back() > 0 ? at - last : kStep;
+      last = at;
+    }
+    return lengths;
+  }
+  // Each longer than the one before, as one pip, two and so on are.
+  static bool AreFive(const std::vector<double>& lengths) {
+    return lengths.size() == 5 && std::is_sorted(lengths.begin(), lengths.end()) && lengths[4] > lengths[0] + 0.4;
+  }
+
   static inline SoundRig* rig_ = nullptr;
   static inline Granting* desktop_ = nullptr;
   static inline HandedTransceiver* remotes_ = nullptr;
@@ -135,21 +154,14 @@ TEST_F(ShowCheckWindowTest, EverythingRightIsSmallAndReadyAndShowsTheRoomNothing
 
 // The pips are of 880 Hz, and stand close together: one for the first channel, five for the last.
 TEST_F(ShowCheckWindowTest, TheFiveChannelsAreHeardInTurn) {
-  QTimer::singleShot(1500, Window(), [this] { Push("btnTry", CheckRow::Sound); });
-  const Recording heard = rig_->Record(11500);
-  constexpr double kStep = 0.05, kBetweenChannels = 0.4;
   std::vector<double> lengths;
-  double last = -1;
-  for (double at = 0; at < 11.4; at += kStep) {
-    if (heard.Level(880, at, at + kStep) < 0.01) continue;
-    if (lengths.empty() || at - last > kBetweenChannels) lengths.push_back(0);
-    lengths.back() += lengths.back() > 0 ? at - last : kStep;
-    last = at;
+  // On a busy machine a sound may stutter or come too late, and is played once more.
+  for (int tries = 0; tries < 5 && !AreFive(lengths); ++tries) {
+    const Recording heard = rig_->Record(11500, [this] { Push("btnTry", CheckRow::Sound); });
+    lengths = LengthsOf(heard);
+    EXPECT_TRUE(Wait([] { return Form().lblSentence[2].Caption->ends_with("All five were played."); }));
   }
-  ASSERT_EQ(lengths.size(), 5U);
-  EXPECT_TRUE(std::is_sorted(lengths.begin(), lengths.end()));
-  EXPECT_GT(lengths[4], lengths[0] + 0.4);
-  EXPECT_TRUE(Wait([] { return TheShow().frmShowCheck.lblSentence[2].Caption->ends_with("All five were played."); }));
+  EXPECT_TRUE(AreFive(lengths)) << testing::PrintToString(lengths);
 }
 
 TEST_F(ShowCheckWindowTest, EachThingThatGoesWrongTurnsItsRowAndComesBack) {
@@ -192,8 +204,10 @@ TEST_F(ShowCheckWindowTest, AFileThatCannotBeShownIsNamedAndAClickOpensTheEditor
   auto* list = Window()->findChild<QTreeWidget*>("lstFindings");
   ASSERT_TRUE(list->isVisible());
   int opened = 0;
-  QTimer::singleShot(1500, Window(), [&] {
+  EditorDriver editor(*driver_);
+  editor.WhenShown("frmEditor", [&] {
     opened = TheShow().frmEditor.EditQuestionNumber;
+    editor.TakePicture("frmEditor", "opened-at-the-finding");
     TheShow().frmEditor.Unload();
   });
   QTest::mouseClick(list->viewport(), Qt::LeftButton, {}, list->visualItemRect(list->topLevelItem(0)).center());

@@ -77,12 +77,14 @@ void SoundRig::StopServer() {
   QFile::remove(Socket());
 }
 
-Recording SoundRig::Record(int milliseconds) {
+Recording SoundRig::Record(int milliseconds, const std::function<void()>& work) {
   QProcess recorder;
   recorder.start("parec", {"--device=show.monitor", "--raw", "--format=s16le", "--rate=48000", "--channels=1",
                            "--latency-msec=20"});
   QByteArray bytes;
   const qsizetype wanted = static_cast<qsizetype>(2) * kSampleRate * milliseconds / 1000;
+  const auto begun = [&recorder] { return recorder.bytesAvailable() > 0; };
+  if (work && QTest::qWaitFor(begun, kPatienceMs)) work();
   // What is short of the wanted length counts as silence.
   [[maybe_unused]] const bool whole = QTest::qWaitFor(
       [&] {

@@ -4,6 +4,7 @@
 #include <QByteArray>
 #include <QProcess>
 #include <QTemporaryDir>
+#include <functional>
 #include <vector>
 
 namespace pawnfield {
@@ -38,8 +39,8 @@ class SoundRig {
   void StopServer();
   void AddSink() { Control({"load-module", "module-null-sink", "sink_name=show", "rate=48000", "channels=1"}); }
   void RemoveSink() { Control({"unload-module", "module-null-sink"}); }
-  // Records the sink for so long while the program runs.
-  Recording Record(int milliseconds);
+  // Records the sink for so long while the program runs, and does the work once that has begun.
+  Recording Record(int milliseconds, const std::function<void()>& work = {});
 
  private:
   static void Control(const QStringList& arguments) { QProcess::execute("pactl", arguments); }

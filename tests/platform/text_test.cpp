@@ -43,6 +43,16 @@ TEST(Text, ACutNeverFallsInsideAnEscapedLetter) {
   EXPECT_EQ(EscapeAt(EscapeOf(0x10FFFF), 0), char32_t{0x10FFFF});
 }
 
+TEST(Text, ATextFromRightToLeftKeepsToItselfAmongOthers) {
+  const std::string alpha = EscapeOf(0x3B1);
+  for (const std::string& text : {std::string("Ann"), alpha + "\xE9", std::string()}) EXPECT_EQ(Isolated(text), text);
+  for (const char32_t letter : {U'\u05D0', U'\u0627', U'\uFE8D', U'\U0001E900'}) {
+    const std::string name = alpha + EscapeOf(letter) + " 2";
+    EXPECT_EQ(Isolated(name), EscapeOf(0x2068) + name + EscapeOf(0x2069)) << static_cast<unsigned>(letter);
+    EXPECT_EQ(WithoutIsolation(Isolated(name) + " +30 ms"), name + " +30 ms");
+  }
+}
+
 TEST(Text, LettersBeyondTheCodePageHaveCapitalsToo) {
   const std::pair<char32_t, char32_t> cases[] = {{0x142, 0x141}, {0x17C, 0x17B}, {0x11B, 0x11A}, {0x131, U'I'},
                                                  {0x3AC, 0x386}, {0x3C9, 0x3A9}, {0x3C2, 0x3A3}, {0x436, 0x416},

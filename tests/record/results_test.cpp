@@ -10,6 +10,7 @@
 #include "engine/game_flow.h"
 #include "forms/main_form.h"
 #include "forms/results_form.h"
+#include "platform/escapes.h"
 #include "platform/ports.h"
 #include "presentation/both_screens.h"
 #include "record/results_window.h"
@@ -57,6 +58,24 @@ TEST(Results, TellWhoRangInByHowMuchAndWhatBecameOfIt) {
   EXPECT_THAT(Lines(form.lstTotals),
               ElementsAre("PLAYER 1 | 1 | 0 | 0.84 s | +30 ms | 50", "PLAYER 2 | 0 | 1 | 0.50 s | +310 ms | -100",
                           "PLAYER 3 | 1 | 0 | 0.40 s |  | 50"));
+}
+
+// A number behind such a name would stand before it, and its sign on its other side.
+TEST(Results, ANameFromRightToLeftTakesNoNumberAlong) {
+  GamePlayer player("Trivia C, pads, user advances, penalty");
+  const std::string david = EscapeOf(0x5D3) + EscapeOf(0x5D5) + EscapeOf(0x5D3);
+  const std::string apart = EscapeOf(0x2068) + david + EscapeOf(0x2069);
+  SetPlayerName(player.show(), 2, david);
+  player.Do("pad 1, wait 30 ms, pad 2, incorrect, wait 30 ms, pad 2, incorrect");
+  const ResultsForm& form = Open(player);
+  const std::string row = Lines(form.lstQuestions).at(0);
+  EXPECT_THAT(row, HasSubstr("PLAYER 1, " + apart + " +30 ms"));
+  EXPECT_THAT(row, HasSubstr("Incorrect for " + apart + ", -100 | PLAYER 1 -100, " + apart + " -100"));
+  EXPECT_EQ(form.lstTotals.ListItems.Get().at(1).at(0), david);
+  player.fixture().sim.dialogs.ExpectFile("C:\\Shows\\Results.csv");
+  player.show().frmResults.btnSaveTable.Click();
+  EXPECT_THAT(player.fixture().sim.files.Read("C:\\Shows\\Results.csv"),
+              HasSubstr("Incorrect for \u05D3\u05D5\u05D3, -100"));
 }
 
 TEST(Results, WhatWasTakenBackCountsAsNeverDone) {

@@ -1,10 +1,10 @@
 // Plays two short games in the real program on the present display and saves pictures of both screens at each phase.
-// Usage: pawnfield_show [FOLDER [forms|dialogs|gallery|phases|media|newcomer|sheet|record]]; with "forms" it opens
-// every form instead and saves a picture of each, with "dialogs" boxes and dialogs with their frames, with "gallery" it
-// brings up everything that the two screens can show, with "phases" it plays a game of each type at each size of the
-// console, with "media" headers, a picture and a film on demand, with "newcomer" the manual's newcomer's hour, with
-// "sheet" questions that come from a spreadsheet, with "record" a game's results and the question about an interrupted
-// show.
+// Usage: pawnfield_show [FOLDER [forms|dialogs|gallery|phases|media|newcomer|sheet|letters|record]]; with "forms" it
+// opens every form instead and saves a picture of each, with "dialogs" boxes and dialogs with their frames, with
+// "gallery" it brings up everything that the two screens can show, with "phases" it plays a game of each type at each
+// size of the console, with "media" headers, a picture and a film on demand, with "newcomer" the manual's newcomer's
+// hour, with "sheet" questions that come from a spreadsheet, with "letters" a show in Hebrew and Greek with its prints,
+// with "record" a game's results and the question about an interrupted show.
 
 #include <QApplication>
 #include <QFile>
@@ -24,6 +24,7 @@
 #include "forms/main_form.h"
 #include "forms/results_form.h"
 #include "gallery.h"
+#include "letters.h"
 #include "media/media_on_demand.h"
 #include "newcomer.h"
 #include "phases.h"
@@ -310,6 +311,8 @@ int main(int argc, char** argv) {
     pawnfield::ShowMedia(driver, script, folder);
   } else if (what == "newcomer") {
     script.Do("newcomer's hour", pawnfield::PlayNewcomersHour(driver, folder));
+  } else if (what == "letters") {
+    script.Do("letters", pawnfield::ShowLetters(driver, folder));
   } else if (what == "sheet") {
     pawnfield::ImportSheet(driver, script, folder);
   } else {

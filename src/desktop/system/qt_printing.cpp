@@ -34,7 +34,8 @@ QFont PrintFont(double points, bool bold) {
 // One line of a document, wrapped to the page's width.
 struct Paragraph {
   std::unique_ptr<QTextLayout> layout;
-  double indent = 0;
+  // Off the page's left edge.
+  double left = 0;
   double height = 0;
 };
 
@@ -46,9 +47,11 @@ QString Lines(const std::string& text) {
   return lines.replace('\n', QChar::LineSeparator);
 }
 
-Paragraph Wrap(const std::string& text, const QFont& font, double indent, QPainter& painter) {
-  Paragraph paragraph{std::make_unique<QTextLayout>(Lines(text), font, painter.device()), indent, 0};
-  QTextOption wrap;
+// What begins at the right is indented there.
+Paragraph Wrap(const std::string& text, const QFont& font, double indent, Qt::Alignment side, QPainter& painter) {
+  const double left = side == Qt::AlignRight ? 0 : indent;
+  Paragraph paragraph{std::make_unique<QTextLayout>(Lines(text), font, painter.device()), left, 0};
+  QTextOption wrap(side);
   wrap.setWrapMode(QTextOption::WrapAtWordBoundaryOrAnywhere);
   paragraph.layout->setTextOption(wrap);
   paragraph.layout->beginLayout();
@@ -74,10 +77,13 @@ class PrintedPages {
   void Add(const PrintBlock& block, bool isTitle) {
     std::vector<Paragraph> paragraphs;
     double height = 0;
+    // An answer in figures stands at the side of its question too.
+    const bool fromRight = !block.empty() && Lines(block[0]).isRightToLeft();
+    const Qt::Alignment side = fromRight ? Qt::AlignRight : Qt::AlignLeft;
     for (std::size_t i = 0; i < block.size(); ++i) {
       const double indent = i == 1 && !isTitle ? kIndentPoints * device_.logicalDpiX() / 72 : 0;
       const QFont font = PrintFont(isTitle && i == 0 ? kTitlePoints : kTextPoints, i == 0);
-      paragraphs.push_back(Wrap(block[i], font, indent, painter_));
+      paragraphs.push_back(Wrap(block[i], font, indent, side, painter_));
       // The blank line that closes a block may fall off the page.
       if (Trailing(block, i)) continue;
       height += paragraphs.back().height;
@@ -113,7 +119,7 @@ class PrintedPages {
         if (layout.text().trimmed().isEmpty()) return;
         BreakPage();
       }
-      if (total_ > 0) line.draw(&painter_, QPointF(paragraph.indent, y_ - line.y()));
+      if (total_ > 0) line.draw(&painter_, QPointF(paragraph.left, y_ - line.y()));
       y_ += line.height();
     }
   }

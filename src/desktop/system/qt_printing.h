@@ -21,7 +21,8 @@ class QtPrinting : public Printing {
 void PrintOn(QPrinter& printer, const PrintDocument& document, int copies);
 
 // The pages of a document: the title large, blocks one below the other, and a page begun before a block that would not
-// end on the present one. A block longer than a page is split between its lines.
+// end on the present one. A block longer than a page is split between its lines. One whose first line goes from right
+// to left stands at the right.
 void PaintDocument(QPagedPaintDevice& device, const PrintDocument& document, int copies);
 
 }  // namespace pawnfield

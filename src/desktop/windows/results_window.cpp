@@ -8,6 +8,7 @@
 #include <initializer_list>
 
 #include "desktop/windows/model_widgets.h"
+#include "desktop/windows/text_rows.h"
 
 namespace pawnfield {
 
@@ -27,6 +28,7 @@ QTreeWidget* MakeList(const QString& name, const QString& accessibleName) {
   list->setObjectName(name);
   list->setAccessibleName(accessibleName);
   list->setAlternatingRowColors(true);
+  ShowTextsWhole(*list);
   return list;
 }
 

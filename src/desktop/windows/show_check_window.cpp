@@ -6,7 +6,9 @@
 #include <QKeyEvent>
 #include <QLabel>
 #include <QPushButton>
+#include <QScreen>
 #include <QStyle>
+#include <QTimer>
 #include <QTreeWidget>
 #include <QVBoxLayout>
 
@@ -19,8 +21,9 @@ namespace {
 
 constexpr int kLightWidth = 122, kThingWidth = 118, kSentenceWidth = 330, kButtonWidth = 118, kButtonHeight = 28;
 // Three lines.
-constexpr int kSentenceHeight = 48;
-constexpr int kLongestList = 150;
+constexpr int kSentenceHeight = 45;
+// With all that it can tell the window still fits on the smallest desktop.
+constexpr int kLeastList = 64, kLongestList = 150;
 
 QLabel* MakeText(const QString& name, const char* role) {
   auto* label = new QLabel;
@@ -46,7 +49,7 @@ QFrame* MakeRow(std::size_t index) {
   row->setObjectName(Numbered("pnlRow", index));
   row->setProperty("role", "group");
   auto* across = new QHBoxLayout(row);
-  across->setContentsMargins(10, 4, 10, 4);
+  across->setContentsMargins(10, 2, 10, 2);
   across->setSpacing(8);
   auto* place = new QWidget;
   place->setFixedWidth(kLightWidth);
@@ -78,7 +81,7 @@ QWidget* MakePressRow() {
   for (std::size_t i = 0; i < kPlayers; ++i) {
     QLabel* box = MakeText(Numbered("lblPress", i), "press");
     box->setWordWrap(true);
-    box->setMinimumHeight(38);
+    box->setMinimumHeight(34);
     across->addWidget(box, 1);
   }
   return boxes;
@@ -89,9 +92,40 @@ QTreeWidget* MakeList() {
   list->setObjectName("lstFindings");
   list->setAccessibleName("What was found in the set");
   list->setMaximumHeight(kLongestList);
-  list->setMinimumHeight(90);
+  list->setMinimumHeight(kLeastList);
   return list;
 }
+
+// Grows the window when something comes up in it, as far as the screen goes, and takes the place of the row of boxes
+// while there are none.
+class GrowingParts : public Observer {
+ public:
+  GrowingParts(ShowCheckForm& form, QWidget& window) : form_(form), window_(window) {
+    form.lblPress[0].AddObserver(*this);
+    form.lblPressNote.AddObserver(*this);
+    form.lstFindings.AddObserver(*this);
+    ShowBoxes();
+  }
+  void Changed(Control& control, PropertyId id) override {
+    if (id != PropertyId::Visible) return;
+    ShowBoxes();
+    // The widget follows, and the layout after it.
+    if (control.Visible) QTimer::singleShot(0, &window_, [this] { Grow(); });
+  }
+
+ private:
+  void ShowBoxes() { window_.findChild<QWidget*>("pnlPress")->setVisible(form_.lblPress[0].Visible); }
+  void Grow() {
+    const QRect room = window_.screen()->availableGeometry();
+    const QSize frame = window_.frameSize() - window_.size();
+    window_.resize(window_.size().expandedTo(window_.sizeHint().boundedTo(room.size() - frame)));
+    const int below = window_.frameGeometry().bottom() - room.bottom();
+    if (below > 0) window_.move(window_.pos() - QPoint(0, below));
+  }
+
+  ShowCheckForm& form_;
+  QWidget& window_;
+};
 
 class PressedBox : public Observer {
  public:
@@ -111,7 +145,7 @@ class PressedBox : public Observer {
 }  // namespace
 
 ShowCheckWindow::ShowCheckWindow(ShowCheckForm& form, FormWindows& windows) : FormWindow(form, windows, kDialog) {
-  QVBoxLayout* column = MakeContent(*this, 14, 6);
+  QVBoxLayout* column = MakeContent(*this, 10, 4);
   column->addWidget(MakeText("lblReady", "fact"));
   for (std::size_t i = 0; i < kCheckRows; ++i) {
     column->addWidget(MakeRow(i));
@@ -129,7 +163,7 @@ ShowCheckWindow::ShowCheckWindow(ShowCheckForm& form, FormWindows& windows) : Fo
   front->setObjectName("chkInFront");
   foot->addWidget(front);
   foot->addStretch(1);
-  foot->addWidget(MakeButton("btnClose", {92, 30}));
+  foot->addWidget(MakeButton("btnClose", {92, 28}));
   column->addLayout(foot);
   BindForm();
   TieFindings(form);
@@ -149,6 +183,7 @@ void ShowCheckWindow::TieFindings(ShowCheckForm& form) {
     LeavePlace(*box);
     follow_.push_back(std::make_unique<PressedBox>(form.lblPress[i], *box));
   }
+  follow_.push_back(std::make_unique<GrowingParts>(form, *this));
 }
 
 bool ShowCheckWindow::TakeDigit(const QKeyEvent& event) {

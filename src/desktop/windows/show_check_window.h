@@ -22,7 +22,7 @@ class ShowCheckWindow : public FormWindow {
   bool TakeDigit(const QKeyEvent& event);
   void TieFindings(ShowCheckForm& form);
 
-  // Paint the boxes of those who have pressed, and drop the place of a list that has nothing to show.
+  // Paint the boxes of those who have pressed, and give room to what comes up.
   std::vector<std::unique_ptr<Observer>> follow_;
 };
 
