@@ -17,6 +17,7 @@
 #include <QTest>
 #include <QTimer>
 #include <QTreeWidget>
+#include <functional>
 #include <map>
 
 #include "desktop/files/native_path.h"
@@ -172,15 +173,32 @@ TEST(PrintTest, QuestionsFromRightToLeftStandAtTheRightWithTheirAnswersIndentedT
   paper.open(QIODevice::WriteOnly);
   ReadPrinter printer(&paper);
   const std::string letters = EscapeOf(0x5D0) + EscapeOf(0x5D1);
-  PaintDocument(printer, {"T", {{"T"}, {"1. " + letters + "?", letters, " "}, {"2. " + letters + "?", "7", " "}}}, 1);
+  PaintDocument(printer, {"T", {{"T"}, {"23. " + letters, letters, " "}, {"24. " + letters, "7", " "}}}, 1);
   std::vector<double> ends;
   for (const auto& [down, end] : printer.Read().Ends) ends.push_back(end);
-  ASSERT_EQ(ends.size(), 6U);
+  // The title, two blocks of three lines, and the page's number.
+  ASSERT_EQ(ends.size(), 8U);
   const double indent = 18.0 * printer.logicalDpiX() / 72;
-  for (const std::size_t question : {1U, 3U}) {
+  for (const std::size_t question : {1U, 4U}) {
     EXPECT_NEAR(ends[question], printer.width(), 2);
     EXPECT_NEAR(ends[question + 1], printer.width() - indent, 2);
   }
+  const QString words = printer.Read().Words;
+  EXPECT_LT(words.indexOf(QChar(0x5D0)), words.indexOf("23")) << "the number stands at the right";
+}
+
+// Does the work once such a dialog is up, from within its own loop.
+template <typename Dialog>
+void WhenUp(const std::function<void(Dialog&)>& work) {
+  auto* look = new QTimer(qApp);
+  QObject::connect(look, &QTimer::timeout, look, [look, work] {
+    auto* dialog = qobject_cast<Dialog*>(QApplication::activeModalWidget());
+    if (dialog == nullptr || !dialog->isVisible()) return;
+    look->stop();
+    look->deleteLater();
+    work(*dialog);
+  });
+  look->start(20);
 }
 
 // What the font dialog opens on; OK is pressed then.
@@ -191,11 +209,9 @@ TEST(FontDialogTest, OpensOnWhatIsShownAndOkAloneChangesNothing) {
   for (const Font& start : {Font{"Courier New", 28, true, true}, Font{"Comic Sans MS", 11, false, false},
                             Font{"Liberation Sans", 80, true, false}}) {
     QString opened;
-    QTimer::singleShot(200, qApp, [&] {
-      auto* dialog = qobject_cast<QFontDialog*>(QApplication::activeModalWidget());
-      if (dialog == nullptr) return;
-      opened = QString("%1 %2").arg(dialog->currentFont().family()).arg(dialog->currentFont().pointSizeF());
-      dialog->accept();
+    WhenUp<QFontDialog>([&opened](QFontDialog& dialog) {
+      opened = QString("%1 %2").arg(dialog.currentFont().family()).arg(dialog.currentFont().pointSizeF());
+      dialog.accept();
     });
     EXPECT_EQ(dialogs.ChooseFont(start), std::optional(start));
     const QString shown = QFontInfo(QFont(QString::fromStdString(start.Name))).family();
@@ -206,13 +222,11 @@ TEST(FontDialogTest, OpensOnWhatIsShownAndOkAloneChangesNothing) {
 // Answers the file dialog that is open by a press of Escape, and tells where it began.
 QString WhereItBegins(QtDialogs& dialogs, const FileDialogRequest& request) {
   QString folder;
-  QTimer::singleShot(200, qApp, [&] {
-    auto* dialog = qobject_cast<QFileDialog*>(QApplication::activeModalWidget());
-    if (dialog == nullptr) return;
-    folder = dialog->directory().path() + '|' + dialog->findChild<QLineEdit*>("fileNameEdit")->text() + '|' +
-             dialog->nameFilters().join(';');
-    EXPECT_LE(dialog->history().size(), 1);
-    dialog->reject();
+  WhenUp<QFileDialog>([&folder](QFileDialog& dialog) {
+    folder = dialog.directory().path() + '|' + dialog.findChild<QLineEdit*>("fileNameEdit")->text() + '|' +
+             dialog.nameFilters().join(';');
+    EXPECT_LE(dialog.history().size(), 1);
+    dialog.reject();
   });
   EXPECT_EQ(dialogs.ChooseFile(request), "");
   return folder;

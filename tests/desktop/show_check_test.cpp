@@ -116,6 +116,8 @@ class ShowCheckWindowTest : public CheckWindow {
     EXPECT_TRUE(Wait([&] { return Light(row) == light; })) << says.toStdString();
     EXPECT_EQ(NotReady().count('\n'), 1) << NotReady().toStdString();
     EXPECT_TRUE(NotReady().contains(says)) << NotReady().toStdString();
+    // The lights take their new width by a turn of the message loop.
+    driver_->Pause(150);
     driver_->TakePicture(*Window(), picture);
   }
   void IsRightAgain() {

@@ -25,7 +25,8 @@ namespace {
 
 // Ends in a sign, begins with a number, holds another alphabet, takes several lines; and Greek.
 constexpr const char16_t* kRows[][2] = {
-    {u"\u05DE\u05D4 \u05D4\u05D1\u05D9\u05E8\u05D4 \u05E9\u05DC \u05E6\u05E8\u05E4\u05EA?", u"\u05E4\u05E8\u05D9\u05D6!"},
+    {u"\u05DE\u05D4 \u05D4\u05D1\u05D9\u05E8\u05D4 \u05E9\u05DC \u05E6\u05E8\u05E4\u05EA?",
+     u"\u05E4\u05E8\u05D9\u05D6!"},
     {u"3 + 4 \u05D4\u05DD \u05DB\u05DE\u05D4?", u"7"},
     {u"\u05DE\u05D9 \u05DB\u05EA\u05D1 \u05D0\u05EA Hamlet (1603)?", u"William Shakespeare"},
     {u"\u05D0\u05D9\u05D6\u05D4 \u05DB\u05D5\u05DB\u05D1 \u05DC\u05DB\u05EA \u05DE\u05E1\u05EA\u05D5\u05D1\u05D1 "
@@ -81,7 +82,8 @@ class Letters {
         driver_.Pause(200);
         editor_.TakePicture("frmEditor", "letters-editor");
       }
-      const QString set = driver_.AppFolder() + QString::fromUtf16(u"/Trivia Sets/\u05D7\u05D9\u05D3\u05D5\u05DF 5.txt");
+      const QString set =
+          driver_.AppFolder() + QString::fromUtf16(u"/Trivia Sets/\u05D7\u05D9\u05D3\u05D5\u05DF 5.txt");
       Do("save", editor_.PressAndChoose("frmEditor", "btnSave", set));
       PrintTo("set.pdf");
       Do("print", editor_.Press("btnPrint"));
@@ -110,7 +112,8 @@ class Letters {
     bool worked = driver_.Press("optGameType_4");
     worked = driver_.Choose("cboList", QString::fromUtf16(u"\u05D7\u05D9\u05D3\u05D5\u05DF 5")) && worked;
     worked = driver_.WaitFor([&] { return form.btnStart.Enabled && show.mediaCheck.Left == 0; }) && worked;
-    const char16_t* names[] = {u"\u05D3\u05D5\u05D3", u"\u05E8\u05D7\u05DC", u"\u0391\u03BD\u03B4\u03C1\u03AD\u03B1\u03C2"};
+    const char16_t* names[] = {u"\u05D3\u05D5\u05D3", u"\u05E8\u05D7\u05DC",
+                               u"\u0391\u03BD\u03B4\u03C1\u03AD\u03B1\u03C2"};
     for (int player = 1; player <= 3; ++player)
       SetPlayerName(show, player, Escape(QString::fromUtf16(names[player - 1])));
     form.mnuFileShowCheck.Click();

@@ -52,6 +52,7 @@ Paragraph Wrap(const std::string& text, const QFont& font, double indent, Qt::Al
   const double left = side == Qt::AlignRight ? 0 : indent;
   Paragraph paragraph{std::make_unique<QTextLayout>(Lines(text), font, painter.device()), left, 0};
   QTextOption wrap(side);
+  wrap.setTextDirection(Qt::LayoutDirectionAuto);
   wrap.setWrapMode(QTextOption::WrapAtWordBoundaryOrAnywhere);
   paragraph.layout->setTextOption(wrap);
   paragraph.layout->beginLayout();
