@@ -78,8 +78,8 @@ void WinnerPanel::PlaceCards(const std::vector<int>& order) {
     const std::size_t i = PlayerIndex(player);
     picFinal[i].MoveTo(left, top, width, height);
     // The sign, which ends at half of the height, and the card's edge keep a little room.
-    lblFinalName[i].MoveTo(left + height * 0.62, top, width * 0.66 - height * 0.62, height);
-    lblFinalScore[i].MoveTo(left + width * 0.66, top, width * 0.28, height);
+    lblFinalName[i].MoveTo(left + height * 0.6, top, width * 0.67 - height * 0.6, height);
+    lblFinalScore[i].MoveTo(left + width * 0.67, top, width * 0.275, height);
     lblFinalName[i].Font = LetteringFor(height, 0.28);
     lblFinalScore[i].Font = LetteringFor(height, 0.38);
     picFinal[i].Visible = lblFinalName[i].Visible = lblFinalScore[i].Visible = true;

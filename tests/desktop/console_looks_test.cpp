@@ -104,6 +104,32 @@ TEST_F(ConsoleLooks, TheLineHasNoGapWhereItHasNothingToSay) {
   }
 }
 
+TEST_F(ConsoleLooks, LongNamesAndScoresLeaveTheBoardWhereItIs) {
+  for (const QSize size : {QSize(1280, 680), QSize(1280, 781), QSize(1920, 1080)}) {
+    program_.Console().resize(size);
+    form_.lblPlayer1[0].Caption = "I";
+    form_.Score(1).Caption = "0";
+    Settle();
+    const QRect board = Widget<QWidget>("pnlBoard").geometry();
+    form_.lblPlayer1[0].Caption = "THE MAGNIFICENT SEVENTH GRADERS";
+    form_.Score(1).Caption = "-999999";
+    Settle();
+    EXPECT_EQ(Widget<QWidget>("pnlBoard").geometry(), board) << size.height();
+  }
+}
+
+TEST_F(ConsoleLooks, TheEdgeAroundStartKeepsOffTheButtonAtAnySize) {
+  form_.btnStart.Enabled = true;
+  for (const QSize size : {QSize(1280, 680), QSize(1280, 781), QSize(1366, 768), QSize(1920, 1080)}) {
+    program_.Console().resize(size);
+    Settle();
+    const QRect edge = Widget<QWidget>("shpStart").geometry();
+    const QRect button = Widget<QWidget>("btnStart").geometry();
+    // A line of three pixels, and the ground between the two.
+    EXPECT_TRUE(edge.adjusted(4, 4, -4, -4).contains(button)) << size.height();
+  }
+}
+
 TEST_F(ConsoleLooks, SignsGrowWithTheLettersBesideThem) {
   const auto isGrown = [this](double growth) {
     const int side = static_cast<int>(14 * growth);

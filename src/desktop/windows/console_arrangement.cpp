@@ -113,7 +113,10 @@ void ConsoleArrangement::Resize(const Plan& plan) {
                                 IsFree(item.Most.height()) ? QWIDGETSIZE_MAX : height(item.Most.height()));
   }
   for (const Spaced& item : spaced_) {
-    const double gap = plan.Close && !KeepsRoom(plan, item.Layout->parentWidget()) ? 0.7 : growth;
+    const QWidget* place = item.Layout->parentWidget();
+    // The edge around the start button would close up with it.
+    const bool closer = plan.Close && !KeepsRoom(plan, place) && place->objectName() != "pnlStart";
+    const double gap = closer ? 0.7 : growth;
     const QMargins& m = item.Margins;
     item.Layout->setContentsMargins(Grown(m.left(), growth), Grown(m.top(), gap), Grown(m.right(), growth),
                                     Grown(m.bottom(), gap));

@@ -67,6 +67,7 @@ void AddCard(QBoxLayout& row, int player) {
   column->setSpacing(4);
   QHBoxLayout* boxes = AddRow(*column, 3);
   ModelLabel* name = AddFramed(*boxes, "picPlayer" + number, Member("lblPlayer1", player - 1), 8);
+  name->setProperty("shrinks", true);
   name->setWordWrap(true);
   name->setToolTip("Double-click to enter the name (Ctrl+Z for player 1)");
   AddFramed(*boxes, "picP" + number + "Score", "lblP" + number + "Score", 4);

@@ -13,6 +13,8 @@ void ModelComboBox::showPopup() {
   QComboBox::showPopup();
 }
 
+bool ModelLabel::hasHeightForWidth() const { return !property("shrinks").toBool() && QLabel::hasHeightForWidth(); }
+
 void ModelLabel::mousePressEvent(QMouseEvent* event) {
   if (event->button() == Qt::LeftButton) emit Clicked();
 }

@@ -27,6 +27,8 @@ class ModelLabel : public QLabel {
   Q_OBJECT
  public:
   using QLabel::QLabel;
+  // With the property "shrinks" its letters shrink instead, and a long text pushes nothing away.
+  bool hasHeightForWidth() const override;
  signals:
   void Clicked();
   void DoubleClicked();
