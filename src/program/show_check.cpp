@@ -15,6 +15,7 @@
 #include "program/check_sounds.h"
 #include "program/mending.h"
 #include "sets/editor.h"
+#include "sets/editor_history.h"
 #include "sets/set_check.h"
 #include "show/phase.h"
 #include "show/show.h"
@@ -150,6 +151,7 @@ void OpenFinding(Show& show) {
   editor::ShowEditor(show, [&show, number] {
     show.frmEditor.EditQuestionNumber = number;
     editor::DisplayEditQuestion(show);
+    editor::ShowEditorLists(show);
   });
 }
 

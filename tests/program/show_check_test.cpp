@@ -143,6 +143,7 @@ TEST_F(ShowCheckTest, TheSetsRowsTellOfMissingFilesFewQuestionsAndNoSet) {
   int opened = 0;
   sim.dialogs.ExpectForm("frmEditor", [&] {
     opened = show().frmEditor.EditQuestionNumber;
+    EXPECT_EQ(show().frmEditor.lstQuestions.SelectedItem, 2) << "the list stands at it too";
     show().frmEditor.Unload();
   });
   check().lstFindings.DblClick();
