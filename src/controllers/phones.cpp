@@ -99,6 +99,31 @@ void FindSeatAgain(Show& show, std::uint64_t page, const std::string& token) {
   }
 }
 
+bool IsSeatedPhone(const ConnectedPage& page) { return page.Kind == PageKind::Phone && page.Seat != 0; }
+
+void Ping(Show& show, std::uint64_t number, ConnectedPage& page) {
+  constexpr std::size_t kMostOnTheirWay = 16;
+  PageState& pages = *show.pages;
+  page.LastPingUs = show.platform.webPages.NowUs();
+  if (page.Pings.size() >= kMostOnTheirWay) page.Pings.erase(page.Pings.begin());
+  page.Pings[++pages.LastPing] = page.LastPingUs;
+  const std::int64_t roundTripMs = (page.Clock.LastRoundTripUs() + 999) / 1000;
+  Send(show, number, JsonObject().Text("t", "ping").Number("n", pages.LastPing).Number("rtt", roundTripMs).Done());
+}
+
+// How often the seated phones are asked. A game is in progress from its first square on; presses come from its first
+// question on.
+void SetPace(Show& show) {
+  constexpr int kOften = 200, kSeldom = 1000;
+  const bool often = std::any_of(show.pages->Pages.begin(), show.pages->Pages.end(), [&](const auto& one) {
+    return IsSeatedPhone(one.second) && (show.state.GameStarted || !one.second.Clock.Known());
+  });
+  Timer& timer = show.frmPages.tmrPing;
+  const int pace = often ? kOften : kSeldom;
+  if (timer.Interval != pace) timer.Interval = pace;
+  if (!timer.Enabled) timer.Enabled = true;
+}
+
 void TakeHello(Show& show, const PageEvent& event, const PageMessage& hello) {
   ConnectedPage& page = show.pages->Pages[event.Page];
   if (page.Kind != PageKind::None) return;
@@ -114,7 +139,9 @@ void TakeHello(Show& show, const PageEvent& event, const PageMessage& hello) {
   }
   page.Kind = hello.Kind;
   if (hello.Kind == PageKind::Phone) FindSeatAgain(show, event.Page, hello.SeatToken);
-  tmrPing_Timer(show);
+  // It alone: when a whole hall comes at once, those who sit would answer so often as to be cut off.
+  Ping(show, event.Page, page);
+  SetPace(show);
 }
 
 void TakeSeat(Show& show, std::uint64_t page, int player) {
@@ -253,28 +280,14 @@ void TellPages(Show& show) {
 }
 
 void tmrPing_Timer(Show& show) {
-  constexpr int kOften = 200, kSeldom = 1000;
   constexpr std::int64_t kOthersUs = 5000000;
-  constexpr std::size_t kMostOnTheirWay = 16;
-  PageState& pages = *show.pages;
-  bool often = false;
   const std::int64_t now = show.platform.webPages.NowUs();
-  for (auto& [number, page] : pages.Pages) {
+  for (auto& [number, page] : show.pages->Pages) {
     if (page.Kind == PageKind::None) continue;
     // Only the clock of a phone that has a seat is needed; the others are asked whether they are still there.
-    const bool phone = page.Kind == PageKind::Phone && page.Seat != 0;
-    // A game is in progress from its first square on; presses come from its first question on.
-    often = often || (phone && (show.state.GameStarted || !page.Clock.Known()));
-    if (!phone && page.LastPingUs != 0 && now - page.LastPingUs < kOthersUs) continue;
-    page.LastPingUs = now;
-    if (page.Pings.size() >= kMostOnTheirWay) page.Pings.erase(page.Pings.begin());
-    page.Pings[++pages.LastPing] = show.platform.webPages.NowUs();
-    const std::int64_t roundTripMs = (page.Clock.LastRoundTripUs() + 999) / 1000;
-    Send(show, number, JsonObject().Text("t", "ping").Number("n", pages.LastPing).Number("rtt", roundTripMs).Done());
+    if (IsSeatedPhone(page) || page.LastPingUs == 0 || now - page.LastPingUs >= kOthersUs) Ping(show, number, page);
   }
-  Timer& timer = show.frmPages.tmrPing;
-  timer.Interval = often ? kOften : kSeldom;
-  if (!timer.Enabled) timer.Enabled = true;
+  SetPace(show);
 }
 
 void btnEmptySeat_Click(Show& show, int index) { EmptySeat(show, index + 1); }

@@ -51,6 +51,7 @@ void SimNetwork::Send(std::uint64_t number, const std::string& text) {
     page->second.Heard.push_back(text);
     return;
   }
+  ++page->second.Pings;
   if (!page->second.AnswersPings) return;
   const std::string at = std::to_string(clock_.NowMs() + page->second.WayThere + page->second.Stands);
   Arrive(page->second.WayThere + page->second.WayBack,

@@ -20,6 +20,8 @@ struct SimPage {
   std::int64_t Stands = 5000000;
   bool AnswersPings = true;
   bool Connected = true;
+  // How often it was asked for its clock.
+  int Pings = 0;
   // What it was told, pings left out.
   std::vector<std::string> Heard{};
   const std::string& Last() const;

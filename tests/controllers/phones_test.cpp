@@ -429,6 +429,35 @@ TEST(Pages, RemotesPadsAndPhonesStandInOneOrder) {
   EXPECT_THAT(room.Heard(ben), HasSubstr(R"("floor":3,"floorName":"PLAYER 3"})"));
 }
 
+// The hall's network is back, and all phones join in the same moment. Who answers too often is cut off as a flood.
+TEST(Pages, AHallThatJoinsAtOnceHasNoSeatedPhoneAskedMoreOften) {
+  Room room;
+  const std::uint64_t ben = room.Seat(2);
+  const int before = room.network.Pages.at(ben).Pings;
+  for (int i = 0; i < 57; ++i) {
+    room.network.Connect("hello phone " + room.pages().Pin, {.Address = "192.168.1." + std::to_string(100 + i)});
+  }
+  room.Wait(1000);
+  const int asked = room.network.Pages.at(ben).Pings - before;
+  EXPECT_GE(asked, 1);
+  EXPECT_LE(asked, 6);
+  for (const auto& [number, page] : room.network.Pages) EXPECT_GE(page.Pings, 1) << number;
+}
+
+// No more than 60 ms of a way count, and what a press loses by that is said with its margin.
+TEST(Pages, AMarginOfASlowPhoneSaysWhatItsWayMayHaveCostIt) {
+  for (const auto& [way, order] : {std::pair{50, "1 PLAYER 1 first; 2 PLAYER 2 +71 ms (+-82), too close to call; "},
+                                   std::pair{80, "1 PLAYER 1 first; 2 PLAYER 2 +91 ms (+-132), too close to call; "}}) {
+    Room room("Trivia C, 3 players, 3x3, Full Board, user advances, remotes");
+    const std::uint64_t ben = room.Seat(2, way);
+    room.Steps("remote 1");
+    room.Wait(70);
+    room.network.Press(ben);
+    room.Wait(100);
+    EXPECT_EQ(room.Order(), order);
+  }
+}
+
 // By arrival the order is that of the arrivals, on the console too.
 TEST(Pages, TheConsoleListsThemAsTheyAreWeighed) {
   for (const bool byTime : {true, false}) {
