@@ -34,10 +34,13 @@ std::int64_t ShortestRoundTrip(const PageState& pages) {
 PhonePress Timed(const PageState& pages, const ConnectedPage& page, std::int64_t pressedUs, std::int64_t arrivedUs) {
   PhonePress press{page.Seat, arrivedUs, arrivedUs, kLongestWayUs};
   if (!page.Clock.Known()) return press;
-  press.CountsUs = CountedTime(page.Clock.ToOurs(pressedUs), arrivedUs, page.Clock.LongestWayUs());
+  const std::int64_t claimed = page.Clock.ToOurs(pressedUs), longest = page.Clock.LongestWayUs();
+  press.CountsUs = CountedTime(claimed, arrivedUs, longest);
+  // Of a way that was longer than what counts, the rest makes the press late.
+  const std::int64_t late = std::clamp<std::int64_t>(press.CountsUs - claimed, 0, page.Clock.SlowestWayUs() - longest);
   // Whoever holds the button while the question comes has pressed when it came.
   if (pages.OpenedUs >= 0) press.CountsUs = std::clamp(press.CountsUs, std::min(pages.OpenedUs, arrivedUs), arrivedUs);
-  press.ErrorUs = page.Clock.ErrorUs(ShortestRoundTrip(pages));
+  press.ErrorUs = page.Clock.ErrorUs(ShortestRoundTrip(pages)) + late;
   return press;
 }
 

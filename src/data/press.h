@@ -34,11 +34,12 @@ constexpr std::int64_t ErrorOfWay(PressWay way) {
       return 10500;
     case PressWay::Phone:
       return 30000;
-    case PressWay::Hand:
     case PressWay::Key:
+      // The way through the display server, and the keyboard's interval.
+      return 18000;
+    case PressWay::Hand:
       break;
   }
-  // A keyboard's interval and the way through the display server.
   return 8000;
 }
 

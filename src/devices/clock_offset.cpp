@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <cmath>
+#include <vector>
 
 namespace pawnfield {
 
@@ -9,6 +10,9 @@ namespace {
 
 constexpr std::size_t kKept = 300;
 constexpr std::size_t kLeast = 8;
+// Of round trips that spread evenly, the fifth is a little further from the shortest than that is, as a rule, from the
+// least there can be.
+constexpr std::size_t kNextShortest = 4;
 constexpr std::int64_t kSecondUs = 1000000;
 // An exchange that took longer says nothing of a network that people play over.
 constexpr std::int64_t kMostUs = 2 * kSecondUs;
@@ -93,7 +97,7 @@ std::int64_t ClockOffset::ShortestRoundTripUs() const {
 
 std::int64_t ClockOffset::LastRoundTripUs() const { return samples_.empty() ? 0 : samples_.back().RoundTripUs; }
 
-std::int64_t ClockOffset::LongestWayUs() const {
+std::int64_t ClockOffset::SlowestWayUs() const {
   const Sample* best = Best();
   std::int64_t longest = 0;
   for (const Sample& sample : samples_) {
@@ -101,13 +105,20 @@ std::int64_t ClockOffset::LongestWayUs() const {
     const std::int64_t way = sample.RoundTripUs / 2 + sample.OffsetUs - best->OffsetUs - drifted;
     longest = std::max(longest, std::clamp<std::int64_t>(way, 0, sample.RoundTripUs));
   }
-  return std::min(longest, kLongestWayUs);
+  return longest;
 }
+
+std::int64_t ClockOffset::LongestWayUs() const { return std::min(SlowestWayUs(), kLongestWayUs); }
 
 std::int64_t ClockOffset::ErrorUs(std::int64_t shortestOfAllUs) const {
   const std::int64_t shortest = ShortestRoundTripUs();
   if (samples_.size() < kKept) return shortest / 2;
-  return std::max<std::int64_t>(0, shortest - shortestOfAllUs) / 2;
+  std::vector<std::int64_t> trips;
+  trips.reserve(samples_.size());
+  for (const Sample& sample : samples_) trips.push_back(sample.RoundTripUs);
+  std::nth_element(trips.begin(), trips.begin() + kNextShortest, trips.end());
+  const std::int64_t least = std::min(shortestOfAllUs, 2 * shortest - trips[kNextShortest]);
+  return (Best()->RoundTripUs - least) / 2;
 }
 
 }  // namespace pawnfield

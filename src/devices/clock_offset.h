@@ -26,13 +26,15 @@ class ClockOffset {
   bool Known() const;
   // A time of the page's clock as one of ours.
   std::int64_t ToOurs(std::int64_t pageUs) const;
-  // Of the exchanges that are kept: the shortest there and back, the last one's, and the longest way from the page to
-  // us, of which no more than kLongestWayUs counts.
+  // Of the exchanges that are kept: the shortest there and back, the last one's, the slowest way from the page to us,
+  // and what of that counts, no more than kLongestWayUs.
   std::int64_t ShortestRoundTripUs() const;
   std::int64_t LastRoundTripUs() const;
+  std::int64_t SlowestWayUs() const;
   std::int64_t LongestWayUs() const;
-  // How far ToOurs may be wrong, if a way takes as long there as back: against the shortest round trip that any page
-  // has had, or alone while few exchanges are there.
+  // How far ToOurs may be wrong, as a rule: by half of what the round trip behind it took beyond what the network takes
+  // at least. That is known by the shortest one of any page and by how far the next shorter ones lie apart; while few
+  // exchanges are there, nothing is.
   std::int64_t ErrorUs(std::int64_t shortestOfAllUs) const;
 
  private:
