@@ -31,7 +31,12 @@ HouseBox::HouseBox(QWidget* parent) : QMessageBox(parent) {
 }
 
 void HouseBox::showEvent(QShowEvent* event) {
-  if (layout()->menuBar() == nullptr) layout()->setMenuBar(new Head(*this));
+  if (layout()->menuBar() == nullptr) {
+    auto* head = new Head(*this);
+    layout()->setMenuBar(head);
+    // The layout would show it a turn of the loop later, and the box would grow before the operator's eyes.
+    head->show();
+  }
   QMessageBox::showEvent(event);
 }
 
