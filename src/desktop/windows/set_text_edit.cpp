@@ -64,8 +64,8 @@ class SetTextBinding : public Observer {
     view_.SetLimit(static_cast<qsizetype>(box.MaxLength));
     Changed(box, PropertyId::Text);
     box.AddObserver(*this);
-    QObject::connect(&view_, &QPlainTextEdit::textChanged, &view_, [this] { Edited(); });
-    QObject::connect(&view_, &SetTextEdit::FocusLeft, &view_, [this] { box_.LoseFocus(); });
+    QObject::connect(&view_, &QPlainTextEdit::textChanged, &bound_, [this] { Edited(); });
+    QObject::connect(&view_, &SetTextEdit::FocusLeft, &bound_, [this] { box_.LoseFocus(); });
   }
 
   void Changed(Control&, PropertyId id) override {
@@ -87,6 +87,8 @@ class SetTextBinding : public Observer {
 
   TextBox& box_;
   SetTextEdit& view_;
+  // A view outlives what binds it, and the marks of its spelling change its text once more when they go.
+  QObject bound_;
 };
 
 }  // namespace
