@@ -34,10 +34,11 @@ std::int64_t ShortestRoundTrip(const PageState& pages) {
 PhonePress Timed(const PageState& pages, const ConnectedPage& page, std::int64_t pressedUs, std::int64_t arrivedUs) {
   PhonePress press{page.Seat, arrivedUs, arrivedUs, kLongestWayUs};
   if (!page.Clock.Known()) return press;
-  const std::int64_t claimed = page.Clock.ToOurs(pressedUs), longest = page.Clock.LongestWayUs();
-  press.CountsUs = CountedTime(claimed, arrivedUs, longest);
+  const std::int64_t claimed = page.Clock.ToOurs(pressedUs), slowest = page.Clock.SlowestWayUs();
+  press.CountsUs = CountedTime(claimed, arrivedUs, slowest);
   // Of a way that was longer than what counts, the rest makes the press late.
-  const std::int64_t late = std::clamp<std::int64_t>(press.CountsUs - claimed, 0, page.Clock.SlowestWayUs() - longest);
+  const std::int64_t beyond = std::max<std::int64_t>(0, slowest - kLongestWayUs);
+  const std::int64_t late = std::clamp<std::int64_t>(press.CountsUs - claimed, 0, beyond);
   // Whoever holds the button while the question comes has pressed when it came.
   if (pages.OpenedUs >= 0) press.CountsUs = std::clamp(press.CountsUs, std::min(pages.OpenedUs, arrivedUs), arrivedUs);
   press.ErrorUs = page.Clock.ErrorUs(ShortestRoundTrip(pages)) + late;

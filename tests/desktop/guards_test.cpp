@@ -2,11 +2,8 @@
 // Escape.
 
 #include <QAccessible>
-#include <QColorDialog>
 #include <QComboBox>
 #include <QDialogButtonBox>
-#include <QFileDialog>
-#include <QFontDialog>
 #include <QLabel>
 #include <QLineEdit>
 #include <QListView>
@@ -28,6 +25,7 @@
 #include "forms/small_forms.h"
 #include "places.h"
 #include "program/handlers.h"
+#include "toolkits_dialogs.h"
 
 namespace pawnfield {
 namespace {
@@ -406,13 +404,8 @@ double ContrastIn(const QImage& picture) {
 
 TEST_F(GuardsTest, TheListsAndBoxesOfTheToolkitsDialogsCanBeRead) {
   Make("data/Round 1.txt", "x");
-  QFileDialog files(nullptr, "Open", Native("data"));
-  files.setOption(QFileDialog::DontUseNativeDialog);
-  QFontDialog fonts;
-  fonts.setOption(QFontDialog::DontUseNativeDialog);
-  QColorDialog colors;
-  colors.setOption(QColorDialog::DontUseNativeDialog);
-  for (QDialog* dialog : std::initializer_list<QDialog*>{&files, &fonts, &colors}) {
+  ToolkitsDialogs dialogs(Native("data"));
+  for (QDialog* dialog : std::initializer_list<QDialog*>{&dialogs.Files, &dialogs.Fonts, &dialogs.Colors}) {
     dialog->show();
     ASSERT_TRUE(QTest::qWaitForWindowExposed(dialog));
     QTest::qWait(200);

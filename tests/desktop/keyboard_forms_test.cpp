@@ -1,16 +1,13 @@
 // Every dialog can be worked by the keyboard alone: Tab reaches all that acts, the focus is seen, Enter and Escape end
 // it.
 
-#include <QColorDialog>
-#include <QFileDialog>
-#include <QFontDialog>
 #include <QLineEdit>
-#include <QMessageBox>
 #include <QTabWidget>
 #include <QTest>
 #include <algorithm>
 #include <array>
 
+#include "desktop/system/house_box.h"
 #include "desktop/windows/volume_slider_view.h"
 #include "forms/config_keys_form.h"
 #include "forms/connect_to_projector_form.h"
@@ -28,6 +25,7 @@
 #include "forms/small_forms.h"
 #include "forms/sound_effects_form.h"
 #include "places.h"
+#include "toolkits_dialogs.h"
 
 namespace pawnfield {
 namespace {
@@ -91,14 +89,11 @@ TEST_F(KeyboardForms, TabReachesEveryControlOfTheDialogsAndItsFocusIsSeen) {
 
 TEST_F(KeyboardForms, TabReachesAllThatTheToolkitsDialogsHaveAndItsFocusIsSeen) {
   Make("data/Round 1.txt", "x");
-  QMessageBox question(QMessageBox::Question, "Pawnfield", "Save?", QMessageBox::Yes | QMessageBox::No);
-  QFileDialog files(nullptr, "Open", Native("data"));
-  files.setOption(QFileDialog::DontUseNativeDialog);
-  QFontDialog fonts;
-  fonts.setOption(QFontDialog::DontUseNativeDialog);
-  QColorDialog colors;
-  colors.setOption(QColorDialog::DontUseNativeDialog);
-  for (QDialog* window : std::initializer_list<QDialog*>{&question, &files, &fonts, &colors}) {
+  HouseBox question(nullptr);
+  question.setText("Save?");
+  question.setStandardButtons(QMessageBox::Yes | QMessageBox::No);
+  ToolkitsDialogs dialogs(Native("data"));
+  for (QDialog* window : std::initializer_list<QDialog*>{&question, &dialogs.Files, &dialogs.Fonts, &dialogs.Colors}) {
     window->show();
     window->activateWindow();
     ASSERT_TRUE(QTest::qWaitForWindowActive(window, 60000));

@@ -4,8 +4,9 @@
 #include <QLayout>
 #include <QMouseEvent>
 #include <QPainter>
-#include <QTimer>
 #include <QWindow>
+
+#include "desktop/system/stay_in_sight.h"
 
 namespace pawnfield {
 
@@ -48,14 +49,8 @@ void HouseBox::paintEvent(QPaintEvent* event) {
 }
 
 void HouseBox::changeEvent(QEvent* event) {
-  if (event->type() == QEvent::WindowStateChange && isMinimized()) QTimer::singleShot(0, this, &HouseBox::ComeBack);
+  StayInSight(*this, *event);
   QMessageBox::changeEvent(event);
-}
-
-void HouseBox::ComeBack() {
-  setWindowState(windowState() & ~Qt::WindowMinimized);
-  raise();
-  activateWindow();
 }
 
 }  // namespace pawnfield

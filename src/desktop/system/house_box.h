@@ -16,9 +16,6 @@ class HouseBox : public QMessageBox {
   void paintEvent(QPaintEvent* event) override;
   // A box that is minimised all the same is back at once.
   void changeEvent(QEvent* event) override;
-
- private:
-  void ComeBack();
 };
 
 }  // namespace pawnfield

@@ -4,12 +4,12 @@
 #include <QCloseEvent>
 #include <QPushButton>
 #include <QScreen>
-#include <QTimer>
 #include <QVBoxLayout>
 
 #include "desktop/files/windows_1252.h"
 #include "desktop/painting/picture_cache.h"
 #include "desktop/system/screens.h"
+#include "desktop/system/stay_in_sight.h"
 
 namespace pawnfield {
 
@@ -115,15 +115,8 @@ void FormWindow::closeEvent(QCloseEvent* event) {
 }
 
 void FormWindow::changeEvent(QEvent* event) {
-  const bool went = event->type() == QEvent::WindowStateChange && isMinimized();
-  if (went && isModal()) QTimer::singleShot(0, this, &FormWindow::ComeBack);
+  if (isModal()) StayInSight(*this, *event);
   QMainWindow::changeEvent(event);
-}
-
-void FormWindow::ComeBack() {
-  setWindowState(windowState() & ~Qt::WindowMinimized);
-  raise();
-  activateWindow();
 }
 
 }  // namespace pawnfield

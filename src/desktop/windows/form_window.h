@@ -57,7 +57,6 @@ class FormWindow : public QMainWindow, public Observer {
   Form& form_;
 
  private:
-  void ComeBack();
   // Null when the form has none.
   QPushButton* DefaultButton() const;
 
