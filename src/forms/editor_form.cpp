@@ -128,6 +128,7 @@ void EditorForm::Reset() {
   History.Begin({});
   Checked.clear();
   Findings.clear();
+  Files.clear();
   chkSpellChecker.Value = 0;
   EditQuestionNumber = 1;
   EditDirty = false;

@@ -3,6 +3,7 @@
 #pragma once
 
 #include <functional>
+#include <map>
 #include <string>
 #include <vector>
 
@@ -56,6 +57,9 @@ class EditorForm : public Form {
   // The records that were checked last, and what was found about each.
   std::vector<TriviaQuestion> Checked;
   std::vector<std::string> Findings;
+  // The pictures and sounds that were asked about, by their whole paths, and what is wrong with each; empty while that
+  // isn't known, and when nothing is.
+  std::map<std::string, std::string> Files;
   CommonDialog cd1EditorDialog;
   CommonDialog cd1FontDialog;
 

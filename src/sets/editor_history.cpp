@@ -1,11 +1,15 @@
 #include "sets/editor_history.h"
 
 #include <algorithm>
+#include <cctype>
 
 #include "forms/editor_form.h"
 #include "platform/escapes.h"
 #include "platform/text.h"
+#include "sets/media_check.h"
+#include "sets/media_paths.h"
 #include "sets/set_check.h"
+#include "sets/set_file.h"
 #include "sets/set_parser.h"
 #include "show/show.h"
 
@@ -54,10 +58,27 @@ void CheckRecords(Show& show) {
   form.Checked = std::move(records);
 }
 
-ListView::Row RowOf(const EditorForm& form, const TriviaSet& set, std::size_t i) {
-  const TriviaQuestion& question = set[i];
+// The whole path of a question's picture or sound; empty for a text.
+std::string FileOf(Show& show, const TriviaQuestion& question) {
+  const std::string text = Trim(question.QuestionText);
+  return KindOfQuestion(text) == QuestionKind::Text ? "" : WholePath(show, text);
+}
+
+// A file that can't be shown comes before what is only to be looked at.
+std::string FoundAbout(Show& show, std::size_t i) {
+  const EditorForm& form = show.frmEditor;
+  const std::string findings = i < form.Findings.size() ? form.Findings[i] : "";
+  const auto file = form.Files.find(FileOf(show, show.EditSet[i]));
+  if (file == form.Files.end() || file->second.empty()) return findings;
+  std::string text = file->second;
+  text[0] = static_cast<char>(std::toupper(static_cast<unsigned char>(text[0])));
+  return text + (findings.empty() ? "" : "; ") + findings;
+}
+
+ListView::Row RowOf(Show& show, std::size_t i) {
+  const TriviaQuestion& question = show.EditSet[i];
   return {std::to_string(i + 1), KindWord(question), FirstLetters(WordingOf(question), kFirstWords),
-          FirstLetters(Trim(question.AnswerText), kFirstWords), i < form.Findings.size() ? form.Findings[i] : ""};
+          FirstLetters(Trim(question.AnswerText), kFirstWords), FoundAbout(show, i)};
 }
 
 void ShowStep(Button& button, Menu& entry, const char* verb, const std::string& what) {
@@ -80,7 +101,7 @@ void ShowList(Show& show) {
   const int shown = std::max(show.NumEditQuestions, form.EditQuestionNumber);
   std::vector<ListView::Row> rows;
   for (int i = 0; i < std::clamp(shown, 0, kSetCapacity); ++i) {
-    rows.push_back(RowOf(form, show.EditSet, static_cast<std::size_t>(i)));
+    rows.push_back(RowOf(show, static_cast<std::size_t>(i)));
   }
   form.lstQuestions.ListItems = rows;
   form.lstQuestions.SelectedItem = form.EditQuestionNumber - 1;
@@ -89,6 +110,24 @@ void ShowList(Show& show) {
   form.btnFindNext.Enabled = !Trim(form.txtFind.Text).empty();
   ShowStep(form.btnUndo, form.mnuEditUndo, "Undo", form.History.UndoText());
   ShowStep(form.btnRedo, form.mnuEditRedo, "Redo", form.History.RedoText());
+}
+
+// An answer that comes after its set was left is about nothing that is listed.
+void NoteFile(Show& show, const std::string& path, const std::string& error) {
+  const auto file = show.frmEditor.Files.find(path);
+  if (file == show.frmEditor.Files.end() || file->second == error) return;
+  file->second = error;
+  show.frmEditor.Dispatch([&show] { ShowList(show); }, "CheckSetMedia");
+}
+
+// Each once, beside the program: the disk is never waited for.
+void AskForFiles(Show& show) {
+  const int count = CountQuestions(show.EditSet);
+  for (int number = 1; number <= count; ++number) {
+    const std::string path = FileOf(show, RecordAt(show.EditSet, number));
+    if (path.empty() || !show.frmEditor.Files.try_emplace(path).second) continue;
+    CheckMedium(show, path, [&show, path](const std::string& error) { NoteFile(show, path, error); });
+  }
 }
 
 // Behind a fault the list follows too.
@@ -107,6 +146,7 @@ void RunNoted(Show& show, const std::string& what, const std::function<void()>& 
 }  // namespace
 
 void BeginHistory(Show& show) {
+  show.frmEditor.Files.clear();
   show.frmEditor.History.Begin(StateOf(show));
   ShowEditorLists(show);
 }
@@ -126,6 +166,7 @@ std::string UnsavedLines(Show& show, std::size_t most) { return FirstLines(show.
 void ShowEditorLists(Show& show) {
   CheckRecords(show);
   ShowList(show);
+  AskForFiles(show);
 }
 
 }  // namespace pawnfield::editor

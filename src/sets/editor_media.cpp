@@ -39,6 +39,8 @@ std::optional<std::string> ChooseMedium(Show& show, const std::string& filter) {
 void StoreMedium(Show& show, const std::string& path, const char* type) {
   EditorForm& form = show.frmEditor;
   form.EditDirty = true;
+  // What is chosen again may have been mended.
+  form.Files.erase(path);
   TriviaQuestion& record = ShownRecord(show);
   record.QuestionText = path;
   record.QuestionType = type;

@@ -1,7 +1,11 @@
 #include "sets/media_check.h"
 
+#include <map>
+#include <utility>
+
 #include "forms/main_form.h"
 #include "platform/text.h"
+#include "sets/media_paths.h"
 #include "sets/set_file.h"
 #include "sets/set_parser.h"
 #include "show/show.h"
@@ -12,10 +16,6 @@ namespace {
 
 // More lines would run off the box.
 constexpr std::size_t kMostNamed = 15;
-
-std::string WholePath(Show& show, const std::string& text) {
-  return text.starts_with('.') ? show.AppPath("\\Trivia Sets") + text.substr(1) : text;
-}
 
 const char* ErrorOf(const PictureFacts& facts) {
   if (facts.Error == 0) return "";
@@ -66,20 +66,16 @@ void NoteFile(Show& show, int check, int number, const std::string& path, const 
   if (show.mediaCheck.Left == 0) show.frmMain.Dispatch([&] { EndCheck(show); }, "CheckSetMedia");
 }
 
-void LookAt(Show& show, int number, QuestionKind kind, const std::string& path) {
-  const int check = show.mediaCheck.Number;
-  if (kind == QuestionKind::Picture) {
-    show.platform.pictures.Check(path, [&show, check, number, path](const PictureFacts& facts) {
-      NoteFile(show, check, number, path, ErrorOf(facts));
-    });
+}  // namespace
+
+void CheckMedium(Show& show, const std::string& path, std::function<void(const std::string& error)> then) {
+  if (KindOfQuestion(path) == QuestionKind::Picture) {
+    show.platform.pictures.Check(path, [then = std::move(then)](const PictureFacts& facts) { then(ErrorOf(facts)); });
   } else {
-    show.platform.mediaFiles.Check(path, [&show, check, number, path](bool plays) {
-      NoteFile(show, check, number, path, plays ? "" : "no such file, or no sound");
-    });
+    show.platform.mediaFiles.Check(
+        path, [then = std::move(then)](bool plays) { then(plays ? "" : "no such file, or no sound"); });
   }
 }
-
-}  // namespace
 
 void CheckSetMedia(Show& show) {
   std::map<int, std::string> files;
@@ -92,7 +88,12 @@ void CheckSetMedia(Show& show) {
   show.frmMain.prgMediaCheck.Visible = false;
   show.frmMain.tmrMediaCheck.Enabled = false;
   show.frmMain.tmrMediaCheck.Enabled = count > 0;
-  for (const auto& [number, path] : files) LookAt(show, number, KindOfQuestion(path), path);
+  const int check = show.mediaCheck.Number;
+  for (const auto& file : files) {
+    CheckMedium(show, file.second, [&show, check, file](const std::string& error) {
+      NoteFile(show, check, file.first, file.second, error);
+    });
+  }
 }
 
 void AttachMediaCheckHandlers(Show& show) {

@@ -2,6 +2,9 @@
 // named before the show and not in it.
 #pragma once
 
+#include <functional>
+#include <string>
+
 namespace pawnfield {
 
 struct Show;
@@ -10,6 +13,10 @@ struct Show;
 // takes over half a second. At its end it reports which questions' files can't be shown and why: in a box
 // until the game is started, and in the status bar.
 void CheckSetMedia(Show& show);
+
+// Looks at one picture or sound beside the program, and says between events, or at once, what is wrong with it, as in
+// "no such file"; empty when it can be shown. The kind is that of the path, which is a whole one.
+void CheckMedium(Show& show, const std::string& path, std::function<void(const std::string& error)> then);
 
 // Gives the bar's timer its handler.
 void AttachMediaCheckHandlers(Show& show);

@@ -209,6 +209,8 @@ TEST_F(ShowCheckWindowTest, AFileThatCannotBeShownIsNamedAndAClickOpensTheEditor
   EditorDriver editor(*driver_);
   editor.WhenShown("frmEditor", [&] {
     opened = TheShow().frmEditor.EditQuestionNumber;
+    const auto& rows = TheShow().frmEditor.lstQuestions.ListItems;
+    EXPECT_TRUE(Wait([&] { return rows.Get()[1][4].starts_with("No picture"); })) << rows.Get()[1][4];
     editor.TakePicture("frmEditor", "opened-at-the-finding");
     TheShow().frmEditor.Unload();
   });

@@ -3,6 +3,8 @@
 
 #include <gtest/gtest.h>
 
+#include <QDir>
+#include <QFile>
 #include <QGuiApplication>
 #include <QProcess>
 #include <QTemporaryDir>
@@ -30,10 +32,20 @@ class ShowSuite : public testing::Test {
   }
   static void TearDownTestSuite() {
     delete driver_;
+    KeepPictures();
     delete folder_;
     Xrandr(kTwoMonitors);
   }
   void SetUp() override { ASSERT_TRUE(ready_); }
+
+  // With PAWNFIELD_PICTURES set to a folder, the suite's pictures are there to be looked at.
+  static void KeepPictures() {
+    const QString kept = qEnvironmentVariable("PAWNFIELD_PICTURES");
+    if (kept.isEmpty()) return;
+    const QString suite = testing::UnitTest::GetInstance()->current_test_suite()->name();
+    for (const QString& name : QDir(folder_->path()).entryList({"*.png"}))
+      QFile::copy(folder_->filePath(name), kept + '/' + suite + '-' + name);
+  }
 
   static bool Xrandr(const QString& arguments) { return QProcess::execute("xrandr", arguments.split(' ')) == 0; }
   // The limit is for a machine that has much else to do; a show that is well is seen long before it.

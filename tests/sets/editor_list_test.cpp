@@ -136,6 +136,23 @@ TEST_F(EditorList, WhatTheCheckFindsStandsInTheListOnceABoxIsLeft) {
   EXPECT_EQ(found(2), "The same as question 1");
   Do("undo undo row 1");
   EXPECT_EQ(found(2), "No answer");
+
+  // What the disk says of a file is listed when it comes, and anew of one that is chosen again.
+  const std::string torn = "C:\\m\\torn.jpg";
+  sim.files.Put(torn, "no picture");
+  sim.pictures.Slow = true;
+  OpenEditor("abc");
+  record(0).QuestionText = torn;
+  record(1).QuestionText = "C:\\m\\lost.wav";
+  editor::BeginHistory(show());
+  EXPECT_EQ(found(0) + "|" + found(1), "No answer|No such file, or no sound; No answer");
+  sim.pictures.Answer();
+  EXPECT_EQ(found(0) + "|" + found(2), "No picture, or too large a one; No answer|No answer");
+  sim.files.Put(torn, SimPictures::PictureBytes(400, 300));
+  sim.dialogs.ExpectFile(torn);
+  editor().btnPicture.Click();
+  sim.pictures.Answer();
+  EXPECT_EQ(found(0), "No answer");
 }
 
 TEST_F(EditorList, AQuestionLeftUnwrittenIsGoneFromTheList) {
