@@ -1,12 +1,15 @@
 // What the console draws of its models beyond their texts, as pictures and by real keys.
 #include <QAbstractButton>
+#include <QElapsedTimer>
 #include <QHelpEvent>
 #include <QLabel>
 #include <QLineEdit>
 #include <QTest>
 #include <QToolTip>
 #include <algorithm>
+#include <utility>
 
+#include "data/house_colors.h"
 #include "desktop/painting/player_card.h"
 #include "desktop/windows/audience_window.h"
 #include "desktop/windows/console_window.h"
@@ -17,6 +20,7 @@
 #include "places.h"
 #include "presentation/board_layout.h"
 #include "presentation/both_screens.h"
+#include "presentation/final_result.h"
 #include "presentation/text_fitting.h"
 #include "program/handlers.h"
 #include "show/phase.h"
@@ -300,8 +304,57 @@ double Apart(const QImage& one, const QImage& other) {
 
 // Where a player's sign stands on a card.
 QRect SignOn(const QRectF& card) {
-  const double side = card.height() * kCardSign;
-  return QRectF(card.left() + card.height() * kCardSignLeft, card.center().y() - side / 2, side, side).toAlignedRect();
+  const int side = qRound(card.height() * kCardSign);
+  return {qRound(card.left() + card.height() * kCardSignLeft), qRound(card.center().y()) - side / 2, side, side};
+}
+
+// Where it stands before a winner's name of three letters.
+QRect SignBefore(const QRectF& name) {
+  const int unit = qRound(name.height() / 4);
+  return QRect(name.center().toPoint() - QPoint(4 * unit, unit), QSize(2 * unit, 2 * unit));
+}
+
+// The winner's panel once it has grown.
+void AwaitRest(Canvas& room) {
+  constexpr int kGrownMs = 1000;
+  QElapsedTimer elapsed;
+  elapsed.start();
+  QImage last;
+  EXPECT_TRUE(QTest::qWaitFor(
+      [&] {
+        const QImage before = std::exchange(last, room.grab().toImage());
+        return elapsed.elapsed() > kGrownMs && before == last;
+      },
+      kSlowMachineMs));
+}
+
+TEST_F(ConsoleLooks, ALongNameKeepsOffTheEdgesOfItsCardsInTheRoom) {
+  constexpr const char* kThreeLines = "MAXIMILIANA WORTHINGTON-SMYTHEE";
+  FSMainForm& form = show_.frmFSMain;
+  show_.state.DualScreen = true;
+  SetPlayerName(show_, 2, kThreeLines);
+  form.lblPlayer[1].Caption = form.lblBandName[1].Caption = kThreeLines;
+  SetScore(show_, 1, "50");
+  Canvas& room = program_.Audience().Screen();
+  program_.Audience().resize(1920, 1080);
+  const auto keepsOff = [&](const Label& name, const PictureBox& card) {
+    const QImage picture = room.grab().toImage();
+    const QRect place = room.PixelRect(name).toRect();
+    const int edge = room.PixelRect(card).toRect().height() / 10;
+    const QColor ink = ToQColor(OnCard(kPlayerColors[2], false));
+    EXPECT_GT(PointsOf(picture.copy(place), ink), 200) << name.Name();
+    for (const int top : {place.top(), place.bottom() - edge}) {
+      EXPECT_EQ(PointsOf(picture.copy(place.left(), top, place.width(), edge), ink), 0) << name.Name();
+    }
+  };
+  form.picStandby.Visible = false;
+  keepsOff(form.lblPlayer[1], form.picPlayer[1]);
+  form.SetBand(true);
+  keepsOff(form.lblBandName[1], form.picBandPlayer[1]);
+  form.SetBand(false);
+  ShowResult(show_);
+  form.picWinner.Visible = true;
+  keepsOff(form.Winner.lblFinalName[1], form.Winner.picFinal[1]);
 }
 
 TEST_F(ConsoleLooks, PlayersAreToldApartByTheirSignsWhereNobodySeesAColour) {
@@ -309,11 +362,20 @@ TEST_F(ConsoleLooks, PlayersAreToldApartByTheirSignsWhereNobodySeesAColour) {
   LightScoreBox(show_, 0);
   show_.frmFSMain.picStandby.Visible = false;
   Canvas& room = program_.Audience().Screen();
-  room.resize(1920, 1080);
+  program_.Audience().resize(1920, 1080);
   const QImage cards = room.grab().toImage();
   show_.frmFSMain.SetBand(true);
   show_.frmFSMain.picQuestion.Visible = true;
   const QImage strips = room.grab().toImage();
+  WinnerPanel& result = show_.frmFSMain.Winner;
+  for (int player = 1; player <= kPlayers; ++player) SetPlayerName(show_, player, "SAM");
+  show_.state.DualScreen = show_.frmFSMain.picWinner.Visible = true;
+  AwaitRest(room);
+  const auto winner = [&](int player) {
+    for (int other = 1; other <= kPlayers; ++other) SetScore(show_, other, other == player ? "50" : "0");
+    ShowResult(show_);
+    return ShapeIn(room.grab().toImage(), SignBefore(room.PixelRect(result.lblWinnerName[PlayerIndex(player)])));
+  };
   const QLineEdit& box = Widget<QLineEdit>("txtDJCommand");
   const auto signs = [&](int player) {
     const QString index = QString::number(player - 1);
@@ -326,6 +388,7 @@ TEST_F(ConsoleLooks, PlayersAreToldApartByTheirSignsWhereNobodySeesAColour) {
         {"score row", ShapeIn(Picture(("pnlScoreName" + number).toLatin1()), {0, 0, 18, 40})},
         {"console's card", ShapeIn(Picture(card), SignOn(Widget<QWidget>(card).rect()).translated(2, 0))},
         {"square's box", ShapeOf(box.actions().first()->icon())},
+        {"winner's name", winner(player)},
         {"room's card", ShapeIn(cards, SignOn(room.PixelRect(show_.frmFSMain.picPlayer[PlayerIndex(player)])))},
         {"room's strip", ShapeIn(strips, SignOn(room.PixelRect(show_.frmFSMain.picBandPlayer[PlayerIndex(player)])))}};
   };

@@ -15,7 +15,6 @@
 #include <QPdfWriter>
 #include <QPrinter>
 #include <QTest>
-#include <QTimer>
 #include <QTreeWidget>
 #include <functional>
 #include <map>
@@ -27,6 +26,7 @@
 #include "editor_driver.h"
 #include "forms/fs_main_form.h"
 #include "forms/main_form.h"
+#include "places.h"
 #include "platform/escapes.h"
 #include "sets/table_text.h"
 #include "show_suite.h"
@@ -185,20 +185,6 @@ TEST(PrintTest, QuestionsFromRightToLeftStandAtTheRightWithTheirAnswersIndentedT
   }
   const QString words = printer.Read().Words;
   EXPECT_LT(words.indexOf(QChar(0x5D0)), words.indexOf("23")) << "the number stands at the right";
-}
-
-// Does the work once such a dialog is up, from within its own loop.
-template <typename Dialog>
-void WhenUp(const std::function<void(Dialog&)>& work) {
-  auto* look = new QTimer(qApp);
-  QObject::connect(look, &QTimer::timeout, look, [look, work] {
-    auto* dialog = qobject_cast<Dialog*>(QApplication::activeModalWidget());
-    if (dialog == nullptr || !dialog->isVisible()) return;
-    look->stop();
-    look->deleteLater();
-    work(*dialog);
-  });
-  look->start(20);
 }
 
 // What the font dialog opens on; OK is pressed then.

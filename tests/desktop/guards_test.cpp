@@ -13,7 +13,6 @@
 #include <QPushButton>
 #include <QTest>
 #include <QThread>
-#include <QTimer>
 #include <QWindow>
 #include <algorithm>
 #include <cmath>
@@ -299,18 +298,16 @@ struct BoxSeen {
   bool Came = false;
 
   void Await(Qt::Key key) {
-    QTimer::singleShot(200, [this, key] {
-      auto* box = qobject_cast<QMessageBox*>(QApplication::activeModalWidget());
-      Came = box != nullptr;
-      if (!Came) return;
-      EXPECT_TRUE(QTest::qWaitForWindowActive(box));
-      for (const QAbstractButton* button : box->buttons()) Buttons.append(button->text().remove('&'));
+    WhenUp<QMessageBox>([this, key](QMessageBox& box) {
+      Came = true;
+      EXPECT_TRUE(QTest::qWaitForWindowActive(&box, kSlowMachineMs));
+      for (const QAbstractButton* button : box.buttons()) Buttons.append(button->text().remove('&'));
       Buttons.sort();
-      if (const auto* head = box->findChild<QLabel*>("pnlBoxHead")) Head = head->text();
-      const auto* focus = qobject_cast<const QAbstractButton*>(box->focusWidget());
+      if (const auto* head = box.findChild<QLabel*>("pnlBoxHead")) Head = head->text();
+      const auto* focus = qobject_cast<const QAbstractButton*>(box.focusWidget());
       Focus = focus == nullptr ? QString() : focus->text().remove('&');
-      Flags = box->windowFlags();
-      QTest::keyClick(box->focusWidget() != nullptr ? box->focusWidget() : box, key);
+      Flags = box.windowFlags();
+      QTest::keyClick(box.focusWidget() != nullptr ? box.focusWidget() : &box, key);
     });
   }
 };
@@ -323,8 +320,8 @@ TEST_F(GuardsTest, WhatIsNoHandIsAskedBeforeItWipesAGame) {
       BoxSeen box;
       box.Await(key);
       access->actionInterface()->doAction(QAccessibleActionInterface::pressAction());
-      QTest::qWait(500);
-      EXPECT_TRUE(box.Came) << button->Name();
+      const auto answered = [&] { return box.Came && QApplication::activeModalWidget() == nullptr; };
+      ASSERT_TRUE(QTest::qWaitFor(answered, kSlowMachineMs)) << button->Name();
       EXPECT_EQ(box.Focus, "Keep the Game");
       EXPECT_EQ(TakePressed(), "") << button->Name();
     }
@@ -364,9 +361,8 @@ TEST_F(GuardsTest, AGameInProgressGoesOnByEnterAndByEscape) {
   for (const Qt::Key key : {Qt::Key_Return, Qt::Key_Escape}) {
     show_.state.GameType = GameMode::TriviaC;
     show_.state.GameInProgress = show_.state.GameLoaded = true;
-    QTimer::singleShot(200, [this, key] {
-      FormWindow& window = Window(show_.frmGameInProgress);
-      EXPECT_TRUE(QTest::qWaitForWindowActive(&window));
+    WhenUp<FormWindow>([key](FormWindow& window) {
+      EXPECT_TRUE(QTest::qWaitForWindowActive(&window, kSlowMachineMs));
       EXPECT_EQ(window.focusWidget()->objectName(), "btnCancel");
       QTest::keyClick(window.focusWidget(), key);
     });

@@ -10,7 +10,6 @@
 #include <QTest>
 #include <QTextBrowser>
 #include <QTextDocument>
-#include <QTimer>
 
 #include "config/help_pages.h"
 #include "desktop/windows/desktop_pages.h"
@@ -97,8 +96,7 @@ class HelpKeyTest : public ProgramTest {};
 
 TEST_F(HelpKeyTest, F1OpensTheWindowsOwnPageAlsoOverAModalWindow) {
   const auto page = [&] { return program_.ManualPages().Window()->findChild<QTextBrowser*>()->source().fileName(); };
-  QTimer::singleShot(100, &program_.Console(), [&] {
-    FormWindow& options = Window(show_.frmOptions);
+  WhenUp<FormWindow>([&](FormWindow& options) {
     QTest::keyClick(&options, Qt::Key_F1);
     EXPECT_EQ(page(), "options.html");
     // It can be worked: a window that the modal one keeps shut gets no key.

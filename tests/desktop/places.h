@@ -1,11 +1,14 @@
-// Folders of a test's own, below a temporary one, and the program that runs in them.
+// Folders of a test's own, below a temporary one, the program that runs in them, and its dialogs.
 #pragma once
 
 #include <gtest/gtest.h>
 
+#include <QApplication>
 #include <QDir>
 #include <QFile>
 #include <QTemporaryDir>
+#include <QTimer>
+#include <functional>
 
 #include "desktop/desktop_program.h"
 #include "desktop/files/native_path.h"
@@ -25,6 +28,23 @@ inline DesktopPlaces PlacesIn(const QTemporaryDir& folder) {
   places.configFolder = folder.path() + "/config";
   places.runtimeFolder = folder.path() + "/run";
   return places;
+}
+
+// A slow machine is given that long.
+inline constexpr int kSlowMachineMs = 60000;
+
+// Does the work once such a dialog is up, from within its own loop.
+template <typename Dialog>
+void WhenUp(const std::function<void(Dialog&)>& work) {
+  auto* look = new QTimer(qApp);
+  QObject::connect(look, &QTimer::timeout, look, [look, work] {
+    auto* dialog = dynamic_cast<Dialog*>(QApplication::activeModalWidget());
+    if (dialog == nullptr || !dialog->isVisible()) return;
+    look->stop();
+    look->deleteLater();
+    work(*dialog);
+  });
+  look->start(20);
 }
 
 class FolderTest : public testing::Test {

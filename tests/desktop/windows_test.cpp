@@ -9,7 +9,6 @@
 #include <QTabWidget>
 #include <QTableWidget>
 #include <QTest>
-#include <QTimer>
 #include <QToolTip>
 #include <QWindow>
 
@@ -375,7 +374,7 @@ TEST_F(WindowsTest, ModalFormReturnsWhenItEnds) {
   GameTypeHelpForm& help = show_.frmGameTypeHelp;
   help.btnOk.OnClick = [&] { help.Unload(); };
   FormWindow& window = Window(help);
-  QTimer::singleShot(50, &window, [&] { window.findChild<QAbstractButton*>("btnOk")->click(); });
+  WhenUp<FormWindow>([](FormWindow& up) { up.findChild<QAbstractButton*>("btnOk")->click(); });
   show_.platform.dialogs.ShowModal(help);
   EXPECT_FALSE(help.Visible);
   EXPECT_TRUE(window.isHidden());

@@ -108,10 +108,19 @@ class Phases {
 
   void Load(int type) {
     Choose(type);
+    // Without it a verdict has a sound and no picture.
+    if (form_.chkAnimation.Value == 0) Press("chkAnimation");
     QFile::copy(media_ + "Flag 2.jpg", media_ + "Soon Gone.jpg");
     Do("choose the set", driver_.Choose("cboList", kSet));
     driver_.Pause(300);
     QFile::remove(media_ + "Soon Gone.jpg");
+  }
+
+  // The words of a verdict blink first.
+  void Judge(const char* verdict, const QString& name) {
+    Press(verdict);
+    Do(verdict, driver_.WaitFor([&] { return form_.picCorrect.Visible && !form_.tmrAnimate[0].Enabled; }));
+    Take(name);
   }
 
   void Turns(int type) {
@@ -120,8 +129,7 @@ class Phases {
     Take(name + "ready");
     Press("btnStart");
     Take(name + "answer");
-    Press("btnQuestionCorrect");
-    Take(name + "verdict");
+    Judge("btnQuestionCorrect", name + "correct");
     Do("board", driver_.WaitFor([&] { return !form_.picCorrect.Visible; }));
     Take(name + "claim");
     Do("claim", driver_.PressSquare(1, 1));
@@ -144,8 +152,7 @@ class Phases {
     Press("btnCues");
     driver_.Pause(2500);
     Take("type5-time-is-up");
-    Press("btnQuestionIncorrect");
-    Take("type5-incorrect");
+    Judge("btnQuestionIncorrect", "type5-incorrect");
     Do("open again", driver_.WaitFor([&] { return !form_.picCorrect.Visible; }));
     Press("btnStandbyMode");
     Take("type5-covered");
@@ -161,8 +168,8 @@ class Phases {
     Do("bonus gone", driver_.WaitFor([&] { return !form_.tmrBonus.Enabled; }));
     btnContinue_Click(show_);
     Press("btnSelectPlayer_2");
-    Press("btnQuestionCorrect");
-    Do("board", driver_.WaitFor([&] { return IsPhase(show_, PhaseKind::Claiming); }));
+    Judge("btnQuestionCorrect", "type5-correct");
+    Do("board", driver_.WaitFor([&] { return !form_.picCorrect.Visible; }));
     Take("type5-claim");
     Do("claim", driver_.PressSquare(2, 2));
     Do("pause", driver_.WaitFor([&] { return IsPhase(show_, PhaseKind::Pause); }));

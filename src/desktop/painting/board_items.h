@@ -45,7 +45,8 @@ ItemStyles ResultStyles(BoardForm& form) {
   styles[&winner.lblWinnerHead] = {};
   styles[&winner.lblWinnerWord] = rising;
   for (std::size_t i = 0; i < kPlayers; ++i) {
-    styles[&winner.lblWinnerName[i]] = rising;
+    ItemStyle& large = styles[&winner.lblWinnerName[i]] = rising;
+    large.Sign = static_cast<int>(i) + 1;
     styles[&winner.picFinal[i]].Card = static_cast<int>(i) + 1;
     ItemStyle& name = styles[&winner.lblFinalName[i]];
     name.Align = Qt::AlignVCenter | Qt::AlignLeft;

@@ -29,10 +29,17 @@ namespace {
 
 // The share of their width to which letters may be narrowed.
 constexpr double kNarrowest = 0.6;
+// The share of their distance to which the lines of a name may come together.
+constexpr double kClosest = 0.78;
 // A picture under this many pixels is scaled as it is painted, so that the flip leaves no copies behind.
 constexpr int kCachedArea = 40000;
 // The share of its size at which a text begins to grow.
 constexpr double kRiseFrom = 0.4;
+// The share of its size by which it swings past it on the way, with its edge.
+constexpr double kRisePast = 0.08;
+// A player's sign before a name and the room between them, as shares of the letters' size.
+constexpr double kSignSide = 0.78;
+constexpr double kSignGap = 0.26;
 
 void PaintSign(QPainter& painter, const QPixmap& sign, const QRectF& rect) {
   if (sign.isNull()) return;
@@ -96,6 +103,9 @@ struct Canvas::Item : Observer {
   QVariantAnimation rise;
   // The share of their width that the letters have.
   double squeeze = 1;
+  // The letters' size in twips, and what of the width the sign before them takes.
+  double lettering = 0;
+  double signRoom = 0;
   // What the item covered when it was last looked at, empty when hidden.
   QRect covered;
 };
@@ -258,6 +268,10 @@ QRectF Canvas::FillRect(const Item& item) const {
   if (fillsDisplay_ && control.Width >= logicalWidth_ && isPanel) return Filled(rect);
   // Slanted outline copies and negative margins may reach past a label's box.
   if (control.Kind() == ControlKind::Label) rect.adjust(-rect.height() * 0.1, 0, rect.height() * 0.1, 0);
+  if (item.style.Rises) {
+    const QSizeF past = rect.size() * kRisePast / 2;
+    rect.adjust(-past.width(), -past.height(), past.width(), past.height());
+  }
   return rect;
 }
 
@@ -383,13 +397,15 @@ void Canvas::LayOutText(Item& item) {
     return;
   }
   const double least = item.style.SmallestSize;
-  // A name keeps a little room to its box.
-  const double room = item.control.Height * (least > kLeastSize ? 0.9 : 1);
-  const auto layOut = [&](double size, double squeeze, Breaks breaks) {
+  // A name keeps a little room to its card's edge.
+  const double room = item.control.Height * (least > kLeastSize ? 0.8 : 1);
+  const auto layOut = [&](double size, double squeeze, Breaks breaks, double pitch = 1) {
     source.Typeface.Size = size;
     item.squeeze = squeeze;
-    const double width = item.textWidth / squeeze;
-    item.text = std::make_unique<TextBlock>(source.Typeface, source.Caption, width, item.style.Align, breaks);
+    item.lettering = size * kTwipsPerPoint;
+    item.signRoom = item.style.Sign == 0 ? 0 : item.lettering * (kSignSide + kSignGap);
+    const double width = (item.textWidth - item.signRoom) / squeeze;
+    item.text = std::make_unique<TextBlock>(source.Typeface, source.Caption, width, item.style.Align, breaks, pitch);
     return item.text->Height() <= room && item.text->Width() <= width + 1;
   };
   bool fits = layOut(source.Typeface.Size, 1, Breaks::AtWords) || !item.style.ShrinkToFit;
@@ -397,10 +413,12 @@ void Canvas::LayOutText(Item& item) {
     fits = layOut(std::max(least, source.Typeface.Size - 2), 1, Breaks::AtWords);
   }
   if (least <= kLeastSize) return;
-  while (!fits && item.squeeze > kNarrowest) {
-    fits = layOut(least, std::max(kNarrowest, item.squeeze - 0.05), Breaks::AtWords);
+  for (const double pitch : {1.0, kClosest}) {
+    for (double squeeze = 1; !fits && squeeze > kNarrowest - 0.01; squeeze -= 0.05) {
+      fits = layOut(least, squeeze, Breaks::AtWords, pitch);
+    }
   }
-  if (!fits) layOut(least, kNarrowest, Breaks::AnywhereIfNeeded);
+  if (!fits) layOut(least, kNarrowest, Breaks::AnywhereIfNeeded, kClosest);
 }
 
 void Canvas::LayOutLine(Item& item, const TextSource& source) {
@@ -436,16 +454,27 @@ void Canvas::PaintText(QPainter& painter, Item& item, const QRectF& rect) {
   }
   painter.scale(scale_ * item.squeeze, scale_);
   painter.setPen(Ink(item.style, source.Fore));
-  const double width = item.control.Width / item.squeeze;
+  const double width = (item.control.Width - item.signRoom) / item.squeeze;
   const double height =
       item.style.SmallestSize > kLeastSize ? item.text->WholeLines(item.control.Height) : item.text->Height();
   const double spareHeight = item.style.Align.testFlag(Qt::AlignVCenter) ? item.control.Height - height : 0;
   const double spareWidth = std::min(0.0, width - item.text->Width());
   if (height < item.text->Height()) painter.setClipRect(QRectF(0, spareHeight / 2, width, height), Qt::IntersectClip);
-  const QPointF at(spareWidth / 2, spareHeight / 2);
+  const QPointF at(item.signRoom + spareWidth / 2, spareHeight / 2);
+  if (item.style.Sign != 0) PaintNameSign(painter, item, ToQColor(source.Fore));
   if (item.style.IsOutlined) item.text->Outline(painter, at, Qt::black);
   item.text->Draw(painter, at);
   painter.restore();
+}
+
+// In twips from the text's corner; sign and letters stand in the middle of its width together.
+void Canvas::PaintNameSign(QPainter& painter, const Item& item, const QColor& ink) const {
+  constexpr double kEdge = 0.06;
+  const double side = item.lettering * kSignSide;
+  const double left = (item.control.Width - item.signRoom - item.text->WidthOfLetters()) / 2;
+  const QPainterPath sign = PlayerSign(item.style.Sign, {left, (item.control.Height - side) / 2, side, side});
+  painter.strokePath(sign, QPen(Qt::black, item.lettering * kEdge, Qt::SolidLine, Qt::RoundCap, Qt::RoundJoin));
+  painter.fillPath(sign, ink);
 }
 
 void Canvas::resizeEvent(QResizeEvent*) {

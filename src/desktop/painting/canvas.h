@@ -43,6 +43,8 @@ struct ItemStyle {
   int Card = 0;
   // A text on that card, which is as light or dim as the card is.
   const PictureBox* OnCardOf = nullptr;
+  // The sign of that player 1..3 stands before its letters.
+  int Sign = 0;
   // The words of a verdict: the told green and red are drawn as the house's.
   bool IsVerdict = false;
   // Never broken: a text that is too wide is drawn smaller, and then narrower.
@@ -115,6 +117,7 @@ class Canvas : public QWidget {
   void LayOutText(Item& item);
   static void LayOutLine(Item& item, const TextSource& source);
   void PaintText(QPainter& painter, Item& item, const QRectF& rect);
+  void PaintNameSign(QPainter& painter, const Item& item, const QColor& ink) const;
   void PaintCard(QPainter& painter, const Item& item, const QRectF& rect) const;
   void PlaceEmbedded();
   bool IsCovered(const Control& control) const;

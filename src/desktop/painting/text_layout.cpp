@@ -56,7 +56,8 @@ QFont LayoutFont(const Font& font) {
 }
 
 TextBlock::TextBlock(const Font& font, const std::string& text, double wrapWidth, Qt::Alignment alignment,
-                     Breaks breaks) {
+                     Breaks breaks, double pitch)
+    : pitch_(pitch) {
   if (font.Size <= 0) return;
   const QFont reference = LayoutFont(font);
   scale_ = font.Size * kTwipsPerPoint / kReferencePixels;
@@ -78,8 +79,9 @@ TextBlock::TextBlock(const Font& font, const std::string& text, double wrapWidth
   layout_.beginLayout();
   for (QTextLine line = layout_.createLine(); line.isValid(); line = layout_.createLine()) {
     line.setLineWidth(width_);
-    line.setPosition(QPointF(0, height_));
-    height_ += line.height();
+    const double taken = line.height() * pitch_;
+    line.setPosition(QPointF(0, height_ + (taken - line.height()) / 2));
+    height_ += taken;
   }
   layout_.endLayout();
 }
@@ -94,7 +96,7 @@ double TextBlock::WholeLines(double height) const {
   double whole = 0;
   for (int i = 0; i < layout_.lineCount(); ++i) {
     const QTextLine line = layout_.lineAt(i);
-    const double bottom = (line.y() + line.height()) * scale_;
+    const double bottom = (line.y() + line.height() * (1 + pitch_) / 2) * scale_;
     if (bottom <= height) whole = bottom;
   }
   return whole;

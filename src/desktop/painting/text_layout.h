@@ -21,8 +21,9 @@ enum class Breaks { AtWords, AnywhereIfNeeded, Never };
 // One text broken at words into lines of the wrap width. A word wider than that keeps its line to itself.
 class TextBlock {
  public:
+  // Its lines may stand closer, by a share of the font's own distance.
   TextBlock(const Font& font, const std::string& text, double wrapWidth, Qt::Alignment alignment = Qt::AlignHCenter,
-            Breaks breaks = Breaks::AtWords);
+            Breaks breaks = Breaks::AtWords, double pitch = 1);
   // In twips.
   double Width() const { return width_ * scale_; }
   double Height() const { return height_ * scale_; }
@@ -41,6 +42,7 @@ class TextBlock {
   // From the reference size to twips.
   double scale_ = 1;
   QTextLayout layout_;
+  double pitch_ = 1;
   double width_ = 0;
   double height_ = 0;
 };

@@ -36,6 +36,7 @@
     byId('count').textContent = told.question > 0 ? 'Question ' + told.question + ' of ' + told.of : '';
     byId('set').textContent = told.set;
     byId('question').textContent = told.winner || told.text || 'No question yet';
+    byId('question').className = told.winner ? 'result' : '';
     byId('answer').textContent = told.answer;
     byId('answer').hidden = told.answer === '';
     byId('floor').textContent = told.floor;
