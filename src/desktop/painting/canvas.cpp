@@ -38,8 +38,8 @@ constexpr double kRiseFrom = 0.4;
 // The share of its size by which it swings past it on the way, with its edge.
 constexpr double kRisePast = 0.08;
 // A player's sign before a name and the room between them, as shares of the letters' size.
-constexpr double kSignSide = 0.78;
-constexpr double kSignGap = 0.26;
+constexpr double kSignSide = 0.75;
+constexpr double kSignGap = 0.4;
 
 void PaintSign(QPainter& painter, const QPixmap& sign, const QRectF& rect) {
   if (sign.isNull()) return;
