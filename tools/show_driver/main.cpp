@@ -1,10 +1,11 @@
 // Plays two short games in the real program on the present display and saves pictures of both screens at each phase.
-// Usage: pawnfield_show [FOLDER [forms|dialogs|gallery|phases|media|newcomer|sheet|letters|record|winner]]; with "forms"
-// it opens every form instead and saves a picture of each, with "dialogs" boxes and dialogs with their frames, with
-// "gallery" it brings up everything that the two screens can show, with "phases" it plays a game of each type at each
-// size of the console, with "media" headers, a picture and a film on demand, with "newcomer" the manual's newcomer's
-// hour, with "sheet" questions that come from a spreadsheet, with "letters" a show in Hebrew and Greek with its prints,
-// with "record" a game's results and the question about an interrupted show, with "winner" films of the ends of games.
+// Usage: pawnfield_show [FOLDER [forms|dialogs|gallery|phases|media|newcomer|sheet|letters|record|winner]]; with
+// "forms" it opens every form instead and saves a picture of each, with "dialogs" boxes and dialogs with their frames,
+// with "gallery" it brings up everything that the two screens can show, with "phases" it plays a game of each type at
+// each size of the console, with "media" headers, a picture and a film on demand, with "newcomer" the manual's
+// newcomer's hour, with "sheet" questions that come from a spreadsheet, with "letters" a show in Hebrew and Greek with
+// its prints, with "record" a game's results and the question about an interrupted show, with "winner" films of the
+// ends of games.
 
 #include <QApplication>
 #include <QFile>

@@ -25,13 +25,12 @@ struct GameEnding {
   int LinePays;
 };
 
-const std::vector<GameEnding> kEndings = {
-    {"three-bonus", 3, {"ANNA", "BEN", "CHLOE"}, -250, -550, 15},
-    {"three-third-wins", 3, {"ANNA", "BEN", kLongName}, -100, 200, 5},
-    {"three-long-name", 3, {kLongName, "BEN", "CHLOE"}, -600, -50, 5},
-    {"two-tie-bonus", 2, {"ANNA", kLongName}, 0, 0, 15},
-    {"two-winner", 2, {"ANNA", "BEN"}, 100, 0, 5},
-    {"three-tie", 3, {"ANNA", "BEN", "CHLOE"}, 0, 0, 5}};
+const std::vector<GameEnding> kEndings = {{"three-bonus", 3, {"ANNA", "BEN", "CHLOE"}, -250, -550, 15},
+                                          {"three-third-wins", 3, {"ANNA", "BEN", kLongName}, -100, 200, 5},
+                                          {"three-long-name", 3, {kLongName, "BEN", "CHLOE"}, -600, -50, 5},
+                                          {"two-tie-bonus", 2, {"ANNA", kLongName}, 0, 0, 15},
+                                          {"two-winner", 2, {"ANNA", "BEN"}, 100, 0, 5},
+                                          {"three-tie", 3, {"ANNA", "BEN", "CHLOE"}, 0, 0, 5}};
 
 // Records a part of the display while it stands.
 class Film {
@@ -39,9 +38,9 @@ class Film {
   Film(const QRect& area, const QString& file) {
     const QString size = QString("%1x%2").arg(area.width()).arg(area.height());
     const QString place = QString("%1+%2,%3").arg(qEnvironmentVariable("DISPLAY")).arg(area.x()).arg(area.y());
-    recorder_.start("ffmpeg", {"-v", "error", "-y", "-f", "x11grab", "-draw_mouse", "0", "-framerate", "20",
-                               "-video_size", size, "-i", place, "-c:v", "libx264", "-preset", "ultrafast", "-qp", "12",
-                               file});
+    recorder_.start("ffmpeg", {"-v",         "error",   "-y",          "-f",  "x11grab", "-draw_mouse", "0",
+                               "-framerate", "20",      "-video_size", size,  "-i",      place,         "-c:v",
+                               "libx264",    "-preset", "ultrafast",   "-qp", "12",      file});
   }
   ~Film() { End(); }
   bool End() {
@@ -59,9 +58,7 @@ class Films {
   Films(ShowDriver& driver, QString folder)
       : driver_(driver), show_(driver.TheShow()), form_(show_.frmMain), folder_(std::move(folder)) {}
 
-  bool Take(const GameEnding& ending) {
-    return Prepare(ending) && Claim(ending) && Settle(ending) && FilmEnd(ending);
-  }
+  bool Take(const GameEnding& ending) { return Prepare(ending) && Claim(ending) && Settle(ending) && FilmEnd(ending); }
 
  private:
   bool Prepare(const GameEnding& ending) {
