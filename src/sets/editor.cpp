@@ -184,7 +184,8 @@ void ShowEditor(Show& show, const std::function<void()>& first) {
   form.Dispatch([&show] { PrepareForm(show); }, "Form_Load");
   StopSoundClip(show);
   if (first) form.Dispatch(first, "Form_Load");
-  form.txtEnterQuestion.SetFocus();
+  // A medium has no wording to be written.
+  (form.txtEnterQuestion.Visible ? form.txtEnterQuestion : form.txtAnswer).SetFocus();
   show.platform.dialogs.ShowModal(form);
 }
 

@@ -38,7 +38,16 @@ std::string BoxText(const MediaCheck& check) {
 std::string StatusText(const MediaCheck& check) {
   std::string numbers;
   for (const auto& [number, error] : check.Errors) numbers += (numbers.empty() ? "" : ", ") + std::to_string(number);
-  return "Can't be shown: the files of questions " + numbers;
+  return (check.Errors.size() == 1 ? "Can't be shown: the file of question "
+                                   : "Can't be shown: the files of questions ") +
+         numbers;
+}
+
+// What was said of the files of the set before is nothing about this one's.
+void TakeBackStatus(Show& show) {
+  const MediaCheck& before = show.mediaCheck;
+  Label& status = show.frmMain.lblStatusBar;
+  if (!before.Errors.empty() && status.Caption.Get() == StatusText(before)) status.Caption = std::string();
 }
 
 void ShowProgress(Show& show) {
@@ -83,6 +92,7 @@ void CheckSetMedia(Show& show) {
     const std::string text = Trim(RecordAt(show.GameSet, number).QuestionText);
     if (KindOfQuestion(text) != QuestionKind::Text) files[number] = WholePath(show, text);
   }
+  TakeBackStatus(show);
   const int count = static_cast<int>(files.size());
   show.mediaCheck = {show.mediaCheck.Number + 1, count, count, {}};
   show.frmMain.prgMediaCheck.Visible = false;

@@ -211,6 +211,7 @@ TEST_F(ShowCheckWindowTest, AFileThatCannotBeShownIsNamedAndAClickOpensTheEditor
     opened = TheShow().frmEditor.EditQuestionNumber;
     const auto& rows = TheShow().frmEditor.lstQuestions.ListItems;
     EXPECT_TRUE(Wait([&] { return rows.Get()[1][4].starts_with("No picture"); })) << rows.Get()[1][4];
+    EXPECT_EQ(TheShow().frmEditor.ActiveControl, &TheShow().frmEditor.txtAnswer);
     editor.TakePicture("frmEditor", "opened-at-the-finding");
     TheShow().frmEditor.Unload();
   });

@@ -28,6 +28,8 @@ TEST_F(LoadedMedia, WhatCannotBeShownIsNamedWithItsQuestionBeforeTheShow) {
       "Question 2: broken.jpg: no picture, or too large a one\r\nQuestion 4: empty.wav: no such file, or no sound\r\n");
   ChooseSet("Bad");
   EXPECT_EQ(form().lblStatusBar.Caption.Get(), "Can't be shown: the files of questions 2, 4");
+  ChooseSet("Good");
+  EXPECT_EQ(form().lblStatusBar.Caption.Get(), "");
 }
 
 TEST_F(LoadedMedia, ASlowDiskShowsABarAndNeverABoxInTheShow) {
@@ -40,7 +42,7 @@ TEST_F(LoadedMedia, ASlowDiskShowsABarAndNeverABoxInTheShow) {
   form().btnStart.Click();
   sim.pictures.Answer();
   EXPECT_FALSE(form().prgMediaCheck.Visible);
-  EXPECT_EQ(form().lblStatusBar.Caption.Get(), "Can't be shown: the files of questions 2");
+  EXPECT_EQ(form().lblStatusBar.Caption.Get(), "Can't be shown: the file of question 2");
 }
 
 // What the disk says of a set that has been left is about another one's questions.
