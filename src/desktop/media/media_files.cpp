@@ -14,8 +14,9 @@ namespace {
 
 constexpr qint64 kSniffBytes = 512;
 constexpr int kIdleMs = 5000;
-// A look at a key's film goes on while a whole set's sounds are looked at.
 constexpr int kWorkers = 2;
+// What the room waits for passes a whole set's sounds that are being checked.
+constexpr int kShown = 1, kCheck = 0;
 
 bool IsTextByte(char byte) {
   const auto value = static_cast<unsigned char>(byte);
@@ -45,11 +46,13 @@ MediaFiles::~MediaFiles() {
 }
 
 void MediaFiles::Look(const std::string& path, std::function<void(bool plays)> then) {
-  Ask([path] { return FindPlayableFile(path).has_value(); }, std::move(then));
+  Ask(
+      kShown, [path] { return FindPlayableFile(path).has_value(); }, std::move(then));
 }
 
 void MediaFiles::Check(const std::string& path, std::function<void(bool plays)> then) {
   Ask(
+      kCheck,
       [path] {
         const auto native = FindPlayableFile(path);
         return native && IsDecodableSound(*native);
@@ -57,12 +60,14 @@ void MediaFiles::Check(const std::string& path, std::function<void(bool plays)> 
       std::move(then));
 }
 
-void MediaFiles::Ask(std::function<bool()> question, std::function<void(bool)> then) {
-  workers_.start([this, question = std::move(question), then = std::move(then)] {
-    const bool answer = question();
-    QMetaObject::invokeMethod(
-        this, [then, answer] { then(answer); }, Qt::QueuedConnection);
-  });
+void MediaFiles::Ask(int priority, std::function<bool()> question, std::function<void(bool)> then) {
+  workers_.start(
+      [this, question = std::move(question), then = std::move(then)] {
+        const bool answer = question();
+        QMetaObject::invokeMethod(
+            this, [then, answer] { then(answer); }, Qt::QueuedConnection);
+      },
+      priority);
 }
 
 void MediaFiles::NameSoundDevices(std::function<void(const std::vector<std::string>& names)> then) {

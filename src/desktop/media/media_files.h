@@ -31,8 +31,8 @@ class MediaFiles : public QObject, public MediaReader {
   std::function<void(const std::string& path, std::function<void(double seconds)> then)> OnMeasure;
 
  private:
-  // Runs the question beside and hands its answer on between events.
-  void Ask(std::function<bool()> question, std::function<void(bool)> then);
+  // Runs the question beside, those of a higher priority first, and hands its answer on between events.
+  void Ask(int priority, std::function<bool()> question, std::function<void(bool)> then);
   QThreadPool workers_;
 };
 
