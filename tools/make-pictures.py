@@ -260,24 +260,24 @@ def sound_panel():
 
 
 def verdict(correct):
-    """Its middle stays dark and empty: the words are written there."""
+    """Its middle stays dark and empty: the words are written there. The sign is whole also in a room twice as wide as
+    high, which shows nine tenths of the height."""
     size = (2048, 1152)
+    top, reach = 236, 126
     colour = RIGHT if correct else WRONG
     bright = "#3FE08A" if correct else "#FF6167"
     image = stage(size, colour, (0.5, 0.2), 0.75)
-    image = ImageChops.screen(image, rays(size, (1024, 200), 24, bright, 0.14))
+    image = ImageChops.screen(image, rays(size, (1024, top), 24, bright, 0.14))
     paint(image, "#05070D", rounded_mask(size, (-40, 400, 2088, 752), 0).filter(ImageFilter.GaussianBlur(40)), 0.86)
     disc = Image.new("L", size, 0)
-    ImageDraw.Draw(disc).ellipse((1024 - 150, 200 - 150, 1024 + 150, 200 + 150), fill=255)
+    ImageDraw.Draw(disc).ellipse((1024 - reach, top - reach, 1024 + reach, top + reach), fill=255)
     glow(image, bright, disc, 40, 0.6)
     shade(image, disc, mix(bright, colour, 0.35), mix(colour, "#000000", 0.25))
     mark = Image.new("L", size, 0)
     draw = ImageDraw.Draw(mark)
-    if correct:
-        stroke(draw, [(951, 207), (1004, 259), (1100, 149)], 40)
-    else:
-        stroke(draw, [(965, 141), (1083, 259)], 40)
-        stroke(draw, [(1083, 141), (965, 259)], 40)
+    lines = [[(-61, 6), (-17, 50), (64, -43)]] if correct else [[(-50, -50), (50, 50)], [(50, -50), (-50, 50)]]
+    for line in lines:
+        stroke(draw, [(1024 + x, top + y) for x, y in line], 34)
     paint(image, "#FFFFFF", mark)
     return finish(image, (1024, 576))
 

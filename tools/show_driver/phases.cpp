@@ -166,6 +166,7 @@ class Phases {
     ShowBonus(show_);
     Take("type5-bonus");
     Do("bonus gone", driver_.WaitFor([&] { return !form_.tmrBonus.Enabled; }));
+    form_.tmrAutoContinue.Enabled = false;
     btnContinue_Click(show_);
     Press("btnSelectPlayer_2");
     Judge("btnQuestionCorrect", "type5-correct");
