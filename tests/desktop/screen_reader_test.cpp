@@ -56,7 +56,7 @@ class ScreenReader : public QObject {
     launcher_.start(kLauncher, {"--launch-immediately"});
     QDBusConnection session = QDBusConnection::connectToBus(Address, "session");
     QElapsedTimer since;
-    for (since.start(); since.elapsed() < 20000; QTest::qWait(100)) {
+    for (since.start(); since.elapsed() < 120000; QTest::qWait(100)) {
       const QDBusMessage answer =
           session.call(QDBusMessage::createMethodCall("org.a11y.Bus", "/org/a11y/bus", "org.a11y.Bus", "GetAddress"),
                        QDBus::Block, 3000);
@@ -156,7 +156,7 @@ class ScreenReader : public QObject {
                            const QVariantList& arguments) {
     QDBusMessage call = QDBusMessage::createMethodCall(node.service, node.path, interface, method);
     call.setArguments(arguments);
-    return Bus().call(call, QDBus::Block, 10000);
+    return Bus().call(call, QDBus::Block, 60000);
   }
   std::optional<Node> Below(const Node& node, const std::function<bool(const Node&)>& isIt) const {
     for (const Node& child : Children(node)) {
@@ -177,7 +177,7 @@ class ScreenReaderTest : public testing::Test {
   void SetUp() override;
   void TearDown() override {
     program_.terminate();
-    program_.waitForFinished(30000);
+    program_.waitForFinished(120000);
   }
   // Does what the button, option or square of that name is for.
   void Press(Role role, const QString& name) {

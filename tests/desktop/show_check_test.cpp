@@ -284,7 +284,7 @@ TEST_F(ShowCheckWindowTest, StaysInFrontInItsCornerWhileItIsWanted) {
   Window()->move(20, 60);
   for (const bool wanted : {true, false}) {
     QTest::mouseClick(box, Qt::LeftButton, {}, QPoint(8, box->height() / 2));
-    EXPECT_TRUE(Wait([&] { return isOver() == wanted; }, 30000)) << wanted;
+    EXPECT_TRUE(Wait([&] { return isOver() == wanted; }, 120000)) << wanted;
     Console().activateWindow();
     EXPECT_TRUE(Window()->isVisible());
   }

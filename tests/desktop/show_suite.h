@@ -25,7 +25,7 @@ class ShowSuite : public testing::Test {
     ready_ = Xrandr(monitors);
     // The toolkit hears of it by an event of its own, and the program is to start on what is there.
     const int count = monitors == kOneMonitor ? 1 : 2;
-    ready_ = ready_ && QTest::qWaitFor([count] { return QGuiApplication::screens().size() == count; }, 30000);
+    ready_ = ready_ && QTest::qWaitFor([count] { return QGuiApplication::screens().size() == count; }, 120000);
     folder_ = new QTemporaryDir;
     driver_ = new ShowDriver(folder_->path(), std::move(adapters));
     ready_ = ready_ && driver_->Start();

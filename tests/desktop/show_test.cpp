@@ -167,7 +167,7 @@ TEST_F(ShowTest, ThePointersBlinkOnTheDisplayAndStayAsTheyAreUnderAWindowThatGoe
     QWidget cover(nullptr, Qt::ToolTip);
     cover.setGeometry(QRect(pointer.mapToGlobal(QPoint(-20, -20)), QSize(100, 60)));
     cover.show();
-    ASSERT_TRUE(QTest::qWaitForWindowExposed(&cover, 30000));
+    ASSERT_TRUE(QTest::qWaitForWindowExposed(&cover, 120000));
     cover.close();
     QTest::qWait(100);
     EXPECT_TRUE(Wait([&] { return IsLit(pointer) == lit; }));

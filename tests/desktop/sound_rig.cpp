@@ -14,7 +14,7 @@ namespace {
 
 constexpr double kWindow = 0.02;
 constexpr double kHeard = 0.02;
-constexpr int kPatienceMs = 30000;
+constexpr int kPatienceMs = 120000;
 
 }  // namespace
 
