@@ -8,6 +8,7 @@
 
 #include "desktop/painting/text_layout.h"
 #include "desktop/system/flat_memory.h"
+#include "desktop/system/list_guard.h"
 #include "desktop/system/x_windows.h"
 #include "desktop/windows/access.h"
 #include "desktop/windows/audience_window.h"
@@ -187,6 +188,7 @@ void PrepareApplication() {
   // They live as long as the application.
   (new WindowClass)->setParent(qApp);
   (new ActiveByServer)->setParent(qApp);
+  (new ListGuard)->setParent(qApp);
   QFile look(":/look/look.qss");
   if (look.open(QIODevice::ReadOnly)) qApp->setStyleSheet(QString::fromUtf8(look.readAll()));
 }

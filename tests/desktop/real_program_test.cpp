@@ -198,7 +198,8 @@ class DoubleClickTest : public RealProgramTest {
     sound_ = ReadFile(shared + "/Sound Effects/Skip.Wav");
     ASSERT_FALSE(sound_.isEmpty());
     ASSERT_TRUE(WriteBundle(bundle_, "Clicked", "Who?\r\nMe\r\nT\r\ntune.wav\r\nA tune\r\nS\r\n",
-                            {{SpelledPath(shared + "/Sound Effects/Skip.Wav"), "tune.wav"}}, [](double) { return true; }));
+                            {{SpelledPath(shared + "/Sound Effects/Skip.Wav"), "tune.wav"}},
+                            [](double) { return true; }));
   }
   QString Program() const { return Native("program/pawnfield"); }
   QString Sets() const { return Native("program/Trivia Sets"); }

@@ -3,7 +3,9 @@
 
 #include <gtest/gtest.h>
 
+#include <QAbstractItemView>
 #include <QApplication>
+#include <QComboBox>
 #include <QElapsedTimer>
 #include <QFile>
 #include <QLineEdit>
@@ -19,6 +21,7 @@
 #include "desktop/windows/console_window.h"
 #include "forms/fs_main_form.h"
 #include "forms/main_form.h"
+#include "forms/second_screen_form.h"
 #include "show/phase.h"
 #include "show_driver.h"
 
@@ -260,6 +263,30 @@ TEST_P(WaylandTest, AQuestionStandsOverTheConsoleWhileTheRoomsWindowHasTheKeyboa
   });
   driver_->TheShow().platform.dialogs.MessageBox("The disk is full.", "Pawnfield", BoxKind::Critical);
   EXPECT_EQ(over, &Console());
+}
+
+// A compositor takes an open list away from whoever loses the keyboard, and ends a program that draws it all the same.
+TEST_P(WaylandTest, AListThatIsOpenedWhileTheRoomsWindowComesUpIsOpenAfterIt) {
+  // The rule stays for the compositor's life; the cases before have none.
+  ASSERT_TRUE(Sway("for_window [title=\"Second Screen\"] focus"));
+  auto* box = Console().findChild<QComboBox*>("cboTimedResponse");
+  ASSERT_TRUE(Wait([&] { return Console().isActiveWindow() && box->isVisible() && box->isEnabled(); }));
+  box->setFocus();
+  // Before the first key a list would be a window of its own, and none that belongs to the console.
+  ASSERT_TRUE(Key({"-k", "Down"}));
+  ASSERT_TRUE(Wait([&] { return box->currentIndex() == 1; }));
+  for (int times = 0; times < 3; ++times) {
+    driver_->TheShow().frmSS.Visible = false;
+    ASSERT_TRUE(Wait([&] { return !Shows(room_, Screen()); }));
+    driver_->TheShow().frmSS.Visible = true;
+    box->showPopup();
+    driver_->Pause(100);
+    EXPECT_TRUE(Wait([&] { return Screen().isVisible() && Shows(room_, Screen()); }));
+    EXPECT_TRUE(Wait([&] { return box->view()->isVisible(); }));
+    box->hidePopup();
+  }
+  ASSERT_NO_FATAL_FAILURE(BeginQuestion());
+  ExpectKeys();
 }
 
 // On a busy machine the compositor tells a window of its screen after the toolkit's guess has been taken for it.

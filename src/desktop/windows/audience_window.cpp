@@ -145,7 +145,6 @@ void AudienceWindow::GoTo(QScreen& target) {
   connect(windowHandle(), &QWindow::screenChanged, this, &AudienceWindow::Moved, Qt::UniqueConnection);
   placed_.start();
   if (isVisible() && windowHandle()->screen() == &target) return;
-  CloseOpenLists();
   sent_.start();
   hide();
   windowHandle()->setScreen(&target);
