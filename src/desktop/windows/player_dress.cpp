@@ -1,7 +1,6 @@
 #include "desktop/windows/player_dress.h"
 
 #include <QAbstractButton>
-#include <QAction>
 #include <QEvent>
 #include <QIcon>
 #include <QLabel>
@@ -9,6 +8,7 @@
 #include <QLineEdit>
 #include <QPainter>
 #include <QPainterPath>
+#include <cmath>
 
 #include "data/house_colors.h"
 #include "data/players.h"
@@ -123,6 +123,51 @@ class NameSign : public QWidget {
   int player_;
 };
 
+// Of the square's box: the sign before its letters, which it grows with, and the room around it.
+constexpr double kSignToLetters = 0.73;
+constexpr int kBoxEdge = 9;
+int SignSideIn(const QLineEdit& box) {
+  return static_cast<int>(std::lround(QFontInfo(box.font()).pixelSize() * kSignToLetters));
+}
+
+// Says whose turn it is by that player's sign.
+class SignInBox : public QWidget {
+ public:
+  explicit SignInBox(QLineEdit& box) : QWidget(&box), box_(box) {
+    setObjectName("pnlSignInBox");
+    setAccessibleName("Whose turn it is");
+    setAttribute(Qt::WA_TransparentForMouseEvents);
+    box.installEventFilter(this);
+  }
+  // Player 0 for nobody.
+  void Show(int player) {
+    player_ = player;
+    setVisible(player != 0);
+    Place();
+    update();
+  }
+
+ protected:
+  bool eventFilter(QObject*, QEvent* event) override {
+    if (event->type() == QEvent::Resize || event->type() == QEvent::FontChange) Place();
+    return false;
+  }
+  void paintEvent(QPaintEvent*) override {
+    QPainter painter(this);
+    if (player_ != 0) PaintPlayerSign(painter, player_, rect(), true);
+  }
+
+ private:
+  void Place() {
+    const int side = SignSideIn(box_);
+    const QMargins margins(player_ == 0 ? 0 : side + kBoxEdge, 0, 0, 0);
+    if (box_.textMargins() != margins) box_.setTextMargins(margins);
+    setGeometry(kBoxEdge, (box_.height() - side) / 2, side, side);
+  }
+  QLineEdit& box_;
+  int player_ = 0;
+};
+
 // Stands in the square's box while nothing is typed, in letters that may shrink: a placeholder has the box's own, in
 // which a name is cut.
 class NameInBox : public QWidget {
@@ -142,8 +187,8 @@ class NameInBox : public QWidget {
 
  protected:
   bool eventFilter(QObject*, QEvent* event) override {
-    constexpr int kSign = 34, kEdge = 8;
-    if (event->type() == QEvent::Resize) setGeometry(box_.rect().adjusted(kSign, 0, -kEdge, 0));
+    if (event->type() != QEvent::Resize && event->type() != QEvent::FontChange) return false;
+    setGeometry(box_.rect().adjusted(SignSideIn(box_) + 2 * kBoxEdge, 0, -kBoxEdge, 0));
     return false;
   }
   void paintEvent(QPaintEvent*) override {
@@ -173,8 +218,7 @@ class TurnInBox : public Observer {
   TurnInBox(MainForm& form, QLineEdit& box) : form_(form), box_(box) {
     box_.setProperty("showsTurn", true);
     name_ = new NameInBox(box_);
-    sign_ = box_.addAction(QIcon(), QLineEdit::LeadingPosition);
-    for (auto* sign : box_.findChildren<QAbstractButton*>()) sign->setAccessibleName("Whose turn it is");
+    sign_ = new SignInBox(box_);
     for (int player = 1; player <= kPlayers; ++player) {
       form_.PlayerBox(player).AddObserver(*this);
       form_.lblPlayer1[PlayerIndex(player)].AddObserver(*this);
@@ -194,9 +238,8 @@ class TurnInBox : public Observer {
   }
   void ShowTurn() {
     const int player = LitPlayer();
-    sign_->setVisible(player != 0);
+    sign_->Show(player);
     const QColor color = ToQColor(player == 0 ? kQuietText : kPlayerColors[player]);
-    if (player != 0) sign_->setIcon(PlayerSignPicture(player, 2 * kSignSide, color));
     name_->Show(player == 0 ? QString() : Unescape(form_.lblPlayer1[PlayerIndex(player)].Caption), color);
     // As large with either edge.
     box_.setStyleSheet(player == 0 ? QString("QLineEdit { margin: 2px; }")
@@ -205,7 +248,7 @@ class TurnInBox : public Observer {
 
   MainForm& form_;
   QLineEdit& box_;
-  QAction* sign_ = nullptr;
+  SignInBox* sign_ = nullptr;
   NameInBox* name_ = nullptr;
 };
 
