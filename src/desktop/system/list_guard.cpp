@@ -15,9 +15,7 @@ namespace {
 constexpr int kUnseenMs = 10000;
 constexpr int kSeenMs = 1000;
 
-bool OpensOver(const QWidget& window) {
-  return window.windowType() == Qt::Popup || window.windowType() == Qt::ToolTip;
-}
+bool OpensOver(const QWidget& window) { return window.windowType() == Qt::Popup || window.windowType() == Qt::ToolTip; }
 
 }  // namespace
 
@@ -56,7 +54,8 @@ void ListGuard::Await(QWidget& window) {
 // Before the compositor can have answered, so that nothing is drawn into it.
 void ListGuard::PutOff(QWidget& opened) {
   box_ = qobject_cast<QComboBox*>(opened.parentWidget());
-  QMetaObject::invokeMethod(&opened, [&opened] { opened.close(); }, Qt::QueuedConnection);
+  QMetaObject::invokeMethod(
+      &opened, [&opened] { opened.close(); }, Qt::QueuedConnection);
 }
 
 void ListGuard::Arrived() {

@@ -1,6 +1,6 @@
 // Keeps lists, menus and tips off the screen while a window of the program comes up under a compositor. A window that
-// comes up takes the keyboard, the compositor takes away what was open before, and it ends the session of a program that
-// draws it all the same.
+// comes up takes the keyboard, the compositor takes away what was open before, and it ends the session of a program
+// that draws it all the same.
 #pragma once
 
 #include <QComboBox>
