@@ -93,58 +93,12 @@ class ThirdCard : public Observer {
   QWidget& frame_;
 };
 
-// A sign that stands at the left edge of a name and grows with its letters.
-class NameSign : public QWidget {
+// A player's sign that stands in a widget and grows with its letters; player 0 has none.
+class GrowingSign : public QWidget {
  public:
-  NameSign(QLabel& name, int player) : QWidget(&name), name_(name), player_(player) {
-    name.installEventFilter(this);
+  GrowingSign(QWidget& letters, int player) : QWidget(&letters), player_(player) {
     setAttribute(Qt::WA_TransparentForMouseEvents);
-    Place();
-  }
-
- protected:
-  bool eventFilter(QObject*, QEvent* event) override {
-    if (event->type() == QEvent::Resize || event->type() == QEvent::FontChange) Place();
-    return false;
-  }
-  void paintEvent(QPaintEvent*) override {
-    QPainter painter(this);
-    PaintPlayerSign(painter, player_, rect(), true);
-  }
-
- private:
-  void Place() {
-    const int side = kSignSide * QFontInfo(name_.font()).pixelSize() / kSmallestPixels;
-    const QMargins beside(side + 4, 0, 0, 0);
-    if (name_.contentsMargins() != beside) name_.setContentsMargins(beside);
-    setGeometry(0, (name_.height() - side) / 2, side, side);
-  }
-  QLabel& name_;
-  int player_;
-};
-
-// Of the square's box: the sign before its letters, which it grows with, and the room around it.
-constexpr double kSignToLetters = 0.73;
-constexpr int kBoxEdge = 9;
-int SignSideIn(const QLineEdit& box) {
-  return static_cast<int>(std::lround(QFontInfo(box.font()).pixelSize() * kSignToLetters));
-}
-
-// Says whose turn it is by that player's sign.
-class SignInBox : public QWidget {
- public:
-  explicit SignInBox(QLineEdit& box) : QWidget(&box), box_(box) {
-    setObjectName("pnlSignInBox");
-    setAccessibleName("Whose turn it is");
-    setAttribute(Qt::WA_TransparentForMouseEvents);
-    box.installEventFilter(this);
-  }
-  // Player 0 for nobody.
-  void Show(int player) {
-    player_ = player;
-    setVisible(player != 0);
-    Place();
-    update();
+    letters.installEventFilter(this);
   }
 
  protected:
@@ -156,16 +110,60 @@ class SignInBox : public QWidget {
     QPainter painter(this);
     if (player_ != 0) PaintPlayerSign(painter, player_, rect(), true);
   }
+  virtual void Place() = 0;
+
+  int player_;
+};
+
+// At the left edge of a name.
+class NameSign : public GrowingSign {
+ public:
+  NameSign(QLabel& name, int player) : GrowingSign(name, player), name_(name) { NameSign::Place(); }
+
+ protected:
+  void Place() override {
+    const int side = kSignSide * QFontInfo(name_.font()).pixelSize() / kSmallestPixels;
+    const QMargins beside(side + 4, 0, 0, 0);
+    if (name_.contentsMargins() != beside) name_.setContentsMargins(beside);
+    setGeometry(0, (name_.height() - side) / 2, side, side);
+  }
 
  private:
-  void Place() {
+  QLabel& name_;
+};
+
+// Of the square's box: the sign before its letters, which it grows with, and the room around it.
+constexpr double kSignToLetters = 0.73;
+constexpr int kBoxEdge = 9;
+int SignSideIn(const QLineEdit& box) {
+  return static_cast<int>(std::lround(QFontInfo(box.font()).pixelSize() * kSignToLetters));
+}
+
+// Says whose turn it is by that player's sign.
+class SignInBox : public GrowingSign {
+ public:
+  explicit SignInBox(QLineEdit& box) : GrowingSign(box, 0), box_(box) {
+    setObjectName("pnlSignInBox");
+    setAccessibleName("Whose turn it is");
+  }
+  // Player 0 for nobody.
+  void Show(int player) {
+    player_ = player;
+    setVisible(player != 0);
+    Place();
+    update();
+  }
+
+ protected:
+  void Place() override {
     const int side = SignSideIn(box_);
     const QMargins margins(player_ == 0 ? 0 : side + kBoxEdge, 0, 0, 0);
     if (box_.textMargins() != margins) box_.setTextMargins(margins);
     setGeometry(kBoxEdge, (box_.height() - side) / 2, side, side);
   }
+
+ private:
   QLineEdit& box_;
-  int player_ = 0;
 };
 
 // Stands in the square's box while nothing is typed, in letters that may shrink: a placeholder has the box's own, in
