@@ -38,7 +38,7 @@ class AccessTest : public ProgramTest {
   void SetUp() override {
     AttachHandlers(show_);
     program_.Console().show();
-    ASSERT_TRUE(QTest::qWaitForWindowActive(&program_.Console(), 120000));
+    ASSERT_TRUE(QTest::qWaitForWindowActive(&program_.Console(), kSlowMachineMs));
   }
   // The control can be reached, on its tab of its form.
   void BringUp(Form& form, Control& control, const QWidget& widget) {

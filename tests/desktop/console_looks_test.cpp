@@ -47,7 +47,7 @@ class ConsoleLooks : public ProgramTest {
   void SetUp() override {
     program_.Console().resize(1280, 680);
     program_.Console().show();
-    ASSERT_TRUE(QTest::qWaitForWindowActive(&program_.Console(), 120000));
+    ASSERT_TRUE(QTest::qWaitForWindowActive(&program_.Console(), kSlowMachineMs));
   }
   // A window that has just been resized settles within some turns of the loop, however long each takes.
   void Settle() {

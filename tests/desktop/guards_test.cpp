@@ -33,7 +33,7 @@ class GuardsTest : public ProgramTest {
  protected:
   void SetUp() override {
     program_.Console().show();
-    ASSERT_TRUE(QTest::qWaitForWindowActive(&program_.Console(), 120000));
+    ASSERT_TRUE(QTest::qWaitForWindowActive(&program_.Console(), kSlowMachineMs));
     for (Button* button : {&form_.btnReset, &form_.btnEndGame, &form_.btnStandbyMode, &form_.btnUndo, &form_.btnStart,
                            &form_.btnContinue, &form_.btnSkipQuestion, &form_.btnNextPlayer}) {
       button->Enabled = true;
@@ -98,13 +98,13 @@ TEST_F(GuardsTest, WhatGreysOrGoesBehindAnotherWindowLeavesNoNeighbourTheFocusWh
     QWidget other;
     other.show();
     other.activateWindow();
-    ASSERT_TRUE(QTest::qWaitForWindowActive(&other, 120000));
+    ASSERT_TRUE(QTest::qWaitForWindowActive(&other, kSlowMachineMs));
     Widget<QWidget>(name).setFocus(Qt::TabFocusReason);
     ASSERT_EQ(Focus(), name);
     *property = false;
     other.hide();
     program_.Console().activateWindow();
-    ASSERT_TRUE(QTest::qWaitForWindowActive(&program_.Console(), 120000));
+    ASSERT_TRUE(QTest::qWaitForWindowActive(&program_.Console(), kSlowMachineMs));
     EXPECT_EQ(Focus(), "txtDJCommand") << name;
     *property = true;
   }
@@ -403,7 +403,7 @@ TEST_F(GuardsTest, TheListsAndBoxesOfTheToolkitsDialogsCanBeRead) {
   ToolkitsDialogs dialogs(Native("data"));
   for (QDialog* dialog : std::initializer_list<QDialog*>{&dialogs.Files, &dialogs.Fonts, &dialogs.Colors}) {
     dialog->show();
-    ASSERT_TRUE(QTest::qWaitForWindowExposed(dialog, 120000));
+    ASSERT_TRUE(QTest::qWaitForWindowExposed(dialog, kSlowMachineMs));
     QTest::qWait(200);
     int looked = 0;
     for (QWidget* widget : dialog->findChildren<QWidget*>()) {

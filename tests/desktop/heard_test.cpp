@@ -58,7 +58,8 @@ class HeardTest : public FolderTest {
     PlayCorrectIncorrect(*show_, Tone(kVerdict));
     platform_->backgroundPlayer.SetUrl(Tone(kMusic));
     const auto plays = [](const MpvChannel* channel) { return channel->IsPlaying(); };
-    ASSERT_TRUE(QTest::qWaitFor([&] { return std::all_of(channels_.begin(), channels_.end(), plays); }, 120000));
+    ASSERT_TRUE(
+        QTest::qWaitFor([&] { return std::all_of(channels_.begin(), channels_.end(), plays); }, kSlowMachineMs));
     // The server gathers the new streams.
     QTest::qWait(400);
   }
@@ -182,7 +183,7 @@ TEST_F(HeardTest, EveryKindOfMediaPlays) {
     EXPECT_EQ(platform_->mediaPlayer1.FrameCount() > frames, film) << kind;
     EXPECT_EQ(show_->frmMain.picMOD.Visible.Get(), film) << kind;
     player.Stop();
-    EXPECT_TRUE(QTest::qWaitFor([&] { return !show_->frmMain.picMOD.Visible; }, 120000)) << kind;
+    EXPECT_TRUE(QTest::qWaitFor([&] { return !show_->frmMain.picMOD.Visible; }, kSlowMachineMs)) << kind;
   }
 }
 

@@ -89,7 +89,7 @@ TEST(Manual, TheLicenceWrapsAtTheEdgeOfItsPage) {
   ASSERT_TRUE(window.ShowPage("licence.html"));
   window.resize(500, 400);
   const QScrollBar& sideways = *window.findChild<QTextBrowser*>()->horizontalScrollBar();
-  EXPECT_TRUE(QTest::qWaitFor([&] { return sideways.maximum() == 0; }, 120000));
+  EXPECT_TRUE(QTest::qWaitFor([&] { return sideways.maximum() == 0; }, kSlowMachineMs));
 }
 
 class HelpKeyTest : public ProgramTest {};

@@ -16,7 +16,7 @@ class HelperTest : public FolderTest {
   // How many arguments the helper got, and the first.
   QByteArray Told() const {
     QFile told(Native("PadBridge.told"));
-    const bool done = QTest::qWaitFor([&] { return told.exists(); }, 120000);
+    const bool done = QTest::qWaitFor([&] { return told.exists(); }, kSlowMachineMs);
     return done && told.open(QIODevice::ReadOnly) ? told.readAll() : QByteArray();
   }
   DesktopProcesses processes_{folder_.path(), [] {}, {Native("none"), folder_.path()}};

@@ -89,10 +89,10 @@ TEST_F(HostileMediaTest, AListOfSoundsIsNotFollowed) {
   for (const char* name : {"\\list.mp3", "\\wide.mp3", "\\concat.mp3"}) {
     sound.SetUrl(Spelled(name));
     QTest::qWait(150);
-    EXPECT_TRUE(QTest::qWaitFor([&] { return sound.IsIdle(); }, 120000)) << name;
+    EXPECT_TRUE(QTest::qWaitFor([&] { return sound.IsIdle(); }, kSlowMachineMs)) << name;
   }
   sound.SetUrl(Spelled("\\tone.wav"));
-  EXPECT_TRUE(QTest::qWaitFor([&] { return sound.IsPlaying(); }, 120000));
+  EXPECT_TRUE(QTest::qWaitFor([&] { return sound.IsPlaying(); }, kSlowMachineMs));
 }
 
 // What can't be heard is named when a set is loaded, and not when its question is up.
@@ -111,7 +111,7 @@ TEST_F(HostileMediaTest, WhatIsNoSoundIsFoundBeforeTheShow) {
     Make(name, bytes);
     std::optional<bool> answer;
     media.Check(Spelled(std::string("\\") + name), [&](bool plays) { answer = plays; });
-    ASSERT_TRUE(QTest::qWaitFor([&] { return answer.has_value(); }, 120000)) << name;
+    ASSERT_TRUE(QTest::qWaitFor([&] { return answer.has_value(); }, kSlowMachineMs)) << name;
     EXPECT_EQ(*answer, sounds) << name;
   }
   // The room's own sound waits for none of a whole set that is being checked.

@@ -35,7 +35,7 @@ class KeyboardForms : public ProgramTest {
   FormWindow& Open(Form& form) {
     form.Visible = true;
     FormWindow& window = Window(form);
-    EXPECT_TRUE(QTest::qWaitForWindowActive(&window, 120000)) << form.Name();
+    EXPECT_TRUE(QTest::qWaitForWindowActive(&window, kSlowMachineMs)) << form.Name();
     return window;
   }
   static constexpr std::array kActing{"QAbstractButton",   "QComboBox",      "QLineEdit", "QAbstractSlider",
@@ -134,7 +134,7 @@ TEST_F(KeyboardForms, GoingToANameBoxMarksItsTextAndTellsTheForm) {
   auto* box = window.findChild<QLineEdit*>("txtPlayerName_2");
   window.findChild<QWidget*>("btnOK")->setFocus();
   QTest::mouseClick(box, Qt::LeftButton);
-  EXPECT_TRUE(QTest::qWaitFor([&] { return box->selectedText() == "CY"; }, 120000));
+  EXPECT_TRUE(QTest::qWaitFor([&] { return box->selectedText() == "CY"; }, kSlowMachineMs));
   EXPECT_EQ(told, 1);
   QTest::keyClicks(box, "Di");
   EXPECT_EQ(name.Text.Get(), "Di");

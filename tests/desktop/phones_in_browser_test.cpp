@@ -10,6 +10,7 @@
 #include "desktop/windows/form_window.h"
 #include "forms/main_form.h"
 #include "forms/pages_form.h"
+#include "places.h"
 #include "show/page_state.h"
 #include "show/phase.h"
 #include "show_suite.h"
@@ -34,7 +35,7 @@ class PhonesInBrowser : public ShowSuite {
   }
 
   // The program goes on while the browser works.
-  QString Answer(int ms = 120000) {
+  QString Answer(int ms = kSlowMachineMs) {
     Wait([this] { return browser_.canReadLine() || browser_.state() == QProcess::NotRunning; }, ms);
     return QString::fromUtf8(browser_.readLine()).trimmed();
   }
@@ -101,7 +102,7 @@ class PhonesInBrowser : public ShowSuite {
   static bool DieAndComeBack() {
     delete driver_;
     driver_ = new ShowDriver(folder_->path());
-    return driver_->Start() && Wait([] { return TheShow().pages->On; }, 120000);
+    return driver_->Start() && Wait([] { return TheShow().pages->On; }, kSlowMachineMs);
   }
   // The console's RING-IN ORDER, row by row, as the host's page has it.
   static QString OrderAtConsole() {

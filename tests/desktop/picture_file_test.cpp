@@ -105,7 +105,7 @@ class PictureCacheTest : public FolderTest {
   std::optional<PictureFacts> Looked(const char* name) {
     std::optional<PictureFacts> told;
     cache_.Look(Spelled(name), [&](const PictureFacts& facts) { told = facts; });
-    EXPECT_TRUE(QTest::qWaitFor([&] { return told.has_value(); }, 120000)) << name;
+    EXPECT_TRUE(QTest::qWaitFor([&] { return told.has_value(); }, kSlowMachineMs)) << name;
     return told;
   }
 
@@ -122,7 +122,7 @@ TEST_F(PictureCacheTest, WhatIsNoPlainFileIsMissingAndHoldsNothingUp) {
     EXPECT_EQ(Looked(name)->Error, kErrorFileNotFound) << name;
     std::optional<bool> plays;
     files.Look(Spelled(name), [&](bool answer) { plays = answer; });
-    EXPECT_TRUE(QTest::qWaitFor([&] { return plays.has_value(); }, 120000)) << name;
+    EXPECT_TRUE(QTest::qWaitFor([&] { return plays.has_value(); }, kSlowMachineMs)) << name;
     EXPECT_FALSE(*plays) << name;
   }
 }
@@ -138,9 +138,9 @@ TEST_F(PictureCacheTest, OneDecodeGivesSizeAndPixelsAndAChangedFileIsSeen) {
   cache_.Look(path, [&](const PictureFacts& facts) { atOnce = facts.Error == 0 && facts.Size.Height == 400; });
   EXPECT_TRUE(atOnce) << "what is held needs no disk";
   Make("a.jpg", Saved(TwoHalves(50, 60), "jpg"));
-  EXPECT_TRUE(QTest::qWaitFor([&] { return cache_.IsIdle(); }, 120000));
+  EXPECT_TRUE(QTest::qWaitFor([&] { return cache_.IsIdle(); }, kSlowMachineMs));
   cache_.Hold(path);
-  EXPECT_TRUE(QTest::qWaitFor([&] { return cache_.IsIdle(); }, 120000));
+  EXPECT_TRUE(QTest::qWaitFor([&] { return cache_.IsIdle(); }, kSlowMachineMs));
   EXPECT_EQ(Looked("\\A.JPG")->Size.Width, 50);
   EXPECT_EQ(cache_.Original(path).size(), QSize(50, 60));
 }

@@ -31,7 +31,7 @@ inline DesktopPlaces PlacesIn(const QTemporaryDir& folder) {
 }
 
 // A slow machine is given that long.
-inline constexpr int kSlowMachineMs = 60000;
+inline constexpr int kSlowMachineMs = 120000;
 
 // Does the work once such a dialog is up, from within its own loop.
 template <typename Dialog>

@@ -316,7 +316,7 @@ TEST(ClockTest, RelaxedTimersWakeTheProgramTogether) {
   since.start();
   QTest::qWait(300);
   second.Enabled = true;
-  EXPECT_TRUE(QTest::qWaitFor([&] { return secondAt > 0 && std::abs(secondAt - firstAt) < 100; }, 120000));
+  EXPECT_TRUE(QTest::qWaitFor([&] { return secondAt > 0 && std::abs(secondAt - firstAt) < 100; }, kSlowMachineMs));
 }
 
 using BusTest = FolderTest;
@@ -374,7 +374,7 @@ TEST_F(ProcessesTest, AFolderInTheMarksPlaceIsReportedAsOneAndTheProgramCanBeRai
     EXPECT_NE(std::string(error.what()).find("A folder stands"), std::string::npos) << error.what();
   }
   processes.Activate(0);
-  EXPECT_TRUE(QTest::qWaitFor([&] { return raised == 1; }, 120000));
+  EXPECT_TRUE(QTest::qWaitFor([&] { return raised == 1; }, kSlowMachineMs));
 }
 
 TEST_F(ProcessesTest, OnlyThisUsersProcessesCount) {
@@ -389,8 +389,8 @@ TEST_F(ProcessesTest, OnlyThisUsersProcessesCount) {
     QFile line(QString("/proc/%1/cmdline").arg(process.processId()));
     return line.open(QFile::ReadOnly) ? line.readAll().split('\0').first() : QByteArray();
   };
-  ASSERT_TRUE(
-      QTest::qWaitFor([&] { return caption(own) == "ostara-own" && caption(others) == "ostara-others"; }, 120000));
+  ASSERT_TRUE(QTest::qWaitFor([&] { return caption(own) == "ostara-own" && caption(others) == "ostara-others"; },
+                              kSlowMachineMs));
   const auto all = DesktopProcesses(Native("run"), [] {}).List();
   const auto listed = [&](const QProcess& process) {
     return std::any_of(all.begin(), all.end(),
@@ -411,7 +411,7 @@ TEST_F(ProcessesTest, ASecondInstanceRaisesTheFirstAndAMarkOfNobodyRefusesNone) 
     EXPECT_FALSE(first.AnotherInstanceRuns());
     EXPECT_TRUE(second.AnotherInstanceRuns());
     second.Activate(0);
-    EXPECT_TRUE(QTest::qWaitFor([&] { return raised == 1; }, 120000));
+    EXPECT_TRUE(QTest::qWaitFor([&] { return raised == 1; }, kSlowMachineMs));
   }
   // What a crash leaves: a lock of a process that is gone, and one that was not yet written.
   for (const QByteArray& mark : {"999999999\npawnfield\n" + QSysInfo::machineHostName().toUtf8() + "\n", {}}) {
@@ -499,8 +499,10 @@ TEST_F(SoundTest, PlaysToTheEndCutsAndStopsWithoutADevice) {
   Make("short.wav", ToneFile(0, 200));
   Make("long.wav", ToneFile(0, 20000));
   MpvChannel channel;
-  const auto plays = [&] { return QTest::qWaitFor([&] { return channel.IsPlaying(); }, 120000); };
-  const auto ends = [&](int count) { return QTest::qWaitFor([&] { return channel.Ended() == count; }, 120000); };
+  const auto plays = [&] { return QTest::qWaitFor([&] { return channel.IsPlaying(); }, kSlowMachineMs); };
+  const auto ends = [&](int count) {
+    return QTest::qWaitFor([&] { return channel.Ended() == count; }, kSlowMachineMs);
+  };
   channel.SetPosition(0);
   channel.SetUrl(Spelled("\\SHORT.WAV"));
   EXPECT_TRUE(ends(1));
@@ -532,7 +534,7 @@ TEST_F(SoundTest, WhatIsNoSoundIsSilence) {
     EXPECT_FALSE(channel.IsPlaying()) << path;
   }
   channel.SetUrl(Spelled("\\broken.wav"));
-  EXPECT_TRUE(QTest::qWaitFor([&] { return channel.Failed() == 1; }, 120000));
+  EXPECT_TRUE(QTest::qWaitFor([&] { return channel.Failed() == 1; }, kSlowMachineMs));
 }
 
 TEST(VolumeTest, IsHeardAsSet) {
@@ -554,11 +556,11 @@ TEST(DeviceWatch, TellsOfADeviceItsRightsAndItsEndAndOfNothingElse) {
   QTest::qWait(200);
   EXPECT_EQ(told, 0);
   make("hidraw0");
-  EXPECT_TRUE(QTest::qWaitFor([&] { return told == 1; }, 120000));
+  EXPECT_TRUE(QTest::qWaitFor([&] { return told == 1; }, kSlowMachineMs));
   QFile::setPermissions(folder.filePath("hidraw0"), QFile::ReadOwner);
-  EXPECT_TRUE(QTest::qWaitFor([&] { return told == 2; }, 120000));
+  EXPECT_TRUE(QTest::qWaitFor([&] { return told == 2; }, kSlowMachineMs));
   QFile::remove(folder.filePath("hidraw0"));
-  EXPECT_TRUE(QTest::qWaitFor([&] { return told == 3; }, 120000));
+  EXPECT_TRUE(QTest::qWaitFor([&] { return told == 3; }, kSlowMachineMs));
 }
 
 }  // namespace

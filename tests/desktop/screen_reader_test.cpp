@@ -56,7 +56,7 @@ class ScreenReader : public QObject {
     launcher_.start(kLauncher, {"--launch-immediately"});
     QDBusConnection session = QDBusConnection::connectToBus(Address, "session");
     QElapsedTimer since;
-    for (since.start(); since.elapsed() < 120000; QTest::qWait(100)) {
+    for (since.start(); since.elapsed() < kSlowMachineMs; QTest::qWait(100)) {
       const QDBusMessage answer =
           session.call(QDBusMessage::createMethodCall("org.a11y.Bus", "/org/a11y/bus", "org.a11y.Bus", "GetAddress"),
                        QDBus::Block, 3000);
@@ -177,7 +177,7 @@ class ScreenReaderTest : public testing::Test {
   void SetUp() override;
   void TearDown() override {
     program_.terminate();
-    program_.waitForFinished(120000);
+    program_.waitForFinished(kSlowMachineMs);
   }
   // Does what the button, option or square of that name is for.
   void Press(Role role, const QString& name) {

@@ -35,7 +35,7 @@ class SerialLineTest : public testing::Test {
   }
   // That player rings in, nobody after him shuts him out, and the question is open again.
   void ExpectRingsIn(int player) {
-    EXPECT_TRUE(QTest::qWaitFor([&] { return show_.state.CurrentPlayer == player; }, 120000));
+    EXPECT_TRUE(QTest::qWaitFor([&] { return show_.state.CurrentPlayer == player; }, kSlowMachineMs));
     QTest::qWait(30);
     EXPECT_EQ(show_.state.CurrentPlayer, player);
     form_.btnQuestionIncorrect.Click();
@@ -78,7 +78,7 @@ TEST_F(SerialLineTest, PressesOfABusyMomentKeepTheirTimes) {
       const double written = static_cast<double>(between.nsecsElapsed()) / 1e6;
       line_->Write(Pad(101));
       QTest::qSleep(200);
-      ASSERT_TRUE(QTest::qWaitFor([&] { return show_.record->Presses.size() == 2; }, 120000));
+      ASSERT_TRUE(QTest::qWaitFor([&] { return show_.record->Presses.size() == 2; }, kSlowMachineMs));
       const std::vector<Press>& presses = show_.record->Presses;
       EXPECT_EQ(presses[0].Player, 3);
       EXPECT_EQ(presses[1].Player, 1);
@@ -107,7 +107,7 @@ TEST_F(SerialLineTest, APulledAdapterIsClosedOnceAndComesBackInTheSameQuestion) 
     onComm(event);
   };
   line_->Pull();
-  EXPECT_TRUE(QTest::qWaitFor([&] { return !show_.platform.serial.PortOpen(); }, 120000));
+  EXPECT_TRUE(QTest::qWaitFor([&] { return !show_.platform.serial.PortOpen(); }, kSlowMachineMs));
   QTest::qWait(100);
   EXPECT_EQ(lost, 1);
   EXPECT_NE(form_.lblStatusBar.Caption->find("was unplugged"), std::string::npos);

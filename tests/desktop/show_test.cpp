@@ -17,6 +17,7 @@
 #include "forms/fs_main_form.h"
 #include "forms/main_form.h"
 #include "forms/player_names_form.h"
+#include "places.h"
 #include "show_suite.h"
 
 namespace pawnfield {
@@ -167,7 +168,7 @@ TEST_F(ShowTest, ThePointersBlinkOnTheDisplayAndStayAsTheyAreUnderAWindowThatGoe
     QWidget cover(nullptr, Qt::ToolTip);
     cover.setGeometry(QRect(pointer.mapToGlobal(QPoint(-20, -20)), QSize(100, 60)));
     cover.show();
-    ASSERT_TRUE(QTest::qWaitForWindowExposed(&cover, 120000));
+    ASSERT_TRUE(QTest::qWaitForWindowExposed(&cover, kSlowMachineMs));
     cover.close();
     QTest::qWait(100);
     EXPECT_TRUE(Wait([&] { return IsLit(pointer) == lit; }));

@@ -336,7 +336,7 @@ TEST_F(WindowsTest, TheOptionsTabsTurnByKeyFromAnywhere) {
   FormWindow& window = Window(show_.frmOptions);
   window.show();
   window.activateWindow();
-  ASSERT_TRUE(QTest::qWaitForWindowActive(&window, 120000));
+  ASSERT_TRUE(QTest::qWaitForWindowActive(&window, kSlowMachineMs));
   auto* tabs = window.findChild<QTabWidget*>("SSTab1");
   const int first = tabs->currentIndex();
   window.findChild<QWidget*>("btnOK")->setFocus();
