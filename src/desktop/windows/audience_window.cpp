@@ -19,8 +19,10 @@ namespace {
 // Names and scores are read from the back row: their capitals are a fortieth of the picture high, or more.
 constexpr double kSmallestLegible = 20;
 constexpr double kRound = 0.18;
-// In which a compositor has put a window where it belongs; and how often it is asked.
-constexpr int kPlacedMs = 400;
+// In which a compositor has put a window where it belongs, in looks of which each lets in what it has told meanwhile: a
+// program that was kept from running hears of the time before it hears of the place. And how often it is asked.
+constexpr int kLookMs = 100;
+constexpr int kLooks = 4;
 constexpr int kTries = 3;
 // A window that has stood for so long was where it was to go.
 constexpr int kStoodMs = 2000;
@@ -47,13 +49,9 @@ AudienceWindow::AudienceWindow(FSMainForm& form, SecondScreenForm& copy, FormWin
   copy_.AddObserver(*this);
   windows_.Add(copy_, *this);
   setWindowTitle(Unescape(copy_.Form::Caption));
-  placed_.setSingleShot(true);
-  placed_.setInterval(kPlacedMs);
+  placed_.setInterval(kLookMs);
   placed_.callOnTimeout(this, [this] { CheckPlace(); });
-  screens_.Subscribe([this] {
-    triesLeft_ = kTries;
-    Place();
-  });
+  screens_.Subscribe([this] { PlaceAnew(); });
   connect(qGuiApp, &QGuiApplication::screenRemoved, this, &AudienceWindow::ScreenRemoved);
 }
 
@@ -108,11 +106,16 @@ void AudienceWindow::Fill(FSMainForm& form) {
 void AudienceWindow::Changed(Control& control, PropertyId id) {
   // What frmFSMain says of a window is frmSS's affair, but for the cursor.
   if (&control == &copy_ ? id == PropertyId::Visible : id == PropertyId::MouseIcon) {
-    id == PropertyId::Visible ? Place() : FormWindow::Changed(control, id);
+    id == PropertyId::Visible ? PlaceAnew() : FormWindow::Changed(control, id);
   }
 }
 
-void AudienceWindow::ShowForm() { Place(); }
+void AudienceWindow::ShowForm() { PlaceAnew(); }
+
+void AudienceWindow::PlaceAnew() {
+  triesLeft_ = kTries;
+  Place();
+}
 
 void AudienceWindow::Place() {
   QScreen* target = screens_.Second();
@@ -143,7 +146,7 @@ void AudienceWindow::Place() {
 // A full-screen window goes to the monitor that it had when it was shown.
 void AudienceWindow::GoTo(QScreen& target) {
   connect(windowHandle(), &QWindow::screenChanged, this, &AudienceWindow::Moved, Qt::UniqueConnection);
-  placed_.start();
+  AwaitPlace();
   if (isVisible() && windowHandle()->screen() == &target) return;
   sent_.start();
   hide();
@@ -152,7 +155,14 @@ void AudienceWindow::GoTo(QScreen& target) {
   show();
 }
 
+void AudienceWindow::AwaitPlace() {
+  looksLeft_ = kLooks;
+  placed_.start();
+}
+
 void AudienceWindow::CheckPlace() {
+  if (--looksLeft_ > 0) return;
+  placed_.stop();
   const QScreen* target = screens_.Second();
   if (!isVisible() || target == nullptr || windowHandle()->screen() == target) return;
   // Nowhere is better than over the console.
@@ -161,7 +171,7 @@ void AudienceWindow::CheckPlace() {
 
 void AudienceWindow::Moved() {
   if (sent_.hasExpired(kStoodMs)) triesLeft_ = kTries;
-  placed_.start();
+  AwaitPlace();
 }
 
 void AudienceWindow::HandKeysTo(QWidget& console) { relay_ = std::make_unique<KeyRelay>(console); }

@@ -37,9 +37,12 @@ class AudienceWindow : public FormWindow {
 
   // Fills its monitor or hides, as the monitors and frmSS have it.
   void Place();
+  // The same, with all its tries before it.
+  void PlaceAnew();
   // For sessions where a window has no place but a screen.
   void GoTo(QScreen& target);
   // Looks whether the desktop has put the window where it was to go.
+  void AwaitPlace();
   void CheckPlace();
   // A compositor has moved it, as for a new scale, which changes no monitor's place.
   void Moved();
@@ -52,6 +55,7 @@ class AudienceWindow : public FormWindow {
   Canvas* screen_ = nullptr;
   std::unique_ptr<KeyRelay> relay_;
   QTimer placed_;
+  int looksLeft_ = 0;
   int triesLeft_ = 0;
   // Since it was last sent to a screen.
   QElapsedTimer sent_;
