@@ -257,7 +257,10 @@ void EditorWindow::AddQuestion(QVBoxLayout& column, PictureCache& pictures) {
   auto* spelling = new QHBoxLayout;
   spelling->setSpacing(kGap);
   spelling->addWidget(Named(new QCheckBox, "chkSpellChecker"));
-  spelling->addWidget(MakeLabel("lblSpelling", "quiet"), 1);
+  // A long reason takes a second line, and no room from the list.
+  QLabel* why = MakeLabel("lblSpelling", "quiet");
+  why->setWordWrap(true);
+  spelling->addWidget(why, 1);
   grid->addLayout(spelling, 7, 0);
   grid->setRowStretch(4, 3);
   grid->setRowStretch(6, 2);
