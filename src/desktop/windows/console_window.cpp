@@ -35,6 +35,8 @@ constexpr double kAnswerHeight = 900;
 // Of the window, in logical pixels.
 constexpr int kLeastWidth = 1180, kLeastHeight = 640;
 constexpr int kEnterMs = 200;
+// A window manager on a busy machine moves windows that long after the monitors have changed.
+constexpr int kLateMs = 6000;
 }  // namespace
 
 ConsoleWindow::ConsoleWindow(MainForm& form, FormWindows& windows, PictureCache& pictures, Screens& screens,
@@ -59,7 +61,13 @@ ConsoleWindow::ConsoleWindow(MainForm& form, FormWindows& windows, PictureCache&
   for (QWidget* widget : findChildren<QWidget*>()) widget->installEventFilter(this);
   new KeyBridge(form, *this);
   focus_ = new FocusRules(*this, *findChild<QWidget*>("txtDJCommand"), *board_);
-  screens_.Subscribe([this] { ReturnHome(); });
+  late_.setSingleShot(true);
+  late_.setInterval(kLateMs);
+  late_.callOnTimeout(this, [this] { ReturnHome(); });
+  screens_.Subscribe([this] {
+    ReturnHome();
+    if (WindowsHavePlaces()) late_.start();
+  });
 }
 
 void ConsoleWindow::MakeMenus() {
@@ -335,7 +343,9 @@ void ConsoleWindow::moveEvent(QMoveEvent* event) {
   if (WindowsHavePlaces()) NoteHome();
 }
 
+// What moves the console so soon after a change of monitors is no operator's hand.
 void ConsoleWindow::NoteHome() {
+  if (late_.isActive()) return;
   const QScreen* screen = WindowsHavePlaces() ? screens_.At(geometry().center()) : this->screen();
   if (isVisible() && screen != nullptr) screens_.MoveHome(*screen);
 }

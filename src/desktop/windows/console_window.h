@@ -1,6 +1,8 @@
 // frmMain's window: the operator's console with the board and its panels on a canvas in the middle.
 #pragma once
 
+#include <QTimer>
+
 #include "desktop/painting/canvas.h"
 #include "desktop/system/screens.h"
 #include "desktop/windows/console_arrangement.h"
@@ -62,6 +64,8 @@ class ConsoleWindow : public FormWindow {
   FocusRules* focus_ = nullptr;
   // Of monitors, when the console was last sent home.
   qsizetype sentHomeAt_ = 0;
+  // Runs while a window manager may still move the console.
+  QTimer late_;
 };
 
 }  // namespace pawnfield
