@@ -24,6 +24,9 @@ constexpr double kRound = 0.18;
 constexpr int kLookMs = 100;
 constexpr int kLooks = 4;
 constexpr int kTries = 3;
+// A desktop that was too busy for all of them is asked after that long, after twice that and so on.
+constexpr int kAgainMs = 5000;
+constexpr int kLongestMs = 60000;
 // A window that has stood for so long was where it was to go.
 constexpr int kStoodMs = 2000;
 }  // namespace
@@ -114,6 +117,7 @@ void AudienceWindow::ShowForm() { PlaceAnew(); }
 
 void AudienceWindow::PlaceAnew() {
   triesLeft_ = kTries;
+  againMs_ = kAgainMs;
   Place();
 }
 
@@ -165,8 +169,17 @@ void AudienceWindow::CheckPlace() {
   placed_.stop();
   const QScreen* target = screens_.Second();
   if (!isVisible() || target == nullptr || windowHandle()->screen() == target) return;
+  if (--triesLeft_ > 0) {
+    Place();
+    return;
+  }
   // Nowhere is better than over the console.
-  --triesLeft_ > 0 ? Place() : hide();
+  hide();
+  if (againMs_ > kLongestMs) return;
+  QTimer::singleShot(againMs_, this, [this] {
+    if (!isVisible()) Place();
+  });
+  againMs_ *= 2;
 }
 
 void AudienceWindow::Moved() {

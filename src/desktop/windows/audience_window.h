@@ -57,6 +57,7 @@ class AudienceWindow : public FormWindow {
   QTimer placed_;
   int looksLeft_ = 0;
   int triesLeft_ = 0;
+  int againMs_ = 0;
   // Since it was last sent to a screen.
   QElapsedTimer sent_;
 };
