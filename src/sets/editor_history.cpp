@@ -67,7 +67,7 @@ std::string FileOf(Show& show, const TriviaQuestion& question) {
 // A file that can't be shown comes before what is only to be looked at.
 std::string FoundAbout(Show& show, std::size_t i) {
   const EditorForm& form = show.frmEditor;
-  const std::string findings = i < form.Findings.size() ? form.Findings[i] : "";
+  std::string findings = i < form.Findings.size() ? form.Findings[i] : "";
   const auto file = form.Files.find(FileOf(show, show.EditSet[i]));
   if (file == form.Files.end() || file->second.empty()) return findings;
   std::string text = file->second;
