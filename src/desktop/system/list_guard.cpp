@@ -19,6 +19,10 @@ bool OpensOver(const QWidget& window) { return window.windowType() == Qt::Popup 
 
 }  // namespace
 
+void CloseOpenLists() {
+  while (QWidget* list = QApplication::activePopupWidget()) list->close();
+}
+
 ListGuard::ListGuard() {
   wait_.setSingleShot(true);
   wait_.callOnTimeout(this, [this] { Arrived(); });
@@ -45,7 +49,7 @@ bool ListGuard::eventFilter(QObject* watched, QEvent* event) {
 }
 
 void ListGuard::Await(QWidget& window) {
-  while (QWidget* open = QApplication::activePopupWidget()) open->close();
+  CloseOpenLists();
   QToolTip::hideText();
   window_ = &window;
   wait_.start(kUnseenMs);

@@ -10,6 +10,9 @@
 
 namespace pawnfield {
 
+// Closes lists and menus; also for a window that is about to go from one screen to another.
+void CloseOpenLists();
+
 // Watches the whole application while it lives. Where windows have places of their own it does nothing.
 class ListGuard : public QObject {
  public:

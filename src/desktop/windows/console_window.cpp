@@ -17,6 +17,7 @@
 #include "desktop/files/windows_1252.h"
 #include "desktop/painting/board_items.h"
 #include "desktop/painting/ground.h"
+#include "desktop/system/list_guard.h"
 #include "desktop/windows/console_parts.h"
 #include "desktop/windows/focus_rules.h"
 #include "desktop/windows/key_bridge.h"

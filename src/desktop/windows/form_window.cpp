@@ -31,10 +31,6 @@ QPushButton* MakeButton(const QString& name, const QSize& least) {
   return button;
 }
 
-void CloseOpenLists() {
-  while (QWidget* list = QApplication::activePopupWidget()) list->close();
-}
-
 FormWindow::FormWindow(Form& form, FormWindows& windows, Qt::WindowFlags flags)
     : QMainWindow(nullptr, flags), form_(form), windows_(windows) {
   windows_.Add(form, *this);

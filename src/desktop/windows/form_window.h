@@ -30,10 +30,6 @@ void SetUp(QMainWindow& window) {
 QVBoxLayout* MakeContent(QMainWindow& window, int edge, int spacing = 12);
 QPushButton* MakeButton(const QString& name, const QSize& least);
 
-// Closes lists and menus, before a window goes from one screen to another: a compositor takes them away then, and the
-// session ends for a program that still draws one.
-void CloseOpenLists();
-
 class FormWindow : public QMainWindow, public Observer {
  public:
   FormWindow(Form& form, FormWindows& windows, Qt::WindowFlags flags = Qt::Window);

@@ -10,6 +10,7 @@
 #include <algorithm>
 
 #include "desktop/painting/ground.h"
+#include "desktop/system/list_guard.h"
 #include "desktop/system/screens.h"
 #include "desktop/windows/form_window.h"
 
